@@ -1,0 +1,36 @@
+#pragma once
+
+#include <exception>
+#include <string>
+#include <string_view>
+
+namespace zy {
+
+/// A run-time error: a number and a description.
+///
+/// Nothing catches it unless the behaviour at that place says so. At the edge of the event loop it is shown
+/// and ends the program with a non-zero exit status.
+class RuntimeError : public std::exception {
+  public:
+    RuntimeError(int number, std::string description);
+
+    int Number() const { return number_; }
+    const std::string& Description() const { return description_; }
+    const char* what() const noexcept override { return description_.c_str(); }
+
+    /// The text of the box that reports the error: "Run-time error 'N':", an empty line, the description.
+    std::string BoxText() const;
+
+  private:
+    int number_;
+    std::string description_;
+};
+
+/// Error 6: a value does not fit its 16-bit variable.
+[[noreturn]] void RaiseOverflow();
+/// Error 9: an index outside the bounds of its array.
+[[noreturn]] void RaiseSubscriptOutOfRange();
+/// Error 13: a text that should be a number is none.
+[[noreturn]] void RaiseTypeMismatch();
+
+} // namespace zy

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "controls/Control.h"
+
+namespace zy {
+
+enum class WindowState { Normal = 0, Minimized = 1, Maximized = 2 };
+
+/// A window: the root of its controls and the keeper of the focus. Its caption is the window's title.
+class Form : public Container {
+  public:
+    explicit Form(std::string name);
+
+    /// The control that has the focus; none before anything took it.
+    Control* Focused() const { return focused_; }
+    void GiveFocus(Control& control);
+    /// Asks the control that is left whether it may be; false when it keeps the focus. A control that is not
+    /// usable any more is not asked, and no second question starts while one is being asked.
+    bool MoveFocus(Control& control);
+
+    WindowState State() const { return state_; }
+    /// Sets the state, whether the program or the person wants it; the inner size follows by SetInnerSize.
+    void SetState(WindowState state);
+
+    /// The room for controls, without menu bar and borders but with the status bar's.
+    const Size& InnerSize() const { return innerSize_; }
+    /// Takes the size from the window system and raises `resize`, also when only the state changed.
+    void SetInnerSize(const Size& size);
+
+    Event<> focusChanged;
+    Event<> stateChanged;
+    Event<> resize;
+
+  private:
+    Control* focused_ = nullptr;
+    bool asking_ = false;
+    WindowState state_ = WindowState::Normal;
+    Size innerSize_;
+};
+
+} // namespace zy

@@ -1,0 +1,146 @@
+#pragma once
+
+#include <string_view>
+
+#include "controls/Control.h"
+#include "controls/Key.h"
+
+namespace zy {
+
+/// A cell by its row and column, both counted from 0.
+struct Cell {
+    int row = -1;
+    int column = 0;
+
+    friend bool operator==(const Cell&, const Cell&) = default;
+};
+
+/// A table of editable texts with one fixed header row, row 0.
+///
+/// The cells live here; a view draws those that are seen. One cell may be current and open for editing: the
+/// editor has a text of its own, which a commit takes over and a cancel drops. Leaving the grid commits.
+class Grid : public Control {
+  public:
+    /// A grid that holds the header row alone and has no current cell.
+    Grid(Container* parent, std::string name, int columns);
+
+    // The cells. A row or column outside the grid is run-time error 9.
+
+    int Rows() const { return static_cast<int>(cells_.size()) / columns_; }
+    int Columns() const { return columns_; }
+    /// Adds empty rows at the end or cuts rows off it.
+    void SetRows(int rows);
+    /// Appends a row whose cells are joined by TAB.
+    void AddItem(std::string_view tabJoinedCells);
+    void RemoveItem(int row);
+    const std::string& Text(int row, int column) const { return cells_[Index(row, column)]; }
+    void SetText(int row, int column, std::string_view text);
+
+    // The columns. Widths are in twips.
+
+    static constexpr int kDesignedWidth = 960;
+    int ColumnWidth(int column) const { return widths_.at(static_cast<std::size_t>(column)); }
+    void SetColumnWidth(int column, int width);
+    /// Asks the view to fit the columns to their contents, from this one on.
+    void FitColumns(int firstColumn) { fitColumns.Raise(firstColumn); }
+    /// Lets the cells of a column be edited through a drop-down list, its items separated by "|".
+    void SetColumnList(int column, std::string_view items);
+    /// In a `beforeEdit` handler: how the cell that is about to be edited is edited. A list as above; "..."
+    /// gives the cell a button beside its text.
+    void SetEditList(std::string_view items) { editList_ = items; }
+    const std::string& EditList() const { return editList_; }
+
+    // The current cell, and the block of cells that is selected with it.
+
+    int Row() const { return current_.row; } ///< -1 when there is none
+    int Column() const { return current_.column; }
+    Cell BlockEnd() const { return blockEnd_; }
+    /// Makes a cell current; the block is that cell alone. An open edit is committed first.
+    void Select(int row, int column);
+    /// Stretches the block from the current cell to this one.
+    void SelectTo(int row, int column);
+
+    // Editing.
+
+    /// Opens the current cell for editing, its whole text selected.
+    void EditCell();
+    bool IsEditing() const { return editing_; }
+    const std::string& EditText() const { return editText_; }
+    std::size_t EditSelStart() const { return editSelStart_; }
+    std::size_t EditSelLength() const { return editSelLength_; }
+    /// Puts a text in place of the editor's selection; the caret stands behind it.
+    void ReplaceEditSelection(std::string_view text);
+    /// Ends editing and takes the text over, which counts as an edit also when the text is the same.
+    void CommitEdit();
+    void CancelEdit();
+
+    // What a person does.
+
+    /// Clicks a cell, or moves there by keys. The header cannot be made current.
+    void Pick(int row, int column);
+    /// Types on the current cell: editing starts with that text in place of the cell's.
+    void TypeOver(std::string_view text);
+    /// Double-clicks the current cell.
+    void OpenEditor();
+    /// Changed the editor's text, or moved its caret, in the view.
+    void EnterEditText(std::string_view text, std::size_t selStart, std::size_t selLength);
+    /// Presses a key, on the grid or in its open editor. False when the grid has no use for it.
+    bool Press(const KeyPress& press);
+    /// Presses a mouse button over a row: 1 left, 2 right.
+    void PressMouse(int button, int row, int column);
+    /// Presses the button of a cell that is edited with one.
+    void PressCellButton();
+    /// The block as a spreadsheet copies it: cells separated by TAB, rows ended by CR LF.
+    std::string Copy() const;
+    /// Pastes such a text from the current cell on. Every cell counts as an edit; columns beyond the last are
+    /// left out, rows beyond the last are added where the grid may grow and left out elsewhere.
+    void Paste(std::string_view text);
+    void SetGrowsByPaste(bool grows) { growsByPaste_ = grows; }
+
+    Event<int, int> beforeEdit;
+    Event<int, int> afterEdit;   ///< an edit was committed
+    Event<int, int> cellChanged; ///< a cell's text is another one
+    Event<> currentCellChanged;
+    /// A key went down on the grid; a handler that sets the flag keeps it from the grid.
+    Event<const KeyPress&, bool&> keyDown;
+    /// A key went down in the editor.
+    Event<const KeyPress&> keyDownEdit;
+    Event<int, int, int> mouseDown;
+    Event<int, int> cellButtonClick;
+
+    // For the view alone.
+    Event<> rowsChanged;
+    Event<> blockChanged;
+    Event<> editingChanged;
+    Event<> editTextChanged;
+    Event<int> fitColumns;
+
+  private:
+    std::size_t Index(int row, int column) const;
+    void SetCurrent(Cell cell);
+    void KeepCurrentInside();
+    void OpenWith(std::string_view text, bool selectAll);
+    void CloseEditor();
+    bool PressInEditor(const KeyPress& press);
+    bool PressOnCell(const KeyPress& press);
+    bool MoveByKey(const KeyPress& press);
+    bool MoveByTab(bool backwards);
+    void ClearBlock();
+    void EditTo(int row, int column, std::string_view text);
+
+    int columns_;
+    std::vector<std::string> cells_;
+    std::vector<int> widths_;
+    std::vector<std::string> columnLists_;
+    Cell current_;
+    Cell blockEnd_;
+    bool growsByPaste_ = false;
+
+    bool editing_ = false;
+    std::string editList_;
+    std::string editText_;
+    std::size_t editSelStart_ = 0;
+    std::size_t editSelLength_ = 0;
+};
+
+} // namespace zy

@@ -1,0 +1,91 @@
+#include <algorithm>
+
+#include "controls/Grid.h"
+
+namespace zy {
+
+void Grid::EditCell() {
+    OpenWith(Text(current_.row, current_.column), true);
+}
+
+void Grid::OpenWith(std::string_view text, bool selectAll) {
+    Index(current_.row, current_.column);
+    editList_ = columnLists_[static_cast<std::size_t>(current_.column)];
+    beforeEdit.Raise(current_.row, current_.column);
+    editing_ = true;
+    editText_ = text;
+    editSelStart_ = selectAll ? 0 : text.size();
+    editSelLength_ = selectAll ? text.size() : 0;
+    editingChanged.Raise();
+}
+
+void Grid::CloseEditor() {
+    if (editing_) {
+        editing_ = false;
+        editingChanged.Raise();
+    }
+}
+
+void Grid::CommitEdit() {
+    if (editing_) {
+        const std::string text = editText_;
+        CloseEditor();
+        EditTo(current_.row, current_.column, text);
+    }
+}
+
+void Grid::CancelEdit() {
+    CloseEditor();
+}
+
+void Grid::EditTo(int row, int column, std::string_view text) {
+    SetText(row, column, text);
+    afterEdit.Raise(row, column);
+}
+
+void Grid::ReplaceEditSelection(std::string_view text) {
+    editText_.replace(editSelStart_, editSelLength_, text);
+    editSelStart_ += text.size();
+    editSelLength_ = 0;
+    editTextChanged.Raise();
+}
+
+void Grid::Pick(int row, int column) {
+    if (TakeFocus() && row >= 1) {
+        Select(row, column);
+    }
+}
+
+void Grid::TypeOver(std::string_view text) {
+    if (TakeFocus() && current_.row >= 1) {
+        OpenWith(text, false);
+    }
+}
+
+void Grid::OpenEditor() {
+    if (TakeFocus() && current_.row >= 1 && !editing_) {
+        EditCell();
+    }
+}
+
+void Grid::EnterEditText(std::string_view text, std::size_t selStart, std::size_t selLength) {
+    if (editing_) {
+        editText_ = text;
+        editSelStart_ = std::min(selStart, editText_.size());
+        editSelLength_ = std::min(selLength, editText_.size() - editSelStart_);
+    }
+}
+
+void Grid::PressMouse(int button, int row, int column) {
+    if (TakeFocus()) {
+        mouseDown.Raise(button, row, column);
+    }
+}
+
+void Grid::PressCellButton() {
+    if (editing_ && editList_ == "...") {
+        cellButtonClick.Raise(current_.row, current_.column);
+    }
+}
+
+} // namespace zy

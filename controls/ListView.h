@@ -1,0 +1,60 @@
+#pragma once
+
+#include <string_view>
+
+#include "controls/Control.h"
+#include "controls/Key.h"
+
+namespace zy {
+
+/// A list of items in columns, one of which can be selected. Items count from 1, columns from 0.
+///
+/// The list holds no texts: it asks its source for the cells that are shown, so that the number of items
+/// costs nothing at filling.
+class ListView : public Control {
+  public:
+    struct Column {
+        std::string header;
+        int width = 0; ///< in twips
+    };
+    using Source = std::function<std::string_view(int item, int column)>;
+
+    ListView(Container* parent, std::string name, std::vector<Column> columns, Source source);
+
+    const std::vector<Column>& Columns() const { return columns_; }
+    void SetColumnWidth(std::size_t column, int width);
+    std::string_view CellText(int item, int column) const { return source_(item, column); }
+
+    int Count() const { return count_; }
+    /// The selected item; 0 when none is.
+    int Selected() const { return selected_; }
+
+    /// Shows `count` items anew; none is selected.
+    void Refill(int count);
+    /// Takes the selected item out of the list; none is selected afterwards.
+    void RemoveSelected();
+    /// Selects from code, 0 for none: `itemClick` is not raised.
+    void Select(int item);
+    /// Tells that an item's texts changed.
+    void RefreshItem(int item) { itemChanged.Raise(item); }
+
+    /// A person chooses an item. The one that is selected already is not chosen again.
+    void Pick(int item);
+    /// A person presses a key while the list has the focus.
+    void Press(const KeyPress& press);
+
+    Event<int> itemClick; ///< a person chose this item
+    Event<const KeyPress&> keyDown;
+    Event<> refilled;
+    Event<int> itemRemoved;
+    Event<int> itemChanged;
+    Event<> selectionChanged;
+
+  private:
+    std::vector<Column> columns_;
+    Source source_;
+    int count_ = 0;
+    int selected_ = 0;
+};
+
+} // namespace zy

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string_view>
+
+#include "controls/Control.h"
+
+namespace zy {
+
+/// The line of short texts at the window's foot.
+class StatusBar : public Control {
+  public:
+    using Control::Control;
+
+    const std::string& Text() const { return text_; }
+    void SetText(std::string_view text);
+
+    Event<> change;
+
+  private:
+    std::string text_;
+};
+
+} // namespace zy

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string_view>
+
+#include "basics/Bool16.h"
+#include "ini/INIfileText.h"
+#include "ini/INIlines.h"
+#include "platform/CodePage.h"
+#include "platform/FileSystem.h"
+#include "shell/TraceChannel.h"
+
+// ini: settings files of the INI kind as a list of lines, with their headers, keys and values. It owns the
+// classes INIfile (the document), INIlines (its lines) and INIline (one line), and calls the low part of the
+// shell and what lies below that.
+
+namespace zy {
+
+/// A settings file: its lines, and how they are written.
+class INIfile {
+  public:
+    INIfile(FileSystem& files, const CodePage& codePage, TraceChannel& trace);
+
+    /// The lines; an empty collection when there was none. Files can share one.
+    const std::shared_ptr<zy::INIlines>& INIlines();
+    void INIlines(std::shared_ptr<zy::INIlines> lines) { lines_ = std::move(lines); }
+
+    /// On saving, keys are written in capitals. The setter's spelling is meant.
+    Bool16 UcaseSection() const { return format_.ucaseSection; }
+    void UcaseSecton(Bool16 value) { format_.ucaseSection = value; }
+
+    /// The blanks that saving writes in front of a key. A negative number is none.
+    std::int32_t LeadingSpaces() const { return format_.leadingSpaces; }
+    void LeadingSpaces(std::int32_t value) { format_.leadingSpaces = value; }
+
+    /// The column, counted from 1, at which saving writes "=" when the key is short enough.
+    std::int32_t EqualPos() const { return format_.equalPos; }
+    void EqualPos(std::int32_t value) { format_.equalPos = value; }
+
+    /// Replaces the lines by those of a file. A file that is missing or cannot be read leaves none, without
+    /// a word; of one that can be read in part, the lines of that part are taken.
+    ///
+    /// Taken are header lines, whose Group and Section both hold the header, and lines "key=value", whose
+    /// Group is the last header; headers and keys come out in capitals, whatever UcaseSection says. Not
+    /// taken: blank lines, lines without "=" or without a key, and what stands behind the last CR LF. A CR,
+    /// LF or TAB inside a line counts as a blank. A line of more than 32,767 characters is run-time error 6;
+    /// the lines before it are then loaded.
+    void LoadFile(std::string_view Filename);
+
+    /// Writes the lines, as INIfileText has them, in place of the file. Run-time error 6, with the file
+    /// untouched, when there are more than 32,767.
+    ///
+    /// The old file is deleted first and failures are silent: when the new one cannot be created there is
+    /// none, when the disk fills up there is the part that was written.
+    void SaveFile(std::string_view Filename);
+
+  private:
+    /// A line cut out of the text of a file. The value stands directly behind the key.
+    struct ParsedLine {
+        std::string_view key; ///< empty when the line is none to be taken
+        std::size_t valueLength = 0;
+        char* end = nullptr; ///< the line's CR LF
+    };
+
+    ParsedLine ParseLine(char* line) const;
+    char* ToCapitals(char* at) const;
+    bool FileExists(std::string_view path) { return files_.Exists(path); }
+
+    FileSystem& files_;
+    TraceChannel& trace_;
+    const CodePage& codePage_;
+    /// The capital of each character that needs nothing else done in a key, and 0 for those that do.
+    std::array<char, 256> capitals_{};
+    std::shared_ptr<zy::INIlines> lines_;
+    INIformat format_;
+};
+
+} // namespace zy

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "basics/Bool16.h"
+#include "ini/INIlines.h"
+#include "platform/CodePage.h"
+
+namespace zy {
+
+/// How the key lines of a saved file look.
+struct INIformat {
+    Bool16 ucaseSection;            ///< keys in capitals
+    std::int32_t leadingSpaces = 3; ///< blanks in front of a key; a negative number is none
+    std::int32_t equalPos = 17;     ///< the column of "=", counted from 1; a longer key is not cut
+};
+
+/// The text of a settings file, each line ended by CR LF.
+///
+/// A line with a key is written as "key = value", also when the key is a header's, which is meant: to write a
+/// bare header, add a line with a group and no key. A line without a key is its group in capitals alone, and
+/// blank when that is empty too; its value is not written. More than 32,767 lines are run-time error 6.
+std::string INIfileText(const INIlines& lines, const INIformat& format, const CodePage& codePage);
+
+} // namespace zy

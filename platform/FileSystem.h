@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string_view>
+
+#include "platform/FileError.h"
+
+namespace zy {
+
+/// An open file. Destroying it closes it without a report; who wrote calls Close and looks at the result.
+class FileHandle {
+  public:
+    virtual ~FileHandle() = default;
+
+    /// The file's size in bytes.
+    virtual std::uint64_t Size() const = 0;
+    /// Reads from the current position up to the buffer's size. Returns the number of bytes read: fewer at
+    /// the end of the file or when the disk fails, 0 when nothing could be read.
+    virtual std::size_t Read(std::span<char> buffer) = 0;
+    /// Writes the whole text at the current position. On failure part of it may have been written.
+    virtual FileError Write(std::string_view text) = 0;
+    /// Waits until everything written stands on the disk.
+    virtual FileError Flush() = 0;
+    virtual FileError Close() = 0;
+};
+
+/// A handle, or the reason why there is none.
+struct OpenedFile {
+    std::unique_ptr<FileHandle> handle;
+    FileError error = FileError::None;
+};
+
+/// The files of the computer. Paths are absolute, in the ANSI code page, with "\" between their parts; names
+/// are found without regard to case.
+class FileSystem {
+  public:
+    virtual ~FileSystem() = default;
+
+    /// A directory search for a normal file of exactly that name; a folder of the name is not found.
+    virtual bool Exists(std::string_view path) = 0;
+    /// Opens an existing file for reading, shared for reading and writing.
+    virtual OpenedFile OpenForReading(std::string_view path) = 0;
+    /// Creates the file anew for writing, emptying one that exists; shared for reading and writing.
+    virtual OpenedFile Create(std::string_view path) = 0;
+    virtual FileError Delete(std::string_view path) = 0;
+    /// Gives a file another name in its folder. Never replaces a file: one of the new name makes it fail.
+    virtual FileError Rename(std::string_view from, std::string_view to) = 0;
+    /// Gives the file `to` the access permissions of the file `from`.
+    virtual FileError CopyPermissions(std::string_view from, std::string_view to) = 0;
+};
+
+} // namespace zy

@@ -1,0 +1,115 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/CodePage.h"
+#include "platform/FileSystem.h"
+#include "platform/memory/OperationLog.h"
+
+namespace zy {
+
+/// A disk in memory, which can be full, locked or broken at will.
+///
+/// Names are found without regard to case, as the code page defines it, and keep the case they were created
+/// with. "/" counts as "\", several in a row as one. A file can be created only in a folder that exists.
+///
+/// Each operation of FileSystem and of its handles, Size apart, is counted, recorded and subject to the fault
+/// plan: a failing Exists says false, a failing Read reads nothing, all others return the plan's error and
+/// change nothing, but that a Write may be cut short and a Close closes all the same. Destroying a handle is
+/// no operation, and neither are the verbs for tests below.
+///
+/// Handles must not outlive the file system. One whose file is deleted keeps its bytes for itself.
+class MemoryFileSystem final : public FileSystem {
+  public:
+    static constexpr unsigned kNewFilePermissions = 0644;
+
+    explicit MemoryFileSystem(const CodePage& codePage) : codePage_(codePage) {}
+
+    bool Exists(std::string_view path) override;
+    OpenedFile OpenForReading(std::string_view path) override;
+    OpenedFile Create(std::string_view path) override;
+    FileError Delete(std::string_view path) override;
+    FileError Rename(std::string_view from, std::string_view to) override;
+    FileError CopyPermissions(std::string_view from, std::string_view to) override;
+
+    /// Adds a folder and those above it.
+    void AddFolder(std::string_view path);
+    /// Puts a file with these bytes in place, replacing the bytes of one that exists; its folder is added
+    /// when missing.
+    void Put(std::string_view path, std::string_view bytes);
+    /// The bytes of a file; nothing when there is none.
+    std::optional<std::string> Get(std::string_view path) const;
+    /// Takes a file away. Returns its bytes; nothing when there was none.
+    std::optional<std::string> Take(std::string_view path);
+    /// The names of the files of a folder as they were created, in the order of their capitals.
+    std::vector<std::string> Names(std::string_view folder) const;
+
+    /// The permissions of a file; nothing when there is none.
+    std::optional<unsigned> Permissions(std::string_view path) const;
+    /// Does nothing when there is no such file.
+    void SetPermissions(std::string_view path, unsigned permissions);
+
+    // The switches belong to the path, whether the file exists or not.
+
+    /// In a read-only folder no file is created, deleted or renamed (AccessDenied); those that exist can be
+    /// emptied and written.
+    void SetFolderReadOnly(std::string_view folder, bool readOnly = true);
+    /// A file that another program holds cannot be opened, created, deleted or renamed (InUse), nor can
+    /// another file get its name.
+    void SetHeldOpen(std::string_view path, bool held = true);
+    /// An unreadable file cannot be opened for reading (AccessDenied).
+    void SetUnreadable(std::string_view path, bool unreadable = true);
+
+    /// The bytes that all files together may have; a Write that does not fit writes the part that does and
+    /// returns DiskFull. Nothing: no limit. Put is not limited.
+    void SetCapacity(std::optional<std::uint64_t> bytes) { capacity_ = bytes; }
+
+    /// Makes operations fail. Counting and recording start anew, so that operation 1 is the next one.
+    void Plan(const FaultPlan& plan) { operations_.Plan(plan); }
+    /// The operations since the start or the last Plan.
+    const OperationLog& Operations() const { return operations_; }
+    OperationLog& Operations() { return operations_; }
+
+  private:
+    struct File {
+        std::string name;
+        std::string bytes;
+        unsigned permissions = kNewFilePermissions;
+    };
+    using Files = std::map<std::string, std::shared_ptr<File>>;
+    class Handle;
+
+    std::string Key(std::string_view path) const;
+    bool IsFolder(const std::string& key) const;
+    /// Why a name that is no file's cannot be worked with.
+    FileError NoFileReason(const std::string& key) const;
+    /// Why a file's entry in its folder cannot be added or removed; None when it can.
+    FileError EntryLock(const std::string& key) const;
+
+    FileError OpenFound(std::string_view path, OpenedFile& opened);
+    FileError CreateOrEmpty(std::string_view path, OpenedFile& opened);
+    FileError DeleteFound(const std::string& key);
+    FileError RenameFound(const std::string& from, std::string_view toPath);
+    FileError CopyPermissionsFound(const std::string& from, const std::string& to);
+    /// Appends as much of the text as the disk has room for.
+    FileError WriteWhatFits(File& file, std::size_t position, std::string_view text) const;
+    std::uint64_t FreeBytes() const;
+
+    const CodePage& codePage_;
+    Files files_;
+    std::set<std::string> folders_;
+    std::set<std::string> readOnlyFolders_;
+    std::set<std::string> held_;
+    std::set<std::string> unreadable_;
+    std::optional<std::uint64_t> capacity_;
+    OperationLog operations_;
+};
+
+} // namespace zy

@@ -1,0 +1,18 @@
+#include "platform/memory/MemoryWorld.h"
+
+namespace zy {
+
+MemoryWorld::MemoryWorld(const CodePage& page) : codePage(page) {
+    files.AddFolder(system.SystemDirectory());
+}
+
+World MemoryWorld::Get() {
+    return {.files = files,
+            .system = system,
+            .traceServers = traceServers,
+            .recycleBin = recycleBin,
+            .dialogs = dialogs,
+            .codePage = codePage};
+}
+
+} // namespace zy

@@ -1,0 +1,157 @@
+#include "rules/RuleChecks.h"
+
+#include "basics/Number.h"
+#include "basics/Text.h"
+
+namespace zy {
+namespace {
+
+constexpr std::string_view kCodeTitle = "Invalid Rule Code";
+constexpr std::string_view kDescriptionTitle = "Invalid Rule Description";
+constexpr char kQuote = '"';
+
+} // namespace
+
+RuleChecks::RuleChecks(const RuleList& rules, const World& world, TraceChannel& trace)
+    : rules_(rules), world_(world), trace_(trace) {}
+
+void RuleChecks::Start(std::string_view procedure) {
+    trace_.DebugTrace("mRules", procedure, "Start");
+}
+
+void RuleChecks::ShowRuleError(std::string_view message, std::string_view title) {
+    world_.dialogs.ShowMessage(message, title);
+}
+
+std::string RuleChecks::ComparedCode(std::string_view code) const {
+    return world_.codePage.UCase(Trim(code));
+}
+
+RuleChecks::CodeCounts RuleChecks::CountCodes() const {
+    CodeCounts counts;
+    counts.reserve(static_cast<std::size_t>(rules_.UBound()));
+    for (int i = 1; i <= rules_.UBound(); ++i) {
+        ++counts[ComparedCode(rules_(i).Code)];
+    }
+    return counts;
+}
+
+bool RuleChecks::IsTaken(const CodeCounts& counts, std::string_view code, Int16 index) const {
+    const auto compared = ComparedCode(code);
+    const auto found = counts.find(compared);
+    const int all = found == counts.end() ? 0 : found->second;
+    const bool isRule = index >= 1 && index <= rules_.UBound();
+    const int own = isRule && ComparedCode(rules_(index).Code) == compared ? 1 : 0;
+    return all > own;
+}
+
+bool RuleChecks::CheckCode(std::string_view code, Int16 index) {
+    return CheckCode(code, [&] { return IsTaken(CountCodes(), code, index); });
+}
+
+bool RuleChecks::CheckCode(std::string_view code, const std::function<bool()>& isTaken) {
+    constexpr std::size_t kLongest = 3;
+    Start("CheckCode");
+    const auto fail = [this](std::string_view message) {
+        ShowRuleError(message, kCodeTitle);
+        return false;
+    };
+    if (code.empty()) {
+        return fail("Rule Code cannot be Blank");
+    }
+    if (code.size() > kLongest) {
+        return fail("Rule Code must be 1 to 3 characters");
+    }
+    if (Contains(code, kQuote)) {
+        return fail("Rule Code cannot contain double quotes");
+    }
+    if (isTaken()) {
+        return fail("Rule Code must be unique");
+    }
+    return true;
+}
+
+bool RuleChecks::Check_Min(std::string_view text) {
+    Start("Check_Min");
+    return CheckCount(text, "Min");
+}
+
+bool RuleChecks::Check_Max(std::string_view text) {
+    Start("Check_Max");
+    return CheckCount(text, "Max");
+}
+
+bool RuleChecks::CheckCount(std::string_view text, std::string_view name) {
+    constexpr double kLeast = 1;
+    constexpr double kMost = 100;
+    const auto number = ParseNumber(text, world_.system.DecimalSeparator());
+    if (number && *number >= kLeast && *number <= kMost) {
+        return true;
+    }
+    const std::string field(name);
+    ShowRuleError(field + (number ? " Must be between 1 and 100" : " Must be a Numeric Value"),
+                  "Invalid Rule " + field + " Value");
+    return false;
+}
+
+double RuleChecks::NumberOf(std::string_view text) const {
+    return ParseNumber(text, world_.system.DecimalSeparator()).value_or(0);
+}
+
+bool RuleChecks::Verify_MinMax(std::string_view minText, std::string_view maxText) {
+    Start("Verify_MinMax");
+    if (NumberOf(minText) > NumberOf(maxText)) {
+        ShowRuleError("Min Value must be less than Max Value", "Invalid Rule Max or Min Value");
+        return false;
+    }
+    return true;
+}
+
+bool RuleChecks::CheckDescription(std::string_view text) {
+    if (text.empty()) {
+        ShowRuleError("Rule Description cannot be Blank", kDescriptionTitle);
+        return false;
+    }
+    if (Contains(text, kQuote)) {
+        ShowRuleError("Rule Description cannot contain double quotes", kDescriptionTitle);
+        return false;
+    }
+    return true;
+}
+
+int RuleChecks::FailingColumn(const Grid& grid, int row, const CodeCounts& counts) {
+    enum Column { kCode = 0, kMin = 1, kMax = 2, kDescription = 5 };
+    // Condition and zone are not checked: their cells are edited through fixed lists.
+    const auto& code = grid.Text(row, kCode);
+    if (!CheckCode(code, [&] { return IsTaken(counts, code, row); })) {
+        return kCode;
+    }
+    if (!Check_Min(grid.Text(row, kMin))) {
+        return kMin;
+    }
+    if (!Check_Max(grid.Text(row, kMax)) || !Verify_MinMax(grid.Text(row, kMin), grid.Text(row, kMax))) {
+        return kMax;
+    }
+    return CheckDescription(grid.Text(row, kDescription)) ? -1 : kDescription;
+}
+
+bool RuleChecks::Validate_RulesGRid(Grid& grid) {
+    Start("Validate_RulesGRid");
+    const auto counts = CountCodes();
+    for (Int16 row = 1; row < grid.Rows(); ++row) {
+        const int column = FailingColumn(grid, row, counts);
+        if (column != -1) {
+            grid.Select(row, column);
+            grid.EditCell();
+            return false;
+        }
+    }
+    return true;
+}
+
+void SelectAllText(TextBox& box) {
+    box.SetFocus();
+    box.Select(0, box.Text().size());
+}
+
+} // namespace zy

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <vector>
+
+#include "basics/Int16.h"
+#include "rules/RunRule.h"
+
+namespace zy {
+
+/// `gaRules`: references to the rules, in the order of the file, counted from 1. Element 0 exists and stays
+/// empty.
+///
+/// The list never holds more than 32,767 rules: what would make it longer is run-time error 6 and changes
+/// nothing. An index that no rule has is run-time error 9.
+class RuleList {
+  public:
+    /// The index of the last rule; 0 when there is none.
+    Int16 UBound() const { return rules_.size() - 1; }
+
+    RunRule& operator()(int index) { return *rules_[Checked(index)]; }
+    const RunRule& operator()(int index) const { return *rules_[Checked(index)]; }
+
+    /// Drops all references and makes room for `count` rules.
+    void Reset(Int16 count);
+    void Append(RunRule& rule);
+    /// Takes a rule out; those behind it move down by one place.
+    void Remove(int index);
+    void Swap(int first, int second);
+
+  private:
+    std::size_t Checked(int index) const;
+
+    std::vector<RunRule*> rules_{nullptr};
+};
+
+} // namespace zy

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "controls/ComboBox.h"
+#include "controls/CommandButton.h"
+#include "controls/Grid.h"
+#include "controls/ListView.h"
+#include "controls/TextBox.h"
+#include "controls/UpDown.h"
+
+namespace zy {
+
+/// The controls of the rules page, in tab order: the list with its buttons, the detail form, and the grid
+/// view that the page carries hidden.
+struct RulesControls {
+    RulesControls(Frame& fraRules, ListView::Source rules);
+
+    Frame fraRulesList;
+    ListView lstRulesList;
+    UpDown cmdUpDown;
+    CommandButton cmdAddList;
+    CommandButton cmdDeleteList;
+    CommandButton cmdSaveRules;
+    CommandButton cmdHelpRules;
+
+    Frame FraRuleDetails;
+    TextBox txtCode;
+    TextBox txtMin;
+    TextBox txtMax;
+    ComboBox cboCondition;
+    ComboBox cboZone;
+    TextBox txtDescription;
+    Label lblCode;
+    Label lblMin;
+    Label lblMax;
+    Label lblCondition;
+    Label lblZone;
+    Label lblDescription;
+
+    Frame fraGridMode;
+    Grid grdRules;
+};
+
+} // namespace zy

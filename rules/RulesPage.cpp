@@ -1,0 +1,202 @@
+#include "rules/RulesPage.h"
+
+#include <algorithm>
+#include <array>
+
+#include "rules/RulesDetails.h"
+#include "rules/RulesLayout.h"
+#include "rules/mRules.h"
+
+namespace zy {
+namespace {
+
+constexpr std::string_view kModule = "mRules";
+
+/// The relations in the order of the list's items.
+constexpr std::array<std::string_view, 5> kRelations{">", ">=", "<", "<=", "="};
+
+std::string_view CellOf(const RunRule& rule, int column) {
+    constexpr std::array kColumns{&RunRule::Code, &RunRule::Min,  &RunRule::Max,
+                                  &RunRule::Cond, &RunRule::Zone, &RunRule::Description};
+    return rule.*kColumns.at(static_cast<std::size_t>(column));
+}
+
+std::string RowOf(const RunRule& rule) {
+    std::string row(CellOf(rule, 0));
+    for (int column = 1; column < 6; ++column) {
+        row += '\t';
+        row += CellOf(rule, column);
+    }
+    return row;
+}
+
+} // namespace
+
+RulesPage::RulesPage(mRules& rules, SettingsForm& form, SharedState& state, TraceChannel& trace,
+                     const World& world)
+    : controls(form.fraRules, [&rules](int item, int column) { return CellOf(rules.gaRules(item), column); }),
+      rules_(rules), form_(form), state_(state), trace_(trace), world_(world),
+      checks_(rules.gaRules, world, trace) {
+    ConnectButtons();
+    ConnectDetails();
+    rules_.reported.Connect([this](const std::string& report) { ShowStatus(report); });
+}
+
+void RulesPage::Trace(std::string_view module, std::string_view procedure, std::string_view message) {
+    trace_.DebugTrace(module, procedure, message);
+}
+
+void RulesPage::ShowListMode() {
+    controls.fraGridMode.SetVisible(false);
+    controls.fraRulesList.SetVisible(true);
+    controls.FraRuleDetails.SetVisible(true);
+}
+
+void RulesPage::ShowGridMode() {
+    constexpr std::string_view kHeaders = "Code\tMin\tMax\tCond.\tZone\tDescription";
+    controls.fraRulesList.SetVisible(false);
+    controls.FraRuleDetails.SetVisible(false);
+    controls.fraGridMode.SetVisible(true);
+    auto& grid = controls.grdRules;
+    grid.SetRows(0);
+    grid.AddItem(kHeaders);
+    for (int i = 1; i <= rules_.gaRules.UBound(); ++i) {
+        grid.AddItem(RowOf(rules_.gaRules(i)));
+    }
+}
+
+void RulesPage::LoadRulesListMode() {
+    Trace(kModule, "LoadRulesListMode", "Start");
+    const int count = rules_.gaRules.UBound();
+    controls.lstRulesList.Refill(count);
+    rules_.giCurRule = -1;
+    EnableRuleControls(count > 0);
+    if (count == 0) {
+        ClearRule();
+    } else {
+        SelectAndEdit(1);
+    }
+}
+
+void RulesPage::EnableRuleControls(bool enabled) {
+    controls.cmdDeleteList.SetEnabled(enabled);
+    controls.cmdUpDown.SetEnabled(enabled);
+    controls.FraRuleDetails.SetEnabled(enabled);
+}
+
+void RulesPage::SelectAndEdit(int item) {
+    controls.lstRulesList.Select(item);
+    EditRule(std::to_string(item));
+}
+
+void RulesPage::EditRule(std::string_view index) {
+    Trace(kModule, "EditRule", "Start");
+    if (rules_.giCurRule != -1 && rules_.gbRulesChanged && Validate_Rule()) {
+        Save_Rules_Edit(rules_.giCurRule);
+        state_.gbChanged = true;
+    }
+    const auto rule = Int16::FromText(index);
+    rules_.gbLoadingRule = true;
+    rules_.giCurRule = rule;
+    FillDetails(rule);
+    rules_.gbLoadingRule = false;
+    ShowStatus(CountText());
+}
+
+void RulesPage::FillDetails(int index) {
+    const RunRule& rule = rules_.gaRules(index);
+    controls.txtCode.SetText(rule.Code);
+    controls.txtMin.SetText(rule.Min);
+    controls.txtMax.SetText(rule.Max);
+    controls.txtDescription.SetText(rule.Description);
+    for (std::size_t relation = 0; relation < kRelations.size(); ++relation) {
+        if (rule.Cond == kRelations[relation]) {
+            controls.cboCondition.SetListIndex(static_cast<int>(relation));
+        }
+    }
+    const auto zone = world_.codePage.UCase(rule.Zone);
+    const auto& zones = controls.cboZone.Items();
+    for (std::size_t item = 0; item < zones.size(); ++item) {
+        if (world_.codePage.UCase(zones[item]).find(zone) != std::string::npos) {
+            controls.cboZone.SetListIndex(static_cast<int>(item));
+            break;
+        }
+    }
+}
+
+void RulesPage::ClearRule() {
+    Trace(kModule, "ClearRule", "Start");
+    rules_.gbLoadingRule = true;
+    rules_.giCurRule = -1;
+    for (TextBox* box : {&controls.txtCode, &controls.txtMin, &controls.txtMax, &controls.txtDescription}) {
+        box->SetText("");
+    }
+    controls.cboCondition.SetListIndex(-1);
+    controls.cboZone.SetListIndex(-1);
+    EnableRuleControls(false);
+    rules_.gbLoadingRule = false;
+    ShowStatus(CountText());
+}
+
+void RulesPage::Save_Rules_Edit(Int16 index) {
+    RunRule& rule = rules_.gaRules(index);
+    Trace(kModule, "Save_Rules_Edit", "Start item: " + rule.Code);
+    rules_.gbNewRule = false;
+    const RunRule edited = RuleInForm(controls, rule);
+    for (const auto property : kEditedProperties) {
+        if (rule.*property != edited.*property) {
+            rule.*property = edited.*property;
+            state_.gbChanged = true;
+        }
+    }
+    controls.lstRulesList.RefreshItem(index);
+}
+
+void RulesPage::Move_Rule_Up(Int16 item) {
+    Trace(kModule, "Move_Rule_Up", "Start");
+    if (item != 1) {
+        Swap(item, item - 1);
+    }
+}
+
+void RulesPage::Move_Rule_Down(Int16 item) {
+    Trace(kModule, "Move_Rule_Down", "Start");
+    if (item != rules_.gaRules.UBound()) {
+        Swap(item, item + 1);
+    }
+}
+
+void RulesPage::Swap(Int16 item, int neighbour) {
+    rules_.gaRules.Swap(neighbour, item);
+    form_.ChangeFlag = true;
+    state_.gbChanged = true;
+    LoadRulesListMode();
+    SelectAndEdit(neighbour);
+}
+
+bool RulesPage::Validate_Rule() {
+    Trace(kModule, "Validate_Rule", "Start");
+    // A missing zone moves the focus to the condition, which is meant.
+    return ValidateCode() && ValidateMin() && ValidateMax() && ValidateMinMax(controls.txtMin) &&
+           ValidateSelection(controls.cboCondition, controls.cboCondition) &&
+           ValidateSelection(controls.cboZone, controls.cboCondition) && ValidateDescription();
+}
+
+void RulesPage::ResizeRuleTab() {
+    const auto& inner = form_.InnerSize();
+    const int height = std::max(inner.height - form_.zyStatusBar.Preferred().height, 0);
+    form_.fraRules.SetBounds({0, 0, inner.width, height});
+    LayOutRuleFrames(controls, {inner.width, height});
+    ResizeRuleList();
+    ResizeRuleDetails();
+}
+
+void RulesPage::ResizeRuleList() {
+    LayOutRuleList(controls);
+}
+
+void RulesPage::ResizeRuleDetails() {
+    LayOutRuleDetails(controls);
+}
+
+} // namespace zy

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "basics/Int16.h"
+#include "platform/World.h"
+#include "rules/RuleChecks.h"
+#include "rules/RulesControls.h"
+#include "shell/SettingsForm.h"
+#include "shell/SharedState.h"
+#include "shell/TraceChannel.h"
+
+namespace zy {
+
+class mRules;
+
+/// The rules page: list mode with its detail form, and the handlers of its controls.
+class RulesPage {
+  public:
+    RulesPage(mRules& rules, SettingsForm& form, SharedState& state, TraceChannel& trace, const World& world);
+
+    /// Shows the list and the detail form; the grid is hidden.
+    void ShowListMode();
+    /// Shows the grid with one row per rule. Nothing in the program calls it.
+    void ShowGridMode();
+
+    /// Fills the list from the rules and shows the first one; without rules the detail form is empty and
+    /// disabled.
+    void LoadRulesListMode();
+    /// Shows a rule, given by its index as text, in the detail form.
+    void EditRule(std::string_view index);
+    void ClearRule();
+    /// Copies the detail form into a rule.
+    void Save_Rules_Edit(Int16 index);
+    /// Swap a rule with its neighbour and show it there; the first does not move up, nor the last down.
+    void Move_Rule_Up(Int16 item);
+    void Move_Rule_Down(Int16 item);
+    /// Checks the detail form in its order, shows the first failure and puts the focus on it.
+    bool Validate_Rule();
+
+    void ResizeRuleTab();
+    void ResizeRuleList();
+    void ResizeRuleDetails();
+
+    void cmdAddList_Click();
+    void cmdDeleteList_Click();
+    void cmdSaveRules_Click();
+    void cmdUpDown_UpClick();
+    void cmdUpDown_DownClick();
+    void lstRulesList_ItemClick(int item);
+    void lstRulesList_KeyDown(const KeyPress& press);
+
+    RulesControls controls;
+
+  private:
+    void ConnectButtons();
+    void ConnectDetails();
+    void ConnectChange(std::string_view handler, Event<>& event);
+    void ConnectValidate(std::string_view handler, Control& control, std::function<bool()> check);
+    void DetailChanged(std::string_view handler);
+    void Trace(std::string_view module, std::string_view procedure, std::string_view message);
+
+    void EnableRuleControls(bool enabled);
+    void FillDetails(int index);
+    void SelectAndEdit(int item);
+    void Swap(Int16 item, int neighbour);
+    void DeleteSelected();
+
+    bool ValidateCode();
+    bool ValidateMin();
+    bool ValidateMax();
+    bool ValidateMinMax(TextBox& focus);
+    bool ValidateSelection(const ComboBox& list, Control& focus);
+    bool ValidateDescription();
+    bool Refuse(TextBox& box);
+
+    bool FormDiffers() const;
+    void ShowStatus(std::string_view report);
+    std::string CountText();
+
+    mRules& rules_;
+    SettingsForm& form_;
+    SharedState& state_;
+    TraceChannel& trace_;
+    World world_;
+    RuleChecks checks_;
+};
+
+} // namespace zy

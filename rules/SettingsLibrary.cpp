@@ -1,0 +1,37 @@
+#include "rules/SettingsLibrary.h"
+
+#include "basics/RuntimeError.h"
+#include "shell/Utilities.h"
+
+namespace zy {
+
+RunRule& SettingsLibrary::RuleCollection::Item(Int16 index) const {
+    if (index < 1 || static_cast<std::size_t>(index) > rules_.size()) {
+        RaiseSubscriptOutOfRange();
+    }
+    return rules_[static_cast<std::size_t>(index) - 1];
+}
+
+std::string SettingsLibrary::RulesFile() const {
+    return GetSystemDir(world_.system) + "ZYRules.sys";
+}
+
+SettingsLibrary::RuleCollection SettingsLibrary::Rules() {
+    const std::string path = RulesFile();
+    read_.clear();
+    report_ = {};
+    if (world_.files.Exists(path)) {
+        const auto opened = world_.files.OpenForReading(path);
+        if (!opened.handle) {
+            throw RuntimeError(75, "Path/File access error: " + path + ", " +
+                                       std::string(Describe(opened.error)));
+        }
+        report_ = ReadRules(*opened.handle, read_);
+        if (!report_.complete) {
+            throw RuntimeError(57, "Device I/O error: " + path + " could not be read to its end");
+        }
+    }
+    return RuleCollection(read_);
+}
+
+} // namespace zy

@@ -1,0 +1,131 @@
+#include "rules/mRules.h"
+
+#include "basics/Text.h"
+#include "rules/RulesFileText.h"
+#include "shell/Utilities.h"
+
+namespace zy {
+namespace {
+
+constexpr std::string_view kModule = "mRules";
+
+/// The three pieces joined by single blanks. Empty pieces leave their blanks at the end, which is meant: that
+/// text is what the editor shows and what the next save writes.
+std::string JoinedDescription(const RunRule& rule) {
+    const auto first = Trim(rule.Description);
+    const auto second = Trim(rule.Desc2);
+    const auto third = Trim(rule.Desc3);
+    std::string joined;
+    joined.reserve(first.size() + second.size() + third.size() + 2);
+    joined.append(first).append(1, ' ').append(second).append(1, ' ').append(third);
+    return joined;
+}
+
+} // namespace
+
+mRules::mRules(const World& world, TraceChannel& trace) : world_(world), trace_(trace) {}
+
+SettingsLibrary& mRules::Settings() {
+    if (!goSettings_) {
+        goSettings_ = std::make_unique<SettingsLibrary>(world_);
+    }
+    return *goSettings_;
+}
+
+void mRules::Build_Rules_Array() {
+    goSettings_ = std::make_unique<SettingsLibrary>(world_);
+    trace_.DebugTrace(kModule, "Build_Rules_Array", "Start");
+    const auto collection = goSettings_->Rules();
+    const Int16 count = collection.Count();
+    gaRules.Reset(count);
+    for (int i = 1; i <= count; ++i) {
+        RunRule& rule = collection.Item(i);
+        gaRules.Append(rule);
+        rule.Description = JoinedDescription(rule);
+    }
+    skippedLines_ = goSettings_->Report().skippedLines;
+}
+
+void mRules::Add_New_Rule() {
+    trace_.DebugTrace(kModule, "Add_New_Rule", "Start");
+    RunRule& rule = Settings().NewRule();
+    rule.Code = "NEW";
+    rule.Cond = "=";
+    rule.Description = "New";
+    rule.Max = "2";
+    rule.Min = "1";
+    rule.Zone = "USL";
+    gaRules.Append(rule);
+    gbNewRule = true;
+}
+
+void mRules::Delete_Rule(Int16 index) {
+    trace_.DebugTrace(kModule, "Delete_Rule", "Start item: " + std::to_string(index));
+    gaRules.Remove(index);
+}
+
+void mRules::Report(std::string_view what, FileError error) {
+    reported.Raise(std::string(what) + ": " + std::string(Describe(error)));
+}
+
+/// Writes the temporary file whole, down to the disk. A file that came out short is removed: it holds half a
+/// list.
+bool mRules::WriteTemporary(const std::string& temporary, const std::string& text) {
+    auto created = world_.files.Create(temporary);
+    if (!created.handle) {
+        Report("Not saved, Rules.tmp could not be created", created.error);
+        return false;
+    }
+    auto error = created.handle->Write(text);
+    if (error == FileError::None) {
+        error = created.handle->Flush();
+    }
+    const auto closed = created.handle->Close();
+    if (error == FileError::None) {
+        error = closed;
+    }
+    if (error != FileError::None) {
+        world_.files.Delete(temporary);
+        Report("Not saved, Rules.tmp could not be written", error);
+        return false;
+    }
+    return true;
+}
+
+void mRules::Write_Rules_File() {
+    trace_.DebugTrace(kModule, "Write_Rules_File", "Start");
+    auto& files = world_.files;
+    const std::string temporary = std::string(FolderOf(Settings().RulesFile())) + "Rules.tmp";
+    if (files.Exists(temporary)) {
+        files.Delete(temporary);
+    }
+    if (!WriteTemporary(temporary, RulesFileText(gaRules))) {
+        return;
+    }
+    const std::string rulesFile = Settings().RulesFile();
+    if (files.Exists(rulesFile)) {
+        files.CopyPermissions(rulesFile, temporary);
+        files.Delete(rulesFile);
+    }
+    const auto renamed = files.Rename(temporary, rulesFile);
+    trace_.DebugTrace(kModule, "Write_Rules_File", "Finished");
+    gbRulesChanged = false;
+    if (renamed == FileError::None) {
+        skippedLines_ = 0;
+        reported.Raise("Saved");
+    } else {
+        Report("The rules stand in Rules.tmp, ZYRules.sys could not be replaced", renamed);
+    }
+}
+
+std::string FormatRuleLine(std::string_view key, std::string_view value) {
+    constexpr std::size_t kKeyField = 13;
+    std::string line = "   ";
+    line += key;
+    line.append(key.size() < kKeyField ? kKeyField - key.size() : 0, ' ');
+    line += "= ";
+    line += value;
+    return line;
+}
+
+} // namespace zy

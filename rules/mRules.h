@@ -1,0 +1,68 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "basics/Bool16.h"
+#include "basics/Int16.h"
+#include "controls/Event.h"
+#include "platform/World.h"
+#include "rules/RuleList.h"
+#include "rules/SettingsLibrary.h"
+#include "shell/TraceChannel.h"
+
+// The rules editor: the rule list and its file (mRules), the checks (RuleChecks), and the page with its list,
+// detail form and handlers (RulesPage). It owns the rules and the rules file, and calls the low part of the
+// shell and what lies below that.
+
+namespace zy {
+
+/// The rule list, its file, and the state that belongs with them.
+class mRules {
+  public:
+    mRules(const World& world, TraceChannel& trace);
+
+    /// Takes the rule list from the settings library. Run-time error 6 when it holds more than 32,767 rules.
+    void Build_Rules_Array();
+
+    /// Writes the rule list to the rules file, by way of "Rules.tmp" in the same folder.
+    ///
+    /// Whatever fails is told by `reported` alone. Until the new text stands whole on the disk the old file
+    /// is not touched; when only the last step fails, the rules stand in "Rules.tmp".
+    void Write_Rules_File();
+
+    /// Appends a rule with the values of a new one. Run-time error 6 when the list is full.
+    void Add_New_Rule();
+    /// Takes a rule out of the list; those behind it move up. Run-time error 9 when there is no such rule.
+    void Delete_Rule(Int16 index);
+
+    RuleList gaRules;
+    Int16 giCurRule = -1;  ///< the rule in the detail form, -1 for none
+    Bool16 gbNewRule;      ///< a rule was added and not stored from the detail form yet
+    Bool16 gbRulesChanged; ///< cleared by writing and never set, which keeps a step of EditRule dormant
+    Bool16 gbLoadingRule;  ///< the program fills the detail form: its change events are no user edits
+
+    /// Lines of the rules file that are no part of a rule; the next save will not write them back.
+    std::size_t SkippedLines() const { return skippedLines_; }
+
+    /// Short texts for the status bar: how a save ended.
+    Event<const std::string&> reported;
+
+  private:
+    SettingsLibrary& Settings();
+    void Report(std::string_view what, FileError error);
+    bool WriteTemporary(const std::string& temporary, const std::string& text);
+
+    World world_;
+    TraceChannel& trace_;
+    std::unique_ptr<SettingsLibrary> goSettings_;
+    std::size_t skippedLines_ = 0;
+};
+
+/// A key line of the rules file, without its line end: the key in a field of 13 characters behind three
+/// blanks, then
+/// "= " and the value as it is. A longer key is not cut.
+std::string FormatRuleLine(std::string_view key, std::string_view value);
+
+} // namespace zy

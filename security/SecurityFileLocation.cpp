@@ -1,0 +1,41 @@
+#include "security/SecurityFileLocation.h"
+
+#include <string_view>
+
+#include "basics/Int16.h"
+#include "basics/Text.h"
+#include "ini/INIfile.h"
+#include "shell/Utilities.h"
+
+namespace zy {
+namespace {
+
+std::string_view WithoutQuotes(std::string_view value) {
+    if (!value.starts_with('"')) {
+        return value;
+    }
+    value.remove_prefix(1);
+    return value.substr(0, value.empty() ? 0 : value.size() - 1);
+}
+
+} // namespace
+
+std::string SecurityFileLocation(const World& world, TraceChannel& trace) {
+    trace.DebugTrace("mSecurity", "SecurityFileLocation", "Start");
+    const std::string systemDir = GetSystemDir(world.system);
+    std::string location = systemDir + "ZYSECURE.DBF";
+
+    INIfile settings(world.files, world.codePage, trace);
+    settings.LoadFile(systemDir + "ZYSECURE.ZYX");
+    auto& lines = *settings.INIlines();
+    const Int16 count = lines.Count();
+    for (int i = 1; i <= count; ++i) {
+        const auto& line = lines.Item(i);
+        if (world.codePage.UCase(Trim(line.Section())) == "ZYSECURE.SECURITYFILE") {
+            location = WithoutQuotes(line.Value());
+        }
+    }
+    return world.codePage.UCase(Trim(location));
+}
+
+} // namespace zy

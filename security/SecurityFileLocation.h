@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+#include "platform/World.h"
+#include "shell/TraceChannel.h"
+
+// security: the users editor. It owns the user table and the settings file that says where the table stands,
+// and calls ini and what lies below that.
+
+namespace zy {
+
+/// The full path of the user table, in capitals and trimmed: what the key "ZYSECURE.SECURITYFILE" of the
+/// settings file "ZYSECURE.ZYX" in the system directory says, under whatever header, else "ZYSECURE.DBF" in
+/// the system directory.
+///
+/// The last of several such keys counts. A value that starts with a double quote loses its first and its last
+/// character, whatever the last one is; a double quote alone is an empty path. More than 32,767 lines are
+/// run-time error 6.
+std::string SecurityFileLocation(const World& world, TraceChannel& trace);
+
+} // namespace zy

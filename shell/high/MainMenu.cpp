@@ -1,0 +1,22 @@
+#include "shell/MainMenu.h"
+
+namespace zy {
+
+MainMenu::MainMenu()
+    : mnuFile("mnuFile", "&File"), mnuSave(mnuFile, "mnuSave", "&Save"), mnuExit(mnuFile, "mnuExit", "E&xit"),
+      mnuHelp("mnuHelp", "&Help"), mnuContents(mnuHelp, "mnuContents", "&Contents"),
+      mnuIndex(mnuHelp, "mnuIndex", "&Index"), mnuSeperator5(mnuHelp, "mnuSeperator5", MenuItem::kSeparator),
+      mnuWeb(mnuHelp, "mnuWeb", "Norvale on the &Web..."),
+      mnuWebProducts(mnuWeb, "mnuWebProducts", "Products"),
+      mnuWebAcademy(mnuWeb, "mnuWebAcademy", "Academy Web Based Training"),
+      mnuWebMentorDesk(mnuWeb, "mnuWebMentorDesk", "Mentor Desk"),
+      mnuSeperator6(mnuWeb, "mnuSeperator6", MenuItem::kSeparator),
+      mnuWebHome(mnuWeb, "mnuWebHome", "Norvale Home Page"),
+      mnuSeperator7(mnuHelp, "mnuSeperator7", MenuItem::kSeparator),
+      mnuAbout(mnuHelp, "mnuAbout", "&About ZY Setup"), mnuGridPopMenu("mnuGridPopMenu", ""),
+      mnuAddRule(mnuGridPopMenu, "mnuAddRule", "&Add Rule"),
+      mnuDeleteRule(mnuGridPopMenu, "mnuDeleteRule", "&Delete Rule"),
+      mnuSecuritypopMenu("mnuSecuritypopMenu", ""), mnuAddUser(mnuSecuritypopMenu, "mnuAddUser", "Add User"),
+      mnuDeleteUser(mnuSecuritypopMenu, "mnuDeleteUser", "Delete User") {}
+
+} // namespace zy

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "controls/Menu.h"
+
+namespace zy {
+
+/// The menu bar and the context menus of the main window.
+struct MainMenu {
+    MainMenu();
+
+    MenuItem mnuFile;
+    MenuItem mnuSave;
+    MenuItem mnuExit;
+
+    MenuItem mnuHelp;
+    MenuItem mnuContents;
+    MenuItem mnuIndex;
+    MenuItem mnuSeperator5; // the separators' names are spelled so throughout
+    MenuItem mnuWeb;
+    MenuItem mnuWebProducts;
+    MenuItem mnuWebAcademy;
+    MenuItem mnuWebMentorDesk;
+    MenuItem mnuSeperator6;
+    MenuItem mnuWebHome;
+    MenuItem mnuSeperator7;
+    MenuItem mnuAbout;
+
+    MenuItem mnuGridPopMenu; ///< the rules grid's
+    MenuItem mnuAddRule;
+    MenuItem mnuDeleteRule;
+
+    MenuItem mnuSecuritypopMenu; ///< the users grid's
+    MenuItem mnuAddUser;
+    MenuItem mnuDeleteUser;
+};
+
+} // namespace zy

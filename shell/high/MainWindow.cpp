@@ -1,0 +1,245 @@
+#include "shell/MainWindow.h"
+
+#include <array>
+#include <string>
+
+#include "rules/RulesPage.h"
+#include "rules/mRules.h"
+#include "shell/mRecycleBin.h"
+
+namespace zy {
+namespace {
+
+constexpr std::string_view kModule = "frmGlobalSettings";
+
+} // namespace
+
+MainWindow::MainWindow(const Parts& parts) : parts_(parts) {
+    parts_.form.resize.Connect([this] { Form_Resize(); });
+    menu.mnuSave.click.Connect([this] { mnuSave_Click(); });
+    menu.mnuExit.click.Connect([this] { mnuExit_Click(); });
+}
+
+void MainWindow::Trace(std::string_view procedure, std::string_view message) {
+    parts_.trace.DebugTrace(kModule, procedure, message);
+}
+
+void MainWindow::Load() {
+    if (!loaded_) {
+        loaded_ = true;
+        Form_Load();
+    }
+}
+
+void MainWindow::Show() {
+    Load();
+    parts_.form.SetVisible(true);
+}
+
+void MainWindow::ShowFrame(const Frame& frame) {
+    for (Frame* each : {&parts_.form.fraRules, &parts_.form.fraSecurity, &parts_.form.FraUnits}) {
+        each->SetVisible(each == &frame);
+    }
+}
+
+// All three pages trace "Rules", which is meant.
+
+void MainWindow::ShowRules() {
+    Load();
+    Trace("ShowRules", "Rules");
+    ShowFrame(parts_.form.fraRules);
+    parts_.rulesPage.ShowListMode();
+    parts_.rulesPage.LoadRulesListMode();
+    parts_.form.SetCaption("ZY Setup - Rules");
+}
+
+void MainWindow::ShowSecurity() {
+    Load();
+    Trace("ShowSecurity", "Rules");
+    ShowFrame(parts_.form.fraSecurity);
+    parts_.security->LoadSecurity();
+    parts_.form.SetCaption("ZY Setup - Security");
+}
+
+void MainWindow::ShowUnits() {
+    Load();
+    Trace("ShowUnits", "Rules");
+    ShowFrame(parts_.form.FraUnits);
+    parts_.form.SetCaption("ZY Setup - Units of Measure");
+    parts_.units->LoadUnitsData();
+}
+
+void MainWindow::ConfirmExit() {
+    if (parts_.world.dialogs.AskYesNo("Are you Sure you want to Exit Without Saving Changes", "Confirm Exit",
+                                      Escape::AnswersNo)) {
+        Unload();
+    }
+}
+
+bool MainWindow::Unload() {
+    if (!Form_Unload()) {
+        return false;
+    }
+    loaded_ = false;
+    parts_.form.SetVisible(false);
+    unloaded.Raise();
+    return true;
+}
+
+void MainWindow::Form_Load() {
+    Trace("Form_Load", "Start");
+    if (parts_.placement != nullptr) {
+        parts_.placement->InstallMinSizeHook();
+    }
+}
+
+void MainWindow::Form_Resize() {
+    Trace("Form_Resize", "Start");
+    if (parts_.form.State() == WindowState::Minimized) {
+        return;
+    }
+    if (parts_.state.gbRulesMode) {
+        parts_.rulesPage.ResizeRuleTab();
+    }
+    if (parts_.state.gbSecurityMode) {
+        parts_.security->ResizeSecurity();
+    }
+    if (parts_.state.gbUnitsMode) {
+        parts_.units->ResizeUnits();
+    }
+}
+
+void MainWindow::mnuExit_Click() {
+    Unload();
+}
+
+void MainWindow::mnuSave_Click() {
+    if (parts_.state.gbRulesMode) {
+        SaveRules();
+    } else if (parts_.state.gbSecurityMode) {
+        SaveSecurity();
+    } else if (parts_.state.gbUnitsMode) {
+        SaveUnits();
+    }
+}
+
+namespace {
+constexpr std::string_view kSaveProcedure = ",mnuSave_Click"; // the leading comma is meant
+} // namespace
+
+void MainWindow::SaveRules() {
+    Trace(kSaveProcedure, "Rules");
+    auto& changeFlag = parts_.form.ChangeFlag;
+    if (parts_.rules.giCurRule != -1 && changeFlag) {
+        if (!parts_.rulesPage.Validate_Rule()) {
+            return;
+        }
+        parts_.rulesPage.Save_Rules_Edit(parts_.rules.giCurRule);
+        changeFlag = true;
+    }
+    if (changeFlag) {
+        parts_.rules.Write_Rules_File();
+    }
+    changeFlag = false;
+}
+
+void MainWindow::SaveSecurity() {
+    parts_.security->CommitCellEdit();
+    Trace(kSaveProcedure, "Security");
+    if (!parts_.security->Validate_Security()) {
+        return;
+    }
+    parts_.security->Save_Security();
+    WriteUserTable();
+    parts_.state.gbChanged = false;
+    parts_.security->DisableSaveButton();
+}
+
+void MainWindow::SaveUnits() {
+    Trace(kSaveProcedure, "Units");
+    if (!parts_.units->ValidateUnits()) {
+        return;
+    }
+    parts_.units->Write_Units();
+    parts_.form.ChangeFlag = false;
+    parts_.units->DisableSaveButton();
+}
+
+bool MainWindow::Form_Unload() {
+    const auto& state = parts_.state;
+    const bool unload = state.gbRulesMode      ? UnloadRules()
+                        : state.gbSecurityMode ? UnloadSecurity()
+                        : state.gbUnitsMode    ? UnloadUnits()
+                                               : true;
+    if (!unload) {
+        return false;
+    }
+    if (parts_.placement != nullptr) {
+        parts_.placement->RemoveMinSizeHook();
+        parts_.placement->SaveWindowPlacement();
+    }
+    Trace("Form_Unload", "Unloaded");
+    return true;
+}
+
+bool MainWindow::WantsToSave() {
+    return parts_.world.dialogs.AskYesNo("Do you Wish to Save your Changes?", "Save Changes?",
+                                         Escape::IsIgnored);
+}
+
+bool MainWindow::UnloadRules() {
+    Trace("Form_Unload", "Rules");
+    if (parts_.form.ChangeFlag && WantsToSave()) {
+        // Unlike the other two editors, nothing is checked here, which is meant.
+        parts_.rules.Write_Rules_File();
+    }
+    return true;
+}
+
+bool MainWindow::UnloadSecurity() {
+    Trace("Form_Unload", "Security");
+    if (parts_.state.gbChanged && WantsToSave()) {
+        if (!parts_.security->Validate_Security()) {
+            return false;
+        }
+        parts_.security->Save_Security();
+        WriteUserTable();
+    }
+    return true;
+}
+
+bool MainWindow::UnloadUnits() {
+    Trace("Form_Unload", "Units");
+    if (parts_.form.ChangeFlag && WantsToSave()) {
+        if (!parts_.units->ValidateUnits()) {
+            return false;
+        }
+        parts_.units->Write_Units();
+    }
+    return true;
+}
+
+void MainWindow::WriteUserTable() {
+    if (parts_.security->GridRows() > 1) {
+        parts_.security->Write_Security();
+        parts_.security->WriteDBIndex();
+    } else {
+        RecycleUserTable();
+    }
+}
+
+/// The two files under the system directory go, even when the table that is edited lies in another folder:
+/// meant.
+void MainWindow::RecycleUserTable() {
+    RecycleIfThere("ZYSECURE.DBF");
+    RecycleIfThere("ZYSECURE.ndx");
+}
+
+void MainWindow::RecycleIfThere(std::string_view name) {
+    const std::string path = parts_.state.gsSystemDir + std::string(name);
+    if (parts_.world.files.Exists(path)) {
+        RecycleFile(parts_.world.recycleBin, path);
+    }
+}
+
+} // namespace zy

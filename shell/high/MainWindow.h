@@ -1,0 +1,86 @@
+#pragma once
+
+#include <string_view>
+
+#include "platform/World.h"
+#include "shell/Editors.h"
+#include "shell/MainMenu.h"
+#include "shell/SettingsForm.h"
+#include "shell/SharedState.h"
+#include "shell/TraceChannel.h"
+
+// The high part of the shell is what calls the editors: start-up, the main window's commands and its closing.
+// It builds one Program from everything below it.
+
+namespace zy {
+
+class mRules;
+class RulesPage;
+
+/// `frmGlobalSettings`: which page is shown, the menu, Save, Exit, and the question before closing.
+class MainWindow {
+  public:
+    /// The editors and helpers it works with. A missing editor has no page; a missing placement is never
+    /// stored.
+    struct Parts {
+        SettingsForm& form;
+        SharedState& state;
+        TraceChannel& trace;
+        World world;
+        mRules& rules;
+        RulesPage& rulesPage;
+        SecurityEditor* security = nullptr;
+        UnitsEditor* units = nullptr;
+        WindowPlacement* placement = nullptr;
+    };
+
+    explicit MainWindow(const Parts& parts);
+
+    /// Loads the window when it is not loaded yet: its load handler runs once.
+    void Load();
+    bool IsLoaded() const { return loaded_; }
+    /// Shows one editor's page and fills it.
+    void ShowRules();
+    void ShowSecurity();
+    void ShowUnits();
+    /// Brings the loaded window to the screen.
+    void Show();
+
+    /// Asks before leaving without saving and unloads on Yes. No entry or button calls it.
+    void ConfirmExit();
+    /// Closes the window after asking about unsaved changes. False when a failed check keeps it open.
+    bool Unload();
+
+    void Form_Load();
+    void Form_Resize();
+    /// False cancels the closing.
+    bool Form_Unload();
+    void mnuSave_Click();
+    void mnuExit_Click();
+
+    SettingsForm& Form() { return parts_.form; }
+
+    MainMenu menu;
+    /// The window is gone; the program ends.
+    Event<> unloaded;
+
+  private:
+    void ShowFrame(const Frame& frame);
+    void Trace(std::string_view procedure, std::string_view message);
+    bool WantsToSave();
+
+    void SaveRules();
+    void SaveSecurity();
+    void SaveUnits();
+    bool UnloadRules();
+    bool UnloadSecurity();
+    bool UnloadUnits();
+    void WriteUserTable();
+    void RecycleUserTable();
+    void RecycleIfThere(std::string_view name);
+
+    Parts parts_;
+    bool loaded_ = false;
+};
+
+} // namespace zy

@@ -1,0 +1,13 @@
+#include "shell/Program.h"
+
+namespace zy {
+
+Program::Program(const World& outside) : Program(outside, Options()) {}
+
+Program::Program(const World& outside, const Options& given)
+    : world(outside), trace(world.traceServers, world.system.ExecutableName()), rules(world, trace),
+      rulesPage(rules, form, state, trace, world), options(given),
+      window({form, state, trace, world, rules, rulesPage, options.security, options.units,
+              options.placement}) {}
+
+} // namespace zy

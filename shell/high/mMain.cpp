@@ -1,0 +1,93 @@
+#include "shell/mMain.h"
+
+#include <string>
+
+#include "security/SecurityFileLocation.h"
+#include "shell/Program.h"
+#include "shell/Utilities.h"
+
+namespace zy {
+namespace {
+
+constexpr std::string_view kModule = "mZYGlobal";
+constexpr std::string_view kProcedure = "mMain";
+
+void ComputePaths(Program& program) {
+    const std::string systemDir = GetSystemDir(program.world.system);
+    auto& state = program.state;
+    state.gsRulesFile = systemDir + "ZYRules.sys";
+    // In every mode, and before gsSystemDir is set: the look-up asks for the system directory itself.
+    state.gsSecurityFile = SecurityFileLocation(program.world, program.trace);
+    state.gsUnitsFile = systemDir + "ZYUNITS.SYS";
+    state.gsSystemDir = systemDir;
+}
+
+StartUp StartRules(Program& program) {
+    program.trace.DebugTrace(kModule, kProcedure, "Rules Mode Started");
+    program.rules.Build_Rules_Array();
+    program.window.ShowRules();
+    program.state.gbRulesMode = true;
+    program.state.gbSecurityMode = false;
+    program.state.gbUnitsMode = false;
+    program.state.gbChanged = false;
+    program.rulesPage.ResizeRuleTab();
+    program.window.Show();
+    return StartUp::WindowShown;
+}
+
+StartUp StartSecurity(Program& program) {
+    auto* security = program.options.security;
+    if (security == nullptr || !security->LoadSecurityData()) {
+        return StartUp::Ended;
+    }
+    program.trace.DebugTrace(kModule, kProcedure, "Security Mode Started");
+    program.window.ShowSecurity();
+    program.state.gbRulesMode = false;
+    program.state.gbSecurityMode = true;
+    program.state.gbUnitsMode = false;
+    security->ResizeSecurity();
+    program.window.Show();
+    return StartUp::WindowShown;
+}
+
+StartUp StartUnits(Program& program) {
+    auto* units = program.options.units;
+    if (units == nullptr) {
+        return StartUp::Ended;
+    }
+    program.trace.DebugTrace(kModule, kProcedure, "Units Mode Started");
+    program.window.ShowUnits();
+    program.state.gbRulesMode = false;
+    program.state.gbSecurityMode = false;
+    program.state.gbUnitsMode = true;
+    units->ResizeUnits();
+    program.window.Show();
+    return StartUp::WindowShown;
+}
+
+} // namespace
+
+StartUp mMain(Program& program) {
+    program.trace.DebugTrace(kModule, kProcedure, "ZYGlobal Start");
+    ComputePaths(program);
+    if (program.options.placement != nullptr) {
+        program.options.placement->RestoreWindowPlacement();
+    }
+
+    // Upper case first, then the cut at NUL. Nothing is trimmed, so a blank behind the keyword makes it
+    // unknown.
+    const std::string upper = program.world.codePage.UCase(program.world.system.CommandLine());
+    const std::string_view argument = StripAtNull(upper);
+    if (argument == "@RULES") {
+        return StartRules(program);
+    }
+    if (argument == "@SECURITY") {
+        return StartSecurity(program);
+    }
+    if (argument == "@UNITS") {
+        return StartUnits(program);
+    }
+    return StartUp::Ended;
+}
+
+} // namespace zy

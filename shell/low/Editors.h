@@ -1,0 +1,55 @@
+#pragma once
+
+namespace zy {
+
+// What the main window asks of the editors that it does not know more closely.
+
+/// The users editor.
+class SecurityEditor {
+  public:
+    virtual ~SecurityEditor() = default;
+
+    /// Reads the user table and asks for the login. True when the editor may open.
+    virtual bool LoadSecurityData() = 0;
+    /// Fills the users grid.
+    virtual void LoadSecurity() = 0;
+    virtual void ResizeSecurity() = 0;
+    /// Takes over the text of a cell that is being edited; nothing when none is.
+    virtual void CommitCellEdit() = 0;
+    virtual bool Validate_Security() = 0;
+    /// Copies the grid into the user list.
+    virtual void Save_Security() = 0;
+    virtual void Write_Security() = 0;
+    virtual void WriteDBIndex() = 0;
+    /// The rows of the users grid, the header's included.
+    virtual int GridRows() const = 0;
+    virtual void DisableSaveButton() = 0;
+};
+
+/// The editor of the units of measure.
+class UnitsEditor {
+  public:
+    virtual ~UnitsEditor() = default;
+
+    /// Reads the units file into the grid.
+    virtual void LoadUnitsData() = 0;
+    virtual void ResizeUnits() = 0;
+    virtual bool ValidateUnits() = 0;
+    virtual void Write_Units() = 0;
+    virtual void DisableSaveButton() = 0;
+};
+
+/// The main window's place on the screen and its minimum size.
+class WindowPlacement {
+  public:
+    virtual ~WindowPlacement() = default;
+
+    /// Opens the window where it was left; nothing when no place is stored. May load the window.
+    virtual void RestoreWindowPlacement() = 0;
+    virtual void SaveWindowPlacement() = 0;
+    /// Puts the window procedure that bounds the size in place of the window's own, and back.
+    virtual void InstallMinSizeHook() = 0;
+    virtual void RemoveMinSizeHook() = 0;
+};
+
+} // namespace zy

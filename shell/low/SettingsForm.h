@@ -1,0 +1,29 @@
+#pragma once
+
+#include "basics/Bool16.h"
+#include "basics/Int16.h"
+#include "controls/Form.h"
+#include "controls/StatusBar.h"
+
+namespace zy {
+
+/// `frmGlobalSettings` as far as the editors know it: the window with one frame for each of them, the status
+/// bar and the mark of unsaved changes. What the window itself does is MainWindow's.
+class SettingsForm : public Form {
+  public:
+    SettingsForm();
+
+    /// Unsaved changes on the rules or the units page.
+    Bool16 ChangeFlag;
+    /// The minimum size that the registry holds, in twips. Read and kept, but the window is bounded by fixed
+    /// numbers.
+    Int16 MinWidth;
+    Int16 MinHeight;
+
+    Frame fraRules;
+    Frame fraSecurity;
+    Frame FraUnits;
+    StatusBar zyStatusBar;
+};
+
+} // namespace zy

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/FileSystem.h"
+#include "platform/SystemInfo.h"
+
+namespace zy {
+
+/// The system directory, cut at its first NUL, with "\" appended, also when it ends in one already.
+std::string GetSystemDir(SystemInfo& system);
+
+/// The text up to its first NUL; the whole text when it holds none.
+std::string_view StripAtNull(std::string_view text);
+
+/// The part of a path behind its last "\"; the whole path when it holds none.
+std::string_view FileNameOf(std::string_view path);
+/// The part of a path up to and with its last "\"; empty when it holds none.
+std::string_view FolderOf(std::string_view path);
+
+/// Reads up to `count` bytes from the handle's position. Shorter at the end of the file or when reading
+/// fails.
+std::string ReadFileText(FileHandle& file, std::uint32_t count);
+
+/// The fields of a line, counted from 1.
+class Fields {
+  public:
+    explicit Fields(std::vector<std::string> fields) : fields_(std::move(fields)) {}
+
+    std::int32_t Count() const { return static_cast<std::int32_t>(fields_.size()); }
+    /// Run-time error 9 when there is no such field.
+    const std::string& operator[](std::int32_t field) const;
+
+  private:
+    std::vector<std::string> fields_;
+};
+
+/// Splits a line at every TAB when it holds one, else at every comma, and passes each piece through Unquote.
+/// Quotes do not protect a separator. An empty line has one empty field.
+Fields SplitFields(std::string_view line);
+
+/// Takes one pair of enclosing double quotes off, then trims blanks. A quote behind a blank encloses nothing,
+/// which is meant: the quotes are looked for first.
+std::string Unquote(std::string_view field);
+
+} // namespace zy

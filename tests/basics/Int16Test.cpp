@@ -1,0 +1,68 @@
+#include "basics/Int16.h"
+
+#include <gtest/gtest.h>
+
+#include "basics/RuntimeError.h"
+
+namespace zy {
+namespace {
+
+template <typename Action>
+int ErrorNumber(const Action& action) {
+    try {
+        action();
+    } catch (const RuntimeError& error) {
+        return error.Number();
+    }
+    return 0;
+}
+
+TEST(Int16, HoldsEveryValueOfSixteenBits) {
+    EXPECT_EQ(Int16(32767), 32767);
+    EXPECT_EQ(Int16(-32768), -32768);
+    EXPECT_EQ(Int16(std::size_t{32767}), 32767);
+    EXPECT_EQ(Int16(std::int64_t{-32768}), -32768);
+}
+
+TEST(Int16, RaisesOverflowOutsideSixteenBits) {
+    EXPECT_EQ(ErrorNumber([] { Int16(32768); }), 6);
+    EXPECT_EQ(ErrorNumber([] { Int16(-32769); }), 6);
+    EXPECT_EQ(ErrorNumber([] { Int16(std::size_t{32768}); }), 6);
+    EXPECT_EQ(ErrorNumber([] { Int16(std::size_t{0x10000}); }), 6);
+    EXPECT_EQ(ErrorNumber([] { Int16(std::int64_t{0x100000000}); }), 6);
+}
+
+TEST(Int16, RefusesToCountBeyondItsEnds) {
+    Int16 counter = 32767;
+    EXPECT_EQ(ErrorNumber([&] { ++counter; }), 6);
+    EXPECT_EQ(counter, 32767);
+    counter = -32768;
+    EXPECT_EQ(ErrorNumber([&] { --counter; }), 6);
+    EXPECT_EQ(counter, -32768);
+}
+
+TEST(Int16, CountsUpAndDown) {
+    Int16 counter = 1;
+    EXPECT_EQ(++counter, 2);
+    EXPECT_EQ(--counter, 1);
+}
+
+TEST(Int16, ReadsAWholeNumberFromText) {
+    EXPECT_EQ(Int16::FromText("12"), 12);
+    EXPECT_EQ(Int16::FromText(" -1 "), -1);
+    EXPECT_EQ(Int16::FromText("32767"), 32767);
+}
+
+TEST(Int16, RaisesTypeMismatchForATextThatIsNoNumber) {
+    for (const char* text : {"", " ", "one", "1x", "1.5", "--1"}) {
+        EXPECT_EQ(ErrorNumber([&] { Int16::FromText(text); }), 13) << text;
+    }
+}
+
+TEST(Int16, RaisesOverflowForANumberInTextThatIsTooLarge) {
+    EXPECT_EQ(ErrorNumber([] { Int16::FromText("32768"); }), 6);
+    EXPECT_EQ(ErrorNumber([] { Int16::FromText("99999999999999999999999"); }), 6);
+}
+
+} // namespace
+} // namespace zy
