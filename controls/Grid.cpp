@@ -29,7 +29,7 @@ void Grid::SetRows(int rows) {
     CloseEditor();
     cells_.resize(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns_));
     KeepCurrentInside();
-    rowsChanged.Raise();
+    TellRowsChanged();
 }
 
 void Grid::AddItem(std::string_view tabJoinedCells) {
@@ -38,7 +38,7 @@ void Grid::AddItem(std::string_view tabJoinedCells) {
         cells_.emplace_back(tabJoinedCells.substr(0, tab));
         tabJoinedCells.remove_prefix(tab == std::string_view::npos ? tabJoinedCells.size() : tab + 1);
     }
-    rowsChanged.Raise();
+    TellRowsChanged();
 }
 
 void Grid::RemoveItem(int row) {
@@ -46,7 +46,18 @@ void Grid::RemoveItem(int row) {
     const auto first = cells_.begin() + static_cast<std::ptrdiff_t>(Index(row, 0));
     cells_.erase(first, first + columns_);
     KeepCurrentInside();
-    rowsChanged.Raise();
+    TellRowsChanged();
+}
+
+void Grid::TellRowsChanged() {
+    if (redraw_) {
+        rowsChanged.Raise();
+    }
+}
+
+void Grid::SetRedraw(bool on) {
+    redraw_ = on;
+    TellRowsChanged();
 }
 
 void Grid::KeepCurrentInside() {

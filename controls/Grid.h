@@ -33,6 +33,8 @@ class Grid : public Control {
     /// Appends a row whose cells are joined by TAB.
     void AddItem(std::string_view tabJoinedCells);
     void RemoveItem(int row);
+    /// While off, `rowsChanged` is held back; switching on raises it, once. For filling a grid row by row.
+    void SetRedraw(bool on);
     const std::string& Text(int row, int column) const { return cells_[Index(row, column)]; }
     void SetText(int row, int column, std::string_view text);
 
@@ -119,6 +121,7 @@ class Grid : public Control {
     std::size_t Index(int row, int column) const;
     void SetCurrent(Cell cell);
     void KeepCurrentInside();
+    void TellRowsChanged();
     void OpenWith(std::string_view text, bool selectAll);
     void CloseEditor();
     bool PressInEditor(const KeyPress& press);
@@ -135,6 +138,7 @@ class Grid : public Control {
     Cell current_;
     Cell blockEnd_;
     bool growsByPaste_ = false;
+    bool redraw_ = true;
 
     bool editing_ = false;
     std::string editList_;

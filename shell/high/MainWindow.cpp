@@ -156,6 +156,7 @@ void MainWindow::SaveSecurity() {
 }
 
 void MainWindow::SaveUnits() {
+    parts_.units->CommitCellEdit();
     Trace(kSaveProcedure, "Units");
     if (!parts_.units->ValidateUnits()) {
         return;
@@ -197,6 +198,7 @@ bool MainWindow::UnloadRules() {
 }
 
 bool MainWindow::UnloadSecurity() {
+    parts_.security->CommitCellEdit();
     Trace("Form_Unload", "Security");
     if (parts_.state.gbChanged && WantsToSave()) {
         if (!parts_.security->Validate_Security()) {
@@ -209,6 +211,7 @@ bool MainWindow::UnloadSecurity() {
 }
 
 bool MainWindow::UnloadUnits() {
+    parts_.units->CommitCellEdit();
     Trace("Form_Unload", "Units");
     if (parts_.form.ChangeFlag && WantsToSave()) {
         if (!parts_.units->ValidateUnits()) {

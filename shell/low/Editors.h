@@ -2,7 +2,7 @@
 
 namespace zy {
 
-// What the main window asks of the editors that it does not know more closely.
+// What the main window asks of the editors that it does not know more closely. They implement it.
 
 /// The users editor.
 class SecurityEditor {
@@ -34,6 +34,8 @@ class UnitsEditor {
     /// Reads the units file into the grid.
     virtual void LoadUnitsData() = 0;
     virtual void ResizeUnits() = 0;
+    /// Takes over the text of a cell that is being edited; nothing when none is.
+    virtual void CommitCellEdit() = 0;
     virtual bool ValidateUnits() = 0;
     virtual void Write_Units() = 0;
     virtual void DisableSaveButton() = 0;

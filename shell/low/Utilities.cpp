@@ -1,5 +1,7 @@
 #include "shell/Utilities.h"
 
+#include <algorithm>
+
 #include "basics/RuntimeError.h"
 #include "basics/Text.h"
 
@@ -31,29 +33,34 @@ std::string ReadFileText(FileHandle& file, std::uint32_t count) {
     return text;
 }
 
-const std::string& Fields::operator[](std::int32_t field) const {
-    if (field < 1 || field > Count()) {
-        RaiseSubscriptOutOfRange();
-    }
-    return fields_[static_cast<std::size_t>(field - 1)];
-}
-
-Fields SplitFields(std::string_view line) {
-    const char separator = Contains(line, '\t') ? '\t' : ',';
-    std::vector<std::string> fields;
-    for (auto end = line.find(separator); end != std::string_view::npos; end = line.find(separator)) {
-        fields.push_back(Unquote(line.substr(0, end)));
-        line.remove_prefix(end + 1);
-    }
-    fields.push_back(Unquote(line));
-    return Fields(std::move(fields));
-}
-
-std::string Unquote(std::string_view field) {
+std::string_view Unquote(std::string_view field) {
     if (!field.empty() && field.front() == '"' && field.back() == '"') {
         field = field.size() < 2 ? std::string_view{} : field.substr(1, field.size() - 2);
     }
-    return std::string(Trim(field));
+    return Trim(field);
+}
+
+std::int32_t Fields::Count() const {
+    return static_cast<std::int32_t>(std::count(line_.begin(), line_.end(), separator_)) + 1;
+}
+
+std::string_view Fields::operator[](std::int32_t field) const {
+    if (field < 1) {
+        RaiseSubscriptOutOfRange();
+    }
+    auto rest = line_;
+    for (; field > 1; --field) {
+        const auto separator = rest.find(separator_);
+        if (separator == std::string_view::npos) {
+            RaiseSubscriptOutOfRange();
+        }
+        rest.remove_prefix(separator + 1);
+    }
+    return Unquote(rest.substr(0, rest.find(separator_)));
+}
+
+Fields SplitFields(std::string_view line) {
+    return {line, Contains(line, '\t') ? '\t' : ','};
 }
 
 } // namespace zy

@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "platform/FileSystem.h"
 #include "platform/SystemInfo.h"
@@ -25,25 +24,27 @@ std::string_view FolderOf(std::string_view path);
 /// fails.
 std::string ReadFileText(FileHandle& file, std::uint32_t count);
 
-/// The fields of a line, counted from 1.
-class Fields {
-  public:
-    explicit Fields(std::vector<std::string> fields) : fields_(std::move(fields)) {}
-
-    std::int32_t Count() const { return static_cast<std::int32_t>(fields_.size()); }
-    /// Run-time error 9 when there is no such field.
-    const std::string& operator[](std::int32_t field) const;
-
-  private:
-    std::vector<std::string> fields_;
-};
-
-/// Splits a line at every TAB when it holds one, else at every comma, and passes each piece through Unquote.
-/// Quotes do not protect a separator. An empty line has one empty field.
-Fields SplitFields(std::string_view line);
-
 /// Takes one pair of enclosing double quotes off, then trims blanks. A quote behind a blank encloses nothing,
 /// which is meant: the quotes are looked for first.
-std::string Unquote(std::string_view field);
+std::string_view Unquote(std::string_view field);
+
+/// The fields of a line, counted from 1, each unquoted. They refer to the line and are looked up when asked
+/// for.
+class Fields {
+  public:
+    Fields(std::string_view line, char separator) : line_(line), separator_(separator) {}
+
+    std::int32_t Count() const;
+    /// Run-time error 9 when there is no such field.
+    std::string_view operator[](std::int32_t field) const;
+
+  private:
+    std::string_view line_;
+    char separator_;
+};
+
+/// Splits a line at every TAB when it holds one, else at every comma. Quotes do not protect a separator. An
+/// empty line has one empty field.
+Fields SplitFields(std::string_view line);
 
 } // namespace zy

@@ -10,7 +10,7 @@ std::vector<std::string> Split(std::string_view line) {
     const Fields fields = SplitFields(line);
     std::vector<std::string> result;
     for (std::int32_t field = 1; field <= fields.Count(); ++field) {
-        result.push_back(fields[field]);
+        result.emplace_back(fields[field]);
     }
     return result;
 }

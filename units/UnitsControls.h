@@ -1,0 +1,25 @@
+#pragma once
+
+#include "controls/CommandButton.h"
+#include "controls/Grid.h"
+#include "controls/UpDown.h"
+
+namespace zy {
+
+/// The columns of the units grid.
+enum UnitsColumn { kUnit = 0, kUnitDescription = 1, kUnitsColumns = 2 };
+
+/// The controls of the units page, in tab order.
+struct UnitsControls {
+    explicit UnitsControls(Frame& fraUnits);
+
+    UpDown UpDownUnits;
+    Grid grdUnits;
+    Frame fraUnitFunction;
+    CommandButton cmdAddUNit; // spelled so throughout
+    CommandButton cmdDeleteUnit;
+    CommandButton cmdSaveUnits;
+    CommandButton cmdHelpUnits;
+};
+
+} // namespace zy

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "platform/World.h"
+#include "shell/Editors.h"
+#include "shell/SettingsForm.h"
+#include "units/mUnits.h"
+
+namespace zy {
+
+/// The units page: its controls and their handlers.
+class UnitsPage : public UnitsEditor {
+  public:
+    UnitsPage(SettingsForm& form, SharedState& state, TraceChannel& trace, const World& world);
+
+    /// Marks the list as changed and lets it be saved.
+    void MarkUnitsChanged();
+
+    void cmdAddUNit_Click();
+    void cmdDeleteUnit_Click();
+    void cmdSaveUnits_Click();
+    void UpDownUnits_UpClick();
+    void UpDownUnits_DownClick();
+    /// Ctrl with 0, 2 or 3 types a degree sign, a superscript two or three into a unit.
+    void grdUnits_KeyDownEdit(const KeyPress& press);
+    /// Tab at the grid's last cell goes on to the Add button, Shift+Tab at its first to the Help button.
+    void grdUnits_KeyDown(const KeyPress& press, bool& handled);
+
+    // UnitsEditor
+    void LoadUnitsData() override;
+    void ResizeUnits() override;
+    void CommitCellEdit() override { controls.grdUnits.CommitEdit(); }
+    bool ValidateUnits() override { return units_.ValidateUnits(); }
+    void Write_Units() override { units_.Write_Units(); }
+    void DisableSaveButton() override { controls.cmdSaveUnits.SetEnabled(false); }
+
+    UnitsControls controls;
+
+  private:
+    void Connect();
+    void Trace(std::string_view procedure, std::string_view message);
+    void DeleteCurrentRow();
+    void SwapWith(int neighbour);
+    void ShowCount();
+
+    SettingsForm& form_;
+    TraceChannel& trace_;
+    World world_;
+    mUnits units_;
+};
+
+} // namespace zy

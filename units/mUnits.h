@@ -1,0 +1,58 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "controls/Event.h"
+#include "platform/World.h"
+#include "shell/SharedState.h"
+#include "shell/TraceChannel.h"
+#include "units/UnitsControls.h"
+
+// The units editor: the units file and the checks (mUnits), and the page with its grid and handlers
+// (UnitsPage). The rows of the grid are the only copy of the list. It calls the low part of the shell and
+// what lies below that.
+
+namespace zy {
+
+/// The units file: one unit a line, its description first, then a comma, then the unit. The grid shows them
+/// the other way round, which is meant.
+class mUnits {
+  public:
+    mUnits(UnitsControls& controls, SharedState& state, TraceChannel& trace, const World& world);
+
+    /// Empties the grid and fills it from the units file. Without a file the list is empty and can be saved
+    /// at once.
+    ///
+    /// A line without a second field is run-time error 9, more than 32,767 lines are run-time error 6. What
+    /// stands behind the last line end is not read.
+    void LoadUnitsData();
+
+    /// Puts a file with the rows of the grid in place of the units file. The old file goes first; whatever
+    /// fails then is told by `reported` alone.
+    void Write_Units();
+
+    /// Checks every row and shows the first failure. The current cell does not move to it.
+    bool ValidateUnits();
+    bool Validate_Unit(std::string_view unit);
+    bool Validate_Desc(std::string_view description);
+
+    /// Short texts for the status bar: how a save ended.
+    Event<const std::string&> reported;
+
+  private:
+    void ResetGrid();
+    std::string ReadUnitsFile();
+    void AppendRows(std::string_view text);
+    std::string UnitsText() const;
+    bool Refuse(std::string_view message);
+    void Start(std::string_view procedure);
+    void Report(FileError error);
+
+    UnitsControls& controls_;
+    SharedState& state_;
+    TraceChannel& trace_;
+    World world_;
+};
+
+} // namespace zy
