@@ -4,54 +4,59 @@
 #include <string>
 #include <utility>
 
-#include "basics/Int16.h"
 #include "basics/RuntimeError.h"
-#include "shell/Utilities.h"
+#include "ini/Words.h"
 
 namespace zy {
 namespace {
 
-constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::size_t kLineEndSize = 2;
 /// Positions in a line are 16-bit.
 constexpr std::ptrdiff_t kLongestLine = std::numeric_limits<std::int16_t>::max();
 
-// A file is taken apart in place, each character looked at once. Every scan below ends at a CR LF at the
-// latest, so the text must have one ahead.
+// The text of a file is taken apart in place, each character looked at once. Every search ends at a CR LF.
+
+constexpr unsigned char kBeyondBreaks = '\r' + 1;
 
 bool IsLineEnd(const char* at) {
     return at[0] == '\r' && at[1] == '\n';
 }
 
-bool IsBreak(char c) {
-    return c == '\t' || c == '\r' || c == '\n';
+/// A CR, LF or TAB that ends no line counts as a blank.
+bool IsStrayBreak(const char* at) {
+    return *at == '\t' || *at == '\n' || (*at == '\r' && at[1] != '\n');
 }
 
-/// Moves past blanks, and past breaks that count as blanks.
 char* SkipBlanks(char* at) {
-    while (*at == ' ' || (IsBreak(*at) && !IsLineEnd(at))) {
+    while (static_cast<unsigned char>(*at) <= ' ' && (*at == ' ' || IsStrayBreak(at))) {
         ++at;
     }
     return at;
 }
 
-char* BackOverBlanks(const char* first, char* end) {
-    while (end != first && end[-1] == ' ') {
+std::string_view TrimmedBehind(const char* begin, const char* end) {
+    while (end != begin && end[-1] == ' ') {
         --end;
     }
-    return end;
+    return {begin, static_cast<std::size_t>(end - begin)};
 }
 
-/// Moves the rest of a line up to `to`, breaks made blanks. Sets `from` to the line's end and returns the end
-/// of what was moved.
-char* MoveRestOfLine(char*& from, char* to) {
-    for (; *from > '\r' || *from < '\t' || !IsLineEnd(from); ++from) {
-        *to++ = IsBreak(*from) ? ' ' : *from;
+/// Makes blanks of the stray breaks up to the line's end, and returns that.
+[[gnu::noinline]] char* SkipValue(char* at) {
+    for (;; ++at) {
+        auto low = words::MarkBelow(words::Load(at), kBeyondBreaks);
+        while (low == 0) {
+            at += sizeof(words::Word);
+            low = words::MarkBelow(words::Load(at), kBeyondBreaks);
+        }
+        at += words::First(low);
+        if (IsLineEnd(at)) {
+            return at;
+        }
+        if (IsStrayBreak(at)) {
+            *at = ' ';
+        }
     }
-    return to;
-}
-
-std::size_t Distance(const char* from, const char* to) {
-    return static_cast<std::size_t>(to - from);
 }
 
 } // namespace
@@ -60,7 +65,8 @@ INIfile::INIfile(FileSystem& files, const CodePage& codePage, TraceChannel& trac
     : files_(files), trace_(trace), codePage_(codePage) {
     for (std::size_t c = 0; c < capitals_.size(); ++c) {
         const char character = static_cast<char>(c);
-        capitals_[c] = IsBreak(character) || character == '=' ? '\0' : codePage.Upper(character);
+        const bool stop = character == '\t' || character == '\r' || character == '\n' || character == '=' ;
+        capitals_[c] = stop ? 0 : static_cast<unsigned char>(codePage.Upper(character));
     }
 }
 
@@ -71,6 +77,46 @@ const std::shared_ptr<zy::INIlines>& INIfile::INIlines() {
     return lines_;
 }
 
+/// Makes a key out of a text: capitals, and blanks for breaks. Stops at an "=" and at the line's end.
+inline char* INIfile::ToCapitals(char* start) const {
+    auto* at = reinterpret_cast<unsigned char*>(start);
+    const auto* const table = capitals_.data();
+    for (;; ++at) {
+        for (unsigned char capital = table[*at]; capital != 0; capital = table[*at]) {
+            *at++ = capital;
+        }
+        char* stop = reinterpret_cast<char*>(at);
+        if (*at == '=' || IsLineEnd(stop)) {
+            return stop;
+        }
+        if (*at != 0) {
+            *at = ' ';
+        }
+    }
+}
+
+inline INIfile::ParsedLine INIfile::ParseLine(char* line) const {
+    char* const first = SkipBlanks(line);
+    char* end = ToCapitals(first);
+    std::string_view key(first, 0);
+    std::string_view value = key;
+    if (*first == '[') {
+        while (*end == '=') {
+            end = ToCapitals(end + 1);
+        }
+        key = TrimmedBehind(first, end);
+    } else if (*end == '=') {
+        key = TrimmedBehind(first, end);
+        char* const from = SkipBlanks(end + 1);
+        end = SkipValue(from);
+        value = TrimmedBehind(from, end);
+    }
+    if (end - line > kLongestLine) {
+        RaiseOverflow();
+    }
+    return {.key = key, .value = value, .end = end};
+}
+
 void INIfile::LoadFile(std::string_view Filename) {
     auto& lines = *INIlines();
     lines.Clear();
@@ -78,21 +124,22 @@ void INIfile::LoadFile(std::string_view Filename) {
     if (!opened.handle) {
         return;
     }
-    auto& text = lines.Keep(ReadFileText(*opened.handle, static_cast<std::uint32_t>(opened.handle->Size())));
-    const auto last = text.rfind(kLineEnd);
-    if (last == std::string::npos) {
-        return;
-    }
-    std::string_view group(text.data(), 0);
-    for (char* line = text.data(); line <= text.data() + last;) {
+    const auto& text = lines.Keep(FileText(*opened.handle));
+    std::string_view group(text.Begin(), 0);
+    const char* const textEnd = text.End();
+    for (char* line = text.Begin();;) {
         const auto parsed = ParseLine(line);
-        if (!parsed.key.empty()) {
-            if (parsed.key.front() == '[') {
-                group = parsed.key;
-            }
-            lines.Add({.group = group, .section = parsed.key, .valueLength = parsed.valueLength});
+        if (parsed.end >= textEnd) {
+            return;
         }
-        line = parsed.end + kLineEnd.size();
+        line = parsed.end + kLineEndSize;
+        if (parsed.key.empty()) {
+            continue;
+        }
+        if (parsed.key.front() == '[') {
+            group = parsed.key;
+        }
+        lines.Add({.group = group, .section = parsed.key, .value = parsed.value});
     }
 }
 
@@ -109,42 +156,6 @@ void INIfile::SaveFile(std::string_view Filename) {
     created.handle->Write(text);
     created.handle->Flush();
     created.handle->Close();
-}
-
-INIfile::ParsedLine INIfile::ParseLine(char* line) const {
-    char* const first = SkipBlanks(line);
-    const bool isHeader = *first == '[';
-    char* end = ToCapitals(first);
-    while (isHeader && *end == '=') {
-        end = ToCapitals(end + 1);
-    }
-    const bool isTaken = isHeader || *end == '=';
-    char* const keyEnd = BackOverBlanks(first, end);
-    char* valueEnd = keyEnd;
-    if (*end == '=') {
-        end = SkipBlanks(end + 1);
-        valueEnd = BackOverBlanks(keyEnd, MoveRestOfLine(end, keyEnd));
-    }
-    if (end - line > kLongestLine) {
-        RaiseOverflow();
-    }
-    return {.key = {first, isTaken ? Distance(first, keyEnd) : 0},
-            .valueLength = Distance(keyEnd, valueEnd),
-            .end = end};
-}
-
-/// Makes a key out of a text: capitals, and blanks for breaks. Stops at an "=" and at the line's end.
-char* INIfile::ToCapitals(char* at) const {
-    for (;; ++at) {
-        const char capital = capitals_[static_cast<unsigned char>(*at)];
-        if (capital != '\0') {
-            *at = capital;
-        } else if (*at == '=' || IsLineEnd(at)) {
-            return at;
-        } else if (*at != '\0') {
-            *at = ' ';
-        }
-    }
 }
 
 } // namespace zy

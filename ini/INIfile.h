@@ -1,7 +1,7 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
+#include <array>
 #include <memory>
 #include <string_view>
 
@@ -57,11 +57,11 @@ class INIfile {
     void SaveFile(std::string_view Filename);
 
   private:
-    /// A line cut out of the text of a file. The value stands directly behind the key.
+    /// What a line of a loaded file holds.
     struct ParsedLine {
-        std::string_view key; ///< empty when the line is none to be taken
-        std::size_t valueLength = 0;
-        char* end = nullptr; ///< the line's CR LF
+        std::string_view key; ///< empty when the line is not taken
+        std::string_view value;
+        char* end;
     };
 
     ParsedLine ParseLine(char* line) const;
@@ -71,8 +71,7 @@ class INIfile {
     FileSystem& files_;
     TraceChannel& trace_;
     const CodePage& codePage_;
-    /// The capital of each character that needs nothing else done in a key, and 0 for those that do.
-    std::array<char, 256> capitals_{};
+    std::array<unsigned char, 256> capitals_{};
     std::shared_ptr<zy::INIlines> lines_;
     INIformat format_;
 };

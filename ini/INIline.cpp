@@ -1,47 +1,13 @@
 #include "ini/INIline.h"
 
-#include <algorithm>
-#include <memory>
 #include <utility>
 
-#include "basics/RuntimeError.h"
-
 namespace zy {
-namespace {
-
-constexpr std::size_t kLongestText = 0x7FFFFFFF;
-
-std::uint32_t Length(std::string_view text) {
-    if (text.size() > kLongestText) {
-        throw RuntimeError(14, "Out of string space");
-    }
-    return static_cast<std::uint32_t>(text.size());
-}
-
-} // namespace
 
 INIline::INIline(std::string_view group, std::string_view section, std::string_view value) {
-    at_.groupDistance = Length(group);
-    at_.groupLength = Length(group);
-    at_.sectionLength = Length(section);
-    at_.valueLength = Length(value) & kLongestText;
-    auto texts = std::make_unique_for_overwrite<char[]>(group.size() + section.size() + value.size());
-    char* const key = std::copy(group.begin(), group.end(), texts.get());
-    std::copy(value.begin(), value.end(), std::copy(section.begin(), section.end(), key));
-    at_.section = key;
-    at_.isOwn = 1;
-    texts.release();
+    at_.own = new OwnTexts{std::string(group), std::string(section), std::string(value)};
+    at_.isOwn = true;
 }
-
-INIline::INIline(const INIplaces& places) {
-    at_.section = places.section.data();
-    at_.groupDistance = static_cast<std::uint32_t>(places.section.data() - places.group.data());
-    at_.groupLength = static_cast<std::uint32_t>(places.group.size());
-    at_.sectionLength = static_cast<std::uint32_t>(places.section.size());
-    at_.valueLength = static_cast<std::uint32_t>(places.valueLength) & kLongestText;
-}
-
-INIline::INIline(const INIline& other) : INIline(other.Group(), other.Section(), other.Value()) {}
 
 INIline::INIline(INIline&& other) noexcept : at_(std::exchange(other.at_, {})) {}
 
@@ -51,21 +17,28 @@ INIline& INIline::operator=(INIline other) noexcept {
 }
 
 INIline::~INIline() {
-    if (at_.isOwn != 0) {
-        delete[](at_.section - at_.groupDistance);
+    if (at_.isOwn) {
+        delete at_.own;
     }
 }
 
-void INIline::Group(std::string_view text) {
-    *this = INIline(text, Section(), Value());
+std::string_view INIline::Group() const {
+    return at_.isOwn ? at_.own->group : std::string_view(at_.section - at_.groupDistance, at_.groupLength);
 }
 
-void INIline::Section(std::string_view text) {
-    *this = INIline(Group(), text, Value());
+std::string_view INIline::Section() const {
+    return at_.isOwn ? at_.own->section : std::string_view(at_.section, at_.sectionLength);
 }
 
-void INIline::Value(std::string_view text) {
-    *this = INIline(Group(), Section(), text);
+std::string_view INIline::Value() const {
+    return at_.isOwn ? at_.own->value : std::string_view(at_.section + at_.valueDistance, at_.valueLength);
+}
+
+INIline::OwnTexts& INIline::Own() {
+    if (!at_.isOwn) {
+        *this = INIline(*this);
+    }
+    return *at_.own;
 }
 
 } // namespace zy

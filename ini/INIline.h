@@ -1,16 +1,17 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace zy {
 
-/// Where the texts of a line stand in the text of a loaded file: the header somewhere before the key, or the
-/// key itself, and the value directly behind the key.
+/// The texts of a line, as they stand in the text of a loaded file: the group is the section itself or stands
+/// before it, the value stands behind it. None is longer than a line can be, 32,767 characters.
 struct INIplaces {
     std::string_view group;
     std::string_view section;
-    std::size_t valueLength = 0;
+    std::string_view value;
 };
 
 /// One line of a settings file: the header it stands under, its key and its value. The three texts are kept
@@ -18,45 +19,64 @@ struct INIplaces {
 ///
 /// A line of a loaded file refers to the text that its collection keeps, until one of its texts is set; any
 /// other line holds its texts itself, and so does every copy. What a getter returns is valid until a text of
-/// the line is set or the line goes away. A text of 2 GB or more is run-time error 14.
+/// the line is set or the line goes away.
 class INIline {
   public:
     INIline() = default;
     INIline(std::string_view group, std::string_view section, std::string_view value);
-    /// A line that refers to a text, which must outlive it.
+    /// A line that refers to the text of a file, which must outlive it.
     explicit INIline(const INIplaces& places);
 
-    INIline(const INIline& other);
+    INIline(const INIline& other) : INIline(other.Group(), other.Section(), other.Value()) {}
     INIline(INIline&& other) noexcept;
     INIline& operator=(INIline other) noexcept;
     ~INIline();
 
     /// The header, such as "[SETTINGS]"; empty before the first one.
-    std::string_view Group() const { return {at_.section - at_.groupDistance, at_.groupLength}; }
-    void Group(std::string_view text);
+    std::string_view Group() const;
+    void Group(std::string_view text) { Own().group = text; }
 
     /// The key; for a header line, the header itself.
-    std::string_view Section() const { return {at_.section, at_.sectionLength}; }
-    void Section(std::string_view text);
+    std::string_view Section() const;
+    void Section(std::string_view text) { Own().section = text; }
 
     /// The text behind the "="; empty for a header line.
-    std::string_view Value() const { return {at_.section + at_.sectionLength, at_.valueLength}; }
-    void Value(std::string_view text);
+    std::string_view Value() const;
+    void Value(std::string_view text) { Own().value = text; }
 
   private:
-    /// Kept this small because a file can have very many lines: the key's place, with the value directly
-    /// behind it and the header a distance before it. In memory of the line's own the header stands directly
-    /// before the key.
-    struct Places {
-        const char* section = "";
-        std::uint32_t groupDistance = 0;
-        std::uint32_t groupLength = 0;
-        std::uint32_t sectionLength = 0;
-        std::uint32_t valueLength : 31 = 0;
-        std::uint32_t isOwn : 1 = 0;
+    struct OwnTexts {
+        std::string group;
+        std::string section;
+        std::string value;
     };
+
+    /// Where the texts are. Kept this small because a file can have very many lines.
+    struct Places {
+        union {
+            const char* section = ""; ///< in the text of a file
+            OwnTexts* own;            ///< when the line holds its texts itself
+        };
+        std::uint16_t sectionLength = 0;
+        std::uint16_t groupLength = 0;
+        std::uint32_t groupDistance = 0; ///< from the group to the section
+        std::uint16_t valueDistance = 0; ///< from the section to the value
+        std::uint16_t valueLength = 0;
+        bool isOwn = false;
+    };
+
+    OwnTexts& Own();
 
     Places at_;
 };
+
+inline INIline::INIline(const INIplaces& places) {
+    at_.section = places.section.data();
+    at_.groupDistance = static_cast<std::uint32_t>(places.section.data() - places.group.data());
+    at_.groupLength = static_cast<std::uint16_t>(places.group.size());
+    at_.sectionLength = static_cast<std::uint16_t>(places.section.size());
+    at_.valueDistance = static_cast<std::uint16_t>(places.value.data() - places.section.data());
+    at_.valueLength = static_cast<std::uint16_t>(places.value.size());
+}
 
 } // namespace zy

@@ -23,7 +23,7 @@ void INIlines::Remove(std::int32_t index) {
     lines_.erase(Found(index));
 }
 
-std::string& INIlines::Keep(std::string text) {
+const FileText& INIlines::Keep(FileText text) {
     // The lines first: they refer to the text.
     std::deque<INIline>().swap(lines_);
     text_ = std::move(text);

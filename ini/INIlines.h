@@ -3,10 +3,10 @@
 #include <cstdint>
 #include <deque>
 #include <ranges>
-#include <string>
 #include <string_view>
 
 #include "basics/Int16.h"
+#include "ini/FileText.h"
 #include "ini/INIline.h"
 
 namespace zy {
@@ -42,14 +42,14 @@ class INIlines {
 
     /// Drops all lines and keeps the text of a file in their place, for lines that refer to it. Returns the
     /// text as it is kept.
-    std::string& Keep(std::string text);
+    const FileText& Keep(FileText text);
     /// Appends a line that refers to the text kept.
     void Add(const INIplaces& places) { lines_.emplace_back(places); }
 
   private:
     std::deque<INIline>::iterator Found(std::int32_t index);
 
-    std::string text_;
+    FileText text_;
     std::deque<INIline> lines_;
 };
 

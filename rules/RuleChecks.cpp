@@ -138,7 +138,7 @@ int RuleChecks::FailingColumn(const Grid& grid, int row, const CodeCounts& count
 bool RuleChecks::Validate_RulesGRid(Grid& grid) {
     Start("Validate_RulesGRid");
     const auto counts = CountCodes();
-    for (Int16 row = 1; row < grid.Rows(); ++row) {
+    for (int row = 1; row < grid.Rows(); ++row) {
         const int column = FailingColumn(grid, row, counts);
         if (column != -1) {
             grid.Select(row, column);

@@ -8,8 +8,8 @@ namespace {
 constexpr int kNarrow = 900;
 
 std::vector<ListView::Column> ListColumns() {
-    return {{"Rule ID", kNarrow}, {"Min", kNarrow},  {"Max", kNarrow},
-            {"Cond", kNarrow},    {"Zone", kNarrow}, {"Description", 4000}};
+    return {{"Rule ID", 1050}, {"Min", kNarrow},  {"Max", kNarrow},
+            {"Cond", kNarrow}, {"Zone", kNarrow}, {"Description", 4000}};
 }
 
 // "Less than" has its two blanks on purpose.

@@ -1,10 +1,13 @@
 #include "rules/RulesReader.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <span>
 #include <string>
 #include <string_view>
+
+#include "rules/mRules.h"
 
 namespace zy {
 namespace {
@@ -41,6 +44,8 @@ std::string_view WithoutIndent(std::string_view text) {
     return text;
 }
 
+constexpr std::string_view kHeader = "[RULE]";
+
 struct Property {
     std::string_view key;
     std::string RunRule::*member;
@@ -55,16 +60,53 @@ constexpr std::array<Property, 8> kProperties{{{"CODE", &RunRule::Code},
                                                {"DESC2", &RunRule::Desc2},
                                                {"DESC3", &RunRule::Desc3}}};
 
+/// What stands in front of a value where the program has written the line. It is as long for every property.
+using Front = std::array<char, 18>;
+
+std::array<Front, kProperties.size()> FrontsAsWritten() {
+    std::array<Front, kProperties.size()> fronts{};
+    for (std::size_t i = 0; i < fronts.size(); ++i) {
+        FormatRuleLine(kProperties[i].key, "").copy(fronts[i].data(), fronts[i].size());
+    }
+    return fronts;
+}
+
+bool StartsWith(std::string_view line, const Front& front) {
+    return line.size() >= front.size() && std::memcmp(line.data(), front.data(), front.size()) == 0;
+}
+
+/// The line without a byte-order mark, which only the first one can have.
+std::string_view WithoutByteOrderMark(std::string_view line) {
+    constexpr std::string_view kMark = "\xEF\xBB\xBF";
+    return line.starts_with(kMark) ? line.substr(kMark.size()) : line;
+}
+
 /// Takes the lines of a rules file one by one.
 class RulesParser {
   public:
     explicit RulesParser(std::deque<RunRule>& rules) : rules_(rules) {}
 
+    /// Nearly all lines stand as the program writes them; only the others are taken apart.
     void Line(std::string_view line) {
-        if (!line.empty() && line.back() == '\r') {
+        if (line.ends_with('\r')) {
             line.remove_suffix(1);
         }
-        const auto text = WithoutIndent(line);
+        if (rule_ != nullptr && StartsWith(line, fronts_[next_])) {
+            line.remove_prefix(fronts_[next_].size());
+            rule_->*Next().member = line;
+        } else if (line == kHeader) {
+            StartRule();
+        } else {
+            OtherLine(line);
+        }
+    }
+
+    std::size_t Skipped() const { return skipped_; }
+
+  private:
+    void OtherLine(std::string_view line) {
+        const auto text = WithoutIndent(first_ ? WithoutByteOrderMark(line) : line);
+        first_ = false;
         if (text.empty()) {
             return;
         }
@@ -72,11 +114,17 @@ class RulesParser {
         skipped_ += taken ? 0 : 1;
     }
 
-    std::size_t Skipped() const { return skipped_; }
+    void StartRule() {
+        rule_ = &rules_.emplace_back();
+        next_ = 0;
+        first_ = false;
+    }
 
-  private:
     bool Header(std::string_view text) {
-        rule_ = EqualsIgnoringCase(text, "[RULE]") ? &rules_.emplace_back() : nullptr;
+        rule_ = nullptr;
+        if (EqualsIgnoringCase(text, kHeader)) {
+            StartRule();
+        }
         return rule_ != nullptr;
     }
 
@@ -100,8 +148,7 @@ class RulesParser {
     /// The keys mostly come in the order of the table, so the search starts behind the last one found.
     const Property* Find(std::string_view key) {
         for (std::size_t tried = 0; tried < kProperties.size(); ++tried) {
-            const auto& property = kProperties[next_];
-            next_ = (next_ + 1) % kProperties.size();
+            const auto& property = Next();
             if (EqualsIgnoringCase(key, property.key)) {
                 return &property;
             }
@@ -109,8 +156,16 @@ class RulesParser {
         return nullptr;
     }
 
+    const Property& Next() {
+        const auto& property = kProperties[next_];
+        next_ = (next_ + 1) % kProperties.size();
+        return property;
+    }
+
+    const std::array<Front, kProperties.size()> fronts_ = FrontsAsWritten();
     std::deque<RunRule>& rules_;
     RunRule* rule_ = nullptr;
+    bool first_ = true; ///< no line was taken yet
     std::size_t next_ = 0;
     std::size_t skipped_ = 0;
 };
@@ -119,73 +174,75 @@ class RulesParser {
 /// file.
 class LineCutter {
   public:
-    explicit LineCutter(FileHandle& file) : file_(file), buffer_(kBlockSize, '\0') {}
+    LineCutter(FileHandle& file, std::uint64_t size)
+        : file_(file), buffer_(std::min<std::uint64_t>(size + 1, kBlockSize), '\0') {}
 
-    /// Hands every line to `take`, without its LF; also a last line that has none. Returns the number of
-    /// bytes read.
-    template <typename Take>
-    std::uint64_t ForEachLine(const Take& take) {
-        while (Fill()) {
-            while (const auto* end = FindLineEnd()) {
-                const auto length = static_cast<std::size_t>(end - (buffer_.data() + start_));
-                take(std::string_view(buffer_.data() + start_, length));
-                start_ += length + 1;
-                searched_ = start_;
+    /// Takes the next line, without its LF; also a last one that has none. False behind the last one. The
+    /// line stands until the next call.
+    bool Next(std::string_view& line) {
+        auto end = Held().find('\n', start_);
+        while (end == std::string_view::npos) {
+            const auto searched = filled_ - start_;
+            if (!Fill()) {
+                return Rest(line);
             }
+            end = Held().find('\n', searched);
         }
-        if (start_ < filled_) {
-            take(std::string_view(buffer_.data() + start_, filled_ - start_));
-        }
-        return total_;
+        line = Held().substr(start_, end - start_);
+        start_ = end + 1;
+        return true;
     }
+
+    /// The number of bytes read so far.
+    std::uint64_t BytesRead() const { return total_; }
 
   private:
-    const char* FindLineEnd() {
-        const void* found = std::memchr(buffer_.data() + searched_, '\n', filled_ - searched_);
-        searched_ = filled_;
-        return static_cast<const char*>(found);
+    std::string_view Held() const { return {buffer_.data(), filled_}; }
+
+    bool Rest(std::string_view& line) {
+        line = Held().substr(start_);
+        start_ = filled_;
+        return !line.empty();
     }
 
-    /// Moves the line in hand to the front and reads behind it. False at the end of the file.
+    /// Moves the line in hand to the front and reads behind it. False at the end of the file, which a read
+    /// that failed is taken for: what comes behind it would be joined to the wrong line.
     bool Fill() {
+        if (ended_) {
+            return false;
+        }
         std::memmove(buffer_.data(), buffer_.data() + start_, filled_ - start_);
         filled_ -= start_;
         start_ = 0;
-        searched_ = filled_;
         if (filled_ == buffer_.size()) {
             buffer_.resize(buffer_.size() * 2);
         }
         const auto read = file_.Read(std::span(buffer_).subspan(filled_));
         filled_ += read;
         total_ += read;
-        return read != 0;
+        ended_ = read == 0;
+        return !ended_;
     }
 
     FileHandle& file_;
     std::string buffer_;
     std::size_t start_ = 0;
-    std::size_t searched_ = 0;
     std::size_t filled_ = 0;
     std::uint64_t total_ = 0;
+    bool ended_ = false;
 };
-
-/// The line without a byte-order mark, which only the first one can have.
-std::string_view WithoutByteOrderMark(std::string_view line) {
-    constexpr std::string_view kMark = "\xEF\xBB\xBF";
-    return line.starts_with(kMark) ? line.substr(kMark.size()) : line;
-}
 
 } // namespace
 
 RulesReadReport ReadRules(FileHandle& file, std::deque<RunRule>& rules) {
     RulesParser parser(rules);
-    bool first = true;
     const auto size = file.Size();
-    const auto read = LineCutter(file).ForEachLine([&](std::string_view line) {
-        parser.Line(first ? WithoutByteOrderMark(line) : line);
-        first = false;
-    });
-    return {read >= size, parser.Skipped()};
+    LineCutter lines(file, size);
+    std::string_view line;
+    while (lines.Next(line)) {
+        parser.Line(line);
+    }
+    return {lines.BytesRead() >= size, parser.Skipped()};
 }
 
 } // namespace zy

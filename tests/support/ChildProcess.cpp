@@ -5,6 +5,7 @@
 #include <sys/prctl.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <system_error>
@@ -34,12 +35,10 @@ std::array<int, 2> MakePipe() {
 }
 
 pid_t Start(const std::vector<std::string>& arguments, int output, int errors) {
-    std::vector<std::string> copies = arguments;
-    std::vector<char*> pointers;
-    for (auto& copy : copies) {
-        pointers.push_back(copy.data());
-    }
-    pointers.push_back(nullptr);
+    auto copies = arguments;
+    std::vector<char*> pointers(copies.size() + 1, nullptr);
+    std::transform(copies.begin(), copies.end(), pointers.begin(),
+                   [](std::string& copy) { return copy.data(); });
     const pid_t process = ::fork();
     if (process < 0) {
         throw std::system_error(errno, std::generic_category(), "fork");

@@ -11,6 +11,21 @@ namespace zy::test {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+/// Folders that a test has locked could otherwise not be removed.
+void Unlock(const fs::path& folder) {
+    std::error_code ignored;
+    fs::permissions(folder, fs::perms::owner_all, fs::perm_options::add, ignored);
+    for (const auto& entry : fs::directory_iterator(folder, ignored)) {
+        if (entry.is_directory(ignored) && !entry.is_symlink(ignored)) {
+            Unlock(entry.path());
+        }
+    }
+}
+
+} // namespace
+
 TemporaryFolder::TemporaryFolder() : TemporaryFolder(fs::temp_directory_path()) {}
 
 TemporaryFolder::TemporaryFolder(const fs::path& below) {
@@ -22,6 +37,7 @@ TemporaryFolder::TemporaryFolder(const fs::path& below) {
 }
 
 TemporaryFolder::~TemporaryFolder() {
+    Unlock(path_);
     std::error_code ignored;
     fs::remove_all(path_, ignored);
 }

@@ -1,0 +1,27 @@
+#include "desktop/Desktop.h"
+#include "desktop/MainWindowView.h"
+#include "platform/posix/PosixWorld.h"
+#include "shell/Program.h"
+#include "shell/mMain.h"
+
+// The whole program, from the outside in: the operating system and the desktop that it runs on, the program itself,
+// and the window that shows it. Start-up, mMain, finds out from the command line which editor the window opens with;
+// from then on the window's events drive everything.
+
+int main(int argc, char** argv) {
+    zy::PosixWorld system(argc, argv);
+    zy::Desktop desktop(system.codePage);
+
+    return desktop.Run([&] {
+        zy::Program program(system.Get(desktop.MessageBoxes()));
+        const zy::MainWindowView view(desktop, program.window);
+
+        switch (zy::mMain(program)) {
+        case zy::StartUp::WindowShown:
+            return desktop.RunUntilClosed();
+        case zy::StartUp::Ended:
+            return 0;
+        }
+        return 0;
+    });
+}

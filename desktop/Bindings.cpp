@@ -1,0 +1,70 @@
+#include "desktop/Bindings.h"
+
+#include <stdexcept>
+#include <string>
+
+#include "desktop/ComboBoxBinding.h"
+#include "desktop/CommandButtonBinding.h"
+#include "desktop/FrameBinding.h"
+#include "desktop/LabelBinding.h"
+#include "desktop/ListViewBinding.h"
+#include "desktop/StatusBarBinding.h"
+#include "desktop/TextBoxBinding.h"
+#include "desktop/UpDownBinding.h"
+
+namespace zy {
+namespace {
+
+using Made = std::unique_ptr<ControlBinding>;
+
+/// Makes the binding when the control is of that kind and none has been made.
+template <typename Kind, typename Binding>
+void MakeIfKind(Made& made, const ViewContext& context, const Inside& inside, Control& control) {
+    if (auto* model = made ? nullptr : dynamic_cast<Kind*>(&control)) {
+        made = std::make_unique<Binding>(context, inside, *model);
+    }
+}
+
+Made MakeBinding(const ViewContext& context, const Inside& inside, Control& control) {
+    Made made;
+    MakeIfKind<TextBox, TextBoxBinding>(made, context, inside, control);
+    MakeIfKind<ComboBox, ComboBoxBinding>(made, context, inside, control);
+    MakeIfKind<ListView, ListViewBinding>(made, context, inside, control);
+    MakeIfKind<CommandButton, CommandButtonBinding>(made, context, inside, control);
+    MakeIfKind<UpDown, UpDownBinding>(made, context, inside, control);
+    MakeIfKind<Label, LabelBinding>(made, context, inside, control);
+    MakeIfKind<Frame, FrameBinding>(made, context, inside, control);
+    MakeIfKind<StatusBar, StatusBarBinding>(made, context, inside, control);
+    if (!made) {
+        throw std::logic_error("No real control for " + control.Name());
+    }
+    return made;
+}
+
+Label* FindLabelOf(const Container& container, const Control& control) {
+    for (auto* child : container.Children()) {
+        auto* label = dynamic_cast<Label*>(child);
+        if (label != nullptr && &label->Buddy() == &control) {
+            return label;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+Bindings BindChildren(const ViewContext& context, const Inside& inside, const Container& container) {
+    Bindings bindings;
+    for (auto* child : container.Children()) {
+        if (dynamic_cast<Label*>(child) != nullptr) {
+            continue;
+        }
+        if (auto* label = FindLabelOf(container, *child)) {
+            bindings.push_back(MakeBinding(context, inside, *label));
+        }
+        bindings.push_back(MakeBinding(context, inside, *child));
+    }
+    return bindings;
+}
+
+} // namespace zy

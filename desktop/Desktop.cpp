@@ -1,0 +1,56 @@
+#include "desktop/Desktop.h"
+
+#include <iostream>
+#include <string>
+
+#include "basics/RuntimeError.h"
+#include "shell/Application.h"
+
+namespace zy {
+
+Desktop::Desktop(const CodePage& codePage)
+    : codePage_(codePage), dialogs_(codePage, gate_, [this] { StartToolkit(); }) {}
+
+void Desktop::StartToolkit() {
+    if (!toolkit_) {
+        toolkit_.emplace();
+    }
+}
+
+int Desktop::Run(const std::function<int()>& program) {
+    try {
+        return program();
+    } catch (...) {
+        return Report(std::current_exception());
+    }
+}
+
+int Desktop::RunUntilClosed() {
+    // The error is reported here, while the window that it came from is still there.
+    return Run([this] {
+        toolkit_->RunLoop();
+        gate_.Rethrow();
+        return 0;
+    });
+}
+
+int Desktop::Report(const std::exception_ptr& error) {
+    try {
+        std::rethrow_exception(error);
+    } catch (const RuntimeError& runtimeError) {
+        ShowError(runtimeError.BoxText());
+    } catch (const std::exception& other) {
+        ShowError(other.what());
+    }
+    return 1;
+}
+
+void Desktop::ShowError(std::string_view text) {
+    try {
+        dialogs_.ShowMessage(text, kApplicationTitle);
+    } catch (const NoDisplay&) {
+        std::cerr << kApplicationTitle << ": " << codePage_.ToUtf8(text) << std::endl;
+    }
+}
+
+} // namespace zy

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <exception>
+#include <functional>
+#include <optional>
+
+#include "desktop/DesktopDialogs.h"
+#include "desktop/EventGate.h"
+#include "desktop/Toolkit.h"
+#include "platform/CodePage.h"
+
+namespace zy {
+
+/// The user's desktop: message boxes, windows and the event loop. The toolkit starts when the first of them is needed,
+/// so that a program that shows nothing needs no display.
+class Desktop {
+  public:
+    explicit Desktop(const CodePage& codePage);
+
+    Dialogs& MessageBoxes() { return dialogs_; }
+
+    /// Runs the program and returns the exit status: what the program returns, or 1 when an error that nothing
+    /// inside has caught was shown.
+    int Run(const std::function<int()>& program);
+    /// Runs the event loop until Close. Returns the exit status as Run does.
+    int RunUntilClosed();
+    void Close() { toolkit_->EndLoop(); }
+
+    /// Throws NoDisplay when there is none.
+    void StartToolkit();
+    EventGate& Gate() { return gate_; }
+    const CodePage& TextCodePage() const { return codePage_; }
+
+  private:
+    int Report(const std::exception_ptr& error);
+    void ShowError(std::string_view text);
+
+    const CodePage& codePage_;
+    EventGate gate_;
+    DesktopDialogs dialogs_;
+    std::optional<Toolkit> toolkit_;
+};
+
+} // namespace zy

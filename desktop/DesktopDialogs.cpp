@@ -1,0 +1,37 @@
+#include "desktop/DesktopDialogs.h"
+
+#include <wx/app.h>
+#include <wx/msgdlg.h>
+
+#include <utility>
+
+#include "desktop/ShownText.h"
+
+namespace zy {
+
+DesktopDialogs::DesktopDialogs(const CodePage& codePage, EventGate& gate, std::function<void()> startToolkit)
+    : codePage_(codePage), gate_(gate), startToolkit_(std::move(startToolkit)) {}
+
+void DesktopDialogs::ShowMessage(std::string_view text, std::string_view title) {
+    Show(text, title, wxOK);
+}
+
+bool DesktopDialogs::AskYesNo(std::string_view text, std::string_view title, Escape escape) {
+    int answer = wxID_CANCEL;
+    do {
+        answer = Show(text, title, wxYES_NO | wxYES_DEFAULT);
+    } while (answer == wxID_CANCEL && escape == Escape::IsIgnored);
+    return answer == wxID_YES;
+}
+
+int DesktopDialogs::Show(std::string_view text, std::string_view title, long buttons) {
+    startToolkit_();
+    gate_.PrepareForBox();
+    wxMessageDialog box(wxTheApp->GetTopWindow(), ToShown(codePage_, text), ToShown(codePage_, title),
+                        buttons | wxICON_NONE);
+    const int answer = box.ShowModal();
+    gate_.Rethrow();
+    return answer;
+}
+
+} // namespace zy

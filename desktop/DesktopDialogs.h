@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+
+#include "desktop/EventGate.h"
+#include "platform/CodePage.h"
+#include "platform/Dialogs.h"
+
+namespace zy {
+
+/// The toolkit's own message boxes.
+class DesktopDialogs final : public Dialogs {
+  public:
+    /// `startToolkit` is called before every box.
+    DesktopDialogs(const CodePage& codePage, EventGate& gate, std::function<void()> startToolkit);
+
+    void ShowMessage(std::string_view text, std::string_view title) override;
+    bool AskYesNo(std::string_view text, std::string_view title, Escape escape) override;
+
+  private:
+    int Show(std::string_view text, std::string_view title, long buttons);
+
+    const CodePage& codePage_;
+    EventGate& gate_;
+    std::function<void()> startToolkit_;
+};
+
+} // namespace zy

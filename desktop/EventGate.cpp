@@ -1,0 +1,88 @@
+#include "desktop/EventGate.h"
+
+#include <wx/app.h>
+
+#include <utility>
+
+namespace zy {
+
+void EventGate::Act(const std::function<void()>& action) {
+    Guard([&] {
+        if (running_ > 1 || Settle()) {
+            action();
+        }
+    });
+}
+
+void EventGate::ActLater(Step step) {
+    putOff_.push_back(std::move(step));
+    Schedule();
+}
+
+void EventGate::Tell(const std::function<void()>& news) {
+    Guard(news);
+}
+
+void EventGate::Answer(const std::function<void()>& answer) {
+    try {
+        answer();
+    } catch (...) {
+        if (!failure_) {
+            failure_ = std::current_exception();
+        }
+        wxTheApp->ExitMainLoop();
+    }
+}
+
+void EventGate::PrepareForBox() {
+    updateViews.Raise();
+    boxOpening.Raise();
+}
+
+void EventGate::Rethrow() const {
+    if (failure_) {
+        std::rethrow_exception(failure_);
+    }
+}
+
+void EventGate::Guard(const std::function<void()>& work) {
+    if (failure_) {
+        return;
+    }
+    ++running_;
+    Answer([&] {
+        work();
+        updateViews.Raise();
+    });
+    if (--running_ == 0 && !putOff_.empty()) {
+        Schedule();
+    }
+}
+
+void EventGate::RunPutOff() {
+    scheduled_ = false;
+    // While a message box is open nothing is asked: what was put off waits for its end.
+    if (running_ == 0) {
+        Act([] {});
+    }
+}
+
+bool EventGate::Settle() {
+    while (!putOff_.empty()) {
+        const Step step = std::move(putOff_.front());
+        putOff_.pop_front();
+        if (!step()) {
+            putOff_.clear();
+            return false;
+        }
+    }
+    return true;
+}
+
+void EventGate::Schedule() {
+    if (!std::exchange(scheduled_, true)) {
+        wxTheApp->CallAfter([this] { RunPutOff(); });
+    }
+}
+
+} // namespace zy

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "controls/Form.h"
+#include "desktop/ViewContext.h"
+
+namespace zy {
+
+/// The focus of one window. The model asks the control that is left, so it learns of every move of the real focus, and
+/// its answer is shown.
+class FocusBinding {
+  public:
+    FocusBinding(const ViewContext& context, Form& form, wxWindow& window);
+
+  private:
+    /// False when the control that the real focus left refused.
+    bool TakeMove();
+    void Show();
+
+    const ViewContext& context_;
+    Form& form_;
+    Subscription focusChanged_;
+};
+
+} // namespace zy

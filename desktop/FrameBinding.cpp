@@ -1,0 +1,45 @@
+#include "desktop/FrameBinding.h"
+
+#include <wx/panel.h>
+#include <wx/statbox.h>
+
+#include "desktop/Native.h"
+#include "desktop/ShownText.h"
+
+namespace zy {
+
+FrameBinding::FrameBinding(const ViewContext& context, const Inside& inside, Frame& model)
+    : ControlBinding(context, inside, model), model_(model) {
+    if (model_.Caption().empty()) {
+        content_.window = new wxPanel(Parent());
+    } else {
+        const auto caption = WithMnemonic(context.codePage, model_.Caption(), '\0');
+        box_ = new wxStaticBox(Parent(), wxID_ANY, caption);
+        content_.window = box_;
+    }
+    Attach(content_.window);
+}
+
+void FrameBinding::ShowAppearance() {
+    if (model_.Visible() && children_.empty()) {
+        MakeChildren();
+    }
+    ControlBinding::ShowAppearance();
+}
+
+void FrameBinding::MakeChildren() {
+    children_ = BindChildren(Context(), content_, model_);
+    if (box_ != nullptr && !children_.empty()) {
+        content_.origin = OriginInside(*box_);
+        Measure();
+        for (const auto& child : children_) {
+            child->ShowAppearance();
+        }
+    }
+}
+
+void FrameBinding::Measure() {
+    model_.SetPreferred({0, Context().scale.ToTwips(content_.origin.y)});
+}
+
+} // namespace zy

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <wx/defs.h>
+
+// The calls of GTK that the program makes itself. The toolkit's development package brings GTK's libraries but not its
+// headers, so these few are declared here, as GTK 3 has fixed them for good.
+
+struct _AtkObject;
+struct _GdkScreen;
+struct _GtkComboBox;
+struct _GtkTreePath;
+struct _GtkTreeView;
+struct _GtkTreeViewColumn;
+
+extern "C" {
+
+struct GtkRectangle {
+    int x, y, width, height;
+};
+struct GtkSizeNeeded {
+    int width, height;
+};
+
+void atk_object_set_name(_AtkObject* accessible, const char* name);
+_GdkScreen* gdk_screen_get_default();
+double gdk_screen_get_resolution(_GdkScreen* screen);
+void gtk_combo_box_popdown(_GtkComboBox* comboBox);
+void gtk_tree_path_free(_GtkTreePath* path);
+_GtkTreePath* gtk_tree_path_new_from_indices(int first, ...);
+void gtk_tree_view_set_cursor(_GtkTreeView* view, _GtkTreePath* path, _GtkTreeViewColumn* focusColumn, int edit);
+_AtkObject* gtk_widget_get_accessible(GtkWidget* widget);
+void gtk_widget_get_allocation(GtkWidget* widget, GtkRectangle* allocation);
+void gtk_widget_get_preferred_size(GtkWidget* widget, GtkSizeNeeded* least, GtkSizeNeeded* natural);
+void gtk_widget_size_allocate(GtkWidget* widget, GtkRectangle* allocation);
+}

@@ -1,0 +1,120 @@
+#include "desktop/ListViewBinding.h"
+
+#include <algorithm>
+
+#include "desktop/Keys.h"
+#include "desktop/Native.h"
+
+namespace zy {
+
+ListViewBinding::ListViewBinding(const ViewContext& context, const Inside& inside, ListView& model)
+    : ControlBinding(context, inside, model), model_(model),
+      list_(new wxDataViewCtrl(Parent(), wxID_ANY, wxDefaultPosition, wxDefaultSize, wxDV_SINGLE)),
+      rows_(new ListRows(context, model)) {
+    MakeColumns();
+    list_->AssociateModel(rows_.get());
+    SetAccessibleName(*list_, Shown(model_.Parent()->Caption()));
+    list_->Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, [this](wxDataViewEvent&) { TakePick(); });
+    list_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { PressKey(event); });
+    Keep(model_.refilled.Observe([this] {
+        rows_->MatchCount();
+        rowsChanged_ = true;
+    }));
+    Keep(model_.itemRemoved.Observe([this](int item) { rows_->RowDeleted(static_cast<unsigned>(item - 1)); }));
+    Keep(model_.itemChanged.Observe([this](int item) { rows_->RowChanged(static_cast<unsigned>(item - 1)); }));
+    Keep(Gate().updateViews.Observe([this] { ShowChanges(); }));
+    Attach(list_);
+}
+
+void ListViewBinding::MakeColumns() {
+    for (std::size_t i = 0; i < model_.Columns().size(); ++i) {
+        auto* renderer = new wxDataViewTextRenderer;
+        renderer->EnableEllipsize(wxELLIPSIZE_END);
+        const auto& column = model_.Columns()[i];
+        const int width = Context().scale.ToPixels(column.width);
+        list_->AppendColumn(new wxDataViewColumn(Shown(column.header), renderer, static_cast<unsigned>(i), width,
+                                                 wxALIGN_LEFT, wxDATAVIEW_COL_RESIZABLE));
+        shownWidths_.push_back(column.width);
+    }
+}
+
+void ListViewBinding::ShowAppearance() {
+    ControlBinding::ShowAppearance();
+    ShowColumnWidths();
+}
+
+void ListViewBinding::ShowColumnWidths() {
+    for (std::size_t i = 0; i < shownWidths_.size(); ++i) {
+        // A width that the person has set stays until the program sets another.
+        const int width = model_.Columns()[i].width;
+        if (shownWidths_[i] != width) {
+            shownWidths_[i] = width;
+            list_->GetColumn(static_cast<unsigned>(i))->SetWidth(Context().scale.ToPixels(width));
+        }
+    }
+}
+
+void ListViewBinding::TakePick() {
+    if (showing_) {
+        return;
+    }
+    Gate().ActLater([this, item = RealSelection()] {
+        // Without a row, as after a click with Ctrl, there is nothing to pick; the selection is shown again.
+        if (item == 0 || item > model_.Count()) {
+            return true;
+        }
+        model_.Pick(item);
+        return model_.HasFocus();
+    });
+}
+
+void ListViewBinding::PressKey(wxKeyEvent& event) {
+    const auto press = KeyPressOf(event);
+    if (press && (press->alt || press->key == Key::Delete)) {
+        Gate().Act([&] { model_.Press(*press); });
+    } else {
+        event.Skip();
+    }
+}
+
+void ListViewBinding::ShowChanges() {
+    ShowSelection();
+    if (rowsChanged_) {
+        rowsChanged_ = false;
+        ShowVisibleRows();
+    }
+}
+
+void ListViewBinding::ShowSelection() {
+    const int item = model_.Selected();
+    if (RealSelection() == item) {
+        return;
+    }
+    showing_ = true;
+    if (item == 0) {
+        list_->UnselectAll();
+    } else {
+        GoToRow(*list_, item - 1);
+    }
+    showing_ = false;
+}
+
+void ListViewBinding::ShowVisibleRows() {
+    const auto top = list_->GetTopItem();
+    if (!top.IsOk()) {
+        return;
+    }
+    const unsigned first = rows_->GetRow(top);
+    const auto perPage = static_cast<unsigned>(std::max(list_->GetCountPerPage(), 0));
+    const unsigned end = std::min(first + perPage + 2, rows_->GetCount());
+    for (unsigned row = first; row < end; ++row) {
+        rows_->RowChanged(row);
+    }
+}
+
+int ListViewBinding::RealSelection() const {
+    const auto selected = list_->GetSelection();
+    return selected.IsOk() ? static_cast<int>(rows_->GetRow(selected)) + 1 : 0;
+}
+
+} // namespace zy

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <vector>
+
+#include "controls/ListView.h"
+#include "desktop/ControlBinding.h"
+#include "desktop/ListRows.h"
+
+namespace zy {
+
+/// A list. What the program does to it is shown once, at the end of the action, so that a list that is filled anew and
+/// selected in several steps does not flicker or scroll about.
+class ListViewBinding : public ControlBinding {
+  public:
+    ListViewBinding(const ViewContext& context, const Inside& inside, ListView& model);
+
+    void ShowAppearance() override;
+
+  private:
+    void MakeColumns();
+    void ShowColumnWidths();
+    void TakePick();
+    void PressKey(wxKeyEvent& event);
+    void ShowChanges();
+    void ShowSelection();
+    void ShowVisibleRows();
+    /// The item selected in the real list; 0 when none is.
+    int RealSelection() const;
+
+    ListView& model_;
+    wxDataViewCtrl* list_;
+    wxObjectDataPtr<ListRows> rows_;
+    std::vector<int> shownWidths_;
+    bool rowsChanged_ = false;
+    bool showing_ = false; ///< the selection changes because the model's is shown
+};
+
+} // namespace zy

@@ -1,0 +1,42 @@
+#include "desktop/MainWindowView.h"
+
+#include <wx/frame.h>
+
+#include "desktop/Native.h"
+
+namespace zy {
+namespace {
+
+// The least size is fixed, whatever the registry holds.
+constexpr WindowBinding::Sizes kSizes{.first = {12000, 9600}, .least = {8800, 8400}};
+
+} // namespace
+
+MainWindowView::MainWindowView(Desktop& desktop, MainWindow& window)
+    : desktop_(desktop), window_(window),
+      appearanceChanged_(window.Form().appearanceChanged.Observe([this] { ShowOrHide(); })),
+      unloaded_(window.unloaded.Observe([this] { desktop_.Close(); })) {}
+
+void MainWindowView::ShowOrHide() {
+    if (window_.Form().Visible() && !binding_) {
+        Open();
+    } else if (binding_) {
+        binding_->Frame().Show(window_.Form().Visible());
+    }
+}
+
+void MainWindowView::Open() {
+    desktop_.StartToolkit();
+    context_.emplace(ViewContext{.codePage = desktop_.TextCodePage(),
+                                 .gate = desktop_.Gate(),
+                                 .controls = controls_,
+                                 .statusBar = window_.Form().zyStatusBar,
+                                 .scale = Scale(DotsPerInch())});
+    binding_.emplace(*context_, window_.Form(), kSizes, [this] { window_.Unload(); });
+    auto& menu = window_.menu;
+    menuBar_.emplace(*context_, binding_->Frame(), std::vector{&menu.mnuFile, &menu.mnuHelp},
+                     std::vector{Shortcut{menu.mnuSave, "Ctrl+S"}});
+    binding_->Open();
+}
+
+} // namespace zy

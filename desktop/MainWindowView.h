@@ -1,0 +1,33 @@
+#pragma once
+
+#include <optional>
+
+#include "desktop/BoundControls.h"
+#include "desktop/Desktop.h"
+#include "desktop/MenuBarBinding.h"
+#include "desktop/WindowBinding.h"
+#include "shell/MainWindow.h"
+
+namespace zy {
+
+/// The main window on the desktop. It opens when the program shows the window, and ends the event loop when the
+/// program has unloaded it.
+class MainWindowView {
+  public:
+    MainWindowView(Desktop& desktop, MainWindow& window);
+
+  private:
+    void ShowOrHide();
+    void Open();
+
+    Desktop& desktop_;
+    MainWindow& window_;
+    BoundControls controls_;
+    std::optional<ViewContext> context_;
+    std::optional<WindowBinding> binding_;
+    std::optional<MenuBarBinding> menuBar_;
+    Subscription appearanceChanged_;
+    Subscription unloaded_;
+};
+
+} // namespace zy

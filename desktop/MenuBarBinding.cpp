@@ -1,0 +1,54 @@
+#include "desktop/MenuBarBinding.h"
+
+#include <wx/frame.h>
+#include <wx/menu.h>
+
+#include <utility>
+
+#include "desktop/ShownText.h"
+
+namespace zy {
+
+MenuBarBinding::MenuBarBinding(const ViewContext& context, wxFrame& frame, const std::vector<MenuItem*>& menus,
+                               std::vector<Shortcut> shortcuts)
+    : context_(context), frame_(frame), shortcuts_(std::move(shortcuts)) {
+    auto* bar = new wxMenuBar;
+    for (const auto* menu : menus) {
+        bar->Append(MakeMenu(*menu), LabelOf(*menu));
+    }
+    frame_.SetMenuBar(bar);
+}
+
+wxMenu* MenuBarBinding::MakeMenu(const MenuItem& menu) {
+    auto* made = new wxMenu;
+    for (auto* entry : menu.Entries()) {
+        AddEntry(*made, *entry);
+    }
+    return made;
+}
+
+void MenuBarBinding::AddEntry(wxMenu& menu, MenuItem& entry) {
+    if (entry.IsSeparator()) {
+        menu.AppendSeparator();
+        return;
+    }
+    wxMenu* submenu = entry.Entries().empty() ? nullptr : MakeMenu(entry);
+    auto* item = menu.Append(new wxMenuItem(&menu, wxID_ANY, LabelOf(entry), "", wxITEM_NORMAL, submenu));
+    item->Enable(entry.Enabled());
+    subscriptions_.push_back(entry.enabledChanged.Observe([item, &entry] { item->Enable(entry.Enabled()); }));
+    frame_.Bind(
+        wxEVT_MENU, [this, &entry](wxCommandEvent&) { context_.gate.Act([&] { entry.Click(); }); },
+        item->GetId());
+}
+
+wxString MenuBarBinding::LabelOf(const MenuItem& entry) const {
+    wxString label = ToShown(context_.codePage, entry.Caption());
+    for (const auto& shortcut : shortcuts_) {
+        if (&shortcut.entry == &entry) {
+            label << "\t" << shortcut.key;
+        }
+    }
+    return label;
+}
+
+} // namespace zy

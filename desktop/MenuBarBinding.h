@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "controls/Menu.h"
+#include "desktop/ViewContext.h"
+
+class wxFrame;
+class wxMenu;
+class wxMenuItem;
+
+namespace zy {
+
+/// A menu entry that a key chooses as well, such as "Ctrl+S". The key is shown beside the caption.
+struct Shortcut {
+    const MenuItem& entry;
+    std::string key;
+};
+
+/// The menu bar of a window.
+class MenuBarBinding {
+  public:
+    MenuBarBinding(const ViewContext& context, wxFrame& frame, const std::vector<MenuItem*>& menus,
+                   std::vector<Shortcut> shortcuts);
+
+  private:
+    wxMenu* MakeMenu(const MenuItem& menu);
+    void AddEntry(wxMenu& menu, MenuItem& entry);
+    wxString LabelOf(const MenuItem& entry) const;
+
+    const ViewContext& context_;
+    wxFrame& frame_;
+    std::vector<Shortcut> shortcuts_;
+    std::vector<Subscription> subscriptions_;
+};
+
+} // namespace zy

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <wx/string.h>
+
+class wxChoice;
+class wxDataViewCtrl;
+class wxPoint;
+class wxStaticBox;
+class wxWindow;
+
+namespace zy {
+
+// What the toolkit has no call for and the window system below it does. Each system has one file of these.
+
+/// The pixels in an inch of text, as the user's settings make it.
+double DotsPerInch();
+
+/// The name by which a screen reader calls a control that shows no text of its own.
+void SetAccessibleName(wxWindow& window, const wxString& name);
+
+/// Gives a window that is not shown yet its size, down to its last control.
+void LayOutUnseen(wxWindow& window);
+
+/// Where the room for controls begins inside a box that has at least one child.
+wxPoint OriginInside(const wxStaticBox& box);
+
+/// Closes the list that has dropped down; nothing when none has.
+void CloseDropDown(const wxChoice& choice);
+
+/// Makes a row current for the keyboard and the selection, and scrolls it into view.
+void GoToRow(wxDataViewCtrl& list, int row);
+
+} // namespace zy

@@ -1,0 +1,72 @@
+#include <wx/choice.h>
+#include <wx/dataview.h>
+#include <wx/statbox.h>
+
+#include <memory>
+
+#include "desktop/GtkFunctions.h"
+#include "desktop/Native.h"
+
+namespace zy {
+namespace {
+
+constexpr double kUsualDotsPerInch = 96;
+
+struct FreePath {
+    void operator()(_GtkTreePath* path) const { gtk_tree_path_free(path); }
+};
+
+GtkRectangle AllocationOf(GtkWidget* widget) {
+    GtkRectangle allocation{};
+    gtk_widget_get_allocation(widget, &allocation);
+    return allocation;
+}
+
+/// The widget that takes the focus, and so is the one that a screen reader meets.
+GtkWidget* FocusWidgetOf(wxWindow& window) {
+    auto* list = dynamic_cast<wxDataViewCtrl*>(&window);
+    return list != nullptr ? list->GtkGetTreeView() : window.GetHandle();
+}
+
+} // namespace
+
+double DotsPerInch() {
+    const double resolution = gdk_screen_get_resolution(gdk_screen_get_default());
+    return resolution > 0 ? resolution : kUsualDotsPerInch;
+}
+
+void SetAccessibleName(wxWindow& window, const wxString& name) {
+    atk_object_set_name(gtk_widget_get_accessible(FocusWidgetOf(window)), name.utf8_str());
+}
+
+void LayOutUnseen(wxWindow& window) {
+    // A window that first appears without a size has GTK complain of menus that do not fit in.
+    GtkSizeNeeded needed{};
+    gtk_widget_get_preferred_size(window.m_widget, nullptr, &needed);
+    const wxSize given = window.GetSize();
+    GtkRectangle size{0, 0, given.x, given.y};
+    gtk_widget_size_allocate(window.m_widget, &size);
+}
+
+wxPoint OriginInside(const wxStaticBox& box) {
+    // GTK tells it only of a frame that has been given a size, whatever size that is.
+    GtkSizeNeeded needed{};
+    gtk_widget_get_preferred_size(box.m_widget, nullptr, &needed);
+    GtkRectangle size{0, 0, needed.width, needed.height};
+    gtk_widget_size_allocate(box.m_widget, &size);
+    const auto outer = AllocationOf(box.m_widget);
+    const auto inner = AllocationOf(box.m_wxwindow);
+    return {inner.x - outer.x, inner.y - outer.y};
+}
+
+void CloseDropDown(const wxChoice& choice) {
+    gtk_combo_box_popdown(reinterpret_cast<_GtkComboBox*>(choice.m_widget));
+}
+
+void GoToRow(wxDataViewCtrl& list, int row) {
+    constexpr int kEndOfIndices = -1;
+    const std::unique_ptr<_GtkTreePath, FreePath> path(gtk_tree_path_new_from_indices(row, kEndOfIndices));
+    gtk_tree_view_set_cursor(reinterpret_cast<_GtkTreeView*>(list.GtkGetTreeView()), path.get(), nullptr, 0);
+}
+
+} // namespace zy

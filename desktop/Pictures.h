@@ -1,0 +1,18 @@
+#pragma once
+
+#include <wx/bmpbndl.h>
+#include <wx/colour.h>
+#include <wx/iconbndl.h>
+
+namespace zy {
+
+// The program's own pictures, drawn for whatever size and resolution they are shown in.
+
+/// Arrows of about `size` pixels.
+wxBitmapBundle UpArrow(int size, const wxColour& colour);
+wxBitmapBundle DownArrow(int size, const wxColour& colour);
+
+/// The program's icon: a control chart with its limits.
+wxIconBundle ProgramIcon();
+
+} // namespace zy

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <wx/gdicmn.h>
+
+#include "controls/Geometry.h"
+
+namespace zy {
+
+/// Twips and the pixels of the display.
+class Scale {
+  public:
+    explicit Scale(double dotsPerInch) : pixelsPerTwip_(dotsPerInch / kTwipsPerInch) {}
+
+    /// The nearest pixel.
+    int ToPixels(int twips) const;
+    /// Places are rounded by their edges, so that neighbours stay neighbours.
+    wxRect ToPixels(const Rect& rect) const;
+    /// As many whole pixels as fit.
+    wxSize ToWholePixels(const Size& size) const;
+    /// The fewest twips that are at least so many pixels again.
+    int ToTwips(int pixels) const;
+    Size ToTwips(const wxSize& size) const;
+
+  private:
+    static constexpr double kTwipsPerInch = 1440;
+
+    double pixelsPerTwip_;
+};
+
+} // namespace zy

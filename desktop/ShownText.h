@@ -1,0 +1,33 @@
+#pragma once
+
+#include <wx/string.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/CodePage.h"
+
+namespace zy {
+
+// Text between the program, where it is in the code page, and the toolkit, where it is in Unicode. Both count the same
+// number of characters.
+
+/// The text as the toolkit shows it. A NUL, which would end the text there, is shown as its symbol, U+2400.
+wxString ToShown(const CodePage& codePage, std::string_view text);
+
+/// A text after a person's change.
+struct EditedText {
+    std::string text;
+    /// Where the changed part ends.
+    std::size_t changeEnd = 0;
+};
+
+/// What a person made of `before`, as the toolkit shows it now. In the part that is new, a line end or a TAB becomes a
+/// blank, since a text box has one line. Nothing when the new part holds a character that the code page lacks.
+std::optional<EditedText> TakeEdit(const CodePage& codePage, std::string_view before, const wxString& shown);
+
+/// A caption with "&" before its access key, as the toolkit wants it; every "&" of the caption itself is shown.
+wxString WithMnemonic(const CodePage& codePage, std::string_view caption, char accessKey);
+
+} // namespace zy

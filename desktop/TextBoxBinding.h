@@ -1,0 +1,28 @@
+#pragma once
+
+#include <wx/textctrl.h>
+
+#include "controls/TextBox.h"
+#include "desktop/ControlBinding.h"
+
+namespace zy {
+
+/// A text box. What a person enters is taken character for character or, when the code page lacks one, not at all.
+class TextBoxBinding : public ControlBinding {
+  public:
+    TextBoxBinding(const ViewContext& context, const Inside& inside, TextBox& model);
+
+  private:
+    void TakeText();
+    /// Shows the model's text; false when it is shown already.
+    bool ShowText();
+    void RememberSelection() { box_->GetSelection(&selectionStart_, &selectionEnd_); }
+
+    TextBox& model_;
+    wxTextCtrl* box_;
+    // The selection before a person's change, put back when the change is refused.
+    long selectionStart_ = 0;
+    long selectionEnd_ = 0;
+};
+
+} // namespace zy

@@ -1,0 +1,61 @@
+#include "desktop/Toolkit.h"
+
+#include <wx/app.h>
+#include <wx/init.h>
+#include <wx/log.h>
+
+#include <array>
+#include <iostream>
+
+namespace zy {
+namespace {
+
+class App : public wxApp {
+  public:
+    // The program reads its command line itself.
+    bool OnInit() override { return true; }
+
+    /// A mistake in the use of the toolkit, which goes on in spite of it.
+    void OnAssertFailure(const wxChar* file, int line, const wxChar* function, const wxChar* condition,
+                         const wxChar* message) override {
+        std::cerr << wxString::Format("%s:%d: %s: %s %s", file, line, function, condition,
+                                      message == nullptr ? L"" : message)
+                  << std::endl;
+    }
+};
+
+} // namespace
+
+NoDisplay::NoDisplay()
+    : std::runtime_error("There is no display to open a window on: start it in a desktop session, or set DISPLAY") {}
+
+Toolkit::Toolkit() {
+    static std::array<char, 9> name{"zyGlobal"};
+    std::array<char*, 2> arguments{name.data(), nullptr};
+    int count = 1;
+    wxApp::SetInstance(new App);
+    {
+        // That there is no display is told once, by the program itself.
+        const wxLogNull silence;
+        if (!wxEntryStart(count, arguments.data())) {
+            throw NoDisplay();
+        }
+    }
+    delete wxLog::SetActiveTarget(new wxLogStderr);
+    wxTheApp->SetExitOnFrameDelete(false);
+    wxTheApp->CallOnInit();
+}
+
+Toolkit::~Toolkit() {
+    wxEntryCleanup();
+}
+
+void Toolkit::RunLoop() {
+    wxTheApp->OnRun();
+}
+
+void Toolkit::EndLoop() {
+    wxTheApp->ExitMainLoop();
+}
+
+} // namespace zy

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <wx/gdicmn.h>
+
+#include "controls/StatusBar.h"
+#include "desktop/BoundControls.h"
+#include "desktop/EventGate.h"
+#include "desktop/Scale.h"
+#include "platform/CodePage.h"
+
+class wxWindow;
+
+namespace zy {
+
+/// What all bindings of one window work with.
+struct ViewContext {
+    const CodePage& codePage;
+    EventGate& gate;
+    BoundControls& controls;
+    StatusBar& statusBar; ///< tells why a character was refused
+    Scale scale;
+};
+
+/// Where the real controls of a container are made.
+struct Inside {
+    wxWindow* window = nullptr;
+    /// Where the inside begins: the model's places count from the container's own corner.
+    wxPoint origin;
+};
+
+} // namespace zy

@@ -1,0 +1,117 @@
+#include "desktop/WindowBinding.h"
+
+#include <wx/display.h>
+#include <wx/frame.h>
+#include <wx/panel.h>
+#include <wx/statusbr.h>
+
+#include <utility>
+
+#include "desktop/ControlBinding.h"
+#include "desktop/Native.h"
+#include "desktop/Pictures.h"
+#include "desktop/ShownText.h"
+
+namespace zy {
+namespace {
+
+wxSize FittingScreen(wxSize size) {
+    size.DecTo(wxDisplay().GetClientArea().GetSize());
+    return size;
+}
+
+WindowState StateOf(const wxFrame& frame) {
+    return frame.IsIconized()    ? WindowState::Minimized
+           : frame.IsMaximized() ? WindowState::Maximized
+                                 : WindowState::Normal;
+}
+
+} // namespace
+
+WindowBinding::WindowBinding(const ViewContext& context, Form& form, const Sizes& sizes,
+                             std::function<void()> close)
+    : context_(context), form_(form), frame_(new wxFrame(nullptr, wxID_ANY, "")) {
+    frame_->SetName(ToShown(context.codePage, form.Name()));
+    frame_->SetIcons(ProgramIcon());
+    inside_.window = new wxPanel(frame_);
+    children_ = BindChildren(context, inside_, form);
+    focus_ = std::make_unique<FocusBinding>(context, form, *frame_);
+    frame_->SetMinSize(context.scale.ToWholePixels(sizes.least));
+    frame_->SetSize(FittingScreen(context.scale.ToPixels({0, 0, sizes.first.width, sizes.first.height}).GetSize()));
+    ConnectFrame(std::move(close));
+    ShowAppearance();
+}
+
+WindowBinding::~WindowBinding() {
+    // The real window goes first, while everything that its last events reach is still there.
+    delete frame_;
+}
+
+void WindowBinding::ConnectFrame(std::function<void()> close) {
+    inside_.window->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+        event.Skip();
+        TellSize();
+    });
+    frame_->Bind(wxEVT_ICONIZE, [this](wxIconizeEvent& event) {
+        event.Skip();
+        TellState();
+    });
+    frame_->Bind(wxEVT_MAXIMIZE, [this](wxMaximizeEvent& event) {
+        event.Skip();
+        TellState();
+    });
+    frame_->Bind(wxEVT_CLOSE_WINDOW, [this, close = std::move(close)](wxCloseEvent& event) {
+        // The window goes when the program lets go of it, never by itself.
+        event.Veto();
+        context_.gate.Tell(close);
+    });
+    subscriptions_.push_back(form_.appearanceChanged.Observe([this] { ShowAppearance(); }));
+    subscriptions_.push_back(form_.stateChanged.Observe([this] { ShowState(); }));
+}
+
+void WindowBinding::Open() {
+    frame_->SendSizeEvent();
+    LayOutUnseen(*frame_);
+    frame_->Show();
+    if (form_.Focused() == nullptr) {
+        inside_.window->NavigateIn();
+    }
+}
+
+void WindowBinding::TellSize() {
+    context_.gate.Tell([this] {
+        form_.SetState(StateOf(*frame_));
+        wxSize size = inside_.window->GetSize();
+        size.y += frame_->GetStatusBar()->GetSize().y;
+        form_.SetInnerSize(context_.scale.ToTwips(size));
+    });
+}
+
+void WindowBinding::TellState() {
+    if (StateOf(*frame_) != form_.State()) {
+        TellSize();
+    }
+}
+
+void WindowBinding::ShowAppearance() {
+    frame_->SetTitle(ToShown(context_.codePage, form_.Caption()));
+}
+
+void WindowBinding::ShowState() {
+    if (StateOf(*frame_) == form_.State()) {
+        return;
+    }
+    switch (form_.State()) {
+    case WindowState::Normal:
+        frame_->Restore();
+        break;
+    case WindowState::Minimized:
+        frame_->Iconize();
+        break;
+    case WindowState::Maximized:
+        frame_->Maximize();
+        break;
+    }
+}
+
+} // namespace zy

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+
+#include "platform/FileSystem.h"
+#include "platform/posix/FileDescriptor.h"
+
+namespace zy {
+
+// Files by their paths in the system. Only regular files are opened, at the end of whatever symbolic links: a
+// pipe or a device is refused (Other), so that opening or reading one never waits.
+
+/// An open regular file.
+class PosixFile final : public FileHandle {
+  public:
+    explicit PosixFile(FileDescriptor file) : file_(std::move(file)) {}
+
+    std::uint64_t Size() const override;
+    std::size_t Read(std::span<char> buffer) override;
+    FileError Write(std::string_view text) override;
+    FileError Flush() override;
+    FileError Close() override;
+
+  private:
+    FileDescriptor file_;
+};
+
+enum class IfExists { Empties, Fails };
+
+OpenedFile OpenPosixFileForReading(const std::string& path);
+/// A new file gets what the user's file creation mask leaves of reading and writing for all.
+OpenedFile CreatePosixFile(const std::string& path, IfExists ifExists);
+/// Copies the permission bits and, as far as the user may, owner and group.
+FileError CopyPosixPermissions(const std::string& from, const std::string& to);
+
+} // namespace zy

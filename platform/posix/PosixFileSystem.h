@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/FileSystem.h"
+#include "platform/posix/PathResolver.h"
+
+namespace zy {
+
+/// The files of the system. A path such as "\home\u\ZYRules.sys" means the file of that name below "/", found
+/// as PathResolver says; names are created with the case given.
+///
+/// Symbolic links are followed, but Delete and Rename act on the link itself.
+class PosixFileSystem final : public FileSystem {
+  public:
+    explicit PosixFileSystem(const CodePage& codePage) : paths_(codePage) {}
+
+    bool Exists(std::string_view path) override;
+    OpenedFile OpenForReading(std::string_view path) override;
+    OpenedFile Create(std::string_view path) override;
+    FileError Delete(std::string_view path) override;
+    /// The new name stands on the disk when this returns.
+    FileError Rename(std::string_view from, std::string_view to) override;
+    /// The permission bits and, as far as the user may, owner and group.
+    FileError CopyPermissions(std::string_view from, std::string_view to) override;
+
+  private:
+    PathResolver paths_;
+};
+
+} // namespace zy

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/RecycleBin.h"
+#include "platform/posix/PathResolver.h"
+
+namespace zy {
+
+/// The desktop's trash, from which a file manager can restore files. Files on a disk that has none go into
+/// the folder "zysetup/Trash" in the folder for the user's data.
+class PosixRecycleBin final : public RecycleBin {
+  public:
+    explicit PosixRecycleBin(const CodePage& codePage) : paths_(codePage) {}
+
+    /// Goes on behind a file that does not go, such as a missing one or a folder.
+    int Delete(std::string_view nulSeparatedPaths) override;
+
+  private:
+    bool Recycle(std::string_view path) const;
+
+    PathResolver paths_;
+};
+
+} // namespace zy

@@ -1,0 +1,77 @@
+#include "platform/posix/PosixSystemInfo.h"
+
+#include <langinfo.h>
+
+#include <clocale>
+#include <filesystem>
+#include <memory>
+#include <type_traits>
+
+#include "platform/posix/UserFolders.h"
+
+namespace zy {
+namespace {
+
+struct FreeLocale {
+    void operator()(locale_t locale) const { ::freelocale(locale); }
+};
+using Locale = std::unique_ptr<std::remove_pointer_t<locale_t>, FreeLocale>;
+
+std::string AbsolutePath(const std::string& path) {
+    std::error_code error;
+    const auto absolute = std::filesystem::absolute(path, error);
+    return error ? path : absolute.string();
+}
+
+/// The path of the running program, also when its file has been replaced meanwhile, which the system marks.
+std::string ExecutablePath(const std::string& asStarted) {
+    constexpr std::string_view kReplaced = " (deleted)";
+    std::error_code error;
+    auto path = std::filesystem::read_symlink("/proc/self/exe", error).string();
+    if (path.ends_with(kReplaced)) {
+        path.resize(path.size() - kReplaced.size());
+    }
+    return error ? asStarted : path;
+}
+
+std::string MadeDataSystemFolder() {
+    const auto data = UserDataFolder();
+    if (data.empty()) {
+        return "";
+    }
+    auto folder = data + "/zysetup/system";
+    MakeFolders(folder);
+    return folder;
+}
+
+} // namespace
+
+PosixSystemInfo::PosixSystemInfo(int argumentCount, const char* const* arguments, const CodePage& codePage)
+    : codePage_(codePage), text_(codePage), arguments_(arguments, arguments + argumentCount) {}
+
+std::string PosixSystemInfo::SystemDirectory() {
+    const auto named = Environment("ZYSETUP_SYSTEM_DIR");
+    return text_.PathToInside(named.empty() ? MadeDataSystemFolder() : AbsolutePath(named));
+}
+
+std::string PosixSystemInfo::CommandLine() const {
+    std::string line;
+    for (std::size_t i = 1; i < arguments_.size(); ++i) {
+        line += (i == 1 ? "" : " ") + text_.TextToInside(arguments_[i]);
+    }
+    return line;
+}
+
+std::string PosixSystemInfo::ExecutableName() const {
+    const std::filesystem::path path = ExecutablePath(arguments_.empty() ? "" : arguments_.front());
+    return text_.TextToInside(path.stem().string());
+}
+
+char PosixSystemInfo::DecimalSeparator() const {
+    const Locale locale(::newlocale(LC_NUMERIC_MASK, "", nullptr));
+    const auto separator =
+        locale ? codePage_.FromUtf8(::nl_langinfo_l(RADIXCHAR, locale.get())) : std::nullopt;
+    return separator && separator->size() == 1 ? separator->front() : '.';
+}
+
+} // namespace zy

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/SystemInfo.h"
+#include "platform/posix/PathText.h"
+
+namespace zy {
+
+/// The system as told by the environment, the user's locale and the program's arguments.
+class PosixSystemInfo final : public SystemInfo {
+  public:
+    /// Takes a copy of the arguments of main().
+    PosixSystemInfo(int argumentCount, const char* const* arguments, const CodePage& codePage);
+
+    /// $ZYSETUP_SYSTEM_DIR, taken as it stands, when it is not empty; else "zysetup/system" in the folder for
+    /// the user's data, which is made when it is missing. For the root folder, which would end in "\", the
+    /// empty text.
+    std::string SystemDirectory() override;
+    /// The arguments, joined by one blank. A character that the code page lacks becomes 0x1A.
+    std::string CommandLine() const override;
+    std::string ExecutableName() const override;
+    /// "." when the locale is not installed or its separator is no character of the code page.
+    char DecimalSeparator() const override;
+
+  private:
+    const CodePage& codePage_;
+    PathText text_;
+    std::vector<std::string> arguments_;
+};
+
+} // namespace zy

@@ -1,0 +1,61 @@
+#include "platform/posix/UserFolders.h"
+
+#include <pwd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdlib>
+
+namespace zy {
+namespace {
+
+bool IsAbsolute(const std::string& path) {
+    return path.starts_with('/');
+}
+
+std::string HomeFromUserDatabase() {
+    constexpr std::size_t kLongestEntry = 16384;
+    std::array<char, kLongestEntry> buffer{};
+    passwd entry{};
+    passwd* found = nullptr;
+    const int error = ::getpwuid_r(::geteuid(), &entry, buffer.data(), buffer.size(), &found);
+    return error == 0 && found != nullptr ? found->pw_dir : "";
+}
+
+std::string HomeFolder() {
+    auto home = Environment("HOME");
+    return IsAbsolute(home) ? home : HomeFromUserDatabase();
+}
+
+bool IsFolder(const std::string& path) {
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+} // namespace
+
+std::string Environment(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? "" : value;
+}
+
+std::string UserDataFolder() {
+    auto data = Environment("XDG_DATA_HOME");
+    if (IsAbsolute(data)) {
+        return data;
+    }
+    const auto home = HomeFolder();
+    return IsAbsolute(home) ? home + "/.local/share" : "";
+}
+
+bool MakeFolders(const std::string& path) {
+    constexpr mode_t kForTheUserAlone = 0700;
+    for (auto end = path.find('/', 1); end != std::string::npos; end = path.find('/', end + 1)) {
+        ::mkdir(path.substr(0, end).c_str(), kForTheUserAlone);
+    }
+    ::mkdir(path.c_str(), kForTheUserAlone);
+    return IsFolder(path);
+}
+
+} // namespace zy

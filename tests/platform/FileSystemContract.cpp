@@ -1,0 +1,408 @@
+// What every FileSystem promises, whatever it stands on.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "Disk.h"
+
+namespace zy::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::Optional;
+using namespace std::string_literals;
+
+class FileSystemContract : public ::testing::TestWithParam<DiskKind> {
+  protected:
+    FileSystem& Files() { return disk->Files(); }
+
+    FileError OpenError(const std::string& path) {
+        const auto opened = Files().OpenForReading(path);
+        EXPECT_EQ(opened.handle != nullptr, opened.error == FileError::None);
+        return opened.error;
+    }
+
+    FileError CreateError(const std::string& path) {
+        const auto opened = Files().Create(path);
+        EXPECT_EQ(opened.handle != nullptr, opened.error == FileError::None);
+        return opened.error;
+    }
+
+    /// Everything that can be read of a file.
+    std::string ReadAll(const std::string& name) {
+        const auto opened = Files().OpenForReading(disk->Path(name));
+        return opened.handle ? ReadUpTo(*opened.handle, 1000) : "<cannot be opened>";
+    }
+
+    static std::string ReadUpTo(FileHandle& file, std::size_t count) {
+        std::string bytes(count, '\0');
+        bytes.resize(file.Read(bytes));
+        return bytes;
+    }
+
+    std::unique_ptr<FileHandle> Created(const std::string& name) {
+        auto opened = Files().Create(disk->Path(name));
+        EXPECT_EQ(opened.error, FileError::None);
+        return std::move(opened.handle);
+    }
+
+    std::unique_ptr<FileHandle> Opened(const std::string& name) {
+        auto opened = Files().OpenForReading(disk->Path(name));
+        EXPECT_EQ(opened.error, FileError::None);
+        return std::move(opened.handle);
+    }
+
+    std::unique_ptr<Disk> disk = GetParam().make();
+};
+
+INSTANTIATE_TEST_SUITE_P(Files, FileSystemContract, ::testing::ValuesIn(DiskKinds()),
+                         [](const auto& test) { return test.param.name; });
+
+// Finding
+
+TEST_P(FileSystemContract, FindsAFileThatExists) {
+    disk->Put("ZYRules.sys", "");
+    EXPECT_TRUE(Files().Exists(disk->Path("ZYRules.sys")));
+}
+
+TEST_P(FileSystemContract, FindsAFileWithoutRegardToCase) {
+    disk->Put("ZYRules.sys", "");
+    EXPECT_TRUE(Files().Exists(disk->Path("zyRULES.SYS")));
+}
+
+TEST_P(FileSystemContract, FindsAFolderOnTheWayWithoutRegardToCase) {
+    disk->AddFolder("Settings");
+    const auto file = Files().Create(disk->Path(R"(SETTINGS\a.sys)"));
+    ASSERT_TRUE(file.handle);
+    EXPECT_TRUE(Files().Exists(disk->Path(R"(settings\A.SYS)")));
+}
+
+TEST_P(FileSystemContract, ComparesLettersBeyondAsciiWithoutRegardToCaseToo) {
+    disk->Put("Gr\xF6\xDF\x65.sys", "x");
+    EXPECT_EQ(ReadAll("GR\xD6\xDF\x45.SYS"), "x");
+}
+
+TEST_P(FileSystemContract, DoesNotTakeOneLetterForAnother) {
+    disk->Put("\xF6.sys", "");
+    EXPECT_FALSE(Files().Exists(disk->Path("o.sys")));
+}
+
+TEST_P(FileSystemContract, DoesNotFindAMissingFile) {
+    EXPECT_FALSE(Files().Exists(disk->Path("missing.sys")));
+}
+
+TEST_P(FileSystemContract, DoesNotFindAnythingInAMissingFolder) {
+    EXPECT_FALSE(Files().Exists(disk->Path(R"(missing\a.sys)")));
+}
+
+TEST_P(FileSystemContract, DoesNotTakeAFolderForAFile) {
+    disk->AddFolder("folder");
+    EXPECT_FALSE(Files().Exists(disk->Path("folder")));
+    EXPECT_FALSE(Files().Exists(disk->Folder()));
+}
+
+TEST_P(FileSystemContract, DoesNotFindAnythingBelowAFile) {
+    disk->Put("a.sys", "");
+    EXPECT_FALSE(Files().Exists(disk->Path(R"(a.sys\b.sys)")));
+}
+
+TEST_P(FileSystemContract, FindsNothingByAPathThatIsNone) {
+    disk->Put("a.sys", "");
+    for (const auto& path : {""s, "a.sys"s, disk->Path("a.sys\0"s), disk->Path("\0"s)}) {
+        EXPECT_FALSE(Files().Exists(path)) << path;
+    }
+}
+
+TEST_P(FileSystemContract, TakesASlashForABackslash) {
+    disk->AddFolder("folder");
+    const auto file = Files().Create(disk->Path(R"(folder\a.sys)"));
+    ASSERT_TRUE(file.handle);
+    EXPECT_TRUE(Files().Exists(disk->Folder() + "/folder/a.sys"));
+}
+
+TEST_P(FileSystemContract, TakesSeveralBackslashesForOne) {
+    disk->Put("a.sys", "");
+    EXPECT_TRUE(Files().Exists(disk->Folder() + R"(\\a.sys)"));
+}
+
+// Reading
+
+TEST_P(FileSystemContract, ReadsEveryByteAsItStands) {
+    std::string bytes;
+    for (int byte = 0; byte < 256; ++byte) {
+        bytes += static_cast<char>(byte);
+    }
+    disk->Put("all.sys", bytes);
+    EXPECT_EQ(ReadAll("ALL.sys"), bytes);
+}
+
+TEST_P(FileSystemContract, TellsTheSizeOfAFile) {
+    disk->Put("a.sys", "12345");
+    EXPECT_EQ(Opened("a.sys")->Size(), 5U);
+}
+
+TEST_P(FileSystemContract, ReadsOnFromWhereItStopped) {
+    disk->Put("a.sys", "12345");
+    const auto file = Opened("a.sys");
+    EXPECT_EQ(ReadUpTo(*file, 3), "123");
+    EXPECT_EQ(ReadUpTo(*file, 3), "45");
+    EXPECT_EQ(ReadUpTo(*file, 3), "");
+}
+
+TEST_P(FileSystemContract, ReadsAnEmptyFileAsNothing) {
+    disk->Put("a.sys", "");
+    EXPECT_EQ(Opened("a.sys")->Size(), 0U);
+    EXPECT_EQ(ReadAll("a.sys"), "");
+}
+
+TEST_P(FileSystemContract, SaysWhyAFileCannotBeOpened) {
+    disk->AddFolder("folder");
+    disk->Put("a.sys", "");
+    EXPECT_EQ(OpenError(disk->Path("missing.sys")), FileError::NotFound);
+    EXPECT_EQ(OpenError(disk->Path(R"(missing\a.sys)")), FileError::NotFound);
+    EXPECT_EQ(OpenError(disk->Path(R"(a.sys\b.sys)")), FileError::NotFound);
+    EXPECT_EQ(OpenError("a.sys"), FileError::NotFound);
+    EXPECT_EQ(OpenError(disk->Path("folder")), FileError::IsFolder);
+}
+
+TEST_P(FileSystemContract, RefusesToOpenAFileThatTheUserMayNotRead) {
+    disk->Put("a.sys", "secret");
+    disk->ForbidReading("a.sys");
+    EXPECT_EQ(OpenError(disk->Path("a.sys")), FileError::AccessDenied);
+    EXPECT_TRUE(Files().Exists(disk->Path("a.sys")));
+}
+
+TEST_P(FileSystemContract, DoesNotWriteToAFileOpenedForReading) {
+    disk->Put("a.sys", "12345");
+    EXPECT_NE(Opened("a.sys")->Write("x"), FileError::None);
+    EXPECT_THAT(disk->Get("a.sys"), Optional("12345"s));
+}
+
+TEST_P(FileSystemContract, ReadsAFileThatIsOpenForReadingAlready) {
+    disk->Put("a.sys", "12345");
+    const auto first = Opened("a.sys");
+    EXPECT_EQ(ReadAll("a.sys"), "12345");
+}
+
+// Creating and writing
+
+TEST_P(FileSystemContract, CreatesAnEmptyFileOfTheNameGiven) {
+    EXPECT_EQ(Created("Rules.tmp")->Close(), FileError::None);
+    EXPECT_THAT(disk->Names(), ElementsAre("Rules.tmp"));
+    EXPECT_THAT(disk->Get("Rules.tmp"), Optional(""s));
+}
+
+TEST_P(FileSystemContract, WritesOnePieceBehindTheOther) {
+    const auto file = Created("a.sys");
+    EXPECT_EQ(file->Write("[RULE]\r\n"), FileError::None);
+    EXPECT_EQ(file->Write(""), FileError::None);
+    EXPECT_EQ(file->Write("\0\xFF"s), FileError::None);
+    EXPECT_EQ(file->Size(), 10U);
+    EXPECT_EQ(file->Flush(), FileError::None);
+    EXPECT_EQ(file->Close(), FileError::None);
+    EXPECT_THAT(disk->Get("a.sys"), Optional("[RULE]\r\n\0\xFF"s));
+}
+
+TEST_P(FileSystemContract, EmptiesAFileThatExistsAndLeavesItItsName) {
+    disk->Put("ZYRules.sys", "old and long");
+    const auto file = Created("ZYRULES.SYS");
+    EXPECT_EQ(file->Write("new"), FileError::None);
+    EXPECT_THAT(disk->Names(), ElementsAre("ZYRules.sys"));
+    EXPECT_THAT(disk->Get("ZYRules.sys"), Optional("new"s));
+}
+
+TEST_P(FileSystemContract, KeepsThePermissionsOfAFileThatItEmpties) {
+    disk->Put("a.sys", "old");
+    disk->SetPermissions("a.sys", 0640);
+    Created("a.sys")->Close();
+    EXPECT_THAT(disk->Permissions("a.sys"), Optional(0640U));
+}
+
+TEST_P(FileSystemContract, KeepsBytesLettersBeyondAsciiInNames) {
+    Created("\xDC\x80.sys")->Close();
+    EXPECT_THAT(disk->Names(), ElementsAre("\xDC\x80.sys"));
+}
+
+TEST_P(FileSystemContract, SaysWhyAFileCannotBeCreated) {
+    disk->AddFolder("folder");
+    disk->Put("a.sys", "12345");
+    EXPECT_EQ(CreateError(disk->Path(R"(missing\a.sys)")), FileError::NotFound);
+    EXPECT_EQ(CreateError(disk->Path(R"(a.sys\b.sys)")), FileError::NotFound);
+    EXPECT_EQ(CreateError("a.sys"), FileError::NotFound);
+    EXPECT_EQ(CreateError(disk->Path("b\0.sys"s)), FileError::NotFound);
+    EXPECT_EQ(CreateError(disk->Path("folder")), FileError::IsFolder);
+    EXPECT_THAT(disk->Names(), ElementsAre("a.sys"));
+    EXPECT_THAT(disk->Get("a.sys"), Optional("12345"s));
+}
+
+TEST_P(FileSystemContract, DoesNotReadFromAFileBeingWritten) {
+    const auto file = Created("a.sys");
+    file->Write("12345");
+    EXPECT_EQ(ReadUpTo(*file, 5), "");
+}
+
+TEST_P(FileSystemContract, LetsOthersReadAFileBeingWritten) {
+    const auto file = Created("a.sys");
+    file->Write("12345");
+    EXPECT_EQ(ReadAll("a.sys"), "12345");
+}
+
+TEST_P(FileSystemContract, WritesThePartThatFitsOnAFullDisk) {
+    disk->LimitTo(6);
+    const auto file = Created("a.sys");
+    EXPECT_EQ(file->Write("1234"), FileError::None);
+    EXPECT_EQ(file->Write("5678"), FileError::DiskFull);
+    EXPECT_EQ(file->Close(), FileError::None);
+    EXPECT_THAT(disk->Get("a.sys"), Optional("123456"s));
+}
+
+TEST_P(FileSystemContract, ClosesAFileOnce) {
+    const auto file = Created("a.sys");
+    EXPECT_EQ(file->Close(), FileError::None);
+    EXPECT_NE(file->Close(), FileError::None);
+}
+
+TEST_P(FileSystemContract, DoesNothingWithAClosedFile) {
+    disk->Put("read.sys", "12345");
+    const auto written = Created("a.sys");
+    const auto read = Opened("read.sys");
+    written->Close();
+    read->Close();
+    EXPECT_NE(written->Write("x"), FileError::None);
+    EXPECT_NE(written->Flush(), FileError::None);
+    EXPECT_EQ(ReadUpTo(*read, 5), "");
+    EXPECT_THAT(disk->Get("a.sys"), Optional(""s));
+}
+
+TEST_P(FileSystemContract, KeepsWhatWasWrittenWhenTheHandleGoesWithoutBeingClosed) {
+    Created("a.sys")->Write("12345");
+    EXPECT_THAT(disk->Get("a.sys"), Optional("12345"s));
+}
+
+// Deleting
+
+TEST_P(FileSystemContract, DeletesAFileWithoutRegardToCase) {
+    disk->Put("a.sys", "");
+    disk->Put("b.sys", "");
+    EXPECT_EQ(Files().Delete(disk->Path("A.SYS")), FileError::None);
+    EXPECT_THAT(disk->Names(), ElementsAre("b.sys"));
+}
+
+TEST_P(FileSystemContract, SaysWhyAFileCannotBeDeleted) {
+    disk->AddFolder("folder");
+    disk->Put("a.sys", "");
+    EXPECT_EQ(Files().Delete(disk->Path("missing.sys")), FileError::NotFound);
+    EXPECT_EQ(Files().Delete(disk->Path(R"(missing\a.sys)")), FileError::NotFound);
+    EXPECT_EQ(Files().Delete("a.sys"), FileError::NotFound);
+    EXPECT_EQ(Files().Delete(disk->Path("folder")), FileError::IsFolder);
+    EXPECT_THAT(disk->Names(), ElementsAre("a.sys"));
+}
+
+// Renaming
+
+TEST_P(FileSystemContract, RenamesAFileWithItsBytes) {
+    disk->Put("Rules.tmp", "12345");
+    EXPECT_EQ(Files().Rename(disk->Path("RULES.TMP"), disk->Path("ZYRules.sys")), FileError::None);
+    EXPECT_THAT(disk->Names(), ElementsAre("ZYRules.sys"));
+    EXPECT_THAT(disk->Get("ZYRules.sys"), Optional("12345"s));
+}
+
+TEST_P(FileSystemContract, NeverReplacesAFileByRenaming) {
+    disk->Put("Rules.tmp", "new");
+    disk->Put("ZYRules.sys", "old");
+    EXPECT_EQ(Files().Rename(disk->Path("Rules.tmp"), disk->Path("ZYRules.sys")), FileError::Exists);
+    EXPECT_THAT(disk->Get("Rules.tmp"), Optional("new"s));
+    EXPECT_THAT(disk->Get("ZYRules.sys"), Optional("old"s));
+}
+
+TEST_P(FileSystemContract, NeverReplacesAFileWhoseNameDiffersInCaseOnly) {
+    disk->Put("Rules.tmp", "new");
+    disk->Put("ZYRules.sys", "old");
+    EXPECT_EQ(Files().Rename(disk->Path("Rules.tmp"), disk->Path("ZYRULES.SYS")), FileError::Exists);
+    EXPECT_THAT(disk->Names(), ElementsAre("Rules.tmp", "ZYRules.sys"));
+}
+
+TEST_P(FileSystemContract, SaysWhyAFileCannotBeRenamed) {
+    disk->AddFolder("folder");
+    disk->Put("a.sys", "12345");
+    const auto path = disk->Path("a.sys");
+    EXPECT_EQ(Files().Rename(disk->Path("missing.sys"), disk->Path("b.sys")), FileError::NotFound);
+    EXPECT_EQ(Files().Rename(path, disk->Path(R"(missing\b.sys)")), FileError::NotFound);
+    EXPECT_EQ(Files().Rename(path, "b.sys"), FileError::NotFound);
+    EXPECT_EQ(Files().Rename(path, disk->Path("folder")), FileError::IsFolder);
+    EXPECT_EQ(Files().Rename(disk->Path("folder"), disk->Path("b.sys")), FileError::IsFolder);
+    EXPECT_THAT(disk->Names(), ElementsAre("a.sys"));
+    EXPECT_THAT(disk->Get("a.sys"), Optional("12345"s));
+}
+
+// Permissions
+
+TEST_P(FileSystemContract, CopiesPermissions) {
+    disk->Put("a.sys", "");
+    disk->Put("b.sys", "");
+    disk->SetPermissions("a.sys", 0604);
+    EXPECT_EQ(Files().CopyPermissions(disk->Path("A.SYS"), disk->Path("B.SYS")), FileError::None);
+    EXPECT_THAT(disk->Permissions("b.sys"), Optional(0604U));
+    EXPECT_THAT(disk->Permissions("a.sys"), Optional(0604U));
+}
+
+TEST_P(FileSystemContract, SaysWhyPermissionsCannotBeCopied) {
+    disk->AddFolder("folder");
+    disk->Put("a.sys", "");
+    const auto path = disk->Path("a.sys");
+    EXPECT_EQ(Files().CopyPermissions(disk->Path("missing.sys"), path), FileError::NotFound);
+    EXPECT_EQ(Files().CopyPermissions(path, disk->Path("missing.sys")), FileError::NotFound);
+    EXPECT_EQ(Files().CopyPermissions("a.sys", path), FileError::NotFound);
+    EXPECT_EQ(Files().CopyPermissions(disk->Path("folder"), path), FileError::IsFolder);
+    EXPECT_EQ(Files().CopyPermissions(path, disk->Path("folder")), FileError::IsFolder);
+}
+
+// A folder that the user may not change
+
+TEST_P(FileSystemContract, CreatesNoFileInAFolderThatTheUserMayNotChange) {
+    disk->ForbidChanges();
+    EXPECT_EQ(CreateError(disk->Path("new.sys")), FileError::AccessDenied);
+    EXPECT_THAT(disk->Names(), IsEmpty());
+}
+
+TEST_P(FileSystemContract, RewritesAFileInAFolderThatTheUserMayNotChange) {
+    disk->Put("a.sys", "old");
+    disk->ForbidChanges();
+    EXPECT_EQ(Created("a.sys")->Write("new"), FileError::None);
+    EXPECT_THAT(disk->Get("a.sys"), Optional("new"s));
+}
+
+TEST_P(FileSystemContract, DeletesAndRenamesNothingInAFolderThatTheUserMayNotChange) {
+    disk->Put("a.sys", "old");
+    disk->ForbidChanges();
+    EXPECT_EQ(Files().Delete(disk->Path("a.sys")), FileError::AccessDenied);
+    EXPECT_EQ(Files().Rename(disk->Path("a.sys"), disk->Path("b.sys")), FileError::AccessDenied);
+    EXPECT_THAT(disk->Get("a.sys"), Optional("old"s));
+}
+
+// The steps of a save
+
+TEST_P(FileSystemContract, PutsANewFileInPlaceOfAnOldOneWithItsPermissions) {
+    disk->Put("ZYRules.sys", "old");
+    disk->SetPermissions("ZYRules.sys", 0660);
+    const auto temporary = disk->Path("Rules.tmp");
+    const auto target = disk->Path("ZYRules.sys");
+    {
+        const auto file = Created("Rules.tmp");
+        EXPECT_EQ(file->Write("new"), FileError::None);
+        EXPECT_EQ(file->Flush(), FileError::None);
+        EXPECT_EQ(file->Close(), FileError::None);
+    }
+    EXPECT_EQ(Files().CopyPermissions(target, temporary), FileError::None);
+    EXPECT_EQ(Files().Delete(target), FileError::None);
+    EXPECT_EQ(Files().Rename(temporary, target), FileError::None);
+    EXPECT_THAT(disk->Names(), ElementsAre("ZYRules.sys"));
+    EXPECT_THAT(disk->Get("ZYRules.sys"), Optional("new"s));
+    EXPECT_THAT(disk->Permissions("ZYRules.sys"), Optional(0660U));
+}
+
+} // namespace
+} // namespace zy::test

@@ -1,0 +1,206 @@
+// What the file system promises on the real disk, beyond what every file system does.
+
+#include "platform/posix/PosixFileSystem.h"
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <string>
+
+#include "support/TemporaryFolder.h"
+
+namespace zy::test {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::ElementsAre;
+using ::testing::Optional;
+using namespace std::string_literals;
+
+/// Sets the file creation mask for as long as it lives.
+class CreationMask {
+  public:
+    explicit CreationMask(mode_t mask) : before_(::umask(mask)) {}
+    CreationMask(const CreationMask&) = delete;
+    CreationMask& operator=(const CreationMask&) = delete;
+    ~CreationMask() { ::umask(before_); }
+
+  private:
+    mode_t before_;
+};
+
+class PosixFileSystemTest : public ::testing::Test {
+  protected:
+    std::string Path(std::string_view name) { return folder.InsidePath(name); }
+
+    mode_t Mode(std::string_view name) {
+        struct stat status {};
+        EXPECT_EQ(::stat(folder.Path(name).c_str(), &status), 0);
+        return status.st_mode & 07777U;
+    }
+
+    /// The numbers of the descriptors of this process that are open on a file.
+    std::vector<int> DescriptorsOf(std::string_view name) {
+        std::vector<int> numbers;
+        for (const auto& entry : fs::directory_iterator("/proc/self/fd")) {
+            std::error_code gone;
+            if (fs::read_symlink(entry.path(), gone) == folder.Path(name)) {
+                numbers.push_back(std::stoi(entry.path().filename().string()));
+            }
+        }
+        return numbers;
+    }
+
+    void AddPipe(std::string_view name) { ASSERT_EQ(::mkfifo(folder.Path(name).c_str(), 0600), 0); }
+
+    TemporaryFolder folder;
+    PosixFileSystem files{Windows1252()};
+};
+
+TEST_F(PosixFileSystemTest, GivesANewFileWhatTheCreationMaskLeaves) {
+    {
+        const CreationMask mask(0027);
+        files.Create(Path("a.sys"));
+    }
+    {
+        const CreationMask mask(0000);
+        files.Create(Path("b.sys"));
+    }
+    EXPECT_EQ(Mode("a.sys"), 0640U);
+    EXPECT_EQ(Mode("b.sys"), 0666U);
+}
+
+TEST_F(PosixFileSystemTest, KeepsItsFilesFromProgramsThatItStarts) {
+    folder.Put("read.sys", "");
+    const auto read = files.OpenForReading(Path("read.sys"));
+    const auto written = files.Create(Path("written.sys"));
+    for (const char* name : {"read.sys", "written.sys"}) {
+        const auto numbers = DescriptorsOf(name);
+        ASSERT_EQ(numbers.size(), 1U) << name;
+        EXPECT_NE(::fcntl(numbers.front(), F_GETFD) & FD_CLOEXEC, 0) << name;
+    }
+}
+
+TEST_F(PosixFileSystemTest, ClosesTheFileOfAHandleThatGoes) {
+    files.Create(Path("a.sys"));
+    EXPECT_THAT(DescriptorsOf("a.sys"), ::testing::IsEmpty());
+}
+
+TEST_F(PosixFileSystemTest, RefusesAPipeAtOnce) {
+    AddPipe("pipe");
+    EXPECT_FALSE(files.Exists(Path("pipe")));
+    EXPECT_EQ(files.OpenForReading(Path("pipe")).error, FileError::Other);
+    EXPECT_EQ(files.Create(Path("pipe")).error, FileError::Other);
+}
+
+TEST_F(PosixFileSystemTest, RefusesAPipeThatAnotherProgramReads) {
+    AddPipe("pipe");
+    const int reader = ::open(folder.Path("pipe").c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    ASSERT_GE(reader, 0);
+    EXPECT_EQ(files.Create(Path("pipe")).error, FileError::Other);
+    ::close(reader);
+}
+
+TEST_F(PosixFileSystemTest, RefusesADevice) {
+    EXPECT_FALSE(files.Exists(R"(\dev\zero)"));
+    EXPECT_EQ(files.OpenForReading(R"(\dev\zero)").error, FileError::Other);
+    EXPECT_EQ(files.Create(R"(\dev\full)").error, FileError::Other);
+}
+
+TEST_F(PosixFileSystemTest, FollowsALinkToAFile) {
+    folder.Put("target.sys", "old");
+    fs::create_symlink("target.sys", folder.Path("link.sys"));
+    EXPECT_TRUE(files.Exists(Path("LINK.SYS")));
+    EXPECT_EQ(files.Create(Path("link.sys")).handle->Write("new"), FileError::None);
+    EXPECT_THAT(folder.Get("target.sys"), Optional("new"s));
+}
+
+TEST_F(PosixFileSystemTest, DoesNotFindALinkThatLeadsNowhere) {
+    fs::create_symlink("nowhere", folder.Path("link.sys"));
+    EXPECT_FALSE(files.Exists(Path("link.sys")));
+    EXPECT_EQ(files.OpenForReading(Path("link.sys")).error, FileError::NotFound);
+}
+
+TEST_F(PosixFileSystemTest, DeletesALinkAndNotItsTarget) {
+    folder.Put("target.sys", "kept");
+    fs::create_symlink("target.sys", folder.Path("link.sys"));
+    EXPECT_EQ(files.Delete(Path("link.sys")), FileError::None);
+    EXPECT_FALSE(fs::is_symlink(folder.Path("link.sys")));
+    EXPECT_THAT(folder.Get("target.sys"), Optional("kept"s));
+}
+
+TEST_F(PosixFileSystemTest, DoesNotReplaceALinkByRenaming) {
+    folder.Put("a.sys", "");
+    fs::create_symlink("nowhere", folder.Path("link.sys"));
+    EXPECT_EQ(files.Rename(Path("a.sys"), Path("LINK.sys")), FileError::Exists);
+    EXPECT_TRUE(fs::is_symlink(folder.Path("link.sys")));
+}
+
+TEST_F(PosixFileSystemTest, CreatesANameThatTheCodePageCannotExpress) {
+    files.Create(Path("\x1A"
+                      "CE\x1A"
+                      "A9.sys"));
+    EXPECT_THAT(folder.Names(), ElementsAre("Ω.sys"));
+}
+
+TEST_F(PosixFileSystemTest, WritesNamesInUtf8) {
+    files.Create(Path("\x80\xE4.sys"));
+    EXPECT_THAT(folder.Names(), ElementsAre("€ä.sys"));
+}
+
+TEST_F(PosixFileSystemTest, ReportsANameThatIsTooLong) {
+    const auto path = Path(std::string(300, 'a'));
+    EXPECT_FALSE(files.Exists(path));
+    EXPECT_EQ(files.OpenForReading(path).error, FileError::Other);
+    EXPECT_EQ(files.Create(path).error, FileError::Other);
+    EXPECT_EQ(files.Delete(path), FileError::Other);
+}
+
+TEST_F(PosixFileSystemTest, ReportsADiskWithoutRoomForTheFlush) {
+    const auto opened = files.Create(Path("a.sys"));
+    const auto numbers = DescriptorsOf("a.sys");
+    ASSERT_EQ(numbers.size(), 1U);
+    const int full = ::open("/dev/full", O_WRONLY | O_CLOEXEC);
+    ASSERT_GE(full, 0);
+    ASSERT_GE(::dup3(full, numbers.front(), O_CLOEXEC), 0);
+    ::close(full);
+    EXPECT_EQ(opened.handle->Write("12345"), FileError::DiskFull);
+    EXPECT_NE(opened.handle->Flush(), FileError::None);
+    EXPECT_EQ(opened.handle->Size(), 0U);
+}
+
+TEST_F(PosixFileSystemTest, WritesAndReadsMoreThanOneCallTakes) {
+    const std::string bytes(5000000, 'x');
+    const auto written = files.Create(Path("a.sys")).handle;
+    EXPECT_EQ(written->Write(bytes), FileError::None);
+    EXPECT_EQ(written->Close(), FileError::None);
+    std::string read(bytes.size() + 1, '\0');
+    const auto count = files.OpenForReading(Path("a.sys")).handle->Read(read);
+    EXPECT_EQ(count, bytes.size());
+    EXPECT_EQ(read.substr(0, count), bytes);
+}
+
+TEST_F(PosixFileSystemTest, CopiesThePermissionBitsAndNoOthers) {
+    folder.Put("a.sys", "");
+    folder.Put("b.sys", "");
+    ::chmod(folder.Path("a.sys").c_str(), 04751);
+    EXPECT_EQ(files.CopyPermissions(Path("a.sys"), Path("b.sys")), FileError::None);
+    EXPECT_EQ(Mode("b.sys"), 0751U);
+}
+
+TEST_F(PosixFileSystemTest, CopiesTheOwnerAsFarAsTheUserMay) {
+    folder.Put("a.sys", "");
+    folder.Put("b.sys", "");
+    const bool mayGive = ::chown(folder.Path("a.sys").c_str(), 65534, 65534) == 0;
+    EXPECT_EQ(files.CopyPermissions(Path("a.sys"), Path("b.sys")), FileError::None);
+    struct stat status {};
+    ASSERT_EQ(::stat(folder.Path("b.sys").c_str(), &status), 0);
+    EXPECT_EQ(status.st_uid, mayGive ? 65534U : ::geteuid());
+}
+
+} // namespace
+} // namespace zy::test

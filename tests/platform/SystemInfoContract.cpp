@@ -1,0 +1,105 @@
+// What every SystemInfo promises, whatever it stands on.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "platform/memory/MemoryWorld.h"
+#include "platform/posix/PosixWorld.h"
+#include "support/EnvironmentVariable.h"
+#include "support/TemporaryFolder.h"
+
+namespace zy::test {
+namespace {
+
+using ::testing::EndsWith;
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+/// A program started with the argument "@RULES" in a system directory of its own, under the locale "C".
+class Start {
+  public:
+    virtual ~Start() = default;
+    virtual SystemInfo& System() = 0;
+    virtual FileSystem& Files() = 0;
+};
+
+class MemoryStart final : public Start {
+  public:
+    MemoryStart() { world_.system.SetCommandLine("@RULES"); }
+    SystemInfo& System() override { return world_.system; }
+    FileSystem& Files() override { return world_.files; }
+
+  private:
+    MemoryWorld world_;
+};
+
+class PosixStart final : public Start {
+  public:
+    SystemInfo& System() override { return world_.system; }
+    FileSystem& Files() override { return world_.files; }
+
+  private:
+    static constexpr const char* kArguments[] = {"/usr/bin/zyGlobal", "@RULES"};
+
+    TemporaryFolder folder_;
+    EnvironmentVariable directory_{"ZYSETUP_SYSTEM_DIR", folder_.Path().string()};
+    EnvironmentVariable locale_{"LC_ALL", "C"};
+    PosixWorld world_{2, kArguments};
+};
+
+struct StartKind {
+    const char* name;
+    std::unique_ptr<Start> (*make)();
+};
+
+void PrintTo(const StartKind& kind, std::ostream* out) {
+    *out << kind.name;
+}
+
+class SystemInfoContract : public ::testing::TestWithParam<StartKind> {
+  protected:
+    std::unique_ptr<Start> start = GetParam().make();
+};
+
+INSTANTIATE_TEST_SUITE_P(
+    Starts, SystemInfoContract,
+    ::testing::Values(
+        StartKind{"OverMemory", []() -> std::unique_ptr<Start> { return std::make_unique<MemoryStart>(); }},
+        StartKind{"OverPosix", []() -> std::unique_ptr<Start> { return std::make_unique<PosixStart>(); }}),
+    [](const auto& test) { return test.param.name; });
+
+TEST_P(SystemInfoContract, GivesASystemDirectoryWithoutABackslashAtItsEnd) {
+    EXPECT_THAT(start->System().SystemDirectory(), Not(EndsWith("\\")));
+}
+
+TEST_P(SystemInfoContract, GivesASystemDirectoryThatFilesCanBeCreatedIn) {
+    const auto path = start->System().SystemDirectory() + R"(\ZYRules.sys)";
+    EXPECT_EQ(start->Files().Create(path).error, FileError::None);
+    EXPECT_TRUE(start->Files().Exists(path));
+}
+
+TEST_P(SystemInfoContract, GivesTheSameSystemDirectoryEachTime) {
+    const auto first = start->System().SystemDirectory();
+    EXPECT_EQ(start->System().SystemDirectory(), first);
+}
+
+TEST_P(SystemInfoContract, GivesTheArgumentWithoutTheProgramsName) {
+    EXPECT_EQ(start->System().CommandLine(), "@RULES");
+}
+
+TEST_P(SystemInfoContract, GivesTheProgramsNameWithoutFolderAndExtension) {
+    const auto name = start->System().ExecutableName();
+    EXPECT_NE(name, "");
+    for (const char* part : {"\\", "/", "."}) {
+        EXPECT_THAT(name, Not(HasSubstr(part)));
+    }
+}
+
+TEST_P(SystemInfoContract, GivesAPointWhereTheLocaleHasOne) {
+    EXPECT_EQ(start->System().DecimalSeparator(), '.');
+}
+
+} // namespace
+} // namespace zy::test
