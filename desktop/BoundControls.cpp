@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "desktop/ControlBinding.h"
+#include "desktop/Native.h"
 
 namespace zy {
 namespace {
@@ -15,18 +16,24 @@ ControlBinding* FindWhere(const std::vector<ControlBinding*>& bindings, const Ma
 
 } // namespace
 
-ControlBinding* BoundControls::Find(const wxWindow* window) const {
-    // A real control may consist of several windows.
-    for (; window != nullptr; window = window->GetParent()) {
-        if (auto* found = FindWhere(bindings_, [&](const auto* each) { return &each->Window() == window; })) {
-            return found;
-        }
-    }
-    return nullptr;
-}
-
 ControlBinding* BoundControls::Find(const Control* control) const {
     return FindWhere(bindings_, [&](const auto* each) { return &each->Model() == control; });
+}
+
+ControlBinding* BoundControls::FindFocused() const {
+    return FindWhere(bindings_, [](const auto* each) { return HoldsFocus(each->Window()); });
+}
+
+void BoundControls::FocusNext(const ControlBinding* behind) const {
+    auto inOrder = bindings_;
+    const auto before = std::find(inOrder.begin(), inOrder.end(), behind);
+    std::rotate(inOrder.begin(), before == inOrder.end() ? inOrder.begin() : before + 1, inOrder.end());
+    auto* next = FindWhere(inOrder, [](const auto* each) {
+        return each->Model().IsUsable() && each->Window().AcceptsFocusFromKeyboard();
+    });
+    if (next != nullptr) {
+        next->TakeFocus();
+    }
 }
 
 } // namespace zy

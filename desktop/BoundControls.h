@@ -2,8 +2,6 @@
 
 #include <vector>
 
-class wxWindow;
-
 namespace zy {
 
 class Control;
@@ -15,9 +13,12 @@ class BoundControls {
     /// The binding must outlive this object's last use.
     void Add(ControlBinding& binding) { bindings_.push_back(&binding); }
 
-    /// The binding whose real control a window is or belongs to; null when there is none.
-    ControlBinding* Find(const wxWindow* window) const;
+    /// The binding of a control, or of the one that really has the focus; null when there is none.
     ControlBinding* Find(const Control* control) const;
+    ControlBinding* FindFocused() const;
+    /// Gives the focus to the next control that can have it, in tab order behind the given one; to the first when
+    /// none is given.
+    void FocusNext(const ControlBinding* behind) const;
 
   private:
     std::vector<ControlBinding*> bindings_;

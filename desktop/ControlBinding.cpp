@@ -1,5 +1,6 @@
 #include "desktop/ControlBinding.h"
 
+#include "desktop/Native.h"
 #include "desktop/ShownText.h"
 
 namespace zy {
@@ -27,6 +28,9 @@ void ControlBinding::ShowAppearance() {
     wxRect place = context_.scale.ToPixels(model_.Bounds());
     place.Offset(-inside_.origin);
     window_->SetSize(place);
+    if (!model_.Enabled() && HoldsFocus(*window_)) {
+        context_.controls.FocusNext(this);
+    }
     window_->Enable(model_.Enabled());
     window_->Show(model_.Visible());
 }

@@ -36,9 +36,9 @@ class Desktop {
     void ShowError(std::string_view text);
 
     const CodePage& codePage_;
+    std::optional<Toolkit> toolkit_;
     EventGate gate_;
     DesktopDialogs dialogs_;
-    std::optional<Toolkit> toolkit_;
 };
 
 } // namespace zy

@@ -1,10 +1,22 @@
 #include "desktop/EventGate.h"
 
 #include <wx/app.h>
+#include <wx/utils.h>
 
 #include <utility>
 
 namespace zy {
+namespace {
+
+/// How soon the end of a click is noticed, in milliseconds.
+constexpr int kMousePatience = 20;
+
+bool MouseIsDown() {
+    const auto mouse = wxGetMouseState();
+    return mouse.LeftIsDown() || mouse.MiddleIsDown() || mouse.RightIsDown();
+}
+
+} // namespace
 
 void EventGate::Act(const std::function<void()>& action) {
     Guard([&] {
@@ -61,10 +73,24 @@ void EventGate::Guard(const std::function<void()>& work) {
 
 void EventGate::RunPutOff() {
     scheduled_ = false;
-    // While a message box is open nothing is asked: what was put off waits for its end.
-    if (running_ == 0) {
-        Act([] {});
+    if (putOff_.empty() || running_ != 0) {
+        // While a message box is open nothing is asked: what was put off waits for its end.
+        return;
     }
+    if (MouseIsDown()) {
+        // A control that is held down would not get to know that a message box has taken the mouse.
+        LookAgainSoon();
+        return;
+    }
+    Act([] {});
+}
+
+void EventGate::LookAgainSoon() {
+    if (!whileMouseIsDown_) {
+        whileMouseIsDown_.emplace();
+        whileMouseIsDown_->Bind(wxEVT_TIMER, [this](wxTimerEvent&) { RunPutOff(); });
+    }
+    whileMouseIsDown_->StartOnce(kMousePatience);
 }
 
 bool EventGate::Settle() {

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <wx/timer.h>
+
 #include <deque>
 #include <exception>
 #include <functional>
+#include <optional>
 
 #include "controls/Event.h"
 
@@ -20,7 +23,8 @@ class EventGate {
     /// Runs what a person did, behind everything that was put off before it. When a step of that was refused, all
     /// later ones and the action itself are dropped, so that nobody is asked twice for one gesture.
     void Act(const std::function<void()>& action);
-    /// Puts a step off until the toolkit's own handler is done, or until the next action if that comes first.
+    /// Puts a step off until the toolkit's own handler is done and no button of the mouse is held down, or until the
+    /// next action if that comes first.
     void ActLater(Step step);
     /// Lets the window system tell something, such as a new size, whatever has been put off.
     void Tell(const std::function<void()>& news);
@@ -39,12 +43,14 @@ class EventGate {
 
   private:
     void Guard(const std::function<void()>& work);
+    void LookAgainSoon();
     void RunPutOff();
     bool Settle();
     void Schedule();
 
     std::deque<Step> putOff_;
     bool scheduled_ = false;
+    std::optional<wxTimer> whileMouseIsDown_;
     int running_ = 0;
     std::exception_ptr failure_;
 };

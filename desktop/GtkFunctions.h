@@ -11,6 +11,7 @@ struct _GtkComboBox;
 struct _GtkTreePath;
 struct _GtkTreeView;
 struct _GtkTreeViewColumn;
+struct _GtkWindow;
 
 extern "C" {
 
@@ -31,5 +32,8 @@ void gtk_tree_view_set_cursor(_GtkTreeView* view, _GtkTreePath* path, _GtkTreeVi
 _AtkObject* gtk_widget_get_accessible(GtkWidget* widget);
 void gtk_widget_get_allocation(GtkWidget* widget, GtkRectangle* allocation);
 void gtk_widget_get_preferred_size(GtkWidget* widget, GtkSizeNeeded* least, GtkSizeNeeded* natural);
+GtkWidget* gtk_widget_get_toplevel(GtkWidget* widget);
+int gtk_widget_is_ancestor(GtkWidget* widget, GtkWidget* ancestor);
 void gtk_widget_size_allocate(GtkWidget* widget, GtkRectangle* allocation);
+GtkWidget* gtk_window_get_focus(_GtkWindow* window);
 }

@@ -16,14 +16,6 @@ void ListRows::MatchCount() {
     }
 }
 
-unsigned int ListRows::GetColumnCount() const {
-    return static_cast<unsigned>(list_.Columns().size());
-}
-
-wxString ListRows::GetColumnType(unsigned int /*column*/) const {
-    return "string";
-}
-
 void ListRows::GetValueByRow(wxVariant& value, unsigned int row, unsigned int column) const {
     context_.gate.Answer([&] {
         const auto text = list_.CellText(static_cast<int>(row) + 1, static_cast<int>(column));

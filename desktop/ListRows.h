@@ -16,8 +16,6 @@ class ListRows : public wxDataViewVirtualListModel {
     void MatchCount();
 
   private:
-    unsigned int GetColumnCount() const override;
-    wxString GetColumnType(unsigned int column) const override;
     void GetValueByRow(wxVariant& value, unsigned int row, unsigned int column) const override;
     /// Nothing can be changed in place.
     bool SetValueByRow(const wxVariant& value, unsigned int row, unsigned int column) override;

@@ -17,10 +17,11 @@ ListViewBinding::ListViewBinding(const ViewContext& context, const Inside& insid
     list_->Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, [this](wxDataViewEvent&) { TakePick(); });
     list_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { PressKey(event); });
     Keep(model_.refilled.Observe([this] {
-        rows_->MatchCount();
+        ChangeList([this] { rows_->MatchCount(); });
         rowsChanged_ = true;
     }));
-    Keep(model_.itemRemoved.Observe([this](int item) { rows_->RowDeleted(static_cast<unsigned>(item - 1)); }));
+    Keep(model_.itemRemoved.Observe(
+        [this](int item) { ChangeList([&] { rows_->RowDeleted(static_cast<unsigned>(item - 1)); }); }));
     Keep(model_.itemChanged.Observe([this](int item) { rows_->RowChanged(static_cast<unsigned>(item - 1)); }));
     Keep(Gate().updateViews.Observe([this] { ShowChanges(); }));
     Attach(list_);
@@ -55,7 +56,7 @@ void ListViewBinding::ShowColumnWidths() {
 }
 
 void ListViewBinding::TakePick() {
-    if (showing_) {
+    if (changing_) {
         return;
     }
     Gate().ActLater([this, item = RealSelection()] {
@@ -90,13 +91,20 @@ void ListViewBinding::ShowSelection() {
     if (RealSelection() == item) {
         return;
     }
-    showing_ = true;
-    if (item == 0) {
-        list_->UnselectAll();
-    } else {
-        GoToRow(*list_, item - 1);
-    }
-    showing_ = false;
+    ChangeList([&] {
+        if (item == 0) {
+            list_->UnselectAll();
+        } else {
+            GoToRow(*list_, item - 1);
+        }
+    });
+}
+
+void ListViewBinding::ChangeList(const std::function<void()>& change) {
+    // The selection that follows from it, such as that of a neighbour when a row goes, is not a person's choice.
+    changing_ = true;
+    change();
+    changing_ = false;
 }
 
 void ListViewBinding::ShowVisibleRows() {

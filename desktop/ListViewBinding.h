@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "controls/ListView.h"
@@ -24,6 +25,7 @@ class ListViewBinding : public ControlBinding {
     void ShowChanges();
     void ShowSelection();
     void ShowVisibleRows();
+    void ChangeList(const std::function<void()>& change);
     /// The item selected in the real list; 0 when none is.
     int RealSelection() const;
 
@@ -32,7 +34,7 @@ class ListViewBinding : public ControlBinding {
     wxObjectDataPtr<ListRows> rows_;
     std::vector<int> shownWidths_;
     bool rowsChanged_ = false;
-    bool showing_ = false; ///< the selection changes because the model's is shown
+    bool changing_ = false; ///< the program changes the real list
 };
 
 } // namespace zy

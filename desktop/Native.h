@@ -2,6 +2,8 @@
 
 #include <wx/string.h>
 
+#include <functional>
+
 class wxChoice;
 class wxDataViewCtrl;
 class wxPoint;
@@ -23,6 +25,12 @@ void LayOutUnseen(wxWindow& window);
 
 /// Where the room for controls begins inside a box that has at least one child.
 wxPoint OriginInside(const wxStaticBox& box);
+
+/// Calls `moved` whenever the focus of a window goes from one of its controls to another, for the window's whole life.
+/// That another window becomes the active one moves no focus.
+void ObserveFocus(wxWindow& window, std::function<void()> moved);
+/// Whether the focus of its window is in this control.
+bool HoldsFocus(const wxWindow& control);
 
 /// Closes the list that has dropped down; nothing when none has.
 void CloseDropDown(const wxChoice& choice);

@@ -1,8 +1,10 @@
+#include <glib-object.h>
 #include <wx/choice.h>
 #include <wx/dataview.h>
 #include <wx/statbox.h>
 
 #include <memory>
+#include <utility>
 
 #include "desktop/GtkFunctions.h"
 #include "desktop/Native.h"
@@ -26,6 +28,16 @@ GtkRectangle AllocationOf(GtkWidget* widget) {
 GtkWidget* FocusWidgetOf(wxWindow& window) {
     auto* list = dynamic_cast<wxDataViewCtrl*>(&window);
     return list != nullptr ? list->GtkGetTreeView() : window.GetHandle();
+}
+
+using Moved = std::function<void()>;
+
+void TellMoved(_GtkWindow* /*window*/, GtkWidget* /*focused*/, gpointer moved) {
+    (*static_cast<Moved*>(moved))();
+}
+
+void ForgetMoved(gpointer moved, GClosure* /*closure*/) {
+    delete static_cast<Moved*>(moved);
 }
 
 } // namespace
@@ -57,6 +69,18 @@ wxPoint OriginInside(const wxStaticBox& box) {
     const auto outer = AllocationOf(box.m_widget);
     const auto inner = AllocationOf(box.m_wxwindow);
     return {inner.x - outer.x, inner.y - outer.y};
+}
+
+void ObserveFocus(wxWindow& window, std::function<void()> moved) {
+    auto* kept = new Moved(std::move(moved));
+    g_signal_connect_data(window.m_widget, "set-focus", G_CALLBACK(TellMoved), kept, ForgetMoved, G_CONNECT_AFTER);
+}
+
+bool HoldsFocus(const wxWindow& control) {
+    auto* window = reinterpret_cast<_GtkWindow*>(gtk_widget_get_toplevel(control.m_widget));
+    GtkWidget* focused = gtk_window_get_focus(window);
+    return focused != nullptr &&
+           (focused == control.m_widget || gtk_widget_is_ancestor(focused, control.m_widget) != 0);
 }
 
 void CloseDropDown(const wxChoice& choice) {

@@ -50,11 +50,4 @@ void UpDownBinding::PressKey(wxKeyEvent& event) {
     }
 }
 
-void UpDownBinding::TakeFocus() {
-    // Either arrow will do: one that has the focus keeps it.
-    if (!down_->HasFocus()) {
-        up_->SetFocus();
-    }
-}
-
 } // namespace zy

@@ -12,7 +12,7 @@ class UpDownBinding : public ControlBinding {
   public:
     UpDownBinding(const ViewContext& context, const Inside& inside, UpDown& model);
 
-    void TakeFocus() override;
+    void TakeFocus() override { up_->SetFocus(); }
 
   private:
     wxBitmapButton* MakeArrow(const wxString& direction, const wxBitmapBundle& picture, void (UpDown::*press)());

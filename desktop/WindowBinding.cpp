@@ -72,10 +72,10 @@ void WindowBinding::ConnectFrame(std::function<void()> close) {
 void WindowBinding::Open() {
     frame_->SendSizeEvent();
     LayOutUnseen(*frame_);
-    frame_->Show();
     if (form_.Focused() == nullptr) {
-        inside_.window->NavigateIn();
+        context_.controls.FocusNext(nullptr);
     }
+    frame_->Show();
 }
 
 void WindowBinding::TellSize() {

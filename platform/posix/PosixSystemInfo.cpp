@@ -23,14 +23,11 @@ std::string AbsolutePath(const std::string& path) {
     return error ? path : absolute.string();
 }
 
-/// The path of the running program, also when its file has been replaced meanwhile, which the system marks.
-std::string ExecutablePath(const std::string& asStarted) {
-    constexpr std::string_view kReplaced = " (deleted)";
+/// The path of the running program.
+std::filesystem::path ExecutablePath(const std::vector<std::string>& arguments) {
     std::error_code error;
-    auto path = std::filesystem::read_symlink("/proc/self/exe", error).string();
-    if (path.ends_with(kReplaced)) {
-        path.resize(path.size() - kReplaced.size());
-    }
+    const auto path = std::filesystem::read_symlink("/proc/self/exe", error);
+    const std::filesystem::path asStarted = arguments.empty() ? "" : arguments.front();
     return error ? asStarted : path;
 }
 
@@ -47,7 +44,8 @@ std::string MadeDataSystemFolder() {
 } // namespace
 
 PosixSystemInfo::PosixSystemInfo(int argumentCount, const char* const* arguments, const CodePage& codePage)
-    : codePage_(codePage), text_(codePage), arguments_(arguments, arguments + argumentCount) {}
+    : codePage_(codePage), text_(codePage), arguments_(arguments, arguments + argumentCount),
+      executableName_(text_.TextToInside(ExecutablePath(arguments_).stem().string())) {}
 
 std::string PosixSystemInfo::SystemDirectory() {
     const auto named = Environment("ZYSETUP_SYSTEM_DIR");
@@ -60,11 +58,6 @@ std::string PosixSystemInfo::CommandLine() const {
         line += (i == 1 ? "" : " ") + text_.TextToInside(arguments_[i]);
     }
     return line;
-}
-
-std::string PosixSystemInfo::ExecutableName() const {
-    const std::filesystem::path path = ExecutablePath(arguments_.empty() ? "" : arguments_.front());
-    return text_.TextToInside(path.stem().string());
 }
 
 char PosixSystemInfo::DecimalSeparator() const {

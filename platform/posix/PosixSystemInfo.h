@@ -20,7 +20,8 @@ class PosixSystemInfo final : public SystemInfo {
     std::string SystemDirectory() override;
     /// The arguments, joined by one blank. A character that the code page lacks becomes 0x1A.
     std::string CommandLine() const override;
-    std::string ExecutableName() const override;
+    /// That of the file that ran at the start, even when it has been replaced or removed meanwhile.
+    std::string ExecutableName() const override { return executableName_; }
     /// "." when the locale is not installed or its separator is no character of the code page.
     char DecimalSeparator() const override;
 
@@ -28,6 +29,7 @@ class PosixSystemInfo final : public SystemInfo {
     const CodePage& codePage_;
     PathText text_;
     std::vector<std::string> arguments_;
+    std::string executableName_;
 };
 
 } // namespace zy

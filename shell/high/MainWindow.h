@@ -65,6 +65,7 @@ class MainWindow {
     Event<> unloaded;
 
   private:
+    void ConnectHelp();
     void ShowFrame(const Frame& frame);
     void Trace(std::string_view procedure, std::string_view message);
     bool WantsToSave();

@@ -1,13 +1,11 @@
 #include "Disk.h"
 
-#include <sys/resource.h>
 #include <sys/stat.h>
-
-#include <csignal>
 
 #include "platform/memory/MemoryFileSystem.h"
 #include "platform/posix/PathText.h"
 #include "platform/posix/PosixFileSystem.h"
+#include "support/FileSizeLimit.h"
 #include "support/OrdinaryUser.h"
 #include "support/TemporaryFolder.h"
 
@@ -36,27 +34,6 @@ class MemoryDisk final : public Disk {
 
   private:
     MemoryFileSystem files_{Windows1252()};
-};
-
-/// Keeps files of the process from growing beyond a size, which the system then treats as a disk that is
-/// full.
-class FileSizeLimit {
-  public:
-    explicit FileSizeLimit(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-        ::getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit limit{.rlim_cur = bytes, .rlim_max = before_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-    ~FileSizeLimit() {
-        ::setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, handler_);
-    }
-
-  private:
-    void (*handler_)(int);
-    rlimit before_{};
 };
 
 class PosixDisk final : public Disk {

@@ -138,7 +138,7 @@ TEST_P(RecycleBinContract, DoesNotRecycleAFolder) {
     EXPECT_THAT(bin->Recycled(), IsEmpty());
 }
 
-TEST_P(RecycleBinContract, HasNothingToDoForAnEmptyList) {
+TEST_P(RecycleBinContract, DoesNothingForAnEmptyList) {
     EXPECT_EQ(bin->Recycler().Delete("\0"s), 0);
     EXPECT_EQ(bin->Recycler().Delete(""), 0);
 }

@@ -4,6 +4,8 @@
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "support/WorldTest.h"
 
 namespace zy::test {
@@ -99,6 +101,12 @@ TEST(ScriptedDialogsTest, ForgetFailuresThatWereAskedFor) {
     dialogs.ShowMessage("unexpected", "t");
     EXPECT_EQ(dialogs.Failures().size(), 2U);
     EXPECT_THAT(dialogs.Failures(), IsEmpty());
+}
+
+TEST(ScriptedDialogsTest, ShowABoxInAFailedTest) {
+    std::ostringstream out;
+    out << ShownBox{.text = "q", .title = "t", .escape = Escape::IsIgnored};
+    EXPECT_EQ(out.str(), "Yes/No box (Escape is ignored) \"q\" titled \"t\"");
 }
 
 TEST(ScriptedDialogsDeathTest, EndTheProcessOverFailuresThatNobodyAskedFor) {

@@ -6,6 +6,7 @@
 
 #include <string>
 
+#include "support/FileSizeLimit.h"
 #include "support/OrdinaryUser.h"
 #include "support/TemporaryFolder.h"
 
@@ -110,6 +111,16 @@ TEST_F(TrashFolderAcrossDisks, LeavesAFileThatCannotBeRemovedAndNoCopyOfIt) {
     {
         const OrdinaryUser user(disk.Path());
         EXPECT_EQ(Add("a.dbf"), FileError::AccessDenied);
+    }
+    EXPECT_THAT(disk.Get("a.dbf"), Optional("users"s));
+    EXPECT_THAT(home.Names("Trash"), IsEmpty());
+}
+
+TEST_F(TrashFolderAcrossDisks, LeavesAFileThatFindsNoRoomAndNoCopyOfIt) {
+    disk.Put("a.dbf", "users");
+    {
+        const FileSizeLimit limit(3);
+        EXPECT_EQ(Add("a.dbf"), FileError::DiskFull);
     }
     EXPECT_THAT(disk.Get("a.dbf"), Optional("users"s));
     EXPECT_THAT(home.Names("Trash"), IsEmpty());

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <sys/types.h>
+#include <time.h>
+
+#include <string>
+#include <vector>
+
+#include "Screen.h"
+
+namespace zy::bench {
+
+/// A program with a window, watched from outside. It is started by the constructor and ended by the
+/// destructor.
+class WindowProgram {
+  public:
+    WindowProgram(Screen& screen, const std::vector<std::string>& command);
+    WindowProgram(const WindowProgram&) = delete;
+    WindowProgram& operator=(const WindowProgram&) = delete;
+    ~WindowProgram();
+
+    /// Waits until the program, having painted its window, sleeps and goes on sleeping. Returns the seconds
+    /// from its start to the moment when it fell asleep.
+    double SecondsToIdle();
+    /// Waits until the program sleeps and goes on sleeping. Returns when the screen was painted last.
+    Clock::time_point LastPainted();
+
+    /// The processor time that the program has used, all threads together.
+    double ProcessorSeconds() const;
+    /// The memory that it holds.
+    double ResidentBytes() const;
+
+  private:
+    bool IsAsleep() const;
+    Clock::time_point WaitUntilIdle(int pixels);
+
+    Screen& screen_;
+    Clock::time_point start_;
+    Clock::time_point lastPainted_;
+    pid_t process_ = -1;
+    clockid_t processorClock_{};
+};
+
+} // namespace zy::bench

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <stdexcept>
+#include <string_view>
+
+namespace zy::fuzz {
+
+// fuzz/: what must hold for every input. A target takes any bytes and throws BrokenPromise when a property
+// does not hold; the sanitizers see to the rest. It owns the inputs kept in corpus/, one folder a target,
+// which the ordinary suite replays. It may call every room but desktop/ and app/.
+
+/// The texts of the system's file names, into the program and back.
+void FileNames(std::string_view input);
+/// The parser of numbers, against the C library's.
+void Numbers(std::string_view input);
+/// Reading a rules file block by block, against reading it whole.
+void RulesBlocks(std::string_view input);
+/// A rules file through load, save and load again.
+void RulesFile(std::string_view input);
+/// Fields, quotes, NULs and paths.
+void Texts(std::string_view input);
+
+class BrokenPromise : public std::logic_error {
+  public:
+    using std::logic_error::logic_error;
+};
+
+inline void Require(bool holds, const char* promise) {
+    if (!holds) {
+        throw BrokenPromise(promise);
+    }
+}
+
+} // namespace zy::fuzz

@@ -1,0 +1,75 @@
+#include "EditorsTest.h"
+
+namespace zy::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+/// Save and closing serve one editor: the first in charge of rules, security, units.
+class ExclusiveModes : public EditorsTest {
+  protected:
+    ExclusiveModes() { StartAndForget("@RULES"); }
+
+    void SetModes(bool rules, bool users, bool unitsOfMeasure) {
+        state().gbRulesMode = rules;
+        state().gbSecurityMode = users;
+        state().gbUnitsMode = unitsOfMeasure;
+        calls.clear();
+    }
+};
+
+TEST_F(ExclusiveModes, PutTheRulesFirst) {
+    SetModes(true, true, true);
+    window().menu.mnuSave.Click();
+    EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings ,mnuSave_Click Rules"));
+    SetModes(true, true, true);
+    window().Unload();
+    EXPECT_EQ(calls.front(), "trace frmGlobalSettings Form_Unload Rules");
+}
+
+TEST_F(ExclusiveModes, PutTheUsersBeforeTheUnits) {
+    SetModes(false, true, true);
+    window().menu.mnuSave.Click();
+    EXPECT_THAT(calls, ::testing::Contains("Validate_Security"));
+    EXPECT_THAT(calls, ::testing::Not(::testing::Contains("ValidateUnits")));
+    SetModes(false, true, true);
+    window().Unload();
+    EXPECT_THAT(calls, ::testing::Contains("trace frmGlobalSettings Form_Unload Security"));
+    EXPECT_THAT(calls, ::testing::Not(::testing::Contains("trace frmGlobalSettings Form_Unload Units")));
+}
+
+TEST_F(ExclusiveModes, SaveNothingWithoutAnEditorInCharge) {
+    SetModes(false, false, false);
+    form().ChangeFlag = true;
+    state().gbChanged = true;
+    window().menu.mnuSave.Click();
+    EXPECT_THAT(calls, IsEmpty());
+}
+
+TEST_F(ExclusiveModes, CloseWithoutAQuestionWithoutAnEditorInCharge) {
+    SetModes(false, false, false);
+    form().ChangeFlag = true;
+    state().gbChanged = true;
+    EXPECT_TRUE(window().Unload());
+    EXPECT_THAT(calls, ElementsAre("RemoveMinSizeHook", "SaveWindowPlacement",
+                                   "trace frmGlobalSettings Form_Unload Unloaded"));
+}
+
+TEST_F(ExclusiveModes, AreTestedForTrueAlone) {
+    SetModes(false, true, false);
+    state().gbRulesMode = Bool16::FromValue(1);
+    window().menu.mnuSave.Click();
+    EXPECT_THAT(calls, ::testing::Contains("trace frmGlobalSettings ,mnuSave_Click Security"));
+}
+
+TEST_F(ExclusiveModes, LayOutEveryPageInCharge) {
+    SetModes(true, true, true);
+    form().SetInnerSize({20000, 12000});
+    EXPECT_THAT(calls,
+                ElementsAre("trace frmGlobalSettings Form_Resize Start", "ResizeSecurity", "ResizeUnits"));
+    EXPECT_EQ(form().fraRules.Bounds().width, 20000);
+}
+
+} // namespace
+} // namespace zy::test

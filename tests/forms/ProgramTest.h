@@ -1,0 +1,67 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "../rules/RulesOnDisk.h"
+#include "shell/Program.h"
+#include "shell/mMain.h"
+#include "support/WorldTest.h"
+
+namespace zy::test {
+
+inline constexpr auto kWishToSave = "Do you Wish to Save your Changes?";
+inline constexpr auto kSaveChanges = "Save Changes?";
+
+/// A whole program in a memory world, with a trace viewer that runs from the start.
+class ProgramTest : public WorldTest {
+  protected:
+    ProgramTest() { world.traceServers.SetRunning(true); }
+
+    /// Builds the program and runs its start-up with this command line.
+    StartUp Start(std::string_view commandLine) {
+        world.system.SetCommandLine(commandLine);
+        program_ = std::make_unique<Program>(Outside(), options);
+        program().window.unloaded.Connect([this] { ++unloaded; });
+        return mMain(program());
+    }
+
+    /// The world that the program is built in.
+    virtual World Outside() { return world.Get(); }
+
+    Program& program() { return *program_; }
+    MainWindow& window() { return program().window; }
+    SettingsForm& form() { return program().form; }
+    SharedState& state() { return program().state; }
+
+    /// The records that came since the last call, as "module procedure message".
+    std::vector<std::string> Traces() {
+        std::vector<std::string> lines;
+        for (const auto& record : world.traceServers.Records()) {
+            lines.push_back(record.module + " " + record.procedure + " " + record.message);
+        }
+        world.traceServers.Clear();
+        return lines;
+    }
+
+    /// What the closing question will be answered; it ignores Escape, for No loses the changes.
+    void ExpectWishToSave(Answer answer) {
+        world.dialogs.ExpectYesNo(kWishToSave, kSaveChanges, answer, Escape::IsIgnored);
+    }
+
+    /// The two marks of unsaved changes.
+    void ExpectMarks(bool changeFlag, bool changed) {
+        EXPECT_EQ(form().ChangeFlag.Value(), changeFlag ? -1 : 0);
+        EXPECT_EQ(state().gbChanged.Value(), changed ? -1 : 0);
+    }
+
+    Program::Options options;
+    int unloaded = 0; ///< how many times the window told that it is gone
+
+  private:
+    std::unique_ptr<Program> program_;
+};
+
+} // namespace zy::test

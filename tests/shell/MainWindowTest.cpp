@@ -1,0 +1,214 @@
+#include "../forms/EditorsTest.h"
+
+namespace zy::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+constexpr auto kSure = "Are you Sure you want to Exit Without Saving Changes";
+
+/// The window that all editors share: its pages, its menus, its exit.
+class MainWindowTest : public EditorsTest {
+  protected:
+    void ExpectFrames(bool rules, bool users, bool unitsOfMeasure) {
+        EXPECT_EQ(form().fraRules.Visible(), rules);
+        EXPECT_EQ(form().fraSecurity.Visible(), users);
+        EXPECT_EQ(form().FraUnits.Visible(), unitsOfMeasure);
+    }
+};
+
+TEST_F(MainWindowTest, ShowsTheRulesPageUnderItsTitle) {
+    Start("@RULES");
+    ExpectFrames(true, false, false);
+    EXPECT_EQ(form().Caption(), "ZY Setup - Rules");
+}
+
+TEST_F(MainWindowTest, ShowsTheUsersPageUnderItsTitle) {
+    Start("@SECURITY");
+    ExpectFrames(false, true, false);
+    EXPECT_EQ(form().Caption(), "ZY Setup - Security");
+}
+
+TEST_F(MainWindowTest, ShowsTheUnitsPageUnderItsTitle) {
+    Start("@UNITS");
+    ExpectFrames(false, false, true);
+    EXPECT_EQ(form().Caption(), "ZY Setup - Units of Measure");
+}
+
+TEST_F(MainWindowTest, SetsTheUnitsTitleBeforeTheUnitsAreLoadedAndTheUsersTitleAfterwards) {
+    std::string title;
+    units.loading = [&] { title = form().Caption(); };
+    Start("@UNITS");
+    EXPECT_EQ(title, "ZY Setup - Units of Measure");
+    security.loading = [&] { title = form().Caption(); };
+    Start("@SECURITY");
+    EXPECT_EQ(title, "");
+}
+
+TEST_F(MainWindowTest, HidesTheOtherPagesWhenAnotherOneIsShown) {
+    Start("@RULES");
+    window().ShowUnits();
+    ExpectFrames(false, false, true);
+    window().ShowSecurity();
+    ExpectFrames(false, true, false);
+    window().ShowRules();
+    ExpectFrames(true, false, false);
+}
+
+TEST_F(MainWindowTest, TracesTheSameWordForEveryPage) {
+    Start("@RULES");
+    calls.clear();
+    window().ShowUnits();
+    window().ShowSecurity();
+    EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings ShowUnits Rules", "LoadUnitsData",
+                                   "trace frmGlobalSettings ShowSecurity Rules", "LoadSecurity"));
+}
+
+/// A menu with its entries, one line each, submenus indented.
+std::vector<std::string> Lines(const MenuItem& menu, const std::string& indent = "") {
+    std::vector<std::string> lines{indent + menu.Name() + " " + menu.Caption()};
+    for (const auto* entry : menu.Entries()) {
+        for (const auto& line : Lines(*entry, indent + "  ")) {
+            lines.push_back(line);
+        }
+    }
+    return lines;
+}
+
+TEST(MainMenuTest, HoldsTheFileMenu) {
+    const MainMenu menu;
+    EXPECT_THAT(Lines(menu.mnuFile), ElementsAre("mnuFile &File", "  mnuSave &Save", "  mnuExit E&xit"));
+}
+
+TEST(MainMenuTest, HoldsTheHelpMenu) {
+    const MainMenu menu;
+    EXPECT_THAT(Lines(menu.mnuHelp),
+                ElementsAre("mnuHelp &Help", "  mnuContents &Contents", "  mnuIndex &Index",
+                            "  mnuSeperator5 -", "  mnuWeb Norvale on the &Web...",
+                            "    mnuWebProducts Products", "    mnuWebAcademy Academy Web Based Training",
+                            "    mnuWebMentorDesk Mentor Desk", "    mnuSeperator6 -",
+                            "    mnuWebHome Norvale Home Page", "  mnuSeperator7 -",
+                            "  mnuAbout &About ZY Setup"));
+}
+
+TEST(MainMenuTest, HoldsTheContextMenusOfTheGrids) {
+    const MainMenu menu;
+    EXPECT_THAT(Lines(menu.mnuGridPopMenu),
+                ElementsAre("mnuGridPopMenu ", "  mnuAddRule &Add Rule", "  mnuDeleteRule &Delete Rule"));
+    EXPECT_THAT(Lines(menu.mnuSecuritypopMenu),
+                ElementsAre("mnuSecuritypopMenu ", "  mnuAddUser Add User", "  mnuDeleteUser Delete User"));
+}
+
+TEST(MainMenuTest, HasSeparatorsWhereItsNamesSayAndNowhereElse) {
+    const MainMenu menu;
+    for (const auto* entry : {&menu.mnuSeperator5, &menu.mnuSeperator6, &menu.mnuSeperator7}) {
+        EXPECT_TRUE(entry->IsSeparator()) << entry->Name();
+    }
+    for (const auto* entry : {&menu.mnuSave, &menu.mnuExit, &menu.mnuContents, &menu.mnuIndex, &menu.mnuWeb,
+                              &menu.mnuWebProducts, &menu.mnuWebHome, &menu.mnuAbout}) {
+        EXPECT_FALSE(entry->IsSeparator()) << entry->Name();
+    }
+}
+
+TEST_F(MainWindowTest, ClosesFromTheMenuWithoutAQuestionOfItsOwn) {
+    StartAndForget("@RULES");
+    window().menu.mnuExit.Click();
+    EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings Form_Unload Rules", "RemoveMinSizeHook",
+                                   "SaveWindowPlacement", "trace frmGlobalSettings Form_Unload Unloaded"));
+    EXPECT_EQ(unloaded, 1);
+    EXPECT_FALSE(form().Visible());
+    EXPECT_THAT(world.dialogs.Shown(), IsEmpty());
+}
+
+TEST_F(MainWindowTest, SavesThePlaceAfterTheHookIsGoneAndBeforeItTellsThatItIsGone) {
+    StartAndForget("@UNITS");
+    window().unloaded.Connect([&] { calls.emplace_back("unloaded"); });
+    window().Unload();
+    EXPECT_THAT(calls, ElementsAre("CommitCellEdit", "trace frmGlobalSettings Form_Unload Units",
+                                   "RemoveMinSizeHook", "SaveWindowPlacement",
+                                   "trace frmGlobalSettings Form_Unload Unloaded", "unloaded"));
+}
+
+TEST_F(MainWindowTest, ClosesWithoutAPlacementToo) {
+    options.placement = nullptr;
+    StartAndForget("@RULES");
+    EXPECT_TRUE(window().Unload());
+    EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings Form_Unload Rules",
+                                   "trace frmGlobalSettings Form_Unload Unloaded"));
+}
+
+TEST_F(MainWindowTest, KeepsThePlaceAndTheHookWhenAFailedCheckKeepsItOpen) {
+    StartAndForget("@UNITS");
+    form().ChangeFlag = true;
+    units.valid = false;
+    ExpectWishToSave(Answer::Yes);
+    window().menu.mnuExit.Click();
+    EXPECT_THAT(calls, ::testing::Not(::testing::Contains("SaveWindowPlacement")));
+    EXPECT_THAT(calls, ::testing::Not(::testing::Contains("RemoveMinSizeHook")));
+    EXPECT_EQ(unloaded, 0);
+}
+
+TEST_F(MainWindowTest, AsksBeforeLeavingWithoutSavingAndStaysOnNo) {
+    StartAndForget("@RULES");
+    world.dialogs.ExpectYesNo(kSure, "Confirm Exit", Answer::No, Escape::AnswersNo);
+    window().ConfirmExit();
+    EXPECT_EQ(unloaded, 0);
+    EXPECT_THAT(calls, IsEmpty());
+}
+
+TEST_F(MainWindowTest, GoesThroughTheClosingQuestionAfterThatYes) {
+    StartAndForget("@RULES");
+    form().ChangeFlag = true;
+    world.dialogs.ExpectYesNo(kSure, "Confirm Exit", Answer::Yes, Escape::AnswersNo);
+    ExpectWishToSave(Answer::No);
+    window().ConfirmExit();
+    EXPECT_EQ(unloaded, 1);
+}
+
+TEST_F(MainWindowTest, LoadsOnceUntilItIsUnloaded) {
+    StartAndForget("@RULES");
+    window().Load();
+    window().Show();
+    EXPECT_THAT(calls, IsEmpty());
+    window().Unload();
+    calls.clear();
+    window().Show();
+    EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings Form_Load Start", "InstallMinSizeHook"));
+    EXPECT_TRUE(form().Visible());
+}
+
+TEST_F(MainWindowTest, LaysOutThePageInChargeAlone) {
+    StartAndForget("@SECURITY");
+    form().SetInnerSize({10000, 9000});
+    EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings Form_Resize Start", "ResizeSecurity"));
+    StartAndForget("@UNITS");
+    form().SetInnerSize({10000, 9000});
+    EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings Form_Resize Start", "ResizeUnits"));
+    StartAndForget("@RULES");
+    form().SetInnerSize({10000, 9000});
+    EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings Form_Resize Start"));
+    EXPECT_EQ(form().fraRules.Bounds().width, 10000);
+}
+
+TEST_F(MainWindowTest, RunsNoLayoutWhileItIsMinimized) {
+    StartAndForget("@UNITS");
+    form().SetState(WindowState::Minimized);
+    form().SetInnerSize({0, 0});
+    EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings Form_Resize Start"));
+    form().SetState(WindowState::Maximized);
+    form().SetInnerSize({28800, 16200});
+    EXPECT_EQ(calls.back(), "ResizeUnits");
+}
+
+TEST_F(MainWindowTest, StartsWithoutMarksAndWithoutAMinimumSizeOfItsOwn) {
+    Start("@RULES");
+    ExpectMarks(false, false);
+    EXPECT_EQ(form().MinWidth, 0);
+    EXPECT_EQ(form().MinHeight, 0);
+    EXPECT_EQ(form().Name(), "frmGlobalSettings");
+    EXPECT_EQ(&window().Form(), &form());
+}
+
+} // namespace
+} // namespace zy::test
