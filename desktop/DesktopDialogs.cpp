@@ -29,8 +29,12 @@ int DesktopDialogs::Show(std::string_view text, std::string_view title, long but
     gate_.PrepareForBox();
     wxMessageDialog box(wxTheApp->GetTopWindow(), ToShown(codePage_, text), ToShown(codePage_, title),
                         buttons | wxICON_NONE);
+    const bool tellsOfFailure = gate_.HasFailed();
     const int answer = box.ShowModal();
-    gate_.Rethrow();
+    if (!tellsOfFailure) {
+        // Something failed while the box was open: whoever asked must not go on.
+        gate_.Rethrow();
+    }
     return answer;
 }
 

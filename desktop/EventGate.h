@@ -35,6 +35,7 @@ class EventGate {
     void PrepareForBox();
     /// Throws on the exception that was kept, if there is one.
     void Rethrow() const;
+    bool HasFailed() const { return failure_ != nullptr; }
 
     /// Views do now what they do once for a whole action.
     Event<> updateViews;

@@ -1,0 +1,67 @@
+#include <wx/frame.h>
+
+#include <stdexcept>
+
+#include "WindowTest.h"
+
+namespace zy::test {
+namespace {
+
+constexpr auto kOverflow = "Run-time error '6':\n\nOverflow";
+
+class ErrorWindow : public WindowTest {};
+
+TEST_F(ErrorWindow, ARunTimeErrorAtStartUpIsShownAndEndsTheProgramWithStatusOne) {
+    PutRules(ManyRules(32768));
+    const int status = PlayFromTheStart([&] {
+        ExpectBox(kOverflow, "ZY Setup");
+        Press(WXK_RETURN);
+    });
+    EXPECT_EQ(status, 1);
+}
+
+TEST_F(ErrorWindow, ARunTimeErrorInAHandlerDoesTheSame) {
+    PutRules(ManyRules(32767));
+    const int status = Play([&] {
+        Click(page().cmdAddList);
+        ExpectBox(kOverflow, "ZY Setup");
+        Press(WXK_RETURN);
+    });
+    EXPECT_EQ(status, 1);
+    EXPECT_EQ(File(), FileOf(ManyRules(32767)));
+}
+
+TEST_F(ErrorWindow, AnyOtherErrorIsShownByItsMessage) {
+    PutRules(ThreeRules());
+    const int status = Play([&] {
+        InWindow([&] {
+            program->window.menu.mnuAbout.click.Connect([] { throw std::runtime_error("No such thing"); });
+        });
+        Press('H', wxMOD_ALT);
+        Press('A');
+        ExpectBox("No such thing", "ZY Setup");
+        Press(WXK_RETURN);
+    });
+    EXPECT_EQ(status, 1);
+}
+
+TEST_F(ErrorWindow, AnErrorWhileABoxIsOpenEndsWhatTheBoxBelongsTo) {
+    PutRules(ThreeRules());
+    const int status = Play([&] {
+        Click(page().cmdDeleteList);
+        ExpectBox("Are you Sure you want to Delete this Rule", "Confirm Delete");
+        InWindow([&] {
+            program->form.resize.Connect([] { throw std::runtime_error("No such size"); });
+            RealFrame().SetSize(RealFrame().GetSize() + wxSize(50, 50));
+        });
+        WaitUntil("the window has its new size", [&] { return program->form.InnerSize().width > 0; });
+        PressInBox(WXK_RETURN); // Yes, but nothing is deleted any more
+        ExpectBox("No such size", "ZY Setup");
+        EXPECT_EQ(InWindow([&] { return page().lstRulesList.Count(); }), 3);
+        Press(WXK_RETURN);
+    });
+    EXPECT_EQ(status, 1);
+}
+
+} // namespace
+} // namespace zy::test

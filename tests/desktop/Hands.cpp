@@ -1,0 +1,52 @@
+#include "Hands.h"
+
+#include <wx/uiaction.h>
+
+#include "WindowThread.h"
+
+namespace zy::test {
+
+Hands::Hands() : simulator_(InWindow([] { return std::make_unique<wxUIActionSimulator>(); })) {}
+
+Hands::~Hands() = default;
+
+void Hands::Press(int key, int modifiers) {
+    InWindow([&] { simulator_->Char(key, modifiers); });
+}
+
+void Hands::Type(const std::string& text) {
+    InWindow([&] { simulator_->Text(text.c_str()); });
+}
+
+void Hands::Click(const wxPoint& place) {
+    PushMouse(place);
+    LetGoOfMouse();
+}
+
+void Hands::PushMouse(const wxPoint& place) {
+    InWindow([&] { simulator_->MouseMove(place); });
+    InWindow([&] { simulator_->MouseDown(); });
+}
+
+void Hands::LetGoOfMouse() {
+    InWindow([&] { simulator_->MouseUp(); });
+}
+
+void Hands::Drag(const wxPoint& from, const wxPoint& to) {
+    PushMouse(from);
+    constexpr int kSteps = 10;
+    for (int step = 1; step <= kSteps; ++step) {
+        InWindow([&] { simulator_->MouseMove(from + (to - from) * step / kSteps); });
+    }
+    LetGoOfMouse();
+}
+
+void Hands::HoldKey(int key) {
+    InWindow([&] { simulator_->KeyDown(key); });
+}
+
+void Hands::LetGoOfKey(int key) {
+    InWindow([&] { simulator_->KeyUp(key); });
+}
+
+} // namespace zy::test

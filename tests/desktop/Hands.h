@@ -1,0 +1,35 @@
+#pragma once
+
+#include <wx/defs.h>
+#include <wx/gdicmn.h>
+
+#include <memory>
+#include <string>
+
+class wxUIActionSimulator;
+
+namespace zy::test {
+
+/// Keyboard and mouse: whatever has the focus or lies under the pointer gets real events.
+class Hands {
+  public:
+    Hands();
+    ~Hands();
+
+    void Press(int key, int modifiers = wxMOD_NONE);
+    /// Types characters that are on the keyboard.
+    void Type(const std::string& text);
+    void Click(const wxPoint& place);
+    /// Presses the button of the mouse and keeps it down.
+    void PushMouse(const wxPoint& place);
+    void LetGoOfMouse();
+    void Drag(const wxPoint& from, const wxPoint& to);
+    /// Holds a key such as WXK_CONTROL down.
+    void HoldKey(int key);
+    void LetGoOfKey(int key);
+
+  private:
+    std::unique_ptr<wxUIActionSimulator> simulator_;
+};
+
+} // namespace zy::test
