@@ -54,13 +54,14 @@ bool Normalise(std::string& number, char decimalSeparator) {
     return at == number.size();
 }
 
-/// The number behind the "e" of a text such as "e+5". None is 0; one that is too long counts as very large.
+/// The number behind the "e" of a text such as "e+5"; 0 when there is none. One that is very large counts as
+/// smaller than it is, so that a little can be added to it.
 std::int64_t ExponentOf(std::string_view text) {
     constexpr auto kVeryLarge = std::numeric_limits<std::int64_t>::max() / 2;
     text.remove_prefix(std::min(text.find_first_of("-0123456789"), text.size()));
     std::int64_t exponent = text.empty() ? 0 : text.front() == '-' ? -kVeryLarge : kVeryLarge;
     std::from_chars(text.data(), text.data() + text.size(), exponent);
-    return exponent;
+    return std::clamp(exponent, -kVeryLarge, kVeryLarge);
 }
 
 /// What a number that no double can hold comes out as: zero when it is too small, else infinity.
