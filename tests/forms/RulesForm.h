@@ -2,7 +2,7 @@
 
 #include <initializer_list>
 
-#include "ProgramTest.h"
+#include "support/ProgramTest.h"
 
 namespace zy::test {
 

@@ -1,4 +1,4 @@
-#include "EditorsTest.h"
+#include "support/EditorsTest.h"
 
 namespace zy::test {
 namespace {

@@ -69,6 +69,10 @@ TEST_F(BadRulesFile, WithAByteOrderMarkElsewhereSkipsThatLine) {
     EXPECT_EQ(skipped, 1U);
     EXPECT_THAT(Taken("\xEF\xBB[RULE]\r\nCODE= A\r\n"), IsEmpty()) << "half a mark is none";
     EXPECT_EQ(skipped, 2U);
+    EXPECT_THAT(Taken("; rules\r\n\xEF\xBB\xBF[RULE]\r\nCODE= A\r\n"), IsEmpty());
+    EXPECT_EQ(skipped, 3U);
+    EXPECT_THAT(Taken("[RULE]\r\nCODE= A\r\n\xEF\xBB\xBF[RULE]\r\nCODE= B\r\n"), ElementsAre("B|||||||"));
+    EXPECT_EQ(skipped, 1U);
 }
 
 TEST_F(BadRulesFile, InUtf16GivesNoRule) {
@@ -99,9 +103,10 @@ TEST_F(BadRulesFile, WithDamagedHeadersSkipsTheirSections) {
 }
 
 TEST_F(BadRulesFile, WithUnknownKeysGivesTheKnownOnes) {
-    EXPECT_THAT(Taken("[RULE]\r\nCODE= A\r\nCOLOUR= red\r\nDESC4= x\r\nCODES= x\r\n= x\r\nMIN= 1\r\n"),
-                ElementsAre("A|1||||||"));
-    EXPECT_EQ(skipped, 4U);
+    EXPECT_THAT(
+        Taken("[RULE]\r\nCODE= A\r\nCOLOUR= red\r\nDESC4= x\r\nCODES= x\r\n= x\r\n{ODE= x\r\nMIN= 1\r\n"),
+        ElementsAre("A|1||||||"));
+    EXPECT_EQ(skipped, 5U);
 }
 
 TEST_F(BadRulesFile, WithARepeatedKeyGivesTheLastOfIt) {
@@ -110,8 +115,8 @@ TEST_F(BadRulesFile, WithARepeatedKeyGivesTheLastOfIt) {
 }
 
 TEST_F(BadRulesFile, WithHeadersAndKeysInAnotherCaseGivesThemAll) {
-    EXPECT_THAT(Taken("[rule]\r\ncode= A\r\nMin= 1\r\n[Rule]\r\ndesc1= d\r\nzOnE= z\r\n"),
-                ElementsAre("A|1||||||", "||||z|d||"));
+    EXPECT_THAT(Taken("[rule]\r\ncode= A\r\nMin= 1\r\nmax= 2\r\n[Rule]\r\ndesc1= d\r\nzOnE= z\r\n"),
+                ElementsAre("A|1|2|||||", "||||z|d||"));
     EXPECT_EQ(skipped, 0U);
 }
 

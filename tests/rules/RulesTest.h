@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "RulesOnDisk.h"
+#include "support/RulesOnDisk.h"
 #include "rules/mRules.h"
 #include "support/WorldTest.h"
 

@@ -1,7 +1,4 @@
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <set>
 #include <string>
 
@@ -9,18 +6,13 @@
 #include "rules/RulesControls.h"
 #include "rules/RulesDetails.h"
 #include "rules/mRules.h"
+#include "support/Samples.h"
 #include "support/WorldTest.h"
 
 namespace zy::test {
 namespace {
 
 constexpr std::string_view kRulesFile = R"(C:\SYS\ZYRules.sys)";
-
-std::string SampleBytes() {
-    const auto source = std::filesystem::path(__FILE__).parent_path() / "../../samples/ZYRules.sys";
-    std::ifstream file(source, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 /// The rules of the sample settings, loaded as the program loads them.
 class Samples : public WorldTest {
@@ -39,7 +31,7 @@ class Samples : public WorldTest {
         return fronts;
     }
 
-    const std::string bytes = SampleBytes();
+    const std::string bytes = SampleBytes("ZYRules.sys");
     TraceChannel trace{world.traceServers, "zyGlobal"};
     mRules rules{world.Get(), trace};
 };

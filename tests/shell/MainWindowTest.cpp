@@ -1,4 +1,4 @@
-#include "../forms/EditorsTest.h"
+#include "support/EditorsTest.h"
 
 namespace zy::test {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "FakeEditors.h"
-#include "ProgramTest.h"
+#include "support/FakeEditors.h"
+#include "support/ProgramTest.h"
 
 namespace zy::test {
 

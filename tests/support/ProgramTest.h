@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "../rules/RulesOnDisk.h"
 #include "shell/Program.h"
 #include "shell/mMain.h"
+#include "support/RulesOnDisk.h"
 #include "support/WorldTest.h"
 
 namespace zy::test {
