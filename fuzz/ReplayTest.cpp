@@ -21,7 +21,8 @@ void PrintTo(const Target& target, std::ostream* out) {
     *out << target.name;
 }
 
-constexpr std::array<Target, 5> kTargets{{{"FileNames", FileNames},
+constexpr std::array<Target, 6> kTargets{{{"FileNames", FileNames},
+                                          {"IniFile", IniFile},
                                           {"Numbers", Numbers},
                                           {"RulesBlocks", RulesBlocks},
                                           {"RulesFile", RulesFile},

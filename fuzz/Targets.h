@@ -11,6 +11,8 @@ namespace zy::fuzz {
 
 /// The texts of the system's file names, into the program and back.
 void FileNames(std::string_view input);
+/// A settings file of the INI kind through load, save and load again, against the plainest way to read it.
+void IniFile(std::string_view input);
 /// The parser of numbers, against the C library's.
 void Numbers(std::string_view input);
 /// Reading a rules file block by block, against reading it whole.

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <string_view>
 
 #include "platform/FileSystem.h"
 
@@ -9,8 +10,8 @@ namespace zy {
 
 /// The text of a loaded file, one character a byte.
 ///
-/// Behind the text stand a CR LF and then room for a word, so that it can be taken apart in place by searches
-/// that look for no other end. The characters keep their place when the object is moved.
+/// Behind it there is room for a block of characters, which scans may read and write back: they look at a
+/// block at a time. The characters keep their place when the object is moved.
 class FileText {
   public:
     FileText() = default;
@@ -18,11 +19,11 @@ class FileText {
     /// much is read as the low 32 bits of its size say.
     explicit FileText(FileHandle& file);
 
-    char* Begin() const { return bytes_.get(); }
-    char* End() const { return bytes_.get() + size_; }
+    char* Begin() const { return characters_.get(); }
+    std::string_view View() const { return {characters_.get(), size_}; }
 
   private:
-    std::unique_ptr<char[]> bytes_;
+    std::unique_ptr<char[]> characters_;
     std::size_t size_ = 0;
 };
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <array>
 #include <memory>
 #include <string_view>
 
@@ -57,21 +56,9 @@ class INIfile {
     void SaveFile(std::string_view Filename);
 
   private:
-    /// What a line of a loaded file holds.
-    struct ParsedLine {
-        std::string_view key; ///< empty when the line is not taken
-        std::string_view value;
-        char* end;
-    };
-
-    ParsedLine ParseLine(char* line) const;
-    char* ToCapitals(char* at) const;
-    bool FileExists(std::string_view path) { return files_.Exists(path); }
-
     FileSystem& files_;
-    TraceChannel& trace_;
     const CodePage& codePage_;
-    std::array<unsigned char, 256> capitals_{};
+    TraceChannel& trace_;
     std::shared_ptr<zy::INIlines> lines_;
     INIformat format_;
 };

@@ -8,75 +8,72 @@
 namespace zy {
 namespace {
 
+constexpr std::string_view kEquals = "= ";
 constexpr std::string_view kLineEnd = "\r\n";
 
-/// Builds the text of a file line by line.
-class TextBuilder {
+/// Writes the text of a file over blanks, from the first character on.
+class LineWriter {
   public:
-    TextBuilder(const INIformat& format, const CodePage& codePage)
+    LineWriter(const INIformat& format, const CodePage& codePage)
         : codePage_(codePage), ucaseSection_(format.ucaseSection),
           indent_(static_cast<std::size_t>(std::max(format.leadingSpaces, 0))),
           equalAt_(static_cast<std::size_t>(std::max(format.equalPos, 1)) - 1) {}
 
-    void Reserve(const INIlines& lines) {
-        std::size_t size = 0;
-        for (const auto& line : lines) {
-            size += std::max(indent_ + line.Section().size(), equalAt_) + line.Value().size();
-            size += line.Group().size() + 4;
+    /// The number of characters that the line takes at most.
+    std::size_t Room(const INIline& line) const {
+        if (Trim(line.Section()).empty()) {
+            return line.Group().size() + kLineEnd.size();
         }
-        text_.reserve(size);
+        const auto keyRoom = std::max(indent_ + line.Section().size(), equalAt_);
+        return keyRoom + kEquals.size() + line.Value().size() + kLineEnd.size();
     }
 
-    void Append(const INIline& line) {
+    /// Writes a line and returns its end.
+    char* Write(const INIline& line, char* at) const {
         const auto key = Trim(line.Section());
-        if (key.empty()) {
-            text_ += codePage_.UCase(Trim(line.Group()));
-        } else {
-            AppendKey(key);
-            AppendValue(Trim(line.Value()));
-        }
-        text_ += kLineEnd;
+        at = key.empty() ? WriteCapitals(Trim(line.Group()), at)
+                         : WriteValue(Trim(line.Value()), WriteKey(key, at));
+        return Copy(kLineEnd, at);
     }
-
-    std::string Take() { return std::move(text_); }
 
   private:
-    void AppendKey(std::string_view key) {
-        text_.append(indent_, ' ');
-        if (ucaseSection_) {
-            text_ += codePage_.UCase(key);
-        } else {
-            text_ += key;
-        }
-        const auto length = indent_ + key.size();
-        text_.append(equalAt_ - std::min(length, equalAt_), ' ');
+    static char* Copy(std::string_view text, char* at) { return std::copy(text.begin(), text.end(), at); }
+
+    char* WriteCapitals(std::string_view text, char* at) const {
+        return std::transform(text.begin(), text.end(), at, [this](char c) { return codePage_.Upper(c); });
     }
 
-    void AppendValue(std::string_view value) {
-        text_ += '=';
-        if (!value.empty()) {
-            text_ += ' ';
-            text_ += value;
-        }
+    char* WriteKey(std::string_view key, char* at) const {
+        char* const end = ucaseSection_ ? WriteCapitals(key, at + indent_) : Copy(key, at + indent_);
+        return std::max(end, at + equalAt_);
+    }
+
+    static char* WriteValue(std::string_view value, char* at) {
+        return value.empty() ? Copy("=", at) : Copy(value, Copy(kEquals, at));
     }
 
     const CodePage& codePage_;
     bool ucaseSection_;
     std::size_t indent_;
     std::size_t equalAt_;
-    std::string text_;
 };
 
 } // namespace
 
 std::string INIfileText(const INIlines& lines, const INIformat& format, const CodePage& codePage) {
     [[maybe_unused]] const Int16 count = lines.Count();
-    TextBuilder text(format, codePage);
-    text.Reserve(lines);
+    const LineWriter writer(format, codePage);
+    std::size_t room = 0;
     for (const auto& line : lines) {
-        text.Append(line);
+        room += writer.Room(line);
     }
-    return text.Take();
+    std::string text(room, ' ');
+    char* at = text.data();
+    for (const auto& line : lines) {
+        at = writer.Write(line, at);
+    }
+    text.resize(static_cast<std::size_t>(at - text.data()));
+    return text;
 }
 
 } // namespace zy

@@ -22,18 +22,6 @@ INIline::~INIline() {
     }
 }
 
-std::string_view INIline::Group() const {
-    return at_.isOwn ? at_.own->group : std::string_view(at_.section - at_.groupDistance, at_.groupLength);
-}
-
-std::string_view INIline::Section() const {
-    return at_.isOwn ? at_.own->section : std::string_view(at_.section, at_.sectionLength);
-}
-
-std::string_view INIline::Value() const {
-    return at_.isOwn ? at_.own->value : std::string_view(at_.section + at_.valueDistance, at_.valueLength);
-}
-
 INIline::OwnTexts& INIline::Own() {
     if (!at_.isOwn) {
         *this = INIline(*this);

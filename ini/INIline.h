@@ -70,13 +70,27 @@ class INIline {
     Places at_;
 };
 
+// In place, for the sake of the loops over all lines.
+
 inline INIline::INIline(const INIplaces& places) {
     at_.section = places.section.data();
-    at_.groupDistance = static_cast<std::uint32_t>(places.section.data() - places.group.data());
-    at_.groupLength = static_cast<std::uint16_t>(places.group.size());
     at_.sectionLength = static_cast<std::uint16_t>(places.section.size());
+    at_.groupLength = static_cast<std::uint16_t>(places.group.size());
+    at_.groupDistance = static_cast<std::uint32_t>(places.section.data() - places.group.data());
     at_.valueDistance = static_cast<std::uint16_t>(places.value.data() - places.section.data());
     at_.valueLength = static_cast<std::uint16_t>(places.value.size());
+}
+
+inline std::string_view INIline::Group() const {
+    return at_.isOwn ? at_.own->group : std::string_view(at_.section - at_.groupDistance, at_.groupLength);
+}
+
+inline std::string_view INIline::Section() const {
+    return at_.isOwn ? at_.own->section : std::string_view(at_.section, at_.sectionLength);
+}
+
+inline std::string_view INIline::Value() const {
+    return at_.isOwn ? at_.own->value : std::string_view(at_.section + at_.valueDistance, at_.valueLength);
 }
 
 } // namespace zy

@@ -15,26 +15,22 @@ Int16 INIlines::Clear() {
     return 0;
 }
 
-INIline& INIlines::Item(std::int32_t index) {
-    return *Found(index);
-}
-
 void INIlines::Remove(std::int32_t index) {
-    lines_.erase(Found(index));
+    lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(Checked(index)));
 }
 
 const FileText& INIlines::Keep(FileText text) {
-    // The lines first: they refer to the text.
+    // The lines go first: they refer to the old text.
     std::deque<INIline>().swap(lines_);
     text_ = std::move(text);
     return text_;
 }
 
-std::deque<INIline>::iterator INIlines::Found(std::int32_t index) {
+std::size_t INIlines::Checked(std::int32_t index) const {
     if (index < 1 || index > Count()) {
         RaiseSubscriptOutOfRange();
     }
-    return lines_.begin() + (index - 1);
+    return static_cast<std::size_t>(index) - 1;
 }
 
 } // namespace zy

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <deque>
-#include <ranges>
 #include <string_view>
 
 #include "basics/Int16.h"
@@ -14,11 +13,18 @@ namespace zy {
 /// The lines of a settings file in their order, counted from 1.
 ///
 /// A reference to a line stays valid until a line is removed or the collection is cleared or goes away;
-/// adding lines does not touch it. An index that no line has is run-time error 9 and changes nothing. Lines
+/// adding lines does not touch it. A position that no line has is run-time error 9 and changes nothing. Lines
 /// have no keys by which they could be asked for.
 class INIlines {
   public:
-    using Enumerator = std::ranges::subrange<std::deque<INIline>::iterator>;
+    /// The lines from the first to the last, for a loop over them.
+    struct Enumerator {
+        std::deque<INIline>::iterator first;
+        std::deque<INIline>::iterator last;
+
+        auto begin() const { return first; }
+        auto end() const { return last; }
+    };
 
     INIlines() = default;
     INIlines(const INIlines&) = delete;
@@ -28,26 +34,25 @@ class INIlines {
     INIline& Add(std::string_view group, std::string_view section = {}, std::string_view value = {});
     /// Drops all lines. Always 0.
     Int16 Clear();
-    INIline& Item(std::int32_t index);
+    INIline& Item(std::int32_t index) { return lines_[Checked(index)]; }
+    const INIline& Item(std::int32_t index) const { return lines_[Checked(index)]; }
     std::int32_t Count() const { return static_cast<std::int32_t>(lines_.size()); }
     /// Takes a line out; those behind it move up by one place.
     void Remove(std::int32_t index);
 
-    /// The lines from the first to the last, for a loop over all of them.
     Enumerator NewEnum() { return {lines_.begin(), lines_.end()}; }
     auto begin() { return lines_.begin(); }
     auto end() { return lines_.end(); }
     auto begin() const { return lines_.begin(); }
     auto end() const { return lines_.end(); }
 
-    /// Drops all lines and keeps the text of a file in their place, for lines that refer to it. Returns the
-    /// text as it is kept.
+    /// Drops all lines and keeps the text of a file, for lines that refer to it. Returns the text kept.
     const FileText& Keep(FileText text);
     /// Appends a line that refers to the text kept.
     void Add(const INIplaces& places) { lines_.emplace_back(places); }
 
   private:
-    std::deque<INIline>::iterator Found(std::int32_t index);
+    std::size_t Checked(std::int32_t index) const;
 
     FileText text_;
     std::deque<INIline> lines_;

@@ -1,0 +1,112 @@
+#include <string>
+#include <vector>
+
+#include "Targets.h"
+#include "basics/Text.h"
+#include "ini/INIfile.h"
+#include "platform/memory/MemoryWorld.h"
+
+namespace zy::fuzz {
+namespace {
+
+constexpr std::string_view kFile = R"(C:\SYS\ZYSECURE.ZYX)";
+
+struct Line {
+    std::string group;
+    std::string section;
+    std::string value;
+};
+
+/// What a line of a file means, worked out in the plainest way.
+void TakeLine(std::string text, std::vector<Line>& lines) {
+    for (char& c : text) {
+        c = c == '\r' || c == '\n' || c == '\t' ? ' ' : c;
+    }
+    const std::string_view trimmed = Trim(text);
+    const auto equals = trimmed.find('=');
+    const std::string group = lines.empty() ? "" : lines.back().group;
+    if (trimmed.starts_with('[')) {
+        const auto header = Windows1252().UCase(trimmed);
+        lines.push_back({header, header, ""});
+    } else if (equals != std::string_view::npos && equals != 0) {
+        lines.push_back({group, Windows1252().UCase(RTrim(trimmed.substr(0, equals))),
+                         std::string(Trim(trimmed.substr(equals + 1)))});
+    }
+}
+
+std::vector<Line> LinesOf(std::string_view text) {
+    std::vector<Line> lines;
+    for (auto end = text.find("\r\n"); end != std::string_view::npos; end = text.find("\r\n")) {
+        TakeLine(std::string(text.substr(0, end)), lines);
+        text.remove_prefix(end + 2);
+    }
+    return lines;
+}
+
+/// A settings file in a world of its own.
+struct Document {
+    explicit Document(std::string_view bytes) {
+        world.files.Put(kFile, bytes);
+        file.LoadFile(kFile);
+    }
+
+    INIlines& Lines() { return *file.INIlines(); }
+
+    std::string Saved() {
+        file.SaveFile(kFile);
+        return world.files.Get(kFile).value_or("nothing was saved");
+    }
+
+    MemoryWorld world;
+    TraceChannel trace{world.traceServers, "fuzz"};
+    INIfile file{world.files, Windows1252(), trace};
+};
+
+void RequireLines(INIlines& lines, const std::vector<Line>& expected) {
+    Require(lines.Count() == static_cast<std::int32_t>(expected.size()),
+            "as many lines are loaded as there are");
+    std::int32_t i = 0;
+    for (const auto& line : expected) {
+        const auto& loaded = lines.Item(++i);
+        Require(loaded.Group() == line.group, "a line stands under the last header");
+        Require(loaded.Section() == line.section, "a line has its key");
+        Require(loaded.Value() == line.value, "a line has its value");
+    }
+}
+
+/// A header comes back longer: saving writes it as a key, which is meant.
+void RequireSavedLines(INIlines& lines, const std::vector<Line>& expected) {
+    Require(lines.Count() == static_cast<std::int32_t>(expected.size()), "a save keeps every line");
+    std::int32_t i = 0;
+    for (const auto& line : expected) {
+        const auto& loaded = lines.Item(++i);
+        const bool isHeader = line.section.starts_with('[');
+        Require(isHeader ? loaded.Section().starts_with(line.section) : loaded.Section() == line.section,
+                "a save keeps the keys");
+        Require(loaded.Value() == line.value, "a save keeps the values");
+    }
+}
+
+/// A changed copy leaves the line itself alone.
+void RequireCopies(INIlines& lines, const std::vector<Line>& expected) {
+    for (INIline copy : lines) {
+        copy.Section("changed");
+        copy.Value(copy.Group());
+    }
+    RequireLines(lines, expected);
+}
+
+} // namespace
+
+void IniFile(std::string_view input) {
+    const auto expected = LinesOf(input);
+    Document document(input);
+    RequireLines(document.Lines(), expected);
+    RequireCopies(document.Lines(), expected);
+
+    Document again(document.Saved());
+    RequireLines(document.Lines(), expected);
+    RequireSavedLines(again.Lines(), expected);
+}
+
+} // namespace zy::fuzz

@@ -1,0 +1,128 @@
+#include "ini/INIparser.h"
+
+#include <limits>
+
+#include "basics/RuntimeError.h"
+#include "ini/CharacterBlock.h"
+
+namespace zy {
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+/// Positions in a line are 16-bit.
+constexpr std::ptrdiff_t kLongestLine = std::numeric_limits<std::int16_t>::max();
+
+constexpr char kFirstPlain = '\r' + 1;
+
+// Each scan stops at a line's end at the latest, so one must stand ahead.
+
+bool IsLineEnd(const char* at) {
+    return at[0] == '\r' && at[1] == '\n';
+}
+
+/// A CR, LF or TAB that ends no line counts as a blank.
+bool IsStrayBreak(const char* at) {
+    return *at == '\t' || *at == '\n' || (*at == '\r' && at[1] != '\n');
+}
+
+char* SkipBlanks(char* at) {
+    while (static_cast<unsigned char>(*at) <= ' ' && (*at == ' ' || IsStrayBreak(at))) {
+        ++at;
+    }
+    return at;
+}
+
+std::string_view TrimmedBehind(const char* begin, const char* end) {
+    while (end != begin && end[-1] == ' ') {
+        --end;
+    }
+    return {begin, static_cast<std::size_t>(end - begin)};
+}
+
+/// Moves on to an "=", a break or a character beyond ASCII and makes capitals of the letters on the way.
+char* ScanPlainKey(char* at) {
+    for (;; at += CharacterBlock::kSize) {
+        const CharacterBlock block(at);
+        const auto stops = block.Before(kFirstPlain) | block.BeyondAscii() | block.Equal('=');
+        if (stops.Any()) {
+            char* const stop = at + stops.First();
+            const CharacterBlock rest(stop);
+            block.AsciiCapitals().Store(at);
+            rest.Store(stop);
+            return stop;
+        }
+        block.AsciiCapitals().Store(at);
+    }
+}
+
+/// Moves on to the end of a key and makes capitals of the letters on the way, and blanks of stray breaks. The
+/// "=" in a header is part of it.
+char* ScanKey(char* at, bool isHeader, const CodePage& codePage) {
+    for (;; ++at) {
+        at = ScanPlainKey(at);
+        if (*at == '=' ? !isHeader : IsLineEnd(at)) {
+            return at;
+        }
+        if (*at != '=') {
+            *at = IsStrayBreak(at) ? ' ' : codePage.Upper(*at);
+        }
+    }
+}
+
+/// Moves on to the line's end and makes blanks of stray breaks on the way.
+char* ScanValue(char* at) {
+    for (;; ++at) {
+        auto breaks = CharacterBlock(at).Before(kFirstPlain);
+        while (!breaks.Any()) {
+            at += CharacterBlock::kSize;
+            breaks = CharacterBlock(at).Before(kFirstPlain);
+        }
+        at += breaks.First();
+        if (IsLineEnd(at)) {
+            return at;
+        }
+        if (IsStrayBreak(at)) {
+            *at = ' ';
+        }
+    }
+}
+
+/// Takes a line apart and returns its end. The section comes out empty when the line is not to be taken; the
+/// group stays as it is unless the line is a header.
+char* ParseLine(char* line, INIplaces& places, const CodePage& codePage) {
+    char* const first = SkipBlanks(line);
+    const bool isHeader = *first == '[';
+    char* end = ScanKey(first, isHeader, codePage);
+    places.section = places.value = std::string_view(first, first);
+    if (*end == '=') {
+        places.section = TrimmedBehind(first, end);
+        char* const value = SkipBlanks(end + 1);
+        end = ScanValue(value);
+        places.value = TrimmedBehind(value, end);
+    } else if (isHeader) {
+        places.section = places.group = TrimmedBehind(first, end);
+    }
+    if (end - line > kLongestLine) {
+        RaiseOverflow();
+    }
+    return end;
+}
+
+} // namespace
+
+void ParseLines(const FileText& text, const CodePage& codePage, INIlines& lines) {
+    const auto lastEnd = text.View().rfind(kLineEnd);
+    if (lastEnd == std::string_view::npos) {
+        return;
+    }
+    INIplaces places{.group = text.View().substr(0, 0), .section = {}, .value = {}};
+    const char* const behindLast = text.Begin() + lastEnd + kLineEnd.size();
+    for (char* line = text.Begin(); line != behindLast;) {
+        line = ParseLine(line, places, codePage) + kLineEnd.size();
+        if (!places.section.empty()) {
+            lines.Add(places);
+        }
+    }
+}
+
+} // namespace zy
