@@ -8,45 +8,46 @@
 namespace zy {
 
 Grid::Grid(Container* parent, std::string name, int columns)
-    : Control(parent, std::move(name)), columns_(columns), cells_(static_cast<std::size_t>(columns)),
+    : Control(parent, std::move(name)), columns_(columns),
       widths_(static_cast<std::size_t>(columns), kDesignedWidth),
-      columnLists_(static_cast<std::size_t>(columns)) {
+      columnLists_(static_cast<std::size_t>(columns)), fittedFrom_(columns) {
     validate = [this] {
         CommitEdit();
         return true;
     };
-}
-
-std::size_t Grid::Index(int row, int column) const {
-    if (row < 0 || row >= Rows() || column < 0 || column >= columns_) {
-        RaiseSubscriptOutOfRange();
-    }
-    return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
-           static_cast<std::size_t>(column);
+    SetRows(1);
 }
 
 void Grid::SetRows(int rows) {
-    CloseEditor();
-    cells_.resize(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns_));
-    KeepCurrentInside();
+    CommitEdit();
+    cells_.Resize(FirstCellOf(rows));
+    rows_ = rows;
     TellRowsChanged();
+    KeepCurrentInside();
 }
 
 void Grid::AddItem(std::string_view tabJoinedCells) {
     for (int column = 0; column < columns_; ++column) {
         const auto tab = tabJoinedCells.find('\t');
-        cells_.emplace_back(tabJoinedCells.substr(0, tab));
+        cells_.Append(tabJoinedCells.substr(0, tab));
         tabJoinedCells.remove_prefix(tab == std::string_view::npos ? tabJoinedCells.size() : tab + 1);
     }
+    ++rows_;
+    TellRowsChanged();
+}
+
+void Grid::AddRowsOf(std::string text, const CellTexts::Split& split) {
+    cells_.AppendPartsOf(std::move(text), split);
+    rows_ = static_cast<int>(cells_.Count()) / columns_;
     TellRowsChanged();
 }
 
 void Grid::RemoveItem(int row) {
-    CloseEditor();
-    const auto first = cells_.begin() + static_cast<std::ptrdiff_t>(Index(row, 0));
-    cells_.erase(first, first + columns_);
-    KeepCurrentInside();
+    CommitEdit();
+    cells_.Erase(Index(row, 0), FirstCellOf(1));
+    --rows_;
     TellRowsChanged();
+    KeepCurrentInside();
 }
 
 void Grid::TellRowsChanged() {
@@ -61,14 +62,13 @@ void Grid::SetRedraw(bool on) {
 }
 
 void Grid::KeepCurrentInside() {
-    current_.row = std::min(current_.row, Rows() - 1);
-    blockEnd_ = current_;
+    SetCurrent({std::min(current_.row, rows_ - 1), current_.column});
 }
 
 void Grid::SetText(int row, int column, std::string_view text) {
-    auto& cell = cells_[Index(row, column)];
-    if (cell != text) {
-        cell = text;
+    const auto cell = Index(row, column);
+    if (cells_[cell] != text) {
+        cells_.Set(cell, text);
         cellChanged.Raise(row, column);
     }
 }

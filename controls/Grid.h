@@ -1,7 +1,14 @@
 #pragma once
 
+#include <optional>
+#include <span>
+#include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
+#include "basics/RuntimeError.h"
+#include "controls/CellTexts.h"
 #include "controls/Control.h"
 #include "controls/Key.h"
 
@@ -26,16 +33,25 @@ class Grid : public Control {
 
     // The cells. A row or column outside the grid is run-time error 9.
 
-    int Rows() const { return static_cast<int>(cells_.size()) / columns_; }
+    int Rows() const { return rows_; }
     int Columns() const { return columns_; }
-    /// Adds empty rows at the end or cuts rows off it.
+    /// Adds empty rows at the end or cuts rows off it. An open edit is committed first.
     void SetRows(int rows);
     /// Appends a row whose cells are joined by TAB.
     void AddItem(std::string_view tabJoinedCells);
+    /// Appends many rows whose cells are parts of one text. The grid takes the text over, so that nothing is
+    /// copied; `split` finds the parts and appends them, whole rows.
+    void AddRowsOf(std::string text, const CellTexts::Split& split);
+    /// Removes a row. An open edit is committed first.
     void RemoveItem(int row);
     /// While off, `rowsChanged` is held back; switching on raises it, once. For filling a grid row by row.
     void SetRedraw(bool on);
-    const std::string& Text(int row, int column) const { return cells_[Index(row, column)]; }
+    /// Stays what it was until rows are set, removed or pasted, also when the cell's text is changed.
+    std::string_view Text(int row, int column) const { return cells_[Index(row, column)]; }
+    /// The texts of a row, column by column. To be used before anything in the grid changes.
+    std::span<const std::string_view> RowTexts(int row) const {
+        return cells_.Some(Index(row, 0), FirstCellOf(1));
+    }
     void SetText(int row, int column, std::string_view text);
 
     // The columns. Widths are in twips.
@@ -43,8 +59,14 @@ class Grid : public Control {
     static constexpr int kDesignedWidth = 960;
     int ColumnWidth(int column) const { return widths_.at(static_cast<std::size_t>(column)); }
     void SetColumnWidth(int column, int width);
-    /// Asks the view to fit the columns to their contents, from this one on.
-    void FitColumns(int firstColumn) { fitColumns.Raise(firstColumn); }
+    /// Asks the view to fit the columns to their contents, from this one on. A view that comes later asks by
+    /// FittedFrom.
+    void FitColumns(int firstColumn) {
+        fittedFrom_ = firstColumn;
+        fitColumns.Raise(firstColumn);
+    }
+    /// The first column of the last FitColumns; as many as there are columns when there was none.
+    int FittedFrom() const { return fittedFrom_; }
     /// Lets the cells of a column be edited through a drop-down list, its items separated by "|".
     void SetColumnList(int column, std::string_view items);
     /// In a `beforeEdit` handler: how the cell that is about to be edited is edited. A list as above; "..."
@@ -64,7 +86,7 @@ class Grid : public Control {
 
     // Editing.
 
-    /// Opens the current cell for editing, its whole text selected.
+    /// Opens the current cell for editing, its whole text selected. An edit that is open is committed first.
     void EditCell();
     bool IsEditing() const { return editing_; }
     const std::string& EditText() const { return editText_; }
@@ -80,7 +102,8 @@ class Grid : public Control {
 
     /// Clicks a cell, or moves there by keys. The header cannot be made current.
     void Pick(int row, int column);
-    /// Types on the current cell: editing starts with that text in place of the cell's.
+    /// Types on the current cell: editing starts with that text in place of the cell's, or goes on with it in
+    /// place of the editor's selection.
     void TypeOver(std::string_view text);
     /// Double-clicks the current cell.
     void OpenEditor();
@@ -94,8 +117,10 @@ class Grid : public Control {
     void PressCellButton();
     /// The block as a spreadsheet copies it: cells separated by TAB, rows ended by CR LF.
     std::string Copy() const;
-    /// Pastes such a text from the current cell on. Every cell counts as an edit; columns beyond the last are
-    /// left out, rows beyond the last are added where the grid may grow and left out elsewhere.
+    /// Pastes such a text from the block's first cell on, into an empty grid from its first cell on, and
+    /// selects what it pasted. Every cell counts as an edit; columns beyond the last are left out, rows
+    /// beyond the last are added where the grid may grow and left out elsewhere. More than 32,767 rows are
+    /// run-time error 6, and nothing is pasted.
     void Paste(std::string_view text);
     void SetGrowsByPaste(bool grows) { growsByPaste_ = grows; }
 
@@ -118,23 +143,43 @@ class Grid : public Control {
     Event<int> fitColumns;
 
   private:
-    std::size_t Index(int row, int column) const;
+    struct Block {
+        Cell first;
+        Cell last;
+    };
+
+    std::size_t Index(int row, int column) const {
+        if (row < 0 || row >= rows_ || column < 0 || column >= columns_) {
+            RaiseSubscriptOutOfRange();
+        }
+        return FirstCellOf(row) + static_cast<std::size_t>(column);
+    }
+    std::size_t FirstCellOf(int row) const {
+        return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_);
+    }
     void SetCurrent(Cell cell);
     void KeepCurrentInside();
     void TellRowsChanged();
-    void OpenWith(std::string_view text, bool selectAll);
+    void AnnounceEdit();
+    void OpenEditorWith(std::string_view text, std::size_t selStart, std::size_t selLength);
     void CloseEditor();
     bool PressInEditor(const KeyPress& press);
     bool PressOnCell(const KeyPress& press);
     bool MoveByKey(const KeyPress& press);
+    std::optional<Cell> Beside(Cell cell, Key key) const;
     bool MoveByTab(bool backwards);
+    Block Selected() const;
     void ClearBlock();
+    void MakeRoom(int rows);
+    Cell PasteFrom(Cell first, std::string_view text);
     void EditTo(int row, int column, std::string_view text);
 
     int columns_;
-    std::vector<std::string> cells_;
+    int rows_ = 0;
+    CellTexts cells_;
     std::vector<int> widths_;
     std::vector<std::string> columnLists_;
+    int fittedFrom_;
     Cell current_;
     Cell blockEnd_;
     bool growsByPaste_ = false;

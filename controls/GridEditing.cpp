@@ -5,17 +5,21 @@
 namespace zy {
 
 void Grid::EditCell() {
-    OpenWith(Text(current_.row, current_.column), true);
+    AnnounceEdit();
+    const auto text = Text(current_.row, current_.column);
+    OpenEditorWith(text, 0, text.size());
 }
 
-void Grid::OpenWith(std::string_view text, bool selectAll) {
+void Grid::AnnounceEdit() {
+    CommitEdit();
     Index(current_.row, current_.column);
     editList_ = columnLists_[static_cast<std::size_t>(current_.column)];
     beforeEdit.Raise(current_.row, current_.column);
+}
+
+void Grid::OpenEditorWith(std::string_view text, std::size_t selStart, std::size_t selLength) {
     editing_ = true;
-    editText_ = text;
-    editSelStart_ = selectAll ? 0 : text.size();
-    editSelLength_ = selectAll ? text.size() : 0;
+    EnterEditText(text, selStart, selLength);
     editingChanged.Raise();
 }
 
@@ -57,8 +61,14 @@ void Grid::Pick(int row, int column) {
 }
 
 void Grid::TypeOver(std::string_view text) {
-    if (TakeFocus() && current_.row >= 1) {
-        OpenWith(text, false);
+    if (!TakeFocus() || current_.row < 1) {
+        return;
+    }
+    if (editing_) {
+        ReplaceEditSelection(text);
+    } else {
+        AnnounceEdit();
+        OpenEditorWith(text, text.size(), 0);
     }
 }
 

@@ -37,11 +37,11 @@ bool Grid::PressOnCell(const KeyPress& press) {
     if (press.key == Key::Tab) {
         return !press.ctrl && !press.alt && MoveByTab(press.shift);
     }
-    if (current_.row >= 1 && press.IsPlain() && press.key == Key::F2) {
+    if (press.IsPlain() && current_.row >= 1 && press.key == Key::F2) {
         EditCell();
         return true;
     }
-    if (current_.row >= 1 && press.IsPlain() && press.key == Key::Delete) {
+    if (press.IsPlain() && current_.row >= 1 && press.key == Key::Delete) {
         ClearBlock();
         return true;
     }
@@ -51,7 +51,7 @@ bool Grid::PressOnCell(const KeyPress& press) {
 /// One cell on, row by row. False at the ends, where the focus leaves the grid.
 bool Grid::MoveByTab(bool backwards) {
     const int cell = current_.row * columns_ + current_.column + (backwards ? -1 : 1);
-    if (current_.row < 1 || cell < columns_ || cell >= Rows() * columns_) {
+    if (current_.row < 1 || cell < columns_ || cell >= rows_ * columns_) {
         CommitEdit();
         return false;
     }
@@ -59,41 +59,43 @@ bool Grid::MoveByTab(bool backwards) {
     return true;
 }
 
-bool Grid::MoveByKey(const KeyPress& press) {
-    if (press.alt || press.ctrl || Rows() < 2) {
-        return false;
-    }
-    // With Shift the block's far end moves, without it the current cell.
-    Cell cell = press.shift ? blockEnd_ : current_;
-    switch (press.key) {
+/// The cell that a key leads to from this one; nothing when it leads nowhere.
+std::optional<Cell> Grid::Beside(Cell cell, Key key) const {
+    switch (key) {
     case Key::Up:
-        --cell.row;
-        break;
+        return Cell{cell.row - 1, cell.column};
     case Key::Down:
-    case Key::Enter:
-        ++cell.row;
-        break;
+        return Cell{cell.row + 1, cell.column};
     case Key::Left:
-        --cell.column;
-        break;
+        return Cell{cell.row, cell.column - 1};
     case Key::Right:
-        ++cell.column;
-        break;
+        return Cell{cell.row, cell.column + 1};
     case Key::Home:
-        cell.column = 0;
-        break;
+        return Cell{cell.row, 0};
     case Key::End:
-        cell.column = columns_ - 1;
-        break;
+        return Cell{cell.row, columns_ - 1};
     default:
+        return std::nullopt;
+    }
+}
+
+bool Grid::MoveByKey(const KeyPress& press) {
+    if (press.alt || press.ctrl || rows_ < 2) {
         return false;
     }
-    cell.row = std::clamp(cell.row, 1, Rows() - 1);
-    cell.column = std::clamp(cell.column, 0, columns_ - 1);
-    if (press.shift) {
-        SelectTo(cell.row, cell.column);
+    const Key key = press.key == Key::Enter && !press.shift ? Key::Down : press.key;
+    // With Shift the block's far end moves, without it the current cell.
+    const bool stretches = press.shift && current_.row >= 1;
+    const auto beside = Beside(stretches ? blockEnd_ : current_, key);
+    if (!beside) {
+        return false;
+    }
+    const int row = std::clamp(beside->row, 1, rows_ - 1);
+    const int column = std::clamp(beside->column, 0, columns_ - 1);
+    if (stretches) {
+        SelectTo(row, column);
     } else {
-        Select(cell.row, cell.column);
+        Select(row, column);
     }
     return true;
 }

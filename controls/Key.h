@@ -23,7 +23,7 @@ enum class Key {
 };
 
 struct KeyPress {
-    Key key;
+    Key key{};
     bool ctrl = false;
     bool alt = false;
     bool shift = false;

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "shell/SettingsForm.h"
 #include "units/UnitsControls.h"
 
 namespace zy {
 
-/// Lays out the units page inside its frame, in twips: the arrows left of the grid, the buttons in a strip
-/// below it. Where a text needs more room than the designed sizes give, the text wins.
-void LayOutUnits(UnitsControls& controls, const Frame& fraUnits);
+/// Lays out the units page, in twips: its frame in the window, inside it the arrows, the grid at their right
+/// and the buttons in a strip at the foot. A text that needs more room than the designed sizes give gets it.
+/// A size that would not be positive is left as it is.
+void LayOutUnits(UnitsControls& controls, SettingsForm& form);
 
 } // namespace zy

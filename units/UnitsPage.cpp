@@ -2,10 +2,27 @@
 
 #include <string>
 
-#include "basics/RuntimeError.h"
+#include "basics/Int16.h"
 #include "units/UnitsLayout.h"
 
 namespace zy {
+namespace {
+
+/// The character that a key types into a unit together with Ctrl; none for most keys.
+std::string_view SpecialCharacter(Key key) {
+    switch (key) {
+    case Key::Digit0:
+        return "\xB0"; // degree sign
+    case Key::Digit2:
+        return "\xB2"; // superscript two
+    case Key::Digit3:
+        return "\xB3"; // superscript three
+    default:
+        return {};
+    }
+}
+
+} // namespace
 
 UnitsPage::UnitsPage(SettingsForm& form, SharedState& state, TraceChannel& trace, const World& world)
     : controls(form.FraUnits), form_(form), trace_(trace), world_(world),
@@ -32,18 +49,10 @@ void UnitsPage::Trace(std::string_view procedure, std::string_view message) {
     trace_.DebugTrace("frmGlobalSettings", procedure, message);
 }
 
-void UnitsPage::LoadUnitsData() {
-    ShowCount();
-    units_.LoadUnitsData();
-}
-
-void UnitsPage::ShowCount() {
-    form_.zyStatusBar.SetText("");
-}
-
 void UnitsPage::MarkUnitsChanged() {
     form_.ChangeFlag = true;
     controls.cmdSaveUnits.SetEnabled(true);
+    units_.ReportCount();
 }
 
 void UnitsPage::cmdAddUNit_Click() {
@@ -109,52 +118,57 @@ void UnitsPage::SwapWith(int neighbour) {
     auto& grid = controls.grdUnits;
     const int row = grid.Row();
     for (const int column : {kUnitDescription, kUnit}) {
-        const std::string saved = grid.Text(row, column);
-        grid.SetText(row, column, std::string(grid.Text(neighbour, column)));
+        const auto saved = grid.Text(row, column);
+        grid.SetText(row, column, grid.Text(neighbour, column));
         grid.SetText(neighbour, column, saved);
     }
     grid.Select(neighbour, grid.Column());
 }
 
 void UnitsPage::grdUnits_KeyDownEdit(const KeyPress& press) {
-    if (!press.ctrl || press.alt || press.shift || controls.grdUnits.Column() != kUnit) {
-        return;
-    }
-    if (press.key == Key::Digit0) {
-        controls.grdUnits.ReplaceEditSelection("\xB0");
-    } else if (press.key == Key::Digit2) {
-        controls.grdUnits.ReplaceEditSelection("\xB2");
-    } else if (press.key == Key::Digit3) {
-        controls.grdUnits.ReplaceEditSelection("\xB3");
+    auto& grid = controls.grdUnits;
+    const bool ctrlAlone = press.ctrl && !press.alt && !press.shift;
+    const auto character = SpecialCharacter(press.key);
+    if (ctrlAlone && grid.Column() == kUnit && !character.empty()) {
+        grid.ReplaceEditSelection(character);
     }
 }
 
 void UnitsPage::grdUnits_KeyDown(const KeyPress& press, bool& handled) {
-    auto& grid = controls.grdUnits;
-    if (press.key != Key::Tab || press.ctrl || press.alt) {
-        return;
-    }
-    const int lastRow = grid.Rows() - 1;
-    const int lastColumn = grid.Columns() - 1;
-    if (!press.shift && grid.Row() == lastRow && grid.Row() >= 1 && grid.Column() == lastColumn) {
-        grid.Select(1, 0);
-        controls.cmdAddUNit.SetFocus();
+    const bool altAlone = press.alt && !press.ctrl && !press.shift;
+    if (press.key == Key::Tab && !press.ctrl && !press.alt) {
+        handled = press.shift ? LeaveBackwards() : LeaveForwards();
+    } else if (altAlone && press.key == Key::Up) {
+        UpDownUnits_UpClick();
         handled = true;
-    } else if (press.shift && grid.Row() == 1 && grid.Column() == 0) {
-        grid.Select(lastRow, lastColumn);
-        controls.cmdHelpUnits.SetFocus();
+    } else if (altAlone && press.key == Key::Down) {
+        UpDownUnits_DownClick();
         handled = true;
     }
 }
 
-void UnitsPage::ResizeUnits() {
-    const auto& inner = form_.InnerSize();
-    const int width = inner.width - 100;
-    const int height = inner.height - 100 - form_.zyStatusBar.Preferred().height;
-    if (width > 0 && height > 0) {
-        form_.FraUnits.SetBounds({50, 50, width, height});
+bool UnitsPage::LeaveForwards() {
+    auto& grid = controls.grdUnits;
+    if (grid.Row() < 1 || grid.Row() != grid.Rows() - 1 || grid.Column() != grid.Columns() - 1) {
+        return false;
     }
-    LayOutUnits(controls, form_.FraUnits);
+    grid.Select(1, 0);
+    controls.cmdAddUNit.SetFocus();
+    return true;
+}
+
+bool UnitsPage::LeaveBackwards() {
+    auto& grid = controls.grdUnits;
+    if (grid.Row() != 1 || grid.Column() != 0) {
+        return false;
+    }
+    grid.Select(grid.Rows() - 1, grid.Columns() - 1);
+    controls.cmdHelpUnits.SetFocus();
+    return true;
+}
+
+void UnitsPage::ResizeUnits() {
+    LayOutUnits(controls, form_);
 }
 
 } // namespace zy

@@ -22,11 +22,12 @@ class UnitsPage : public UnitsEditor {
     void UpDownUnits_DownClick();
     /// Ctrl with 0, 2 or 3 types a degree sign, a superscript two or three into a unit.
     void grdUnits_KeyDownEdit(const KeyPress& press);
-    /// Tab at the grid's last cell goes on to the Add button, Shift+Tab at its first to the Help button.
+    /// Tab at the grid's last cell goes on to the Add button, Shift+Tab at its first to the Help button. Alt
+    /// with Up or Down moves the unit like the arrows do.
     void grdUnits_KeyDown(const KeyPress& press, bool& handled);
 
     // UnitsEditor
-    void LoadUnitsData() override;
+    void LoadUnitsData() override { units_.LoadUnitsData(); }
     void ResizeUnits() override;
     void CommitCellEdit() override { controls.grdUnits.CommitEdit(); }
     bool ValidateUnits() override { return units_.ValidateUnits(); }
@@ -40,7 +41,8 @@ class UnitsPage : public UnitsEditor {
     void Trace(std::string_view procedure, std::string_view message);
     void DeleteCurrentRow();
     void SwapWith(int neighbour);
-    void ShowCount();
+    bool LeaveForwards();
+    bool LeaveBackwards();
 
     SettingsForm& form_;
     TraceChannel& trace_;

@@ -1,14 +1,24 @@
 #include "units/mUnits.h"
 
+#include <cstdint>
+#include <utility>
+
 #include "basics/Int16.h"
-#include "basics/RuntimeError.h"
 #include "basics/Text.h"
 #include "shell/Utilities.h"
+#include "units/UnitsFileText.h"
 
 namespace zy {
 namespace {
 
-constexpr std::string_view kLineEnd = "\r\n";
+FileError WriteAndClose(FileHandle& file, std::string_view text) {
+    auto error = file.Write(text);
+    if (error == FileError::None) {
+        error = file.Flush();
+    }
+    const auto closed = file.Close();
+    return error == FileError::None ? closed : error;
+}
 
 } // namespace
 
@@ -19,106 +29,85 @@ void mUnits::Start(std::string_view procedure) {
     trace_.DebugTrace("mUnits", procedure, "Start");
 }
 
-void mUnits::ResetGrid() {
-    auto& grid = controls_.grdUnits;
-    grid.SetRows(0);
-    grid.AddItem("Unit\tUnit Description");
-}
-
-std::string mUnits::ReadUnitsFile() {
-    const auto opened = world_.files.OpenForReading(state_.gsUnitsFile);
-    if (!opened.handle) {
-        Report(opened.error);
-        return {};
-    }
-    return ReadFileText(*opened.handle, static_cast<std::uint32_t>(opened.handle->Size()));
-}
-
 void mUnits::LoadUnitsData() {
     Start("LoadUnitsData");
     auto& grid = controls_.grdUnits;
     grid.SetRedraw(false);
     ResetGrid();
     if (world_.files.Exists(state_.gsUnitsFile)) {
-        AppendRows(ReadUnitsFile());
+        ReadUnits();
         controls_.cmdSaveUnits.SetEnabled(false);
     } else {
         controls_.cmdSaveUnits.SetEnabled(true);
         controls_.cmdDeleteUnit.SetEnabled(false);
+        ReportCount();
     }
     grid.SetRedraw(true);
     grid.FitColumns(0);
 }
 
-void mUnits::AppendRows(std::string_view text) {
-    std::string row;
-    Int16 line = 0;
-    for (auto end = text.find(kLineEnd); end != std::string_view::npos; end = text.find(kLineEnd)) {
-        ++line;
-        const Fields fields = SplitFields(text.substr(0, end));
-        if (fields.Count() < 2) {
-            // Such a line ends the program; its place is told so that a person can repair the file.
-            throw RuntimeError(9, "Subscript out of range\n\n" + state_.gsUnitsFile + ", line " +
-                                      std::to_string(line) + " has no comma or TAB");
-        }
-        row.assign(fields[2]).append(1, '\t').append(fields[1]);
-        controls_.grdUnits.AddItem(row);
-        text.remove_prefix(end + kLineEnd.size());
-    }
+void mUnits::ResetGrid() {
+    controls_.grdUnits.SetRows(0);
+    controls_.grdUnits.AddItem("Unit\tUnit Description");
 }
 
-std::string mUnits::UnitsText() const {
-    const auto& grid = controls_.grdUnits;
-    std::size_t size = 0;
-    for (int row = 1; row < grid.Rows(); ++row) {
-        size += grid.Text(row, kUnit).size() + grid.Text(row, kUnitDescription).size() + 1 + kLineEnd.size();
+void mUnits::ReadUnits() {
+    const auto opened = world_.files.OpenForReading(state_.gsUnitsFile);
+    if (!opened.handle) {
+        Report(FileName() + " could not be read", opened.error);
+        return;
     }
-    std::string text;
-    text.reserve(size);
-    for (int row = 1; row < grid.Rows(); ++row) {
-        text += grid.Text(row, kUnitDescription);
-        text += ',';
-        text += grid.Text(row, kUnit);
-        text += kLineEnd;
+    const auto size = static_cast<std::uint32_t>(opened.handle->Size());
+    auto text = ReadFileText(*opened.handle, size);
+    const bool whole = text.size() == size;
+    controls_.grdUnits.AddRowsOf(std::move(text), [this](auto lines, auto& cells) {
+        AppendUnitCells(lines, state_.gsUnitsFile, cells);
+    });
+    if (whole) {
+        ReportCount();
+    } else {
+        Report(FileName() + " could not be read to its end", FileError::Other);
     }
-    return text;
 }
 
 void mUnits::Write_Units() {
     Start("Write_Units");
-    const Int16 rows = controls_.grdUnits.Rows() - 1; // raised before the file is touched
-    const std::string& path = state_.gsUnitsFile;
+    const UnitsFileText text(controls_.grdUnits); // an error here leaves the file as it is
+    const auto& path = state_.gsUnitsFile;
     if (world_.files.Exists(path)) {
         world_.files.Delete(path);
     }
-    auto created = world_.files.Create(path);
+    const auto created = world_.files.Create(path);
     if (!created.handle) {
-        Report(created.error);
+        Report("Not saved, " + FileName() + " could not be created", created.error);
         return;
     }
-    auto error = created.handle->Write(UnitsText());
+    const auto error = WriteAndClose(*created.handle, text.Get());
     if (error == FileError::None) {
-        error = created.handle->Flush();
-    }
-    const auto closed = created.handle->Close();
-    if (error == FileError::None) {
-        error = closed;
-    }
-    if (error == FileError::None) {
-        reported.Raise("Saved, " + std::to_string(rows) + (rows == 1 ? " unit" : " units"));
+        reported.Raise("Saved");
     } else {
-        Report(error);
+        Report("Not saved, " + FileName() + " could not be written", error);
     }
 }
 
-void mUnits::Report(FileError error) {
-    reported.Raise(std::string(FileNameOf(state_.gsUnitsFile)) + ": " + std::string(Describe(error)));
+std::string mUnits::FileName() const {
+    return std::string(FileNameOf(state_.gsUnitsFile));
+}
+
+void mUnits::Report(const std::string& what, FileError error) {
+    reported.Raise(what + ": " + std::string(Describe(error)));
+}
+
+void mUnits::ReportCount() {
+    const int units = controls_.grdUnits.Rows() - 1;
+    reported.Raise(std::to_string(units) + (units == 1 ? " unit" : " units"));
 }
 
 bool mUnits::ValidateUnits() {
     Start("ValidateUnits");
     const auto& grid = controls_.grdUnits;
-    for (Int16 row = 1; row < grid.Rows(); ++row) {
+    const Int16 last = grid.Rows() - 1;
+    for (int row = 1; row <= last; ++row) {
         if (!Validate_Unit(grid.Text(row, kUnit)) || !Validate_Desc(grid.Text(row, kUnitDescription))) {
             return false;
         }

@@ -22,14 +22,15 @@ class mUnits {
     mUnits(UnitsControls& controls, SharedState& state, TraceChannel& trace, const World& world);
 
     /// Empties the grid and fills it from the units file. Without a file the list is empty and can be saved
-    /// at once.
+    /// at once; of a file that cannot be read, the part that could be is taken.
     ///
     /// A line without a second field is run-time error 9, more than 32,767 lines are run-time error 6. What
     /// stands behind the last line end is not read.
     void LoadUnitsData();
 
     /// Puts a file with the rows of the grid in place of the units file. The old file goes first; whatever
-    /// fails then is told by `reported` alone.
+    /// fails then is told by `reported` alone. More than 32,767 rows are run-time error 6, and the file
+    /// stays.
     void Write_Units();
 
     /// Checks every row and shows the first failure. The current cell does not move to it.
@@ -37,17 +38,19 @@ class mUnits {
     bool Validate_Unit(std::string_view unit);
     bool Validate_Desc(std::string_view description);
 
-    /// Short texts for the status bar: how a save ended.
+    /// Reports how many units there are.
+    void ReportCount();
+
+    /// Short texts for the status bar: how many units there are, how a load or a save ended.
     Event<const std::string&> reported;
 
   private:
     void ResetGrid();
-    std::string ReadUnitsFile();
-    void AppendRows(std::string_view text);
-    std::string UnitsText() const;
+    void ReadUnits();
     bool Refuse(std::string_view message);
     void Start(std::string_view procedure);
-    void Report(FileError error);
+    std::string FileName() const;
+    void Report(const std::string& what, FileError error);
 
     UnitsControls& controls_;
     SharedState& state_;

@@ -2,12 +2,19 @@
 
 namespace zy {
 
+Program::Options Program::WithOwnEditors(Options given) {
+    if (given.units == nullptr) {
+        given.units = &unitsPage;
+    }
+    return given;
+}
+
 Program::Program(const World& outside) : Program(outside, Options()) {}
 
 Program::Program(const World& outside, const Options& given)
     : world(outside), trace(world.traceServers, world.system.ExecutableName()), rules(world, trace),
-      rulesPage(rules, form, state, trace, world), options(given),
-      window({form, state, trace, world, rules, rulesPage, options.security, options.units,
-              options.placement}) {}
+      rulesPage(rules, form, state, trace, world), unitsPage(form, state, trace, world),
+      options(WithOwnEditors(given)), window({form, state, trace, world, rules, rulesPage, options.security,
+                                              options.units, options.placement}) {}
 
 } // namespace zy

@@ -7,13 +7,14 @@
 #include "shell/SettingsForm.h"
 #include "shell/SharedState.h"
 #include "shell/TraceChannel.h"
+#include "units/UnitsPage.h"
 
 namespace zy {
 
 /// Everything that one run of the program consists of, short of the outside world.
 class Program {
   public:
-    /// What may be supplied from outside the rooms that the program builds itself.
+    /// What may be supplied from outside. An editor that is given takes the place of the program's own.
     struct Options {
         SecurityEditor* security = nullptr;
         UnitsEditor* units = nullptr;
@@ -29,8 +30,12 @@ class Program {
     SettingsForm form;
     mRules rules;
     RulesPage rulesPage;
+    UnitsPage unitsPage;
     Options options;
     MainWindow window;
+
+  private:
+    Options WithOwnEditors(Options given);
 };
 
 } // namespace zy

@@ -51,16 +51,12 @@ StartUp StartSecurity(Program& program) {
 }
 
 StartUp StartUnits(Program& program) {
-    auto* units = program.options.units;
-    if (units == nullptr) {
-        return StartUp::Ended;
-    }
     program.trace.DebugTrace(kModule, kProcedure, "Units Mode Started");
     program.window.ShowUnits();
     program.state.gbRulesMode = false;
     program.state.gbSecurityMode = false;
     program.state.gbUnitsMode = true;
-    units->ResizeUnits();
+    program.options.units->ResizeUnits();
     program.window.Show();
     return StartUp::WindowShown;
 }

@@ -1,56 +1,10 @@
-#include "controls/Grid.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include "basics/RuntimeError.h"
-#include "controls/CommandButton.h"
-#include "controls/Form.h"
+#include "GridTest.h"
 
 namespace zy {
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-template <typename Action>
-int ErrorNumber(const Action& action) {
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        return error.Number();
-    }
-    return 0;
-}
-
-/// A grid of three columns and two rows, and a list of what it announced.
-class GridTest : public ::testing::Test {
-  protected:
-    GridTest() {
-        form.SetVisible(true);
-        grid.AddItem("a\tb\tc");
-        grid.AddItem("d\te\tf");
-        const auto note = [this](const char* what) {
-            return [this, what](int row, int column) {
-                notes.push_back(std::string(what) + " " + std::to_string(row) + "," + std::to_string(column));
-            };
-        };
-        grid.cellChanged.Connect(note("changed"));
-        grid.beforeEdit.Connect(note("before"));
-        grid.afterEdit.Connect(note("after"));
-        grid.currentCellChanged.Connect([this] { notes.emplace_back("current"); });
-    }
-
-    std::vector<std::string> Row(int row) const {
-        return {grid.Text(row, 0), grid.Text(row, 1), grid.Text(row, 2)};
-    }
-    void TypeInEditor(const std::string& text) { grid.EnterEditText(text, text.size(), 0); }
-
-    Form form{"frm"};
-    Grid grid{&form, "grd", 3};
-    CommandButton button{&form, "cmd", "Press"};
-    std::vector<std::string> notes;
-};
 
 TEST_F(GridTest, StartsWithItsHeaderRowAlone) {
     const Grid fresh(&form, "grd", 2);
@@ -107,215 +61,9 @@ TEST_F(GridTest, TellsItsCurrentCellOnlyWhenItIsAnotherOne) {
     EXPECT_THAT(notes, ElementsAre("current"));
 }
 
-TEST_F(GridTest, CommitsAnEditInTheOrderBeforeChangedAfter) {
-    grid.Select(1, 1);
-    notes.clear();
-    grid.OpenEditor();
-    TypeInEditor("B");
-    grid.CommitEdit();
-    EXPECT_THAT(notes, ElementsAre("before 1,1", "changed 1,1", "after 1,1"));
-    EXPECT_EQ(grid.Text(1, 1), "B");
-    EXPECT_FALSE(grid.IsEditing());
-}
-
-TEST_F(GridTest, DropsTheEditorsTextOnCancel) {
-    grid.Select(1, 1);
-    grid.OpenEditor();
-    TypeInEditor("B");
-    notes.clear();
-    grid.Press({Key::Escape});
-    EXPECT_EQ(grid.Text(1, 1), "b");
-    EXPECT_THAT(notes, IsEmpty());
-}
-
-TEST_F(GridTest, OpensTheEditorWithTheWholeTextSelected) {
-    grid.SetText(1, 1, "text");
-    grid.Select(1, 1);
-    grid.Press({Key::F2});
-    EXPECT_TRUE(grid.IsEditing());
-    EXPECT_EQ(grid.EditText(), "text");
-    EXPECT_EQ(grid.EditSelStart(), 0U);
-    EXPECT_EQ(grid.EditSelLength(), 4U);
-}
-
-TEST_F(GridTest, StartsEditingOverTheCellWhenAPersonTypesOnIt) {
-    grid.Select(1, 1);
-    grid.TypeOver("x");
-    EXPECT_EQ(grid.EditText(), "x");
-    EXPECT_EQ(grid.EditSelStart(), 1U);
-    EXPECT_EQ(grid.EditSelLength(), 0U);
-}
-
-TEST_F(GridTest, PutsATextInPlaceOfTheEditorsSelection) {
-    grid.Select(1, 1);
-    grid.OpenEditor();
-    grid.EnterEditText("abcd", 1, 2);
-    grid.ReplaceEditSelection("X");
-    EXPECT_EQ(grid.EditText(), "aXd");
-    EXPECT_EQ(grid.EditSelStart(), 2U);
-}
-
-TEST_F(GridTest, CommitsAndMovesDownOnEnter) {
-    grid.Select(1, 1);
-    grid.OpenEditor();
-    TypeInEditor("B");
-    EXPECT_TRUE(grid.Press({Key::Enter}));
-    EXPECT_EQ(grid.Text(1, 1), "B");
-    EXPECT_EQ(grid.Row(), 2);
-    EXPECT_EQ(grid.Column(), 1);
-}
-
-TEST_F(GridTest, CommitsWhenAnotherControlIsUsed) {
-    grid.Pick(1, 1);
-    grid.OpenEditor();
-    TypeInEditor("B");
-    bool committedFirst = false;
-    button.click.Connect([&] { committedFirst = grid.Text(1, 1) == "B" && !grid.IsEditing(); });
-    button.Click();
-    EXPECT_TRUE(committedFirst);
-}
-
-TEST_F(GridTest, CommitsWhenAnotherCellIsPicked) {
-    grid.Pick(1, 1);
-    grid.OpenEditor();
-    TypeInEditor("B");
-    grid.Pick(2, 2);
-    EXPECT_EQ(grid.Text(1, 1), "B");
-    EXPECT_EQ(grid.Row(), 2);
-}
-
-TEST_F(GridTest, HandsTheEditorsKeysToItsFormFirst) {
-    std::vector<Key> keys;
-    grid.keyDownEdit.Connect([&](const KeyPress& press) { keys.push_back(press.key); });
-    grid.Select(1, 1);
-    grid.Press({Key::Digit2, true}); // no editor is open
-    grid.OpenEditor();
-    EXPECT_FALSE(grid.Press({Key::Digit2, true}));
-    EXPECT_THAT(keys, ElementsAre(Key::Digit2));
-}
-
-TEST_F(GridTest, LetsItsFormTakeAKeyOver) {
-    grid.keyDown.Connect([&](const KeyPress& press, bool& handled) { handled = press.key == Key::Tab; });
-    grid.Select(1, 1);
-    EXPECT_TRUE(grid.Press({Key::Tab}));
-    EXPECT_EQ(grid.Column(), 1);
-}
-
-TEST_F(GridTest, MovesCellByCellOnTabAndLetsTheFocusGoAtItsEnds) {
-    grid.Select(1, 2);
-    EXPECT_TRUE(grid.Press({Key::Tab}));
-    EXPECT_EQ(grid.Row(), 2);
-    EXPECT_EQ(grid.Column(), 0);
-    EXPECT_TRUE(grid.Press({Key::Tab, false, false, true}));
-    EXPECT_EQ(grid.Row(), 1);
-    EXPECT_EQ(grid.Column(), 2);
-    grid.Select(2, 2);
-    EXPECT_FALSE(grid.Press({Key::Tab}));
-    grid.Select(1, 0);
-    EXPECT_FALSE(grid.Press({Key::Tab, false, false, true}));
-}
-
-TEST_F(GridTest, CommitsTheOpenEditOnTab) {
-    grid.Select(2, 2);
-    grid.OpenEditor();
-    TypeInEditor("F");
-    grid.Press({Key::Tab});
-    EXPECT_EQ(grid.Text(2, 2), "F");
-}
-
-TEST_F(GridTest, StaysInsideItsCellsOnArrowKeys) {
-    grid.Select(1, 0);
-    grid.Press({Key::Up});
-    grid.Press({Key::Left});
-    EXPECT_EQ(grid.Row(), 1) << "the header cannot be made current by keys";
-    EXPECT_EQ(grid.Column(), 0);
-    grid.Press({Key::End});
-    grid.Press({Key::Down});
-    grid.Press({Key::Down});
-    EXPECT_EQ(grid.Row(), 2);
-    EXPECT_EQ(grid.Column(), 2);
-    grid.Press({Key::Home});
-    EXPECT_EQ(grid.Column(), 0);
-}
-
 TEST_F(GridTest, DoesNotMakeTheHeaderCurrentOnAClick) {
     grid.Pick(0, 1);
     EXPECT_EQ(grid.Row(), -1);
-}
-
-TEST_F(GridTest, EmptiesTheSelectedCellsOnDeleteAsEdits) {
-    grid.Select(1, 1);
-    grid.SelectTo(2, 2);
-    notes.clear();
-    grid.Press({Key::Delete});
-    EXPECT_THAT(Row(1), ElementsAre("a", "", ""));
-    EXPECT_THAT(Row(2), ElementsAre("d", "", ""));
-    EXPECT_EQ(std::count(notes.begin(), notes.end(), "after 2,2"), 1);
-}
-
-TEST_F(GridTest, CopiesTheBlockAsASpreadsheetDoes) {
-    grid.Select(2, 1);
-    grid.Press({Key::Up, false, false, true});
-    grid.Press({Key::Right, false, false, true});
-    EXPECT_EQ(grid.Copy(), "b\tc\r\ne\tf\r\n");
-}
-
-TEST_F(GridTest, CopiesNothingWithoutACurrentCell) {
-    EXPECT_EQ(grid.Copy(), "");
-}
-
-TEST_F(GridTest, PastesABlockFromTheCurrentCellOnEachCellAnEdit) {
-    grid.Select(1, 1);
-    notes.clear();
-    grid.Paste("1\t2\t3\r\n4");
-    EXPECT_THAT(Row(1), ElementsAre("a", "1", "2"));
-    EXPECT_THAT(Row(2), ElementsAre("d", "4", "f"));
-    EXPECT_THAT(notes, ElementsAre("changed 1,1", "after 1,1", "changed 1,2", "after 1,2", "changed 2,1",
-                                   "after 2,1"));
-}
-
-TEST_F(GridTest, AddsPastedRowsOnlyWhereItMayGrow) {
-    grid.Select(2, 0);
-    grid.Paste("1\n2\n");
-    EXPECT_EQ(grid.Rows(), 3);
-    grid.SetGrowsByPaste(true);
-    grid.Paste("1\n2\n");
-    EXPECT_EQ(grid.Rows(), 4);
-    EXPECT_EQ(grid.Text(3, 0), "2");
-}
-
-TEST_F(GridTest, RaisesOverflowForAPasteBeyondTheLastPossibleRowAndChangesNothing) {
-    grid.SetGrowsByPaste(true);
-    grid.Select(2, 0);
-    const std::string rows(32767, '\n');
-    EXPECT_EQ(ErrorNumber([&] { grid.Paste(rows); }), 6);
-    EXPECT_EQ(grid.Rows(), 3);
-    grid.Select(1, 0);
-    grid.Paste(rows);
-    EXPECT_EQ(grid.Rows(), 32768) << "the header and 32,767 rows";
-}
-
-TEST_F(GridTest, GivesACellTheListOfItsColumnOrTheOneItsFormSets) {
-    grid.SetColumnList(2, "A|I");
-    grid.Select(1, 2);
-    grid.OpenEditor();
-    EXPECT_EQ(grid.EditList(), "A|I");
-    grid.beforeEdit.Connect([&](int, int column) {
-        if (column == 1) {
-            grid.SetEditList("...");
-        }
-    });
-    grid.Select(1, 1);
-    grid.OpenEditor();
-    EXPECT_EQ(grid.EditList(), "...");
-    int pressed = 0;
-    grid.cellButtonClick.Connect([&](int, int) { ++pressed; });
-    grid.PressCellButton();
-    grid.Select(1, 2);
-    grid.OpenEditor();
-    EXPECT_EQ(grid.EditList(), "A|I");
-    grid.PressCellButton();
-    EXPECT_EQ(pressed, 1) << "only a cell edited with a button has one";
 }
 
 TEST_F(GridTest, TellsWhichMouseButtonWentDownWhere) {
@@ -324,6 +72,125 @@ TEST_F(GridTest, TellsWhichMouseButtonWentDownWhere) {
     });
     grid.PressMouse(2, 1, 0);
     EXPECT_THAT(notes, ElementsAre("210"));
+}
+
+TEST_F(GridTest, LeavesCellsOutThatARowHasTooMany) {
+    grid.AddItem("1\t2\t3\t4");
+    EXPECT_THAT(Row(3), ElementsAre("1", "2", "3"));
+}
+
+TEST_F(GridTest, AddsRowsThatArePartsOfOneTextWithoutCopyingThem) {
+    std::string text = "a long text of many parts; its parts are not copied";
+    const char* const place = text.data();
+    grid.AddRowsOf(std::move(text), [](std::string_view whole, std::vector<std::string_view>& parts) {
+        parts.insert(parts.end(), {whole.substr(0, 1), whole.substr(2, 4), whole.substr(7, 4)});
+        parts.insert(parts.end(), {"", whole.substr(15, 4), whole.substr(20, 5)});
+    });
+    EXPECT_EQ(grid.Rows(), 5);
+    EXPECT_THAT(Row(3), ElementsAre("a", "long", "text"));
+    EXPECT_THAT(Row(4), ElementsAre("", "many", "parts"));
+    EXPECT_EQ(grid.Text(3, 1).data(), place + 2);
+}
+
+TEST_F(GridTest, KeepsTheRowsItHadWhenATextCannotBeTakenApart) {
+    EXPECT_EQ(ErrorNumber([&] {
+                  grid.AddRowsOf("text", [](std::string_view text, std::vector<std::string_view>& parts) {
+                      parts.push_back(text);
+                      RaiseOverflow();
+                  });
+              }),
+              6);
+    grid.AddItem("g\th\ti");
+    EXPECT_THAT(Row(2), ElementsAre("d", "e", "f"));
+    EXPECT_THAT(Row(3), ElementsAre("g", "h", "i"));
+}
+
+TEST_F(GridTest, HandsOutTextsThatStayWhenTheirCellsGetOthers) {
+    const auto b = grid.Text(1, 1);
+    grid.SetText(1, 1, grid.Text(2, 1));
+    grid.SetText(2, 1, b);
+    EXPECT_THAT(Row(1), ElementsAre("a", "e", "c"));
+    EXPECT_THAT(Row(2), ElementsAre("d", "b", "f"));
+}
+
+TEST_F(GridTest, TellsThatRowsChangedOnceTheyAreShownAgain) {
+    int told = 0;
+    grid.rowsChanged.Connect([&] { ++told; });
+    grid.SetRedraw(false);
+    grid.AddItem("1");
+    grid.AddRowsOf("", [](std::string_view, std::vector<std::string_view>&) {});
+    grid.SetRows(2);
+    grid.RemoveItem(1);
+    EXPECT_EQ(told, 0);
+    grid.SetRedraw(true);
+    EXPECT_EQ(told, 1);
+    grid.AddItem("1");
+    EXPECT_EQ(told, 2);
+}
+
+TEST_F(GridTest, TellsThatTheCurrentCellWentWithItsRow) {
+    grid.Select(2, 1);
+    notes.clear();
+    grid.SetRows(2);
+    ExpectCurrent(1, 1);
+    grid.RemoveItem(1);
+    ExpectCurrent(0, 1);
+    grid.SetRows(0);
+    ExpectCurrent(-1, 1);
+    EXPECT_THAT(notes, ElementsAre("current", "current", "current"));
+}
+
+TEST_F(GridTest, KeepsItsCurrentCellWhenRowsAreAddedBehindIt) {
+    grid.Select(2, 1);
+    notes.clear();
+    grid.SetRows(7);
+    grid.AddItem("1");
+    ExpectCurrent(2, 1);
+    EXPECT_THAT(notes, IsEmpty());
+}
+
+TEST_F(GridTest, StretchesTheBlockUntilAnotherCellIsSelected) {
+    grid.Select(1, 1);
+    grid.SelectTo(2, 2);
+    EXPECT_EQ(grid.BlockEnd(), (Cell{2, 2}));
+    ExpectCurrent(1, 1);
+    grid.Select(2, 0);
+    EXPECT_EQ(grid.BlockEnd(), (Cell{2, 0}));
+}
+
+TEST_F(GridTest, TellsAColumnsWidthOnce) {
+    int told = 0;
+    grid.appearanceChanged.Connect([&] { ++told; });
+    grid.SetColumnWidth(1, 500);
+    grid.SetColumnWidth(1, 500);
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(grid.ColumnWidth(1), 500);
+}
+
+TEST_F(GridTest, TellsFromWhichColumnOnToFitAlsoToAViewThatComesLater) {
+    int first = -1;
+    grid.fitColumns.Connect([&](int column) { first = column; });
+    EXPECT_EQ(grid.FittedFrom(), 3);
+    grid.FitColumns(1);
+    EXPECT_EQ(first, 1);
+    EXPECT_EQ(grid.FittedFrom(), 1);
+}
+
+TEST_F(GridTest, LetsNoOneWorkOnItWhileItIsDisabled) {
+    grid.Select(1, 1);
+    grid.SetEnabled(false);
+    grid.mouseDown.Connect([this](int, int, int) { notes.emplace_back("mouse"); });
+    notes.clear();
+    grid.Pick(2, 2);
+    grid.TypeOver("x");
+    grid.OpenEditor();
+    grid.PressMouse(1, 2, 2);
+    grid.Paste("x");
+    EXPECT_FALSE(grid.Press({Key::Down}));
+    ExpectCurrent(1, 1);
+    EXPECT_FALSE(grid.IsEditing());
+    EXPECT_THAT(notes, IsEmpty());
+    EXPECT_THAT(Row(1), ElementsAre("a", "b", "c"));
 }
 
 } // namespace

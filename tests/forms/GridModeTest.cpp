@@ -11,9 +11,9 @@ class GridMode : public RulesForm {
     std::vector<std::string> GridRows() {
         std::vector<std::string> rows;
         for (int row = 0; row < page().grdRules.Rows(); ++row) {
-            std::string text = page().grdRules.Text(row, 0);
+            std::string text(page().grdRules.Text(row, 0));
             for (int column = 1; column < page().grdRules.Columns(); ++column) {
-                text += "|" + page().grdRules.Text(row, column);
+                text += "|" + std::string(page().grdRules.Text(row, column));
             }
             rows.push_back(text);
         }

@@ -1,4 +1,4 @@
-#include "../forms/EditorsTest.h"
+#include "support/EditorsTest.h"
 
 namespace zy::test {
 namespace {
@@ -199,9 +199,15 @@ TEST_F(StartUpTest, EndsForAnEditorThatThisProgramDoesNotHave) {
     options = {};
     EXPECT_EQ(Start("@SECURITY"), StartUp::Ended);
     ExpectNoWindow();
-    EXPECT_EQ(Start("@UNITS"), StartUp::Ended);
-    ExpectNoWindow();
+}
+
+TEST_F(StartUpTest, BringsItsOwnRulesAndUnitsEditors) {
+    options = {};
     EXPECT_EQ(Start("@RULES"), StartUp::WindowShown);
+    EXPECT_TRUE(form().fraRules.Visible());
+    EXPECT_EQ(Start("@UNITS"), StartUp::WindowShown);
+    EXPECT_TRUE(form().FraUnits.Visible());
+    EXPECT_EQ(program().unitsPage.controls.grdUnits.Text(0, 0), "Unit");
 }
 
 TEST_F(StartUpTest, LeavesThePlaceAloneForAnUnknownCommandLine) {

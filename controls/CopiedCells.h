@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace zy {
+
+// Cells as spreadsheets copy them: those of a row separated by TAB, each row ended by a line end. A cell that
+// holds one of these, or begins with a double quote, stands in double quotes with its own quotes doubled.
+
+void AppendCopied(std::string& text, std::string_view cell);
+
+/// Takes the cells off the front of such a text one by one.
+class CopiedCells {
+  public:
+    explicit CopiedCells(std::string_view text) : rest_(text) {}
+
+    bool AtEnd() const { return rest_.empty(); }
+    /// The next cell on one line: a blank stands for each line end and TAB in it. Valid until the next one is
+    /// taken.
+    std::string_view Take();
+    /// Whether the cell taken last was its row's last one.
+    bool EndedRow() const { return endedRow_; }
+
+  private:
+    void TakeSeparator();
+
+    std::string_view rest_;
+    std::string cell_;
+    bool endedRow_ = true;
+};
+
+} // namespace zy

@@ -1,0 +1,144 @@
+#include "GridTest.h"
+
+namespace zy {
+namespace {
+
+using ::testing::ElementsAre;
+
+TEST_F(GridTest, CopiesTheBlockAsASpreadsheetDoes) {
+    grid.Select(2, 1);
+    grid.Press({Key::Up, false, false, true});
+    grid.Press({Key::Right, false, false, true});
+    EXPECT_EQ(grid.Copy(), "b\tc\r\ne\tf\r\n");
+}
+
+TEST_F(GridTest, CopiesNothingWithoutACurrentCell) {
+    EXPECT_EQ(grid.Copy(), "");
+}
+
+TEST_F(GridTest, PastesABlockFromTheCurrentCellOnEachCellAnEdit) {
+    grid.Select(1, 1);
+    notes.clear();
+    grid.Paste("1\t2\t3\r\n4");
+    EXPECT_THAT(Row(1), ElementsAre("a", "1", "2"));
+    EXPECT_THAT(Row(2), ElementsAre("d", "4", "f"));
+    EXPECT_THAT(notes, ElementsAre("changed 1,1", "after 1,1", "changed 1,2", "after 1,2", "changed 2,1",
+                                   "after 2,1"));
+}
+
+TEST_F(GridTest, AddsPastedRowsOnlyWhereItMayGrow) {
+    grid.Select(2, 0);
+    grid.Paste("1\n2\n");
+    EXPECT_EQ(grid.Rows(), 3);
+    grid.SetGrowsByPaste(true);
+    grid.Paste("1\n2\n");
+    EXPECT_EQ(grid.Rows(), 4);
+    EXPECT_EQ(grid.Text(3, 0), "2");
+}
+
+TEST_F(GridTest, RaisesOverflowForAPasteBeyondTheLastPossibleRowAndChangesNothing) {
+    grid.SetGrowsByPaste(true);
+    grid.Select(2, 0);
+    const std::string rows(32767, '\n');
+    EXPECT_EQ(ErrorNumber([&] { grid.Paste(rows); }), 6);
+    EXPECT_EQ(grid.Rows(), 3);
+    grid.Select(1, 0);
+    grid.Paste(rows);
+    EXPECT_EQ(grid.Rows(), 32768) << "the header and 32,767 rows";
+}
+
+TEST_F(GridTest, CopiesNothingOfItsHeader) {
+    grid.Select(0, 0);
+    EXPECT_EQ(grid.Copy(), "");
+    grid.SelectTo(1, 0);
+    EXPECT_EQ(grid.Copy(), "a\r\n");
+}
+
+TEST_F(GridTest, PastesFromTheFirstCellOfTheBlockOn) {
+    grid.Select(2, 2);
+    grid.SelectTo(1, 1);
+    grid.Paste("1\t2\r\n3\t4\r\n");
+    EXPECT_THAT(Row(1), ElementsAre("a", "1", "2"));
+    EXPECT_THAT(Row(2), ElementsAre("d", "3", "4"));
+}
+
+TEST_F(GridTest, SelectsWhatItPasted) {
+    grid.Select(1, 0);
+    grid.Paste("1\t2\n3\t4\n5\t6\n");
+    ExpectCurrent(1, 0);
+    EXPECT_EQ(grid.BlockEnd(), (Cell{2, 1})) << "the third row does not fit";
+}
+
+TEST_F(GridTest, LeavesPastedColumnsOutThatItDoesNotHave) {
+    grid.Select(1, 1);
+    grid.Paste("1\t2\t3\t4\n5");
+    EXPECT_THAT(Row(1), ElementsAre("a", "1", "2"));
+    EXPECT_THAT(Row(2), ElementsAre("d", "5", "f"));
+    EXPECT_EQ(grid.BlockEnd(), (Cell{2, 2}));
+}
+
+TEST_F(GridTest, CommitsTheOpenEditBeforeAPaste) {
+    Edit(1, 1, "x");
+    grid.Paste("1\t2");
+    EXPECT_THAT(Row(1), ElementsAre("a", "1", "2"));
+    EXPECT_FALSE(grid.IsEditing());
+    EXPECT_EQ(std::count(notes.begin(), notes.end(), "after 1,1"), 2);
+}
+
+TEST_F(GridTest, PastesNothingWithoutACurrentCell) {
+    grid.SetGrowsByPaste(true);
+    grid.Paste("1");
+    grid.Select(1, 1);
+    grid.Paste("");
+    EXPECT_THAT(Row(1), ElementsAre("a", "b", "c"));
+    EXPECT_EQ(grid.Rows(), 3);
+}
+
+TEST_F(GridTest, PastesIntoAnEmptyGridOnlyWhereItMayGrow) {
+    grid.SetRows(1);
+    grid.Paste("1\t2\n3");
+    EXPECT_EQ(grid.Rows(), 1);
+    grid.SetGrowsByPaste(true);
+    grid.Paste("1\t2\n3");
+    EXPECT_EQ(grid.Rows(), 3);
+    EXPECT_THAT(Row(1), ElementsAre("1", "2", ""));
+    EXPECT_THAT(Row(2), ElementsAre("3", "", ""));
+    ExpectCurrent(1, 0);
+}
+
+TEST_F(GridTest, PutsAPastedCellOnOneLine) {
+    grid.Select(1, 0);
+    grid.Paste("\"first\r\nsecond\"\t\"with a\tTAB\"\r\n");
+    EXPECT_THAT(Row(1), ElementsAre("first second", "with a TAB", "c"));
+    EXPECT_THAT(Row(2), ElementsAre("d", "e", "f"));
+}
+
+TEST_F(GridTest, PastesWhatItCopied) {
+    grid.SetText(1, 0, "\"quoted\"");
+    grid.SetText(1, 1, "5\" pipe");
+    grid.SetText(2, 2, "\"");
+    grid.Select(1, 0);
+    grid.SelectTo(2, 2);
+    const auto copied = grid.Copy();
+    EXPECT_EQ(copied, "\"\"\"quoted\"\"\"\t5\" pipe\tc\r\nd\te\t\"\"\"\"\r\n");
+    grid.Press({Key::Delete});
+    grid.Paste(copied);
+    EXPECT_THAT(Row(1), ElementsAre("\"quoted\"", "5\" pipe", "c"));
+    EXPECT_THAT(Row(2), ElementsAre("d", "e", "\""));
+}
+
+TEST_F(GridTest, DoesNotGrowWithWhatWasPastedOver) {
+    grid.Select(1, 0);
+    const std::string text(50000, 'x');
+    grid.Paste(text);
+    const char* const place = grid.Text(2, 0).data();
+    for (int i = 0; i < 10; ++i) {
+        grid.Paste(text + std::to_string(i));
+    }
+    EXPECT_NE(grid.Text(2, 0).data(), place) << "what the cells hold was put together anew";
+    EXPECT_EQ(grid.Text(2, 0), "d");
+    EXPECT_EQ(grid.Text(1, 0), text + "9");
+}
+
+} // namespace
+} // namespace zy

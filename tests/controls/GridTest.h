@@ -1,0 +1,65 @@
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "basics/RuntimeError.h"
+#include "controls/CommandButton.h"
+#include "controls/Form.h"
+#include "controls/Grid.h"
+
+namespace zy {
+
+/// A grid of three columns and two rows, and a list of what it announced.
+class GridTest : public ::testing::Test {
+  protected:
+    GridTest() {
+        form.SetVisible(true);
+        grid.AddItem("a\tb\tc");
+        grid.AddItem("d\te\tf");
+        const auto note = [this](const char* what) {
+            return [this, what](int row, int column) {
+                notes.push_back(std::string(what) + " " + std::to_string(row) + "," + std::to_string(column));
+            };
+        };
+        grid.cellChanged.Connect(note("changed"));
+        grid.beforeEdit.Connect(note("before"));
+        grid.afterEdit.Connect(note("after"));
+        grid.currentCellChanged.Connect([this] { notes.emplace_back("current"); });
+    }
+
+    std::vector<std::string> Row(int row) const {
+        const auto texts = grid.RowTexts(row);
+        return {texts.begin(), texts.end()};
+    }
+    void TypeInEditor(const std::string& text) { grid.EnterEditText(text, text.size(), 0); }
+    void Edit(int row, int column, const std::string& text) {
+        grid.Pick(row, column);
+        grid.OpenEditor();
+        TypeInEditor(text);
+    }
+    void ExpectCurrent(int row, int column) {
+        EXPECT_EQ(grid.Row(), row);
+        EXPECT_EQ(grid.Column(), column);
+    }
+    /// The number of the run-time error that the action raises; 0 when it raises none.
+    template <typename Action>
+    static int ErrorNumber(const Action& action) {
+        try {
+            action();
+        } catch (const RuntimeError& error) {
+            return error.Number();
+        }
+        return 0;
+    }
+
+    Form form{"frm"};
+    Grid grid{&form, "grd", 3};
+    CommandButton button{&form, "cmd", "Press"};
+    std::vector<std::string> notes;
+};
+
+} // namespace zy

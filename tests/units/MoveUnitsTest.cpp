@@ -1,0 +1,98 @@
+#include "UnitsTest.h"
+
+namespace zy::test {
+namespace {
+
+using ::testing::ElementsAre;
+
+class MoveUnits : public UnitsTest {
+  protected:
+    MoveUnits() { OpenThreeUnits(); }
+
+    void Up() { controls.UpDownUnits.PressUp(); }
+    void Down() { controls.UpDownUnits.PressDown(); }
+    void ExpectNothingMoved() { EXPECT_THAT(Units(), ElementsAre("a|A", "b|B", "c|C")); }
+};
+
+TEST_F(MoveUnits, DownSwapsTheRowWithTheNextOneAndGoesWithIt) {
+    grid.Pick(1, kUnitDescription);
+    Down();
+    EXPECT_THAT(Units(), ElementsAre("b|B", "a|A", "c|C"));
+    ExpectCurrent(2, kUnitDescription);
+    ExpectChanged(true);
+    Down();
+    EXPECT_THAT(Units(), ElementsAre("b|B", "c|C", "a|A"));
+    ExpectCurrent(3, kUnitDescription);
+}
+
+TEST_F(MoveUnits, UpSwapsTheRowWithTheOneBeforeAndGoesWithIt) {
+    grid.Pick(3, kUnit);
+    Up();
+    EXPECT_THAT(Units(), ElementsAre("a|A", "c|C", "b|B"));
+    ExpectCurrent(2, kUnit);
+    ExpectChanged(true);
+    Up();
+    EXPECT_THAT(Units(), ElementsAre("c|C", "a|A", "b|B"));
+    ExpectCurrent(1, kUnit);
+}
+
+TEST_F(MoveUnits, DownOnTheLastRowMovesNothingButTurnsSaveOn) {
+    grid.Pick(3, 0);
+    Down();
+    ExpectNothingMoved();
+    ExpectCurrent(3, 0);
+    ExpectChanged(true);
+}
+
+TEST_F(MoveUnits, UpOnTheFirstRowMovesNothingButTurnsSaveOn) {
+    grid.Pick(1, 0);
+    Up();
+    ExpectNothingMoved();
+    ExpectCurrent(1, 0);
+    ExpectChanged(true);
+}
+
+TEST_F(MoveUnits, MovesNothingWithoutACurrentRowButTurnsSaveOn) {
+    Down();
+    ExpectNothingMoved();
+    ExpectChanged(true);
+    form.ChangeFlag = false;
+    controls.cmdSaveUnits.SetEnabled(false);
+    Up();
+    ExpectNothingMoved();
+    ExpectChanged(true);
+    EXPECT_EQ(grid.Row(), -1);
+}
+
+TEST_F(MoveUnits, MovesNothingOnTheHeaderButTurnsSaveOn) {
+    grid.Select(0, 0);
+    Down();
+    Up();
+    ExpectNothingMoved();
+    EXPECT_EQ(grid.Text(0, 0), "Unit");
+    ExpectCurrent(0, 0);
+    ExpectChanged(true);
+}
+
+TEST_F(MoveUnits, KeepsTheNewOrderInTheFile) {
+    grid.Pick(3, 0);
+    Up();
+    Save();
+    EXPECT_EQ(File(), "A,a\r\nC,c\r\nB,b\r\n");
+}
+
+TEST_F(MoveUnits, GoesByTheKeyboardWithAlt) {
+    grid.Pick(1, 0);
+    EXPECT_TRUE(grid.Press({Key::Down, false, true}));
+    EXPECT_THAT(Units(), ElementsAre("b|B", "a|A", "c|C"));
+    ExpectChanged(true);
+    EXPECT_TRUE(grid.HasFocus());
+    EXPECT_TRUE(grid.Press({Key::Up, false, true}));
+    ExpectNothingMoved();
+    EXPECT_FALSE(grid.Press({Key::Down, true, true}));
+    EXPECT_FALSE(grid.Press({Key::Up, false, true, true}));
+    ExpectNothingMoved();
+}
+
+} // namespace
+} // namespace zy::test

@@ -1,0 +1,52 @@
+#include "units/UnitsFileText.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+
+#include "shell/Utilities.h"
+
+namespace zy::test {
+namespace {
+
+std::vector<std::string> CellsOf(std::string_view text) {
+    std::vector<std::string_view> cells;
+    AppendUnitCells(text, "path", cells);
+    return {cells.begin(), cells.end()};
+}
+
+TEST(UnitsFileText, GivesTheFirstTwoFieldsThatSplitFieldsGivesForEachLine) {
+    constexpr unsigned kSeed = 410;
+    std::mt19937 random(kSeed);
+    constexpr std::string_view kCharacters = ",,\t \"ax\r\n\xB0";
+    for (int file = 0; file < 300; ++file) {
+        std::string text;
+        std::vector<std::string> expected;
+        for (auto lines = random() % 20; lines > 0; --lines) {
+            std::string line;
+            for (auto length = random() % 12; length > 0; --length) {
+                line += kCharacters[random() % kCharacters.size()];
+            }
+            line += random() % 2 == 0 ? ',' : '\t'; // so that there are two fields
+            line += 'z';                            // so that no line end begins here
+            const auto fields = SplitFields(line);
+            if (line.find("\r\n") == std::string::npos) {
+                expected.emplace_back(fields[2]);
+                expected.emplace_back(fields[1]);
+                text += line + "\r\n";
+            }
+        }
+        EXPECT_EQ(CellsOf(text), expected) << ::testing::PrintToString(text) << " of seed " << kSeed;
+    }
+}
+
+TEST(UnitsFileText, AppendsToTheCellsThatAreThere) {
+    std::vector<std::string_view> cells{"before"};
+    AppendUnitCells("A,a\r\n", "path", cells);
+    EXPECT_THAT(cells, ::testing::ElementsAre("before", "a", "A"));
+}
+
+} // namespace
+} // namespace zy::test

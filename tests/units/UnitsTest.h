@@ -1,0 +1,127 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "basics/RuntimeError.h"
+#include "rules/RulesPage.h"
+#include "rules/mRules.h"
+#include "shell/MainWindow.h"
+#include "support/WorldTest.h"
+#include "units/UnitsPage.h"
+
+namespace zy::test {
+
+inline constexpr std::string_view kUnitsFile = R"(C:\SYS\ZYUNITS.SYS)";
+
+/// The run-time error that the action raises; number 0 when it raises none.
+template <typename Action>
+RuntimeError ErrorOf(const Action& action) {
+    try {
+        action();
+    } catch (const RuntimeError& error) {
+        return error;
+    }
+    return {0, "none"};
+}
+
+/// The units page in its window, over a disk in memory, driven as a person does it.
+class UnitsTest : public WorldTest {
+  protected:
+    UnitsTest() {
+        world.traceServers.SetRunning(true);
+        state.gbUnitsMode = true;
+        state.gsSystemDir = R"(C:\SYS\)";
+        state.gsUnitsFile = kUnitsFile;
+    }
+
+    /// Opens the page as start-up does, over the disk as it is.
+    void Open() {
+        window.ShowUnits();
+        window.Show();
+    }
+    void OpenOver(std::string_view bytes) {
+        world.files.Put(kUnitsFile, bytes);
+        Open();
+    }
+    /// Opens the page over the units "a", "b" and "c", described as "A", "B" and "C".
+    void OpenThreeUnits() { OpenOver("A,a\r\nB,b\r\nC,c\r\n"); }
+
+    std::optional<std::string> File() const { return world.files.Get(kUnitsFile); }
+    const std::string& Status() const { return form.zyStatusBar.Text(); }
+    /// The data rows, each as "unit|description".
+    std::vector<std::string> Units() const {
+        std::vector<std::string> units;
+        for (int row = 1; row < grid.Rows(); ++row) {
+            units.push_back(std::string(grid.Text(row, kUnit)) + "|" +
+                            std::string(grid.Text(row, kUnitDescription)));
+        }
+        return units;
+    }
+    /// The records that came since the last call, as "module procedure message".
+    std::vector<std::string> Traces() {
+        std::vector<std::string> lines;
+        for (const auto& record : world.traceServers.Records()) {
+            lines.push_back(record.module + " " + record.procedure + " " + record.message);
+        }
+        world.traceServers.Clear();
+        return lines;
+    }
+
+    void Add() { controls.cmdAddUNit.Click(); }
+    void Save() { controls.cmdSaveUnits.Click(); }
+    void ChooseSave() { window.menu.mnuSave.Click(); }
+    void Delete(Answer answer) {
+        world.dialogs.ExpectYesNo("Are you sure you wish to delete this Unit of Measure?", "Confirm Delete",
+                                  answer, Escape::AnswersNo);
+        controls.cmdDeleteUnit.Click();
+    }
+    /// Opens a cell's editor and changes its text, but does not leave it.
+    void BeginEdit(int row, int column, std::string_view text) {
+        grid.Pick(row, column);
+        grid.OpenEditor();
+        grid.EnterEditText(text, text.size(), 0);
+    }
+    void Edit(int row, int column, std::string_view text) {
+        BeginEdit(row, column, text);
+        grid.Press({Key::Enter});
+    }
+    /// Adds a unit at the end, its cells filled in as a person does it.
+    void AddUnit(std::string_view unit, std::string_view description) {
+        Add();
+        grid.EnterEditText(unit, unit.size(), 0);
+        grid.Press({Key::Tab});
+        grid.TypeOver(description);
+        grid.Press({Key::Enter});
+    }
+    void ExpectInvalid(std::string_view message) { world.dialogs.ExpectMessage(message, "Invalid Unit"); }
+    void ExpectWishToSave(Answer answer) {
+        world.dialogs.ExpectYesNo("Do you Wish to Save your Changes?", "Save Changes?", answer,
+                                  Escape::IsIgnored);
+    }
+
+    /// There are changes to be saved, or none.
+    void ExpectChanged(bool changed) {
+        EXPECT_EQ(form.ChangeFlag.Value(), changed ? -1 : 0);
+        EXPECT_EQ(controls.cmdSaveUnits.Enabled(), changed);
+        EXPECT_FALSE(state.gbChanged) << "the mark of the other editors";
+    }
+    void ExpectCurrent(int row, int column) {
+        EXPECT_EQ(grid.Row(), row);
+        EXPECT_EQ(grid.Column(), column);
+    }
+
+    SettingsForm form;
+    SharedState state;
+    TraceChannel trace{world.traceServers, "zyGlobal"};
+    mRules rules{world.Get(), trace};
+    RulesPage rulesPage{rules, form, state, trace, world.Get()};
+    UnitsPage page{form, state, trace, world.Get()};
+    MainWindow window{{form, state, trace, world.Get(), rules, rulesPage, nullptr, &page, nullptr}};
+    UnitsControls& controls = page.controls;
+    Grid& grid = page.controls.grdUnits;
+};
+
+} // namespace zy::test
