@@ -6,6 +6,7 @@
 #include "desktop/ComboBoxBinding.h"
 #include "desktop/CommandButtonBinding.h"
 #include "desktop/FrameBinding.h"
+#include "desktop/GridBinding.h"
 #include "desktop/LabelBinding.h"
 #include "desktop/ListViewBinding.h"
 #include "desktop/StatusBarBinding.h"
@@ -30,6 +31,7 @@ Made MakeBinding(const ViewContext& context, const Inside& inside, Control& cont
     MakeIfKind<TextBox, TextBoxBinding>(made, context, inside, control);
     MakeIfKind<ComboBox, ComboBoxBinding>(made, context, inside, control);
     MakeIfKind<ListView, ListViewBinding>(made, context, inside, control);
+    MakeIfKind<Grid, GridBinding>(made, context, inside, control);
     MakeIfKind<CommandButton, CommandButtonBinding>(made, context, inside, control);
     MakeIfKind<UpDown, UpDownBinding>(made, context, inside, control);
     MakeIfKind<Label, LabelBinding>(made, context, inside, control);

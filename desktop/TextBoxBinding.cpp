@@ -4,12 +4,6 @@
 #include "shell/StatusTexts.h"
 
 namespace zy {
-namespace {
-
-/// The most characters that the toolkit's box holds. What a longer text has beyond is kept, out of reach.
-constexpr std::size_t kMostShown = 65535;
-
-} // namespace
 
 TextBoxBinding::TextBoxBinding(const ViewContext& context, const Inside& inside, TextBox& model)
     : ControlBinding(context, inside, model), model_(model), box_(new wxTextCtrl(Parent(), wxID_ANY)) {
@@ -30,12 +24,15 @@ TextBoxBinding::TextBoxBinding(const ViewContext& context, const Inside& inside,
     Attach(box_);
 }
 
+std::string_view TextBoxBinding::Held() const {
+    const std::string_view text = model_.Text();
+    return text.substr(0, text.size() - beyond_.size());
+}
+
 void TextBoxBinding::TakeText() {
-    const std::string before = model_.Text().substr(0, kMostShown);
-    const std::string beyond = model_.Text().substr(before.size());
-    const auto edited = TakeEdit(Context().codePage, before, box_->GetValue());
+    const auto edited = TakeEdit(Context().codePage, Held(), box_->GetValue());
     if (edited) {
-        Gate().Act([&] { model_.Enter(edited->text + beyond); });
+        Gate().Act([&] { model_.Enter(edited->text + beyond_); });
         if (ShowText()) {
             box_->SetInsertionPoint(static_cast<long>(edited->changeEnd));
         }
@@ -47,12 +44,13 @@ void TextBoxBinding::TakeText() {
 }
 
 bool TextBoxBinding::ShowText() {
-    const wxString shown = Shown(std::string_view(model_.Text()).substr(0, kMostShown));
-    const bool differs = box_->GetValue() != shown;
-    if (differs) {
-        box_->ChangeValue(shown);
+    const std::string_view text = model_.Text();
+    const bool isShown = text.ends_with(beyond_) && box_->GetValue() == Shown(Held());
+    if (!isShown) {
+        box_->ChangeValue(Shown(text));
+        beyond_ = text.substr(box_->GetValue().length());
     }
-    return differs;
+    return !isShown;
 }
 
 } // namespace zy

@@ -2,6 +2,8 @@
 
 #include <wx/textctrl.h>
 
+#include <string>
+
 #include "controls/TextBox.h"
 #include "desktop/ControlBinding.h"
 
@@ -14,12 +16,16 @@ class TextBoxBinding : public ControlBinding {
 
   private:
     void TakeText();
+    /// The part of the model's text that the box holds.
+    std::string_view Held() const;
     /// Shows the model's text; false when it is shown already.
     bool ShowText();
     void RememberSelection() { box_->GetSelection(&selectionStart_, &selectionEnd_); }
 
     TextBox& model_;
     wxTextCtrl* box_;
+    /// The end of a text that is longer than the toolkit's box can hold. It is kept, out of reach.
+    std::string beyond_;
     // The selection before a person's change, put back when the change is refused.
     long selectionStart_ = 0;
     long selectionEnd_ = 0;

@@ -101,16 +101,9 @@ void WindowBinding::ShowState() {
     if (StateOf(*frame_) == form_.State()) {
         return;
     }
-    switch (form_.State()) {
-    case WindowState::Normal:
-        frame_->Restore();
-        break;
-    case WindowState::Minimized:
-        frame_->Iconize();
-        break;
-    case WindowState::Maximized:
-        frame_->Maximize();
-        break;
+    frame_->Iconize(form_.State() == WindowState::Minimized);
+    if (form_.State() != WindowState::Minimized) {
+        frame_->Maximize(form_.State() == WindowState::Maximized);
     }
 }
 

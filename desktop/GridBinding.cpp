@@ -1,0 +1,175 @@
+#include "desktop/GridBinding.h"
+
+#include <wx/settings.h>
+#include <wx/sizer.h>
+
+#include <utility>
+
+#include "desktop/GridClipboard.h"
+#include "desktop/GridKeys.h"
+#include "desktop/GridNative.h"
+#include "desktop/Native.h"
+#include "desktop/ShownText.h"
+#include "shell/StatusTexts.h"
+
+namespace zy {
+namespace {
+
+constexpr int kLeftButton = 1;
+constexpr int kRightButton = 2;
+
+/// A thin line around the grid, of which the toolkit draws none.
+wxWindow* MakeBorder(wxWindow* parent) {
+    auto* border = new wxWindow(parent, wxID_ANY);
+    border->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNSHADOW));
+    border->SetSizer(new wxBoxSizer(wxVERTICAL));
+    return border;
+}
+
+} // namespace
+
+GridBinding::GridBinding(const ViewContext& context, const Inside& inside, Grid& model)
+    : ControlBinding(context, inside, model), model_(model), border_(MakeBorder(Parent())),
+      table_(new GridTable(context, model)), grid_(new GridWidget(border_, table_)),
+      columns_(context, model, *grid_), cursor_(context, model, *grid_), editor_(context, model, *grid_) {
+    border_->GetSizer()->Add(grid_, wxSizerFlags(1).Expand().Border(wxALL, grid_->FromDIP(1)));
+    grid_->FitRows(editor_.NeededHeight());
+    ObserveModel();
+    BindMouse();
+    BindKeys();
+    Attach(border_);
+    ShowChanges();
+}
+
+void GridBinding::ObserveModel() {
+    Keep(model_.rowsChanged.Observe([this] { rowsChanged_ = true; }));
+    Keep(model_.cellChanged.Observe([this](int, int) { cellsChanged_ = true; }));
+    Keep(Gate().updateViews.Observe([this] { ShowChanges(); }));
+}
+
+void GridBinding::BindMouse() {
+    const auto down = [this](int button) {
+        return [this, button](wxGridEvent& event) {
+            event.Skip();
+            PressMouse(button, event);
+        };
+    };
+    grid_->Bind(wxEVT_GRID_CELL_LEFT_CLICK, down(kLeftButton));
+    grid_->Bind(wxEVT_GRID_CELL_RIGHT_CLICK, down(kRightButton));
+    grid_->Bind(wxEVT_GRID_LABEL_RIGHT_CLICK, down(kRightButton));
+    // The header is no way to select a column.
+    grid_->Bind(wxEVT_GRID_LABEL_LEFT_CLICK, [this](wxGridEvent& event) { PressMouse(kLeftButton, event); });
+    grid_->Bind(wxEVT_GRID_CELL_LEFT_DCLICK,
+                [this](wxGridEvent&) { Gate().Act([this] { model_.OpenEditor(); }); });
+}
+
+void GridBinding::PressMouse(int button, const wxGridEvent& event) {
+    Gate().ActLater([this, button, row = event.GetRow() + 1, column = event.GetCol()] {
+        if (row < model_.Rows()) {
+            model_.PressMouse(button, row, column);
+        }
+        return model_.HasFocus();
+    });
+}
+
+void GridBinding::BindKeys() {
+    grid_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { PressKey(event); });
+    grid_->Bind(wxEVT_CHAR, [this](wxKeyEvent& event) { TypeKey(event); });
+}
+
+void GridBinding::PressKey(wxKeyEvent& event) {
+    if (UseClipboard(event)) {
+        return;
+    }
+    if (event.GetKeyCode() == WXK_BACK && !event.HasAnyModifiers()) {
+        Gate().Act([this] { model_.TypeOver(""); });
+        return;
+    }
+    bool taken = false;
+    const auto press = GridKeyPressOf(event);
+    if (press) {
+        Gate().Act([&] { taken = model_.Press(*press); });
+    }
+    if (!taken && press && press->key == Key::Tab && !press->ctrl && !press->alt) {
+        // The toolkit's grid would move its own cursor.
+        grid_->Navigate(press->shift ? wxNavigationKeyEvent::IsBackward : wxNavigationKeyEvent::IsForward);
+    } else if (!taken) {
+        event.Skip();
+    }
+}
+
+bool GridBinding::UseClipboard(const wxKeyEvent& event) {
+    const auto key = ClipboardKeyOf(event);
+    if (key == ClipboardKey::Copy || key == ClipboardKey::Cut) {
+        CopyCells(Context(), model_);
+    }
+    if (key == ClipboardKey::Cut) {
+        Gate().Act([this] { model_.Press({Key::Delete}); });
+    }
+    if (key == ClipboardKey::Paste) {
+        PasteCells(Context(), model_);
+    }
+    return key != ClipboardKey::None;
+}
+
+void GridBinding::TypeKey(wxKeyEvent& event) {
+    const auto character = TypedCharacter(event);
+    if (character == 0) {
+        event.Skip();
+    } else if (const auto typed = TakeEdit(Context().codePage, "", wxString(character))) {
+        Gate().Act([&] { model_.TypeOver(typed->text); });
+    } else {
+        Context().statusBar.SetText(kCharacterRefused);
+    }
+}
+
+void GridBinding::TakeFocus() {
+    if (model_.IsEditing()) {
+        editor_.TakeFocus();
+    } else {
+        grid_->GetGridWindow()->SetFocus();
+    }
+}
+
+void GridBinding::Measure() {
+    constexpr int kRows = 4;
+    const wxSize least(grid_->GetDefaultColSize(),
+                       grid_->GetColLabelSize() + kRows * grid_->GetDefaultRowSize());
+    model_.SetPreferred(Context().scale.ToTwips(least));
+}
+
+void GridBinding::ShowAppearance() {
+    ControlBinding::ShowAppearance();
+    columns_.Show();
+}
+
+void GridBinding::ShowChanges() {
+    if (std::exchange(rowsChanged_, false)) {
+        table_->MatchRows();
+        cursor_.Touch();
+        cellsChanged_ = true;
+    }
+    if (std::exchange(cellsChanged_, false)) {
+        grid_->GetGridWindow()->Refresh();
+        grid_->GetGridColLabelWindow()->Refresh();
+    }
+    columns_.ShowFit();
+    cursor_.Show();
+    editor_.Show();
+    PresentCurrent();
+}
+
+void GridBinding::PresentCurrent() {
+    wxString text = Shown(model_.Parent()->Caption());
+    if (const int row = model_.Row(); row >= 1 && row < model_.Rows()) {
+        text = grid_->GetColLabelValue(model_.Column()) + " " +
+               grid_->GetCellValue(row - 1, model_.Column()) +
+               wxString::Format(", row %d of %d", row, model_.Rows() - 1);
+    }
+    if (presented_ != text) {
+        presented_ = text;
+        PresentCell(*grid_->GetGridWindow(), text, grid_->GetGridWindow()->HasFocus());
+    }
+}
+
+} // namespace zy

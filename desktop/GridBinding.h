@@ -1,0 +1,47 @@
+#pragma once
+
+#include "controls/Grid.h"
+#include "desktop/ControlBinding.h"
+#include "desktop/GridColumns.h"
+#include "desktop/GridCursor.h"
+#include "desktop/GridEditor.h"
+#include "desktop/GridTable.h"
+#include "desktop/GridWidget.h"
+
+namespace zy {
+
+/// A grid. What the program does to it is shown once, at the end of the action.
+class GridBinding : public ControlBinding {
+  public:
+    GridBinding(const ViewContext& context, const Inside& inside, Grid& model);
+
+    void TakeFocus() override;
+    void ShowAppearance() override;
+
+  private:
+    /// A grid needs no certain room; a few rows will do.
+    void Measure() override;
+    void ObserveModel();
+    void BindMouse();
+    void BindKeys();
+    void PressMouse(int button, const wxGridEvent& event);
+    void PressKey(wxKeyEvent& event);
+    bool UseClipboard(const wxKeyEvent& event);
+    void TypeKey(wxKeyEvent& event);
+
+    void ShowChanges();
+    void PresentCurrent();
+
+    Grid& model_;
+    wxWindow* border_;
+    GridTable* table_;
+    GridWidget* grid_;
+    GridColumns columns_;
+    GridCursor cursor_;
+    GridEditor editor_;
+    bool rowsChanged_ = false;
+    bool cellsChanged_ = false;
+    wxString presented_; ///< what assistive technology was told last
+};
+
+} // namespace zy

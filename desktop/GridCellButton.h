@@ -1,0 +1,56 @@
+#pragma once
+
+#include <wx/button.h>
+#include <wx/grid.h>
+
+#include <string>
+#include <vector>
+
+#include "controls/Grid.h"
+#include "desktop/ViewContext.h"
+
+namespace zy {
+
+/// The button of an open cell: an arrow that drops the cell's list down, or an ellipsis for a dialog of its
+/// own.
+class GridCellButton {
+  public:
+    GridCellButton(const ViewContext& context, Grid& model, wxGrid& grid)
+        : context_(context), model_(model), grid_(grid) {}
+
+    /// Takes its room off the right end of a cell and returns the rest; the whole cell where that has no
+    /// button.
+    wxRect PlaceIn(const wxRect& cell);
+    void Hide();
+    bool IsShown() const;
+    void Press();
+
+    /// Whether the open cell has a list.
+    bool HasList() const;
+    /// Puts the next item that begins with a character into the editor. False where the cell has no list.
+    bool PickByLetter(wxUniChar letter);
+    /// Puts an item in the place of a text that was typed to open the editor and that the list lacks.
+    void CorrectText();
+
+  private:
+    using ItemList = std::vector<std::string>;
+
+    /// The button for the open cell, not shown yet.
+    wxButton& Button();
+    wxButton* MakeListButton();
+    wxButton* MakeDialogButton();
+    void DropDown();
+    ItemList Items() const;
+    /// The first item that begins so, capitals or not.
+    ItemList::const_iterator FindItem(const ItemList& items, const std::string& beginning) const;
+    void Enter(const std::string& item);
+
+    const ViewContext& context_;
+    Grid& model_;
+    wxGrid& grid_;
+    // Made for the first cell that needs them.
+    wxButton* list_ = nullptr;
+    wxButton* dialog_ = nullptr;
+};
+
+} // namespace zy

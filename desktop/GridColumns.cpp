@@ -1,0 +1,108 @@
+#include "desktop/GridColumns.h"
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+#include <vector>
+
+#include "desktop/ShownText.h"
+
+namespace zy {
+namespace {
+
+// The narrowest and the widest that a column is fitted to, in twips. A person types into the one; of a text
+// that is longer than the other the rest is reached in its editor.
+constexpr int kNarrowestFit = Grid::kDesignedWidth;
+constexpr int kWidestFit = 7200;
+
+/// The data rows with the longest texts of a column.
+std::vector<int> LongestRows(const Grid& model, int column) {
+    constexpr std::ptrdiff_t kMostMeasured = 32;
+    std::vector<int> rows(static_cast<std::size_t>(std::max(model.Rows() - 1, 0)));
+    std::iota(rows.begin(), rows.end(), 1);
+    const auto end = rows.begin() + std::min(kMostMeasured, std::ssize(rows));
+    std::nth_element(rows.begin(), end, rows.end(), [&](int one, int other) {
+        return model.Text(one, column).size() > model.Text(other, column).size();
+    });
+    rows.erase(end, rows.end());
+    return rows;
+}
+
+} // namespace
+
+GridColumns::GridColumns(const ViewContext& context, Grid& model, GridWidget& grid)
+    : context_(context), model_(model), grid_(grid), fitFrom_(model.FittedFrom()),
+      fitColumns_(model.fitColumns.Observe([this](int first) { fitFrom_ = first; })) {
+    grid_.Bind(wxEVT_GRID_COL_SIZE, [this](wxGridSizeEvent& event) {
+        context_.gate.Act([&] { TakeWidth(event.GetRowOrCol()); });
+    });
+    // The toolkit would measure every row.
+    grid_.Bind(wxEVT_GRID_COL_AUTO_SIZE, [this](wxGridSizeEvent& event) {
+        context_.gate.Act([&] { Fit(event.GetRowOrCol(), event.GetRowOrCol() + 1); });
+    });
+    grid_.GetGridWindow()->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+        event.Skip();
+        Show();
+    });
+}
+
+void GridColumns::ShowFit() {
+    if (fitFrom_ < model_.Columns() && model_.Rows() > 0) {
+        Fit(std::exchange(fitFrom_, model_.Columns()), model_.Columns());
+    }
+}
+
+void GridColumns::Show() {
+    for (int column = 0; column < model_.Columns(); ++column) {
+        const int width = PixelsOf(column);
+        if (grid_.GetColSize(column) != width) {
+            grid_.SetColSize(column, width);
+        }
+    }
+}
+
+void GridColumns::Fit(int first, int end) {
+    for (int column = first; column < end; ++column) {
+        model_.SetColumnWidth(
+            column, std::clamp(context_.scale.ToTwips(NeededPixels(column)), kNarrowestFit, kWidestFit));
+    }
+}
+
+int GridColumns::NeededPixels(int column) const {
+    int width = TextPixels(0, column, grid_.GetLabelFont());
+    for (const int row : LongestRows(model_, column)) {
+        width = std::max(width, TextPixels(row, column, grid_.GetDefaultCellFont()));
+    }
+    return width + 2 * grid_.CellMargin() + 1;
+}
+
+int GridColumns::TextPixels(int row, int column, const wxFont& font) const {
+    // A longer text is wider than any column is made.
+    constexpr std::size_t kMostMeasured = 1024;
+    int width = 0;
+    int height = 0;
+    const auto text = std::string_view(model_.Text(row, column)).substr(0, kMostMeasured);
+    grid_.GetTextExtent(ToShown(context_.codePage, text), &width, &height, nullptr, nullptr, &font);
+    return width;
+}
+
+void GridColumns::TakeWidth(int column) {
+    if (grid_.GetColSize(column) != PixelsOf(column)) {
+        model_.SetColumnWidth(column, context_.scale.ToTwips(grid_.GetColSize(column)));
+    }
+    Show();
+}
+
+int GridColumns::PixelsOf(int column) const {
+    const int width = context_.scale.ToPixels(model_.ColumnWidth(column));
+    if (column + 1 < model_.Columns()) {
+        return width;
+    }
+    int left = grid_.GetGridWindow()->GetClientSize().x;
+    for (int other = 0; other < column; ++other) {
+        left -= context_.scale.ToPixels(model_.ColumnWidth(other));
+    }
+    return std::max(width, left);
+}
+
+} // namespace zy

@@ -1,0 +1,132 @@
+#include "desktop/GridCursor.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace zy {
+namespace {
+
+wxGridBlockCoords LastBlock(const GridWidget& grid) {
+    wxGridBlockCoords last = wxGridNoBlockCoords;
+    for (const auto& block : grid.GetSelectedBlocks()) {
+        last = block;
+    }
+    return last;
+}
+
+bool IsAtCorner(const wxGridBlockCoords& block, const wxGridCellCoords& cell) {
+    return (cell.GetRow() == block.GetTopRow() || cell.GetRow() == block.GetBottomRow()) &&
+           (cell.GetCol() == block.GetLeftCol() || cell.GetCol() == block.GetRightCol());
+}
+
+/// The block between two cells of the model as the toolkit counts them; none for a single cell.
+wxGridBlockCoords BlockBetween(const Cell& one, const Cell& other) {
+    if (one == other) {
+        return wxGridNoBlockCoords;
+    }
+    const auto [top, bottom] = std::minmax({one.row - 1, other.row - 1});
+    const auto [left, right] = std::minmax({one.column, other.column});
+    return {std::max(top, 0), left, bottom, right};
+}
+
+} // namespace
+
+GridCursor::GridCursor(const ViewContext& context, Grid& model, GridWidget& grid)
+    : context_(context), model_(model), grid_(grid),
+      blockChanged_(model.blockChanged.Observe([this] { Touch(); })) {
+    grid_.Bind(wxEVT_GRID_SELECT_CELL, [this](wxGridEvent& event) {
+        event.Skip();
+        TakeCell(event);
+    });
+    grid_.Bind(wxEVT_GRID_RANGE_SELECTED, [this](wxGridRangeSelectEvent& event) {
+        event.Skip();
+        if (!showing_) {
+            context_.gate.ActLater([this] { return TakeBlock(); });
+        }
+    });
+    grid_.GetGridWindow()->Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent& event) {
+        event.Skip();
+        // A click picks a cell of its own.
+        if (!wxGetMouseState().LeftIsDown()) {
+            context_.gate.ActLater([this] { return TakeFirstCell(); });
+        }
+    });
+}
+
+void GridCursor::TakeCell(const wxGridEvent& event) {
+    if (!showing_) {
+        // The toolkit moves its cursor behind this event.
+        context_.gate.ActLater([this, row = event.GetRow() + 1, column = event.GetCol()] {
+            if (row < model_.Rows()) {
+                model_.Pick(row, column);
+            }
+            return model_.HasFocus();
+        });
+    }
+}
+
+bool GridCursor::TakeFirstCell() {
+    if (grid_.GetGridWindow()->HasFocus() && !HasCell() && model_.Rows() > 1) {
+        model_.Pick(1, 0);
+    }
+    return true;
+}
+
+bool GridCursor::TakeBlock() {
+    const auto block = LastBlock(grid_);
+    if (!HasCell() || !model_.TakeFocus() || block.GetBottomRow() + 1 >= model_.Rows()) {
+        return model_.HasFocus();
+    }
+    const wxGridCellCoords cell(model_.Row() - 1, model_.Column());
+    if (block == wxGridNoBlockCoords) {
+        model_.SelectTo(model_.Row(), model_.Column());
+    } else if (IsAtCorner(block, cell)) {
+        const bool down = cell.GetRow() == block.GetTopRow();
+        const bool right = cell.GetCol() == block.GetLeftCol();
+        model_.SelectTo((down ? block.GetBottomRow() : block.GetTopRow()) + 1,
+                        right ? block.GetRightCol() : block.GetLeftCol());
+    } else {
+        // A whole row, column or grid: the model's block begins at its current cell.
+        model_.Select(block.GetTopRow() + 1, block.GetLeftCol());
+        model_.SelectTo(block.GetBottomRow() + 1, block.GetRightCol());
+    }
+    return true;
+}
+
+bool GridCursor::Show() {
+    if (!std::exchange(changed_, false)) {
+        return false;
+    }
+    showing_ = true;
+    ShowCell();
+    ShowBlock();
+    showing_ = false;
+    return true;
+}
+
+void GridCursor::ShowCell() {
+    const wxGridCellCoords cell(model_.Row() - 1, model_.Column());
+    grid_.RefreshRow(grid_.GetGridCursorRow());
+    grid_.SetHasCurrent(HasCell());
+    if (HasCell() && grid_.GetGridCursorCoords() != cell) {
+        grid_.GoToCell(cell);
+    }
+    grid_.RefreshRow(grid_.GetGridCursorRow());
+}
+
+void GridCursor::ShowBlock() {
+    const auto block =
+        HasCell() ? BlockBetween({model_.Row(), model_.Column()}, model_.BlockEnd()) : wxGridNoBlockCoords;
+    if (block == LastBlock(grid_)) {
+        return;
+    }
+    grid_.ClearSelection();
+    if (block != wxGridNoBlockCoords) {
+        grid_.SelectBlock(block.GetTopLeft(), block.GetBottomRight());
+    }
+    if (HasCell()) {
+        grid_.MakeCellVisible(model_.BlockEnd().row - 1, model_.BlockEnd().column);
+    }
+}
+
+} // namespace zy

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "controls/Grid.h"
+#include "desktop/GridWidget.h"
+#include "desktop/ViewContext.h"
+
+namespace zy {
+
+/// The current cell of a grid and the block selected with it, both ways: what a person does with the
+/// toolkit's own keys and the mouse is handed to the model, and what the model has is shown.
+class GridCursor {
+  public:
+    GridCursor(const ViewContext& context, Grid& model, GridWidget& grid);
+
+    /// Shows the model's cell and block, scrolled into view, when they have changed since the last time. True
+    /// when they had.
+    bool Show();
+    /// Lets the next Show show them in any case: rows have come or gone.
+    void Touch() { changed_ = true; }
+
+  private:
+    void TakeCell(const wxGridEvent& event);
+    /// Whoever comes to the grid by keys needs a cell to go on from.
+    bool TakeFirstCell();
+    bool TakeBlock();
+    void ShowCell();
+    void ShowBlock();
+    bool HasCell() const { return model_.Row() >= 1 && model_.Row() <= grid_.GetNumberRows(); }
+
+    const ViewContext& context_;
+    Grid& model_;
+    GridWidget& grid_;
+    bool changed_ = true;
+    bool showing_ = false; ///< the toolkit tells of a move because the model's is shown
+    Subscription blockChanged_;
+};
+
+} // namespace zy

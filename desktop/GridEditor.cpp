@@ -1,0 +1,191 @@
+#include "desktop/GridEditor.h"
+
+#include <wx/toplevel.h>
+
+#include <string>
+#include <utility>
+
+#include "desktop/GridKeys.h"
+#include "desktop/Native.h"
+#include "desktop/ShownText.h"
+#include "shell/StatusTexts.h"
+
+namespace zy {
+namespace {
+
+/// The most characters that the toolkit's line of text holds for sure: 65,534 bytes of UTF-8, of which a
+/// character takes up to three. What a longer text has beyond is kept, out of reach.
+constexpr std::size_t kMostShown = 65534 / 3;
+
+wxTextCtrl* MakeText(const GridWidget& grid) {
+    auto* text =
+        new wxTextCtrl(grid.GetGridWindow(), wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxBORDER_NONE);
+    text->Hide();
+    // The first name a control gets is told nobody, the later ones are.
+    SetAccessibleName(*text, "Cell");
+    return text;
+}
+
+} // namespace
+
+GridEditor::GridEditor(const ViewContext& context, Grid& model, GridWidget& grid)
+    : context_(context), model_(model), grid_(grid), text_(MakeText(grid)), button_(context, model, grid),
+      editingChanged_(model.editingChanged.Observe([this] { changed_ = true; })),
+      editTextChanged_(model.editTextChanged.Observe([this] { changed_ = true; })) {
+    BindText();
+    CommitWhenLeft();
+}
+
+void GridEditor::BindText() {
+    const auto remember = [this](wxEvent& event) {
+        RememberSelection();
+        event.Skip();
+    };
+    text_->Bind(wxEVT_TEXT_PASTE, remember);
+    text_->Bind(wxEVT_MIDDLE_DOWN, remember);
+    text_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { TakeText(); });
+    text_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { PressKey(event); });
+    text_->Bind(wxEVT_CHAR,
+                [this](wxKeyEvent& event) { event.Skip(!button_.PickByLetter(TypedCharacter(event))); });
+}
+
+void GridEditor::CommitWhenLeft() {
+    // A click beside the open editor.
+    grid_.GetGridWindow()->Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent& event) {
+        event.Skip();
+        context_.gate.ActLater([this] {
+            if (grid_.GetGridWindow()->HasFocus()) {
+                model_.CommitEdit();
+            }
+            return true;
+        });
+    });
+    wxGetTopLevelParent(&grid_)->Bind(wxEVT_MENU_OPEN, [this](wxMenuEvent& event) {
+        event.Skip();
+        context_.gate.Act([this] { model_.CommitEdit(); });
+    });
+}
+
+void GridEditor::Show() {
+    const bool changed = std::exchange(changed_, false);
+    if (!model_.IsEditing()) {
+        Close();
+        return;
+    }
+    if (!text_->IsShown()) {
+        Open();
+    } else {
+        Place();
+    }
+    if (changed) {
+        ShowTextAndCaret();
+    }
+}
+
+void GridEditor::Open() {
+    text_->SetEditable(!button_.HasList());
+    grid_.MakeCellVisible(model_.Row() - 1, model_.Column());
+    Place();
+    text_->Show();
+    SetAccessibleName(*text_, grid_.GetColLabelValue(model_.Column()));
+    if (model_.HasFocus()) {
+        text_->SetFocus();
+    }
+}
+
+void GridEditor::Close() {
+    if (text_->IsShown()) {
+        if (text_->HasFocus()) {
+            grid_.GetGridWindow()->SetFocus();
+        }
+        text_->Hide();
+        button_.Hide();
+    }
+}
+
+void GridEditor::Place() {
+    wxRect place = grid_.CellToRect(model_.Row() - 1, model_.Column());
+    place.SetPosition(grid_.CalcScrolledPosition(place.GetPosition()));
+    // The lines between the cells stay.
+    place.SetSize(place.GetSize() - wxSize(1, 1));
+    place.SetRight(std::min(place.GetRight(), grid_.GetGridWindow()->GetClientSize().x - 1));
+    wxRect text = button_.PlaceIn(place);
+    // The text stays where it stood in the cell.
+    text.x += grid_.CellMargin();
+    text.width -= grid_.CellMargin();
+    text_->SetSize(text);
+}
+
+bool GridEditor::ShowText() {
+    const wxString shown =
+        ToShown(context_.codePage, std::string_view(model_.EditText()).substr(0, kMostShown));
+    const bool differs = text_->GetValue() != shown;
+    if (differs) {
+        text_->ChangeValue(shown);
+    }
+    return differs;
+}
+
+void GridEditor::ShowTextAndCaret() {
+    button_.CorrectText();
+    ShowText();
+    const auto start = static_cast<long>(model_.EditSelStart());
+    text_->SetSelection(start, start + static_cast<long>(model_.EditSelLength()));
+}
+
+void GridEditor::TakeFocus() {
+    if (!text_->HasFocus()) {
+        text_->SetFocus();
+        ShowTextAndCaret();
+    }
+}
+
+void GridEditor::PressKey(wxKeyEvent& event) {
+    RememberSelection();
+    const auto press = GridKeyPressOf(event);
+    const bool drops = event.GetKeyCode() == WXK_F4 || (press && press->alt && press->key == Key::Down);
+    if (drops && button_.IsShown()) {
+        button_.Press();
+    } else if (!press || !Press(*press)) {
+        event.Skip();
+    }
+}
+
+bool GridEditor::Press(const KeyPress& press) {
+    bool taken = false;
+    context_.gate.Act([&] {
+        TakeCaret();
+        taken = model_.Press(press);
+    });
+    return taken;
+}
+
+void GridEditor::TakeCaret() {
+    long start = 0;
+    long end = 0;
+    text_->GetSelection(&start, &end);
+    const std::string text = model_.EditText();
+    model_.EnterEditText(text, static_cast<std::size_t>(start), static_cast<std::size_t>(end - start));
+}
+
+void GridEditor::TakeText() {
+    const std::string before = model_.EditText().substr(0, kMostShown);
+    const std::string beyond = model_.EditText().substr(before.size());
+    const auto edited = TakeEdit(context_.codePage, before, text_->GetValue());
+    if (!edited) {
+        Refuse();
+        return;
+    }
+    context_.gate.Act([&] { model_.EnterEditText(edited->text + beyond, edited->changeEnd, 0); });
+    if (ShowText()) {
+        text_->SetInsertionPoint(static_cast<long>(edited->changeEnd));
+    }
+}
+
+void GridEditor::Refuse() {
+    ShowText();
+    text_->SetSelection(selectionStart_, selectionEnd_);
+    context_.statusBar.SetText(kCharacterRefused);
+}
+
+} // namespace zy

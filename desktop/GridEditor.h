@@ -1,0 +1,58 @@
+#pragma once
+
+#include <wx/textctrl.h>
+
+#include "controls/Grid.h"
+#include "desktop/GridCellButton.h"
+#include "desktop/GridWidget.h"
+#include "desktop/ViewContext.h"
+
+namespace zy {
+
+/// The editor over the current cell of a grid: a line of text, and a button beside it where the cell has one.
+///
+/// The model says when it is open and holds its text and selection. What a person types is handed to the
+/// model at once, and keys are the model's before they are the text's. Where a cell has a list, its text is
+/// picked and not typed.
+class GridEditor {
+  public:
+    GridEditor(const ViewContext& context, Grid& model, GridWidget& grid);
+
+    /// Opens, moves or closes the real editor as the model's.
+    void Show();
+    /// Gives the text the focus.
+    void TakeFocus();
+    /// The height that its line of text needs.
+    int NeededHeight() const { return text_->GetBestSize().y; }
+
+  private:
+    void BindText();
+    void CommitWhenLeft();
+    void Open();
+    void Close();
+    void Place();
+    /// Shows the model's text; false when it is shown already.
+    bool ShowText();
+    void ShowTextAndCaret();
+
+    void PressKey(wxKeyEvent& event);
+    bool Press(const KeyPress& press);
+    void TakeText();
+    void TakeCaret();
+    void Refuse();
+    void RememberSelection() { text_->GetSelection(&selectionStart_, &selectionEnd_); }
+
+    const ViewContext& context_;
+    Grid& model_;
+    GridWidget& grid_;
+    wxTextCtrl* text_;
+    GridCellButton button_;
+    bool changed_ = false;
+    // The selection before a person's change, put back when the change is refused.
+    long selectionStart_ = 0;
+    long selectionEnd_ = 0;
+    Subscription editingChanged_;
+    Subscription editTextChanged_;
+};
+
+} // namespace zy

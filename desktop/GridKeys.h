@@ -1,0 +1,21 @@
+#pragma once
+
+#include <wx/event.h>
+
+#include <optional>
+
+#include "controls/Key.h"
+
+namespace zy {
+
+/// A key of the toolkit as a grid knows it; nothing for one that it does not react to.
+std::optional<KeyPress> GridKeyPressOf(const wxKeyEvent& event);
+
+/// What the keys of the clipboard ask for.
+enum class ClipboardKey { None, Copy, Cut, Paste };
+ClipboardKey ClipboardKeyOf(const wxKeyEvent& event);
+
+/// The character that a key types; NUL when it types none.
+wxUniChar TypedCharacter(const wxKeyEvent& event);
+
+} // namespace zy

@@ -1,0 +1,92 @@
+#include "desktop/GridWidget.h"
+
+#include <wx/control.h>
+#include <wx/dc.h>
+#include <wx/renderer.h>
+#include <wx/settings.h>
+
+namespace zy {
+namespace {
+
+/// A trace of the selection's colour.
+wxColour TintOf(const wxGrid& grid) {
+    constexpr double kShare = 0.12;
+    const wxColour strong = grid.GetSelectionBackground();
+    const wxColour plain = grid.GetDefaultCellBackgroundColour();
+    return {wxColour::AlphaBlend(strong.Red(), plain.Red(), kShare),
+            wxColour::AlphaBlend(strong.Green(), plain.Green(), kShare),
+            wxColour::AlphaBlend(strong.Blue(), plain.Blue(), kShare)};
+}
+
+/// Draws a cell's text on one line, cut by an ellipsis where it is too long.
+class OneLine : public wxGridCellStringRenderer {
+  public:
+    void Draw(wxGrid& grid, wxGridCellAttr& attr, wxDC& dc, const wxRect& place, int row, int column,
+              bool isSelected) override {
+        // In a block that is selected, the current cell stands out.
+        const bool strong = isSelected && grid.GetGridCursorCoords() != wxGridCellCoords(row, column);
+        if (static_cast<GridWidget&>(grid).IsCurrentRow(row) && !strong) {
+            dc.SetPen(*wxTRANSPARENT_PEN);
+            dc.SetBrush(TintOf(grid));
+            dc.DrawRectangle(place);
+        } else {
+            wxGridCellRenderer::Draw(grid, attr, dc, place, row, column, strong);
+        }
+        SetTextColoursAndFont(grid, attr, dc, strong);
+        DrawText(static_cast<GridWidget&>(grid), dc, place, grid.GetCellValue(row, column));
+    }
+
+  private:
+    static void DrawText(GridWidget& grid, wxDC& dc, wxRect place, const wxString& text) {
+        place.Deflate(grid.CellMargin(), 0);
+        const auto fitting =
+            wxControl::Ellipsize(text, dc, wxELLIPSIZE_END, place.width, wxELLIPSIZE_FLAGS_NONE);
+        grid.DrawTextRectangle(dc, fitting, place, wxALIGN_LEFT, wxALIGN_CENTRE);
+    }
+};
+
+} // namespace
+
+GridWidget::GridWidget(wxWindow* parent, wxGridTableBase* table)
+    : wxGrid(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxWANTS_CHARS | wxBORDER_NONE) {
+    SetDefaultRenderer(new OneLine);
+    SetTable(table, true);
+    EnableEditing(false);
+    // The window of the cells alone takes the keyboard.
+    SetCanFocus(false);
+    HideRowLabels();
+    DisableDragRowSize();
+    DisableDragColMove();
+    SetMargins(0, 0);
+    SetCellHighlightColour(wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT));
+}
+
+void GridWidget::SetHasCurrent(bool has) {
+    constexpr int kFrameWidth = 2;
+    hasCurrent_ = has;
+    SetCellHighlightPenWidth(has ? FromDIP(kFrameWidth) : 0);
+    SetCellHighlightROPenWidth(GetCellHighlightPenWidth());
+}
+
+void GridWidget::RefreshRow(int row) {
+    if (row >= 0 && row < GetNumberRows()) {
+        GetGridWindow()->RefreshRect(BlockToDeviceRect({row, 0}, {row, GetNumberCols() - 1}));
+    }
+}
+
+void GridWidget::FitRows(int editorHeight) {
+    const int room = GetCharHeight() / 4;
+    SetDefaultRowSize(editorHeight + room, true);
+    SetColLabelSize(editorHeight + 2 * room);
+}
+
+void GridWidget::DrawColLabel(wxDC& dc, int column) {
+    const wxRect place(GetColLeft(column), 0, GetColWidth(column), GetColLabelSize());
+    wxRendererNative::Get().DrawHeaderButton(GetGridColLabelWindow(), dc, place);
+    dc.SetFont(GetLabelFont());
+    dc.SetTextForeground(GetLabelTextColour());
+    DrawTextRectangle(dc, GetColLabelValue(column), wxRect(place).Deflate(CellMargin(), 0), wxALIGN_LEFT,
+                      wxALIGN_CENTRE);
+}
+
+} // namespace zy

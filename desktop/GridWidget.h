@@ -1,0 +1,32 @@
+#pragma once
+
+#include <wx/grid.h>
+
+namespace zy {
+
+/// The toolkit's grid with the looks of the program's other lists, and without what the model does itself:
+/// its cells are edited, and its rows and columns sized and ordered, by the model alone.
+class GridWidget : public wxGrid {
+  public:
+    /// Takes the table over.
+    GridWidget(wxWindow* parent, wxGridTableBase* table);
+
+    /// Whether there is a current cell to show. Its row is tinted, also while another control has the
+    /// keyboard.
+    void SetHasCurrent(bool has);
+    bool IsCurrentRow(int row) const { return hasCurrent_ && row == GetGridCursorRow(); }
+    /// Draws anew the row that is or was current.
+    void RefreshRow(int row);
+
+    /// Makes the rows high enough for an editor of this height.
+    void FitRows(int editorHeight);
+    /// The room left and right of a cell's text.
+    int CellMargin() const { return GetCharWidth() / 2; }
+
+  private:
+    void DrawColLabel(wxDC& dc, int column) override;
+
+    bool hasCurrent_ = false;
+};
+
+} // namespace zy
