@@ -82,16 +82,21 @@ bool RuleChecks::Check_Max(std::string_view text) {
 }
 
 bool RuleChecks::CheckCount(std::string_view text, std::string_view name) {
-    constexpr double kLeast = 1;
-    constexpr double kMost = 100;
-    const auto number = ParseNumber(text, world_.system.DecimalSeparator());
-    if (number && *number >= kLeast && *number <= kMost) {
+    if (IsCount(text)) {
         return true;
     }
     const std::string field(name);
-    ShowRuleError(field + (number ? " Must be between 1 and 100" : " Must be a Numeric Value"),
+    const bool isNumber = ParseNumber(text, world_.system.DecimalSeparator()).has_value();
+    ShowRuleError(field + (isNumber ? " Must be between 1 and 100" : " Must be a Numeric Value"),
                   "Invalid Rule " + field + " Value");
     return false;
+}
+
+bool RuleChecks::IsCount(std::string_view text) const {
+    constexpr double kLeast = 1;
+    constexpr double kMost = 100;
+    const auto number = ParseNumber(text, world_.system.DecimalSeparator());
+    return number && *number >= kLeast && *number <= kMost;
 }
 
 double RuleChecks::NumberOf(std::string_view text) const {

@@ -25,6 +25,8 @@ class RuleChecks {
     /// True for a number from 1 to 100, fractions included.
     bool Check_Min(std::string_view text);
     bool Check_Max(std::string_view text);
+    /// The same without a word.
+    bool IsCount(std::string_view text) const;
     /// True unless min is greater than max. Equal counts pass although the message says "less than", which is
     /// meant.
     bool Verify_MinMax(std::string_view minText, std::string_view maxText);

@@ -71,11 +71,15 @@ class RulesPage {
     bool ValidateMin();
     bool ValidateMax();
     bool ValidateMinMax(TextBox& focus);
+    /// Compares the two counts when one is left. The other one may have been loaded as no count at all; then
+    /// nothing is compared, or nobody could leave for it to mend it.
+    bool ValidateBeside(const TextBox& other, TextBox& left);
     bool ValidateSelection(const ComboBox& list, Control& focus);
     bool ValidateDescription();
     bool Refuse(TextBox& box);
 
     bool FormDiffers() const;
+    /// Shows a report in the status bar, and behind it what a person must know about an edit of the form.
     void ShowStatus(std::string_view report);
     std::string CountText();
 
@@ -85,6 +89,7 @@ class RulesPage {
     TraceChannel& trace_;
     World world_;
     RuleChecks checks_;
+    std::string report_; ///< the one shown last
 };
 
 } // namespace zy

@@ -37,9 +37,9 @@ void RulesPage::ConnectDetails() {
     auto& c = controls;
     ConnectValidate("txtCode_Validate", c.txtCode, [this] { return ValidateCode(); });
     ConnectValidate("txtMin_Validate", c.txtMin,
-                    [this] { return ValidateMin() && ValidateMinMax(controls.txtMin); });
+                    [this] { return ValidateMin() && ValidateBeside(controls.txtMax, controls.txtMin); });
     ConnectValidate("txtMax_Validate", c.txtMax,
-                    [this] { return ValidateMax() && ValidateMinMax(controls.txtMax); });
+                    [this] { return ValidateMax() && ValidateBeside(controls.txtMin, controls.txtMax); });
     ConnectValidate("cboCondition_Validate", c.cboCondition,
                     [this] { return ValidateSelection(controls.cboCondition, controls.cboCondition); });
     ConnectValidate("cboZone_Validate", c.cboZone,
@@ -81,6 +81,10 @@ bool RulesPage::ValidateMax() {
 
 bool RulesPage::ValidateMinMax(TextBox& focus) {
     return checks_.Verify_MinMax(controls.txtMin.Text(), controls.txtMax.Text()) || Refuse(focus);
+}
+
+bool RulesPage::ValidateBeside(const TextBox& other, TextBox& left) {
+    return !checks_.IsCount(other.Text()) || ValidateMinMax(left);
 }
 
 bool RulesPage::ValidateDescription() {
@@ -139,6 +143,7 @@ void RulesPage::cmdSaveRules_Click() {
     if (form_.ChangeFlag) {
         rules_.Write_Rules_File();
         form_.ChangeFlag = false;
+        ShowStatus(report_);
     }
 }
 
@@ -189,9 +194,13 @@ std::string RulesPage::CountText() {
 }
 
 void RulesPage::ShowStatus(std::string_view report) {
-    std::string text(report);
+    report_ = report;
+    std::string text = report_;
     if (FormDiffers()) {
-        text += "   -   " + rules_.gaRules(rules_.giCurRule).Code + " edited; File > Save stores it";
+        // File > Save takes the form over only while there is a change to be saved.
+        text += "   -   " + rules_.gaRules(rules_.giCurRule).Code;
+        text += form_.ChangeFlag ? " edited; File > Save stores it"
+                                 : " differs from its fields; change one, then File > Save stores them";
     }
     form_.zyStatusBar.SetText(text);
 }

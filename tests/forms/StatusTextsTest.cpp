@@ -91,7 +91,11 @@ TEST_F(StatusTexts, TellBesideThePagesSaveThatTheFormIsNotInTheFile) {
     StartWithCodes({"A"});
     page().txtCode.Enter("X");
     page().cmdSaveRules.Click();
-    EXPECT_EQ(Status(), "Saved   -   A edited; File > Save stores it");
+    EXPECT_EQ(Status(), "Saved   -   A differs from its fields; change one, then File > Save stores them");
+    page().txtMin.Enter("2");
+    EXPECT_EQ(Status(), "1 rule   -   A edited; File > Save stores it");
+    ChooseSave();
+    EXPECT_EQ(Status(), "Saved");
 }
 
 TEST_F(StatusTexts, TellTheNumberAgainWithTheNextEdit) {
@@ -123,7 +127,7 @@ TEST_F(StatusTexts, TellThatARuleCannotBeShownAsItIs) {
     auto rule = RuleOf("A");
     rule.Zone = "Avg ";
     StartWith({rule});
-    EXPECT_EQ(Status(), "1 rule   -   A edited; File > Save stores it")
+    EXPECT_EQ(Status(), "1 rule   -   A differs from its fields; change one, then File > Save stores them")
         << "the list spells the zone otherwise";
 }
 

@@ -84,6 +84,25 @@ TEST_F(ValidateEvents, CompareTheCountsOnlyAfterTheFieldsOwnCheckPassed) {
                                       "mRules Verify_MinMax Start"));
 }
 
+TEST_F(ValidateEvents, LeadOutOfACountWhoseNeighbourWasLoadedAsNoCount) {
+    auto rule = RuleOf("A");
+    rule.Max = "many";
+    StartWith({rule});
+    page().txtMin.SetFocus();
+    EXPECT_TRUE(page().txtMax.TakeFocus());
+    page().txtMax.Enter("9");
+    EXPECT_TRUE(list().TakeFocus());
+
+    rule.Min = "none";
+    rule.Max = "0.5";
+    StartWith({rule});
+    page().txtMin.Enter("5");
+    EXPECT_TRUE(page().txtMax.TakeFocus());
+    ExpectKept(page().txtMax, "Max Must be between 1 and 100", "Invalid Rule Max Value");
+    page().txtMax.Enter("4");
+    ExpectKept(page().txtMax, "Min Value must be less than Max Value", "Invalid Rule Max or Min Value");
+}
+
 TEST_F(ValidateEvents, KeepTheFocusInADescriptionThatFails) {
     page().txtDescription.Enter("");
     ExpectKept(page().txtDescription, "Rule Description cannot be Blank", "Invalid Rule Description");
