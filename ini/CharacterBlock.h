@@ -9,17 +9,29 @@
 
 namespace zy {
 
-/// Which characters of a block were meant: the highest bit of each one's byte.
-struct CharacterMask {
-    std::uint64_t bits = 0;
+/// Which characters of a block were meant: the highest bit of each one's byte tells. The other bits mean
+/// nothing.
+class CharacterMask {
+  public:
+    static constexpr std::uint64_t kMeant = 0x8080808080808080;
 
-    bool Any() const { return bits != 0; }
+    explicit CharacterMask(std::uint64_t bits) : bits_(bits) {}
+
+    bool Any() const { return Meant() != 0; }
     /// The place of the first one in its block. There must be one.
-    std::size_t First() const { return static_cast<std::size_t>(std::countr_zero(bits)) / 8; }
+    std::size_t First() const { return static_cast<unsigned>(std::countr_zero(Meant())) / 8; }
+    std::uint64_t Meant() const { return bits_ & kMeant; }
 
     friend CharacterMask operator|(CharacterMask left, CharacterMask right) {
-        return {left.bits | right.bits};
+        return CharacterMask(left.bits_ | right.bits_);
     }
+    friend CharacterMask operator&(CharacterMask left, CharacterMask right) {
+        return CharacterMask(left.bits_ & right.bits_);
+    }
+    friend CharacterMask operator~(CharacterMask mask) { return CharacterMask(~mask.bits_); }
+
+  private:
+    std::uint64_t bits_;
 };
 
 /// Eight characters in a row, one a byte, the first one in the lowest.
@@ -36,36 +48,36 @@ class CharacterBlock {
     }
     void Store(char* at) const { std::memcpy(at, &bytes_, kSize); }
 
-    /// The characters that differ from an ASCII character in no bit.
+    CharacterMask BeyondAscii() const { return CharacterMask(bytes_); }
+
+    // Of the characters beyond ASCII, any may be among those of the masks below.
+
     CharacterMask Equal(char character) const {
-        const std::uint64_t different = bytes_ ^ All(character);
-        return {~(((different & kLowBits) + kLowBits) | different) & kHighBits};
+        return CharacterMask(~((LowBits() ^ All(character)) + kLowBits));
     }
-    CharacterMask BeyondAscii() const { return {bytes_ & kHighBits}; }
-    /// The characters before an ASCII character.
-    CharacterMask Before(char character) const { return {~(FromOn(character) | bytes_) & kHighBits}; }
+    /// The characters that come before an ASCII character.
+    CharacterMask Before(char character) const { return ~FromOn(character); }
+    /// The characters that are an ASCII character or come behind it.
+    CharacterMask FromOn(char character) const {
+        return CharacterMask(LowBits() + (CharacterMask::kMeant - All(character)));
+    }
 
     /// The block with capitals for the letters "a" to "z".
     CharacterBlock AsciiCapitals() const {
-        const std::uint64_t letters = FromOn('a') & ~FromOn('z' + 1) & ~bytes_ & kHighBits;
-        return CharacterBlock(bytes_ - letters / (kHighBit / ('a' - 'A')));
+        const auto letters = FromOn('a') & Before('z' + 1) & ~BeyondAscii();
+        constexpr std::uint64_t kToBitOfCase = 0x80 / ('a' - 'A');
+        return CharacterBlock(bytes_ - letters.Meant() / kToBitOfCase);
     }
 
   private:
-    static constexpr std::uint64_t kEach = 0x0101010101010101;
-    static constexpr std::uint64_t kHighBit = 0x80;
-    static constexpr std::uint64_t kHighBits = kEach * kHighBit;
-    static constexpr std::uint64_t kLowBits = ~kHighBits;
+    static constexpr std::uint64_t kLowBits = ~CharacterMask::kMeant;
 
     explicit CharacterBlock(std::uint64_t bytes) : bytes_(bytes) {}
 
+    std::uint64_t LowBits() const { return bytes_ & kLowBits; }
     static constexpr std::uint64_t All(char character) {
+        constexpr std::uint64_t kEach = 0x0101010101010101;
         return kEach * static_cast<unsigned char>(character);
-    }
-    /// Its highest bits tell which characters, their own highest bit left out, are an ASCII character or one
-    /// behind it.
-    std::uint64_t FromOn(char character) const {
-        return (bytes_ & kLowBits) + (kHighBits - All(character));
     }
 
     std::uint64_t bytes_ = 0;

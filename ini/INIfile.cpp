@@ -27,7 +27,7 @@ void INIfile::LoadFile(std::string_view Filename) {
 
 void INIfile::SaveFile(std::string_view Filename) {
     trace_.DebugTrace("INIFile", "SaveFile", "Start " + std::string(Filename));
-    const std::string text = INIfileText(*INIlines(), format_, codePage_);
+    const INIfileText text(*INIlines(), format_, codePage_);
     if (files_.Exists(Filename)) {
         files_.Delete(Filename);
     }
@@ -35,7 +35,7 @@ void INIfile::SaveFile(std::string_view Filename) {
     if (!created.handle) {
         return;
     }
-    created.handle->Write(text);
+    created.handle->Write(text.Get());
     created.handle->Flush();
     created.handle->Close();
 }

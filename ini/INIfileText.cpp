@@ -1,55 +1,100 @@
 #include "ini/INIfileText.h"
 
 #include <algorithm>
+#include <cstring>
+#include <deque>
+#include <utility>
 
 #include "basics/Int16.h"
 #include "basics/Text.h"
+#include "ini/FileText.h"
 
 namespace zy {
 namespace {
 
 constexpr std::string_view kEquals = "= ";
 constexpr std::string_view kLineEnd = "\r\n";
+/// No line of a file is longer.
+constexpr std::size_t kLongestLine = 32767;
 
-/// Writes the text of a file over blanks, from the first character on.
-class LineWriter {
+/// As many characters as are written in one go where the right number is known to be no more. What is too
+/// much is written over.
+constexpr std::size_t kBlock = 16;
+static_assert(kBlock <= FileText::kMargin);
+
+char* Put(std::string_view text, char* at) {
+    return std::copy(text.begin(), text.end(), at);
+}
+
+/// Writes a text that stands in a file's.
+char* PutLoaded(std::string_view text, char* at) {
+    std::memcpy(at, text.data(), kBlock);
+    for (auto done = kBlock; done < text.size(); done += kBlock) {
+        std::memcpy(at + done, text.data() + done, kBlock);
+    }
+    return at + text.size();
+}
+
+using Line = std::deque<INIline>::const_iterator;
+
+/// Lays lines out as the text of a file.
+class LineLayout {
   public:
-    LineWriter(const INIformat& format, const CodePage& codePage)
+    /// The most that a line of a file takes.
+    static constexpr std::size_t kLoadedRoom = kLongestLine + 4 * kBlock;
+
+    LineLayout(const INIformat& format, const CodePage& codePage)
         : codePage_(codePage), ucaseSection_(format.ucaseSection),
           indent_(static_cast<std::size_t>(std::max(format.leadingSpaces, 0))),
           equalAt_(static_cast<std::size_t>(std::max(format.equalPos, 1)) - 1) {}
 
-    /// The number of characters that the line takes at most.
-    std::size_t Room(const INIline& line) const {
-        if (Trim(line.Section()).empty()) {
-            return line.Group().size() + kLineEnd.size();
-        }
-        const auto keyRoom = std::max(indent_ + line.Section().size(), equalAt_);
-        return keyRoom + kEquals.size() + line.Value().size() + kLineEnd.size();
+    /// The most that a line takes whose texts have so many characters.
+    std::size_t RoomFor(std::size_t characters) const {
+        return indent_ + equalAt_ + characters + kEquals.size() + kLineEnd.size();
     }
 
     /// Writes a line and returns its end.
-    char* Write(const INIline& line, char* at) const {
+    char* PutLine(const INIline& line, char* at) const {
         const auto key = Trim(line.Section());
-        at = key.empty() ? WriteCapitals(Trim(line.Group()), at)
-                         : WriteValue(Trim(line.Value()), WriteKey(key, at));
-        return Copy(kLineEnd, at);
+        at = key.empty() ? PutCapitals(Trim(line.Group()), at) : PutPair(key, Trim(line.Value()), at);
+        return Put(kLineEnd, at);
+    }
+
+    /// The line stands in a file's text and is laid out as usual, so that what is blank in it fits into
+    /// blocks. Most lines do.
+    bool IsPlain(const INIline& line) const {
+        return line.IsInFile() && indent_ <= kBlock && equalAt_ <= kBlock;
+    }
+    /// Writes such lines as many as follow one another, none of them behind `lastPlace`. Moves on to the line
+    /// behind them and returns their end.
+    char* PutPlainLines(Line& line, Line end, char* at, const char* lastPlace) const {
+        auto next = line;
+        for (; next != end && next->IsInFile() && at <= lastPlace; ++next) {
+            at = PutPlainLine(next->Section(), next->Value(), at);
+        }
+        line = next;
+        return at;
     }
 
   private:
-    static char* Copy(std::string_view text, char* at) { return std::copy(text.begin(), text.end(), at); }
+    char* PutPlainLine(std::string_view key, std::string_view value, char* at) const {
+        std::memset(at, ' ', kBlock);
+        char* const keyEnd = PutLoaded(key, at + indent_);
+        std::memset(keyEnd, ' ', kBlock);
+        at = std::max(keyEnd, at + equalAt_);
+        return Put(kLineEnd, value.empty() ? Put("=", at) : PutLoaded(value, Put(kEquals, at)));
+    }
 
-    char* WriteCapitals(std::string_view text, char* at) const {
+    char* PutPair(std::string_view key, std::string_view value, char* at) const {
+        char* const equals = at + equalAt_;
+        at = std::fill_n(at, indent_, ' ');
+        at = ucaseSection_ ? PutCapitals(key, at) : Put(key, at);
+        at = std::fill_n(at, std::max<std::ptrdiff_t>(equals - at, 0), ' ');
+        return value.empty() ? Put("=", at) : Put(value, Put(kEquals, at));
+    }
+
+    char* PutCapitals(std::string_view text, char* at) const {
         return std::transform(text.begin(), text.end(), at, [this](char c) { return codePage_.Upper(c); });
-    }
-
-    char* WriteKey(std::string_view key, char* at) const {
-        char* const end = ucaseSection_ ? WriteCapitals(key, at + indent_) : Copy(key, at + indent_);
-        return std::max(end, at + equalAt_);
-    }
-
-    static char* WriteValue(std::string_view value, char* at) {
-        return value.empty() ? Copy("=", at) : Copy(value, Copy(kEquals, at));
     }
 
     const CodePage& codePage_;
@@ -60,20 +105,32 @@ class LineWriter {
 
 } // namespace
 
-std::string INIfileText(const INIlines& lines, const INIformat& format, const CodePage& codePage) {
-    [[maybe_unused]] const Int16 count = lines.Count();
-    const LineWriter writer(format, codePage);
-    std::size_t room = 0;
-    for (const auto& line : lines) {
-        room += writer.Room(line);
+INIfileText::INIfileText(const INIlines& lines, const INIformat& format, const CodePage& codePage) {
+    const int count = Int16(lines.Count());
+    const LineLayout layout(format, codePage);
+    // Enough when all lines come from the file.
+    MakeRoom(static_cast<std::size_t>(count) * layout.RoomFor(0) + lines.TextSize());
+    for (auto line = lines.begin(); line != lines.end();) {
+        if (layout.IsPlain(*line)) {
+            MakeRoom(1);
+            at_ = layout.PutPlainLines(line, lines.end(), at_, lastPlace_);
+        } else {
+            MakeRoom(layout.RoomFor(line->Group().size() + line->Section().size() + line->Value().size()));
+            at_ = layout.PutLine(*line++, at_);
+        }
     }
-    std::string text(room, ' ');
-    char* at = text.data();
-    for (const auto& line : lines) {
-        at = writer.Write(line, at);
+}
+
+void INIfileText::MakeRoom(std::size_t room) {
+    if (static_cast<std::size_t>(lastPlace_ - at_) >= room) {
+        return;
     }
-    text.resize(static_cast<std::size_t>(at - text.data()));
-    return text;
+    const auto text = Get();
+    const auto capacity = 2 * text.size() + room;
+    auto larger = std::make_unique_for_overwrite<char[]>(capacity + LineLayout::kLoadedRoom);
+    at_ = Put(text, larger.get());
+    text_ = std::move(larger);
+    lastPlace_ = text_.get() + capacity;
 }
 
 } // namespace zy

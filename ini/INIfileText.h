@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <string>
+#include <memory>
+#include <string_view>
 
 #include "basics/Bool16.h"
 #include "ini/INIlines.h"
@@ -16,11 +18,27 @@ struct INIformat {
     std::int32_t equalPos = 17;     ///< the column of "=", counted from 1; a longer key is not cut
 };
 
-/// The text of a settings file, each line ended by CR LF.
+/// The text of a settings file, each line ended by CR LF. It stands in a buffer that is filled once and never
+/// cleared.
 ///
 /// A line with a key is written as "key = value", also when the key is a header's, which is meant: to write a
 /// bare header, add a line with a group and no key. A line without a key is its group in capitals alone, and
 /// blank when that is empty too; its value is not written. More than 32,767 lines are run-time error 6.
-std::string INIfileText(const INIlines& lines, const INIformat& format, const CodePage& codePage);
+class INIfileText {
+  public:
+    INIfileText(const INIlines& lines, const INIformat& format, const CodePage& codePage);
+
+    std::string_view Get() const { return {text_.get(), static_cast<std::size_t>(at_ - text_.get())}; }
+    /// The number of characters that the buffer has room for.
+    std::size_t Capacity() const { return static_cast<std::size_t>(lastPlace_ - text_.get()); }
+
+  private:
+    /// Makes room for so many more characters, and behind them for one more line of a file.
+    void MakeRoom(std::size_t room);
+
+    std::unique_ptr<char[]> text_;
+    char* at_ = nullptr;              ///< the end of what is written
+    const char* lastPlace_ = nullptr; ///< the last one where a line of a file may begin
+};
 
 } // namespace zy

@@ -6,7 +6,7 @@ namespace zy {
 
 INIline::INIline(std::string_view group, std::string_view section, std::string_view value) {
     at_.own = new OwnTexts{std::string(group), std::string(section), std::string(value)};
-    at_.isOwn = true;
+    at_.kind = Kind::Own;
 }
 
 INIline::INIline(INIline&& other) noexcept : at_(std::exchange(other.at_, {})) {}
@@ -17,13 +17,13 @@ INIline& INIline::operator=(INIline other) noexcept {
 }
 
 INIline::~INIline() {
-    if (at_.isOwn) {
+    if (IsOwn()) {
         delete at_.own;
     }
 }
 
 INIline::OwnTexts& INIline::Own() {
-    if (!at_.isOwn) {
+    if (!IsOwn()) {
         *this = INIline(*this);
     }
     return *at_.own;

@@ -32,6 +32,9 @@ class INIline {
     INIline& operator=(INIline other) noexcept;
     ~INIline();
 
+    /// The texts stand in the text of a file, as they were loaded: trimmed, the key there and in capitals.
+    bool IsInFile() const { return at_.kind == Kind::InFile; }
+
     /// The header, such as "[SETTINGS]"; empty before the first one.
     std::string_view Group() const;
     void Group(std::string_view text) { Own().group = text; }
@@ -45,6 +48,8 @@ class INIline {
     void Value(std::string_view text) { Own().value = text; }
 
   private:
+    enum class Kind : std::uint8_t { Empty, InFile, Own };
+
     struct OwnTexts {
         std::string group;
         std::string section;
@@ -54,7 +59,7 @@ class INIline {
     /// Where the texts are. Kept this small because a file can have very many lines.
     struct Places {
         union {
-            const char* section = ""; ///< in the text of a file
+            const char* section = ""; ///< in the text of a file, or nowhere
             OwnTexts* own;            ///< when the line holds its texts itself
         };
         std::uint16_t sectionLength = 0;
@@ -62,9 +67,10 @@ class INIline {
         std::uint32_t groupDistance = 0; ///< from the group to the section
         std::uint16_t valueDistance = 0; ///< from the section to the value
         std::uint16_t valueLength = 0;
-        bool isOwn = false;
+        Kind kind = Kind::Empty;
     };
 
+    bool IsOwn() const { return at_.kind == Kind::Own; }
     OwnTexts& Own();
 
     Places at_;
@@ -79,18 +85,19 @@ inline INIline::INIline(const INIplaces& places) {
     at_.groupDistance = static_cast<std::uint32_t>(places.section.data() - places.group.data());
     at_.valueDistance = static_cast<std::uint16_t>(places.value.data() - places.section.data());
     at_.valueLength = static_cast<std::uint16_t>(places.value.size());
+    at_.kind = Kind::InFile;
 }
 
 inline std::string_view INIline::Group() const {
-    return at_.isOwn ? at_.own->group : std::string_view(at_.section - at_.groupDistance, at_.groupLength);
+    return IsOwn() ? at_.own->group : std::string_view(at_.section - at_.groupDistance, at_.groupLength);
 }
 
 inline std::string_view INIline::Section() const {
-    return at_.isOwn ? at_.own->section : std::string_view(at_.section, at_.sectionLength);
+    return IsOwn() ? at_.own->section : std::string_view(at_.section, at_.sectionLength);
 }
 
 inline std::string_view INIline::Value() const {
-    return at_.isOwn ? at_.own->value : std::string_view(at_.section + at_.valueDistance, at_.valueLength);
+    return IsOwn() ? at_.own->value : std::string_view(at_.section + at_.valueDistance, at_.valueLength);
 }
 
 } // namespace zy

@@ -48,6 +48,7 @@ class INIlines {
 
     /// Drops all lines and keeps the text of a file, for lines that refer to it. Returns the text kept.
     const FileText& Keep(FileText text);
+    std::size_t TextSize() const { return text_.View().size(); }
     /// Appends a line that refers to the text kept.
     void Add(const INIplaces& places) { lines_.emplace_back(places); }
 

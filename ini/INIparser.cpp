@@ -1,5 +1,6 @@
 #include "ini/INIparser.h"
 
+#include <cstring>
 #include <limits>
 
 #include "basics/RuntimeError.h"
@@ -14,10 +15,12 @@ constexpr std::ptrdiff_t kLongestLine = std::numeric_limits<std::int16_t>::max()
 
 constexpr char kFirstPlain = '\r' + 1;
 
+static_assert(CharacterBlock::kSize <= FileText::kMargin);
+
 // Each scan stops at a line's end at the latest, so one must stand ahead.
 
 bool IsLineEnd(const char* at) {
-    return at[0] == '\r' && at[1] == '\n';
+    return std::memcmp(at, kLineEnd.data(), kLineEnd.size()) == 0;
 }
 
 /// A CR, LF or TAB that ends no line counts as a blank.
@@ -33,7 +36,8 @@ char* SkipBlanks(char* at) {
 }
 
 std::string_view TrimmedBehind(const char* begin, const char* end) {
-    while (end != begin && end[-1] == ' ') {
+    // Few texts have a blank there, so that is asked first; the character before an empty one can be read.
+    while (end[-1] == ' ' && end != begin) {
         --end;
     }
     return {begin, static_cast<std::size_t>(end - begin)};
@@ -69,15 +73,19 @@ char* ScanKey(char* at, bool isHeader, const CodePage& codePage) {
     }
 }
 
+/// Moves on to a break.
+char* SkipPlain(char* at) {
+    for (;; at += CharacterBlock::kSize) {
+        if (const auto breaks = CharacterBlock(at).Before(kFirstPlain); breaks.Any()) {
+            return at + breaks.First();
+        }
+    }
+}
+
 /// Moves on to the line's end and makes blanks of stray breaks on the way.
 char* ScanValue(char* at) {
     for (;; ++at) {
-        auto breaks = CharacterBlock(at).Before(kFirstPlain);
-        while (!breaks.Any()) {
-            at += CharacterBlock::kSize;
-            breaks = CharacterBlock(at).Before(kFirstPlain);
-        }
-        at += breaks.First();
+        at = SkipPlain(at);
         if (IsLineEnd(at)) {
             return at;
         }

@@ -206,9 +206,9 @@ TEST_F(SaveFile, TakesNoRoomForTheGroupsOfKeys) {
         bytes += "k=v\r\n";
     }
     Load(bytes);
-    const auto text = INIfileText(Document(), {}, world.codePage);
-    EXPECT_LT(text.capacity(), 2'000'000U);
-    EXPECT_EQ(text.size(), 3 + group.size() + 3 + 30'000 * 21);
+    const INIfileText text(Document(), {}, world.codePage);
+    EXPECT_LT(text.Capacity(), 2'000'000U);
+    EXPECT_EQ(text.Get().size(), 3 + group.size() + 3 + 30'000 * 21);
 }
 
 } // namespace
