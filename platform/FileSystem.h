@@ -44,6 +44,9 @@ class FileSystem {
     virtual OpenedFile OpenForReading(std::string_view path) = 0;
     /// Creates the file anew for writing, emptying one that exists; shared for reading and writing.
     virtual OpenedFile Create(std::string_view path) = 0;
+    /// Creates a new file for writing that its owner alone may read and write, whatever is usual for new
+    /// files. One of that name makes it fail, and stays as it is.
+    virtual OpenedFile CreatePrivate(std::string_view path) = 0;
     virtual FileError Delete(std::string_view path) = 0;
     /// Gives a file another name in its folder. Never replaces a file: one of the new name makes it fail.
     virtual FileError Rename(std::string_view from, std::string_view to) = 0;

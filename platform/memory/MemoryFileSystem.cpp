@@ -129,6 +129,13 @@ OpenedFile MemoryFileSystem::Create(std::string_view path) {
     return opened;
 }
 
+OpenedFile MemoryFileSystem::CreatePrivate(std::string_view path) {
+    OpenedFile opened;
+    opened.error =
+        operations_.Perform(Line("CreatePrivate", path), [&] { return CreateForOwner(path, opened); });
+    return opened;
+}
+
 FileError MemoryFileSystem::Delete(std::string_view path) {
     return operations_.Perform(Line("Delete", path), [&] { return DeleteFound(Key(path)); });
 }
@@ -256,6 +263,15 @@ FileError MemoryFileSystem::CreateOrEmpty(std::string_view path, OpenedFile& ope
     Put(path, "");
     opened.handle = std::make_unique<Handle>(*this, files_.at(key), path, true);
     return FileError::None;
+}
+
+FileError MemoryFileSystem::CreateForOwner(std::string_view path, OpenedFile& opened) {
+    if (files_.contains(Key(path))) {
+        return FileError::Exists;
+    }
+    const auto error = CreateOrEmpty(path, opened);
+    SetPermissions(path, kPrivatePermissions);
+    return error;
 }
 
 FileError MemoryFileSystem::DeleteFound(const std::string& key) {

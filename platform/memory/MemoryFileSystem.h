@@ -29,12 +29,14 @@ namespace zy {
 class MemoryFileSystem final : public FileSystem {
   public:
     static constexpr unsigned kNewFilePermissions = 0644;
+    static constexpr unsigned kPrivatePermissions = 0600;
 
     explicit MemoryFileSystem(const CodePage& codePage) : codePage_(codePage) {}
 
     bool Exists(std::string_view path) override;
     OpenedFile OpenForReading(std::string_view path) override;
     OpenedFile Create(std::string_view path) override;
+    OpenedFile CreatePrivate(std::string_view path) override;
     FileError Delete(std::string_view path) override;
     FileError Rename(std::string_view from, std::string_view to) override;
     FileError CopyPermissions(std::string_view from, std::string_view to) override;
@@ -95,6 +97,7 @@ class MemoryFileSystem final : public FileSystem {
 
     FileError OpenFound(std::string_view path, OpenedFile& opened);
     FileError CreateOrEmpty(std::string_view path, OpenedFile& opened);
+    FileError CreateForOwner(std::string_view path, OpenedFile& opened);
     FileError DeleteFound(const std::string& key);
     FileError RenameFound(const std::string& from, std::string_view toPath);
     FileError CopyPermissionsFound(const std::string& from, const std::string& to);

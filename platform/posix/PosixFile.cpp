@@ -9,6 +9,7 @@ namespace zy {
 namespace {
 
 constexpr mode_t kReadWriteForAll = 0666;
+constexpr mode_t kReadWriteForOwner = 0600;
 constexpr mode_t kPermissionBits = 0777;
 
 /// Why a file of this type is not worked with; None for a regular one.
@@ -19,11 +20,10 @@ FileError TypeError(mode_t mode) {
     return S_ISDIR(mode) ? FileError::IsFolder : FileError::Other;
 }
 
-OpenedFile Open(const std::string& path, int flags) {
+OpenedFile Open(const std::string& path, int flags, mode_t permissions) {
     // Without O_NONBLOCK the call itself would wait for the other end of a pipe.
     const int always = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
-    FileDescriptor file(
-        Uninterrupted([&] { return ::open(path.c_str(), flags | always, kReadWriteForAll); }));
+    FileDescriptor file(Uninterrupted([&] { return ::open(path.c_str(), flags | always, permissions); }));
     struct stat status {};
     if (!file.IsOpen() || ::fstat(file.Number(), &status) != 0) {
         return {.handle = nullptr, .error = ToFileError(errno)};
@@ -78,11 +78,12 @@ FileError PosixFile::Close() {
 }
 
 OpenedFile OpenPosixFileForReading(const std::string& path) {
-    return Open(path, O_RDONLY);
+    return Open(path, O_RDONLY, 0);
 }
 
-OpenedFile CreatePosixFile(const std::string& path, IfExists ifExists) {
-    return Open(path, O_WRONLY | O_CREAT | (ifExists == IfExists::Fails ? O_EXCL : O_TRUNC));
+OpenedFile CreatePosixFile(const std::string& path, IfExists ifExists, For whom) {
+    return Open(path, O_WRONLY | O_CREAT | (ifExists == IfExists::Fails ? O_EXCL : O_TRUNC),
+                whom == For::Owner ? kReadWriteForOwner : kReadWriteForAll);
 }
 
 FileError CopyPosixPermissions(const std::string& from, const std::string& to) {

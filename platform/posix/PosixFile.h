@@ -26,10 +26,12 @@ class PosixFile final : public FileHandle {
 };
 
 enum class IfExists { Empties, Fails };
+enum class For { All, Owner };
 
 OpenedFile OpenPosixFileForReading(const std::string& path);
-/// A new file gets what the user's file creation mask leaves of reading and writing for all.
-OpenedFile CreatePosixFile(const std::string& path, IfExists ifExists);
+/// A new file gets what the user's file creation mask leaves of reading and writing for all, or for its owner
+/// alone.
+OpenedFile CreatePosixFile(const std::string& path, IfExists ifExists, For whom = For::All);
 /// Copies the permission bits and, as far as the user may, owner and group.
 FileError CopyPosixPermissions(const std::string& from, const std::string& to);
 

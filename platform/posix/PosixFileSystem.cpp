@@ -54,6 +54,18 @@ OpenedFile PosixFileSystem::Create(std::string_view path) {
                     : OpenedFile{.handle = nullptr, .error = FileError::NotFound};
 }
 
+OpenedFile PosixFileSystem::CreatePrivate(std::string_view path) {
+    const auto resolved = paths_.Resolve(path);
+    if (!resolved) {
+        return {.handle = nullptr, .error = FileError::NotFound};
+    }
+    auto created = CreatePosixFile(*resolved, IfExists::Fails, For::Owner);
+    if (created.error == FileError::Exists && IsFolder(*resolved)) {
+        created.error = FileError::IsFolder;
+    }
+    return created;
+}
+
 FileError PosixFileSystem::Delete(std::string_view path) {
     const auto resolved = paths_.Resolve(path);
     if (!resolved) {

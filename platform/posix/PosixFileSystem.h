@@ -16,6 +16,7 @@ class PosixFileSystem final : public FileSystem {
     bool Exists(std::string_view path) override;
     OpenedFile OpenForReading(std::string_view path) override;
     OpenedFile Create(std::string_view path) override;
+    OpenedFile CreatePrivate(std::string_view path) override;
     FileError Delete(std::string_view path) override;
     /// The new name stands on the disk when this returns.
     FileError Rename(std::string_view from, std::string_view to) override;

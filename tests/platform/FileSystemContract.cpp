@@ -282,6 +282,36 @@ TEST_P(FileSystemContract, KeepsWhatWasWrittenWhenTheHandleGoesWithoutBeingClose
     EXPECT_THAT(disk->Get("a.sys"), Optional("12345"s));
 }
 
+// Creating for the owner alone
+
+TEST_P(FileSystemContract, CreatesAFileForItsOwnerAlone) {
+    const auto created = Files().CreatePrivate(disk->Path("New.Tmp"));
+    ASSERT_TRUE(created.handle);
+    EXPECT_EQ(created.handle->Write("secret"), FileError::None);
+    EXPECT_THAT(disk->Get("New.Tmp"), Optional("secret"s));
+    EXPECT_THAT(disk->Permissions("New.Tmp"), Optional(0600U));
+}
+
+TEST_P(FileSystemContract, LeavesAFileThatIsThereWhenItShouldCreateOneForItsOwner) {
+    disk->Put("a.sys", "old");
+    disk->SetPermissions("a.sys", 0644);
+    for (const auto* name : {"a.sys", "A.SYS"}) {
+        const auto created = Files().CreatePrivate(disk->Path(name));
+        EXPECT_FALSE(created.handle);
+        EXPECT_EQ(created.error, FileError::Exists);
+    }
+    EXPECT_THAT(disk->Get("a.sys"), Optional("old"s));
+    EXPECT_THAT(disk->Permissions("a.sys"), Optional(0644U));
+    EXPECT_THAT(disk->Names(), ElementsAre("a.sys"));
+}
+
+TEST_P(FileSystemContract, SaysWhyAFileCannotBeCreatedForItsOwner) {
+    disk->AddFolder("folder");
+    EXPECT_EQ(Files().CreatePrivate(disk->Path("folder")).error, FileError::IsFolder);
+    EXPECT_EQ(Files().CreatePrivate(disk->Path(R"(missing\a.sys)")).error, FileError::NotFound);
+    EXPECT_EQ(Files().CreatePrivate("a.sys").error, FileError::NotFound);
+}
+
 // Deleting
 
 TEST_P(FileSystemContract, DeletesAFileWithoutRegardToCase) {
@@ -365,6 +395,7 @@ TEST_P(FileSystemContract, SaysWhyPermissionsCannotBeCopied) {
 TEST_P(FileSystemContract, CreatesNoFileInAFolderThatTheUserMayNotChange) {
     disk->ForbidChanges();
     EXPECT_EQ(CreateError(disk->Path("new.sys")), FileError::AccessDenied);
+    EXPECT_EQ(Files().CreatePrivate(disk->Path("new.sys")).error, FileError::AccessDenied);
     EXPECT_THAT(disk->Names(), IsEmpty());
 }
 

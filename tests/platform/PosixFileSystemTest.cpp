@@ -74,6 +74,12 @@ TEST_F(PosixFileSystemTest, GivesANewFileWhatTheCreationMaskLeaves) {
     EXPECT_EQ(Mode("b.sys"), 0666U);
 }
 
+TEST_F(PosixFileSystemTest, GivesAFileForItsOwnerNothingToOthersWhateverTheCreationMask) {
+    const CreationMask mask(0000);
+    files.CreatePrivate(Path("a.sys"));
+    EXPECT_EQ(Mode("a.sys"), 0600U);
+}
+
 TEST_F(PosixFileSystemTest, KeepsItsFilesFromProgramsThatItStarts) {
     folder.Put("read.sys", "");
     const auto read = files.OpenForReading(Path("read.sys"));
