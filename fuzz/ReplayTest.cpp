@@ -21,11 +21,14 @@ void PrintTo(const Target& target, std::ostream* out) {
     *out << target.name;
 }
 
-constexpr std::array<Target, 6> kTargets{{{"FileNames", FileNames},
+constexpr std::array<Target, 9> kTargets{{{"FileNames", FileNames},
+                                          {"IndexFile", IndexFile},
                                           {"IniFile", IniFile},
                                           {"Numbers", Numbers},
                                           {"RulesBlocks", RulesBlocks},
                                           {"RulesFile", RulesFile},
+                                          {"SqlStatement", SqlStatement},
+                                          {"TableFile", TableFile},
                                           {"Texts", Texts}}};
 
 std::string Bytes(const std::filesystem::path& path) {

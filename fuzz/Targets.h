@@ -11,6 +11,8 @@ namespace zy::fuzz {
 
 /// The texts of the system's file names, into the program and back.
 void FileNames(std::string_view input);
+/// The reader of index files, walking against searching.
+void IndexFile(std::string_view input);
 /// A settings file of the INI kind through load, save and load again, against the plainest way to read it.
 void IniFile(std::string_view input);
 /// The parser of numbers, against the C library's.
@@ -19,6 +21,10 @@ void Numbers(std::string_view input);
 void RulesBlocks(std::string_view input);
 /// A rules file through load, save and load again.
 void RulesFile(std::string_view input);
+/// The parser of SQL statements, against a statement written out again.
+void SqlStatement(std::string_view input);
+/// A table through reading, adding a row, and an index of its own.
+void TableFile(std::string_view input);
 /// Fields, quotes, NULs and paths.
 void Texts(std::string_view input);
 

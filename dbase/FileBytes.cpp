@@ -1,0 +1,59 @@
+#include "dbase/FileBytes.h"
+
+#include "dbase/Errors.h"
+
+namespace zy::dbase {
+namespace {
+
+FileError WriteAll(FileHandle& file, std::string_view bytes) {
+    if (const auto error = file.Write(bytes); error != FileError::None) {
+        return error;
+    }
+    if (const auto error = file.Flush(); error != FileError::None) {
+        return error;
+    }
+    return file.Close();
+}
+
+} // namespace
+
+std::string ReadFile(FileSystem& files, std::string_view path) {
+    const auto opened = files.OpenForReading(path);
+    if (!opened.handle) {
+        RaiseReadError(path, opened.error);
+    }
+    const auto size = opened.handle->Size();
+    if (size > kLargestFile) {
+        RaiseBadFormat(path, "it is larger than 2 GB");
+    }
+    std::string bytes(size, '\0');
+    if (const auto read = opened.handle->Read(bytes); read != size) {
+        Raise(kReadFailed,
+              {"'", path, "' could be read up to byte ", Digits(read), " of ", Digits(size), " only."});
+    }
+    return bytes;
+}
+
+FileError WriteNewFile(FileSystem& files, std::string_view path, std::string_view bytes) {
+    auto created = files.CreatePrivate(path);
+    if (!created.handle) {
+        return created.error;
+    }
+    const auto error = WriteAll(*created.handle, bytes);
+    created.handle.reset();
+    if (error != FileError::None) {
+        files.Delete(path);
+    }
+    return error;
+}
+
+FileError WriteOverFile(FileSystem& files, std::string_view path, std::string_view bytes) {
+    // Creating would make a file that is missing, with the wrong permissions.
+    if (!files.Exists(path)) {
+        return FileError::NotFound;
+    }
+    const auto created = files.Create(path);
+    return created.handle ? WriteAll(*created.handle, bytes) : created.error;
+}
+
+} // namespace zy::dbase

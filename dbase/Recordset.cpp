@@ -1,0 +1,69 @@
+#include "dbase/Recordset.h"
+
+#include <utility>
+
+#include "dbase/Errors.h"
+
+namespace zy::dbase {
+void RaiseNoCurrentRecord() {
+    Raise(kNoCurrentRecord, {"No current record."});
+}
+
+void RaiseNoField(int index) {
+    Raise(kNoSuchItem, {"Item not found in this collection: there is no field ", std::to_string(index), "."});
+}
+
+void RaiseRecordsetClosed() {
+    Raise(kClosed, {"The recordset is closed."});
+}
+
+std::string_view Field::Name() const {
+    return records_->Table().Fields()[index_].name;
+}
+
+Int16 Fields::Count() const {
+    return records_.Table().Fields().size();
+}
+
+Field Fields::Item(std::string_view name) const {
+    const auto found = records_.Table().FindField(name);
+    if (!found) {
+        Raise(kNoSuchItem, {"Item not found in this collection: there is no field '", name, "'."});
+    }
+    return {records_, *found};
+}
+
+Recordset::Recordset(TableImage table) : table_(std::move(table)) {
+    table_->ConvertToAnsi();
+    SkipHidden();
+}
+
+void Recordset::MoveFirst() {
+    static_cast<void>(Table());
+    record_ = 0;
+    SkipHidden();
+}
+
+void Recordset::MoveNext() {
+    if (Eof()) {
+        RaiseNoCurrentRecord();
+    }
+    ++record_;
+    SkipHidden();
+}
+
+void Recordset::Close() {
+    table_.reset();
+}
+
+std::uint32_t Recordset::MissingRecords() const {
+    return Table().MissingRecords();
+}
+
+void Recordset::SkipHidden() {
+    while (record_ != table_->Records() && !table_->IsShown(record_)) {
+        ++record_;
+    }
+}
+
+} // namespace zy::dbase

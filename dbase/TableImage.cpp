@@ -1,0 +1,136 @@
+#include "dbase/TableImage.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+#include "dbase/Errors.h"
+#include "dbase/FileBytes.h"
+#include "dbase/LittleEndian.h"
+#include "dbase/Names.h"
+
+namespace zy::dbase {
+namespace {
+
+constexpr char kEndOfFile = '\x1A';
+constexpr unsigned kLanguageNotStated = 0x00;
+constexpr unsigned kLanguageWindows1252 = 0x03;
+
+/// Looks at 32 characters at a time.
+bool IsAscii(std::string_view text) {
+    std::array<std::uint64_t, 4> all{};
+    std::array<std::uint64_t, 4> block{};
+    for (; text.size() >= sizeof(block); text.remove_prefix(sizeof(block))) {
+        std::memcpy(block.data(), text.data(), sizeof(block));
+        for (std::size_t i = 0; i < block.size(); ++i) {
+            all[i] |= block[i];
+        }
+    }
+    for (const char c : text) {
+        all[0] |= static_cast<unsigned char>(c);
+    }
+    return ((all[0] | all[1] | all[2] | all[3]) & 0x8080808080808080U) == 0;
+}
+
+[[noreturn]] void RaiseTooSmall(const TableField& field) {
+    Raise(kFieldTooSmall, {"The field is too small: the value for '", field.name, "' is wider than its ",
+                           Digits(field.width), " characters."});
+}
+
+} // namespace
+
+TableImage::TableImage(std::string file, std::string_view path)
+    : bytes_(std::move(file)), header_(ParseTableHeader(bytes_, path)),
+      records_(static_cast<std::uint32_t>(
+          std::min<std::size_t>(header_.records, (bytes_.size() - header_.size) / header_.recordSize))),
+      missing_(header_.records - records_), language_(ByteAt(bytes_, kLanguageAt)) {
+    bytes_.resize(SizeOf(records_));
+}
+
+std::optional<std::size_t> TableImage::FindField(std::string_view name) const {
+    const auto& fields = header_.fields;
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        if (IsSameName(fields[i].name, name)) {
+            return i;
+        }
+    }
+    return std::nullopt;
+}
+
+void TableImage::ConvertToAnsi() {
+    OemToAnsi(OemPageOf(language_), bytes_.data() + header_.size, bytes_.data() + bytes_.size());
+}
+
+void TableImage::Append(std::span<const std::string_view> values) {
+    if (OemPageOf(language_) == OemPage::None) {
+        AppendBytes(values);
+        return;
+    }
+    const auto converted = InOemPage(values);
+    AppendBytes(std::vector<std::string_view>(converted.begin(), converted.end()));
+}
+
+void TableImage::CutBackTo(std::uint32_t records) {
+    records_ = records;
+    bytes_.resize(SizeOf(records_));
+}
+
+std::string_view TableImage::FileBytes(std::uint32_t records, std::chrono::year_month_day today) {
+    StampHeader(records, today);
+    if (records != records_) {
+        cut_.assign(bytes_, 0, SizeOf(records)) += kEndOfFile;
+        return cut_;
+    }
+    bytes_.resize(SizeOf(records));
+    return bytes_ += kEndOfFile;
+}
+
+void TableImage::StampHeader(std::uint32_t records, std::chrono::year_month_day today) {
+    PutByte(bytes_, kDateAt, static_cast<unsigned>(static_cast<int>(today.year()) - 1900));
+    PutByte(bytes_, kDateAt + 1, static_cast<unsigned>(today.month()));
+    PutByte(bytes_, kDateAt + 2, static_cast<unsigned>(today.day()));
+    Put32(bytes_, kCountAt, records);
+    const auto data = std::string_view(bytes_).substr(header_.size, SizeOf(records) - header_.size);
+    const bool isUnstated = language_ == kLanguageNotStated && !IsAscii(data);
+    PutByte(bytes_, kLanguageAt, isUnstated ? kLanguageWindows1252 : language_);
+}
+
+void TableImage::RequireRoom() const {
+    if (bytes_.size() + header_.recordSize >= kLargestFile) {
+        Raise(kNotSupported, {"The table is full: it would be larger than 2 GB."});
+    }
+}
+
+std::vector<std::string> TableImage::InOemPage(std::span<const std::string_view> values) const {
+    std::vector<std::string> converted(values.begin(), values.end());
+    for (std::size_t i = 0; i < converted.size(); ++i) {
+        if (!AnsiToOem(OemPageOf(language_), converted[i])) {
+            Raise(kCannotConvert, {"Data type conversion error: the value for '", header_.fields[i].name,
+                                   "' has a character that the table's code page lacks."});
+        }
+    }
+    return converted;
+}
+
+void TableImage::AppendBytes(std::span<const std::string_view> values) {
+    RequireRoom();
+    const auto start = SizeOf(records_);
+    // Growing in large steps: each of them copies all records.
+    if (bytes_.capacity() - start <= header_.recordSize) {
+        bytes_.reserve(std::min<std::size_t>(4 * bytes_.capacity(), kLargestFile));
+    }
+    bytes_.resize(start + header_.recordSize, ' ');
+    bytes_[start] = ' ';
+    auto field = header_.fields.begin();
+    for (const auto value : values) {
+        if (value.size() > field->width) {
+            bytes_.resize(start);
+            RaiseTooSmall(*field);
+        }
+        std::copy(value.begin(), value.end(), bytes_.data() + start + field->offset);
+        ++field;
+    }
+    ++records_;
+}
+
+} // namespace zy::dbase

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <cstring>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "dbase/OemPages.h"
+#include "dbase/TableHeader.h"
+
+namespace zy::dbase {
+
+/// A text without the blanks and NULs at its end.
+inline std::string_view WithoutFiller(std::string_view text) {
+    constexpr std::string_view kEightBlanks = "        ";
+    auto size = text.size();
+    while (size >= 8 && std::memcmp(text.data() + size - 8, kEightBlanks.data(), 8) == 0) {
+        size -= 8;
+    }
+    while (size != 0 && (text[size - 1] == ' ' || text[size - 1] == '\0')) {
+        --size;
+    }
+    return text.substr(0, size);
+}
+
+/// A table in memory: the bytes of its file. Records are counted from 0.
+class TableImage {
+  public:
+    /// Takes the bytes of a file. Error 3274 as ParseTableHeader says. What stands behind the last record is
+    /// not kept; the last one is the last that the header counts and the file holds whole.
+    TableImage(std::string file, std::string_view path);
+
+    const std::vector<TableField>& Fields() const { return header_.fields; }
+    /// The column of that name, without regard to case; the first of several.
+    std::optional<std::size_t> FindField(std::string_view name) const;
+
+    /// The number of records, with those that are deleted or damaged.
+    std::uint32_t Records() const { return records_; }
+    /// The number of records that the header counts but the file does not hold.
+    std::uint32_t MissingRecords() const { return missing_; }
+
+    /// False when the record is deleted, or damaged so that its flag is none.
+    bool IsShown(std::uint32_t record) const { return *At(record) == ' '; }
+    /// The bytes of a column, all of them.
+    std::string_view Bytes(std::uint32_t record, std::size_t field) const {
+        const auto& column = header_.fields[field];
+        return {At(record) + column.offset, column.width};
+    }
+    /// The same without the blanks and NULs at its end.
+    std::string_view Value(std::uint32_t record, std::size_t field) const {
+        return WithoutFiller(Bytes(record, field));
+    }
+
+    /// Makes ANSI characters of all values when the language byte names an OEM page. The image is then for
+    /// reading only.
+    void ConvertToAnsi();
+
+    /// Appends a record of these values, one for each column, in ANSI characters. Nothing is appended when
+    /// one is wider than its column (error 3163), when the table's code page lacks one of its characters
+    /// (3421), and when the table is full (3251).
+    void Append(std::span<const std::string_view> values);
+
+    /// Takes away the records from this one on.
+    void CutBackTo(std::uint32_t records);
+
+    /// The file's bytes with so many records, the first ones, for a table that was changed on that day. The
+    /// language byte stays 00 as long as all characters are ASCII. They stand until the table changes.
+    std::string_view FileBytes(std::uint32_t records, std::chrono::year_month_day today);
+
+  private:
+    const char* At(std::uint32_t record) const {
+        return bytes_.data() + header_.size + std::size_t{record} * header_.recordSize;
+    }
+    std::size_t SizeOf(std::uint32_t records) const {
+        return header_.size + std::size_t{records} * header_.recordSize;
+    }
+    void StampHeader(std::uint32_t records, std::chrono::year_month_day today);
+    void RequireRoom() const;
+    std::vector<std::string> InOemPage(std::span<const std::string_view> values) const;
+    void AppendBytes(std::span<const std::string_view> values);
+
+    std::string bytes_; ///< the header, whole records, and the mark behind them once it was written
+    std::string cut_;   ///< the same with fewer records
+    TableHeader header_;
+    std::uint32_t records_;
+    std::uint32_t missing_;
+    std::uint8_t language_; ///< byte 29 of the header as it was read
+};
+
+} // namespace zy::dbase

@@ -1,0 +1,132 @@
+// Files that are no tables, and what is said of them.
+
+#include "DbaseTest.h"
+#include "TableBytes.h"
+
+namespace zy::dbase::test {
+namespace {
+
+using ::testing::StartsWith;
+using namespace std::string_literals;
+
+class RefusedTables : public DbaseTest {
+  protected:
+    /// Why a table of these bytes is not read. It must not be written either.
+    std::string Refusal(const std::string& bytes) {
+        constexpr std::string_view kFront = R"('C:\SYS\T.DBF' cannot be read: )";
+        Put("T.DBF", bytes);
+        const auto raised = RaisedBy([&] { RowsIn("T"); });
+        EXPECT_EQ(raised.number, kBadFormat);
+        EXPECT_EQ(RaisedByRun("INSERT INTO T (NAME) VALUES ('x')").number, kBadFormat);
+        EXPECT_EQ(RaisedByRun("CREATE INDEX I ON T (NAME)").number, kBadFormat);
+        EXPECT_EQ(Get("T.DBF"), bytes);
+        EXPECT_EQ(Get("I.NDX"), "no file");
+        EXPECT_THAT(raised.text, StartsWith(kFront));
+        return raised.text.substr(std::min(kFront.size(), raised.text.size()));
+    }
+    static TableBytes Table() { return TableBytes({{"NAME", 6}, {"CITY", 4}}).Add(' ', {"Ada", "Rome"}); }
+};
+
+TEST_F(RefusedTables, AreTooShort) {
+    EXPECT_EQ(Refusal(""), "it has 0 bytes, a table at least 33.");
+    EXPECT_EQ(Refusal(Table().Bytes().substr(0, 32)), "it has 32 bytes, a table at least 33.");
+}
+
+TEST_F(RefusedTables, AreOfAnotherVersion) {
+    auto table = Table();
+    for (const auto* version : {"\x83", "\x30", "\x02", "\xFF"}) {
+        table.version = version;
+        EXPECT_THAT(Refusal(table.Bytes()),
+                    ::testing::HasSubstr("which is not that of a dBase III table (3)."));
+    }
+    table.version = "\x83";
+    EXPECT_EQ(Refusal(table.Bytes()), "its first byte is 131, which is not that of a dBase III table (3).");
+}
+
+TEST_F(RefusedTables, HaveNoRoomForTheirHeader) {
+    auto table = Table();
+    table.headerSize = 1000;
+    EXPECT_EQ(Refusal(table.Bytes()), "byte 8 says that its header has 1000 bytes, but the file has 109.");
+    table.headerSize = 32;
+    EXPECT_EQ(Refusal(table.Bytes()), "byte 8 says that its header has 32 bytes, but the file has 109.");
+    table.headerSize = 0xFFFF;
+    EXPECT_EQ(Refusal(table.Bytes()), "byte 8 says that its header has 65535 bytes, but the file has 109.");
+}
+
+TEST_F(RefusedTables, HaveAHeaderThatIsCutShort) {
+    const auto bytes = Table().Bytes();
+    for (std::size_t size = 0; size < 97; ++size) {
+        EXPECT_NE(Refusal(bytes.substr(0, size)), "") << size;
+    }
+}
+
+TEST_F(RefusedTables, HaveAHeaderShorterThanTheirColumns) {
+    auto table = Table();
+    for (unsigned long size = 34; size < 97; ++size) {
+        table.headerSize = size;
+        EXPECT_EQ(Refusal(table.Bytes()), "the mark 0D that ends its columns is missing in the " +
+                                              std::to_string(size) + " bytes of its header.");
+    }
+}
+
+TEST_F(RefusedTables, HaveNoEndOfTheirColumns) {
+    auto table = Table();
+    table.endOfFields = "\0"s;
+    EXPECT_EQ(Refusal(table.Bytes()),
+              "the mark 0D that ends its columns is missing in the 97 bytes of its header.");
+}
+
+TEST_F(RefusedTables, HaveNoColumns) {
+    EXPECT_EQ(Refusal(TableBytes(std::vector<Column>{}).Bytes()), "it has no columns.");
+}
+
+TEST_F(RefusedTables, HaveRecordsOfAnotherLengthThanTheirColumns) {
+    auto table = Table();
+    for (const unsigned long size : {0UL, 1UL, 10UL, 12UL, 0xFFFFUL}) {
+        table.recordSize = size;
+        EXPECT_EQ(Refusal(table.Bytes()), "byte 10 says that its records have " + std::to_string(size) +
+                                              " bytes, but its columns make 11.");
+    }
+}
+
+TEST_F(RefusedTables, HaveColumnsWiderThanAnyRecord) {
+    TableBytes table(std::vector<Column>(300, Column{"C", 255}));
+    EXPECT_EQ(Refusal(table.Bytes()),
+              "byte 10 says that its records have 10965 bytes, but its columns make 76501.");
+}
+
+TEST_F(RefusedTables, AreNotThere) {
+    const auto raised = RaisedBy([&] { RowsIn("T"); });
+    EXPECT_EQ(raised.number, kNoSuchTable);
+    EXPECT_EQ(raised.text, R"('C:\SYS\T.DBF' cannot be opened: the file or folder does not exist.)");
+}
+
+TEST_F(RefusedTables, AreFolders) {
+    world.files.AddFolder(PathOf("T.DBF"));
+    const auto raised = RaisedBy([&] { RowsIn("T"); });
+    EXPECT_EQ(raised.number, kCannotOpen);
+    EXPECT_EQ(raised.text, R"('C:\SYS\T.DBF' cannot be opened: a folder of that name is in the way.)");
+}
+
+TEST_F(RefusedTables, MayNotBeRead) {
+    Put("T.DBF", Table().Bytes());
+    world.files.SetUnreadable(PathOf("T.DBF"));
+    EXPECT_EQ(ErrorOf([&] { RowsIn("T"); }), kCannotOpen);
+}
+
+TEST_F(RefusedTables, AreHeldByAnotherProgram) {
+    Put("T.DBF", Table().Bytes());
+    world.files.SetHeldOpen(PathOf("T.DBF"));
+    EXPECT_EQ(ErrorOf([&] { RowsIn("T"); }), kInUse);
+}
+
+TEST_F(RefusedTables, CannotBeReadToTheirEnd) {
+    Put("T.DBF", Table().Bytes());
+    world.files.Plan({.operation = 2});
+    const auto raised = RaisedBy([&] { RowsIn("T"); });
+    EXPECT_EQ(raised.number, kReadFailed);
+    EXPECT_EQ(raised.text, R"('C:\SYS\T.DBF' could be read up to byte 0 of 109 only.)");
+}
+
+} // namespace
+} // namespace zy::dbase::test

@@ -1,0 +1,118 @@
+// Statements that are understood, but cannot be carried out.
+
+#include "DbaseTest.h"
+
+namespace zy::dbase::test {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+class StatementErrors : public DbaseTest {};
+
+TEST_F(StatementErrors, TakesAValueWithASingleQuoteForASyntaxErrorAndNeverShowsIt) {
+    Run(kCreateUsers);
+    for (const auto* value :
+         {"sec'ret", "'secret", "secret'", "'", "sec'ret'ive", "sec', 'ret", "sec'); secret"}) {
+        for (std::size_t field = 0; field < 5; ++field) {
+            Row user{"A", "", "", "", ""};
+            user[field] = value;
+            const auto raised = RaisedByRun(InsertUser(user));
+            EXPECT_THAT((std::vector{kInsertSyntax, kCountsDiffer}), ::testing::Contains(raised.number))
+                << value;
+            EXPECT_THAT(raised.text, Not(HasSubstr("ret"))) << value;
+        }
+    }
+    EXPECT_THAT(RowsIn("ZYSECURE.TMP"), ::testing::IsEmpty());
+}
+
+TEST_F(StatementErrors, RefusesValuesThatAreTooWideWithoutShowingThem) {
+    Run(kCreateUsers);
+    const auto raised = RaisedByRun(InsertUser({"A", "123456789012345678901", "", "", ""}));
+    EXPECT_EQ(raised.number, kFieldTooSmall);
+    EXPECT_EQ(raised.text,
+              "The field is too small: the value for 'PASSWORD' is wider than its 20 characters.");
+    EXPECT_EQ(RaisedByRun(InsertUser({"A", "", "", "", "  "})).number, kFieldTooSmall);
+    EXPECT_THAT(RowsIn("ZYSECURE.TMP"), ::testing::IsEmpty());
+}
+
+TEST_F(StatementErrors, AddsNoRowAndSaysNothingWithoutTheOptionToFail) {
+    Run(kCreateUsers);
+    database->Execute(InsertUser({"12345678901", "", "", "", ""}));
+    database->Execute(InsertUser({"1234567890", "", "", "", ""}));
+    EXPECT_EQ(RowsIn("ZYSECURE.TMP").size(), 1U);
+}
+
+TEST_F(StatementErrors, FailsWithoutTheOptionTooWhenTheStatementItselfIsWrong) {
+    database->Execute(kCreateUsers);
+    EXPECT_EQ(ErrorOf([&] { database->Execute(kCreateUsers); }), kTableExists);
+    EXPECT_EQ(ErrorOf([&] { database->Execute("INSERT INTO MISSING (A) VALUES ('x')"); }), kNoSuchTable);
+    EXPECT_EQ(ErrorOf([&] { database->Execute("INSERT INTO [ZYSECURE.TMP] (A) VALUES ('x')"); }),
+              kUnknownField);
+    EXPECT_EQ(ErrorOf([&] { database->Execute("INSERT INTO"); }), kInsertSyntax);
+}
+
+TEST_F(StatementErrors, RefusesATableThatExistsAndNamesItsFile) {
+    Put("zysecure.tmp", "left over");
+    const auto raised = RaisedByRun(kCreateUsers);
+    EXPECT_EQ(raised.number, kTableExists);
+    EXPECT_EQ(raised.text,
+              R"(Table 'ZYSECURE.TMP' already exists: the file 'C:\SYS\ZYSECURE.TMP' stands in the )"
+              "way. If it is left over from a save that failed, it may be removed.");
+    EXPECT_EQ(Get("ZYSECURE.TMP"), "left over");
+}
+
+TEST_F(StatementErrors, RefusesAnIndexThatExists) {
+    Run("CREATE TABLE T (A TEXT(3))");
+    Put("I.NDX", "old");
+    const auto raised = RaisedByRun("CREATE INDEX I ON T (A)");
+    EXPECT_EQ(raised.number, kIndexExists);
+    EXPECT_EQ(raised.text, R"(Index 'I' already exists: the file 'C:\SYS\I.NDX' stands in the way.)");
+    EXPECT_EQ(Get("I.NDX"), "old");
+}
+
+TEST_F(StatementErrors, RefusesColumnsThatATableDoesNotHave) {
+    Run("CREATE TABLE T (A TEXT(3), B TEXT(3))");
+    const auto raised = RaisedByRun("INSERT INTO T (A, C) VALUES ('x', 'y')");
+    EXPECT_EQ(raised.number, kUnknownField);
+    EXPECT_EQ(raised.text, "The INSERT INTO statement contains the following unknown field name: 'C'.");
+    EXPECT_EQ(RaisedByRun("INSERT INTO T (A, a) VALUES ('x', 'y')").number, kDuplicateDestination);
+    EXPECT_EQ(RaisedByRun("INSERT INTO T (A) VALUES ('x', 'y')").number, kCountsDiffer);
+    EXPECT_EQ(RaisedByRun("INSERT INTO T (A, B) VALUES ('x')").number, kCountsDiffer);
+    EXPECT_EQ(RaisedByRun("CREATE INDEX I ON T (C)").number, kUnknownIndexField);
+    EXPECT_EQ(RaisedByRun("CREATE INDEX I ON T (A, B)").number, kNotSupported);
+    EXPECT_EQ(RaisedByRun("CREATE INDEX I ON MISSING (A)").number, kNoSuchTable);
+}
+
+TEST_F(StatementErrors, RefusesColumnsThatATableCannotHave) {
+    for (const auto* name : {"[]", "ABCDEFGHIJK", "[A B]", "_A", "\xC4", "[1A]", "[A-B]", "[A.B]"}) {
+        EXPECT_EQ(RaisedByRun("CREATE TABLE T (X TEXT(1), " + std::string(name) + " TEXT(1))").number,
+                  kBadName)
+            << name;
+    }
+    EXPECT_EQ(RaisedByRun("CREATE TABLE T (A TEXT(1), B TEXT(2), a TEXT(1))").number, kFieldDefinedTwice);
+    EXPECT_EQ(RaisedByRun("CREATE TABLE T (A TEXT(0))").number, kFieldSyntax);
+    EXPECT_EQ(RaisedByRun("CREATE TABLE T (A TEXT(255))").number, kFieldSyntax);
+    EXPECT_THAT(Names(), ::testing::IsEmpty());
+}
+
+TEST_F(StatementErrors, RefusesNamesThatCannotBeThoseOfFiles) {
+    for (const auto* name :
+         {"[]", "[ ]", "[.]", "[..]", "[a\\b]", "[a/b]", "[a:b]", "[a*]", "[a?]", "[a\tb]"}) {
+        const std::string text = name;
+        EXPECT_EQ(RaisedByRun("CREATE TABLE " + text + " (A TEXT(1))").number, kBadName) << text;
+        EXPECT_EQ(RaisedByRun("INSERT INTO " + text + " (A) VALUES ('x')").number, kBadName) << text;
+        EXPECT_EQ(ErrorOf([&] { RowsIn(text.substr(1, text.size() - 2)); }), kBadName) << text;
+    }
+}
+
+TEST_F(StatementErrors, WritesTextIntoTextColumnsOnly) {
+    Put("T.DBF", std::string("\x03\x7E\x0B\x14\0\0\0\0\x41\0\x02\0", 12) + std::string(20, '\0') + "N" +
+                     std::string(10, '\0') + "N" + std::string(4, '\0') + "\x01" + std::string(15, '\0') +
+                     "\x0D\x1A");
+    EXPECT_EQ(RaisedByRun("INSERT INTO T (N) VALUES ('1')").number, kNotSupported);
+    EXPECT_EQ(RaisedByRun("CREATE INDEX I ON T (N)").number, kUnknownIndexField);
+}
+
+} // namespace
+} // namespace zy::dbase::test
