@@ -33,6 +33,11 @@ bool Form::MoveFocus(Control& control) {
     return true;
 }
 
+void Form::SetKeyButtons(CommandButton* onEnter, CommandButton* onEscape) {
+    onEnter_ = onEnter;
+    onEscape_ = onEscape;
+}
+
 void Form::SetState(WindowState state) {
     if (state_ != state) {
         state_ = state;

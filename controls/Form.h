@@ -4,6 +4,8 @@
 
 namespace zy {
 
+class CommandButton;
+
 enum class WindowState { Normal = 0, Minimized = 1, Maximized = 2 };
 
 /// A window: the root of its controls and the keeper of the focus. Its caption is the window's title.
@@ -17,6 +19,11 @@ class Form : public Container {
     /// Asks the control that is left whether it may be; false when it keeps the focus. A control that is not
     /// usable any more is not asked, and no second question starts while one is being asked.
     bool MoveFocus(Control& control);
+
+    /// The buttons of a dialog that Enter and Escape press; none in other windows.
+    CommandButton* OnEnter() const { return onEnter_; }
+    CommandButton* OnEscape() const { return onEscape_; }
+    void SetKeyButtons(CommandButton* onEnter, CommandButton* onEscape);
 
     WindowState State() const { return state_; }
     /// Sets the state, whether the program or the person wants it; the inner size follows by SetInnerSize.
@@ -34,6 +41,8 @@ class Form : public Container {
   private:
     Control* focused_ = nullptr;
     bool asking_ = false;
+    CommandButton* onEnter_ = nullptr;
+    CommandButton* onEscape_ = nullptr;
     WindowState state_ = WindowState::Normal;
     Size innerSize_;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -69,6 +70,8 @@ class Grid : public Control {
     int FittedFrom() const { return fittedFrom_; }
     /// Lets the cells of a column be edited through a drop-down list, its items separated by "|".
     void SetColumnList(int column, std::string_view items);
+    /// Where a cell stands inside the grid; the view that shows the grid answers.
+    Rect CellPlace(int row, int column) const { return cellPlace ? cellPlace(row, column) : Rect(); }
     /// In a `beforeEdit` handler: how the cell that is about to be edited is edited. A list as above; "..."
     /// gives the cell a button beside its text.
     void SetEditList(std::string_view items) { editList_ = items; }
@@ -136,6 +139,7 @@ class Grid : public Control {
     Event<int, int> cellButtonClick;
 
     // For the view alone.
+    std::function<Rect(int row, int column)> cellPlace;
     Event<> rowsChanged;
     Event<> blockChanged;
     Event<> editingChanged;

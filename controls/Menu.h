@@ -28,8 +28,12 @@ class MenuItem {
     /// A person chooses the entry; a disabled one does nothing.
     void Click();
 
+    /// Opens a context menu where the mouse is.
+    void PopUp() { popUp.Raise(); }
+
     Event<> click;
     Event<> enabledChanged;
+    Event<> popUp;
 
     /// The caption that makes an entry a separator.
     static constexpr const char* kSeparator = "-";

@@ -15,6 +15,10 @@ class TextBox : public Control {
     /// Raises `change` when the text differs from the one held. The selection goes to the start.
     void SetText(std::string_view text);
 
+    /// The character that stands for each one of the text on the screen; NUL shows the text itself.
+    char PasswordChar() const { return passwordChar_; }
+    void SetPasswordChar(char character) { passwordChar_ = character; }
+
     std::size_t SelStart() const { return selStart_; }
     std::size_t SelLength() const { return selLength_; }
     /// Selects part of the text; what lies beyond its end is cut.
@@ -31,6 +35,7 @@ class TextBox : public Control {
 
   private:
     std::string text_;
+    char passwordChar_ = '\0';
     std::size_t selStart_ = 0;
     std::size_t selLength_ = 0;
 };

@@ -9,6 +9,7 @@
 #include "desktop/GridBinding.h"
 #include "desktop/LabelBinding.h"
 #include "desktop/ListViewBinding.h"
+#include "desktop/MonthCalendarBinding.h"
 #include "desktop/StatusBarBinding.h"
 #include "desktop/TextBoxBinding.h"
 #include "desktop/UpDownBinding.h"
@@ -32,6 +33,7 @@ Made MakeBinding(const ViewContext& context, const Inside& inside, Control& cont
     MakeIfKind<ComboBox, ComboBoxBinding>(made, context, inside, control);
     MakeIfKind<ListView, ListViewBinding>(made, context, inside, control);
     MakeIfKind<Grid, GridBinding>(made, context, inside, control);
+    MakeIfKind<MonthCalendar, MonthCalendarBinding>(made, context, inside, control);
     MakeIfKind<CommandButton, CommandButtonBinding>(made, context, inside, control);
     MakeIfKind<UpDown, UpDownBinding>(made, context, inside, control);
     MakeIfKind<Label, LabelBinding>(made, context, inside, control);

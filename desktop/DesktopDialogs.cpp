@@ -5,6 +5,7 @@
 
 #include <utility>
 
+#include "desktop/DialogBinding.h"
 #include "desktop/ShownText.h"
 
 namespace zy {
@@ -22,6 +23,13 @@ bool DesktopDialogs::AskYesNo(std::string_view text, std::string_view title, Esc
         answer = Show(text, title, wxYES_NO | wxYES_DEFAULT);
     } while (answer == wxID_CANCEL && escape == Escape::IsIgnored);
     return answer == wxID_YES;
+}
+
+void DesktopDialogs::ShowForm(Form& form) {
+    startToolkit_();
+    gate_.PrepareForBox();
+    DialogBinding(codePage_, gate_, form, wxTheApp->GetTopWindow()).Run();
+    gate_.Rethrow();
 }
 
 int DesktopDialogs::Show(std::string_view text, std::string_view title, long buttons) {

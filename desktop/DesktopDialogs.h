@@ -8,7 +8,7 @@
 
 namespace zy {
 
-/// The toolkit's own message boxes.
+/// The toolkit's own message boxes, and the program's dialogs.
 class DesktopDialogs final : public Dialogs {
   public:
     /// `startToolkit` is called before every box.
@@ -16,6 +16,7 @@ class DesktopDialogs final : public Dialogs {
 
     void ShowMessage(std::string_view text, std::string_view title) override;
     bool AskYesNo(std::string_view text, std::string_view title, Escape escape) override;
+    void ShowForm(Form& form) override;
 
   private:
     int Show(std::string_view text, std::string_view title, long buttons);

@@ -22,6 +22,7 @@ constexpr int kRightButton = 2;
 wxWindow* MakeBorder(wxWindow* parent) {
     auto* border = new wxWindow(parent, wxID_ANY);
     border->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNSHADOW));
+    border->SetCanFocus(false);
     border->SetSizer(new wxBoxSizer(wxVERTICAL));
     return border;
 }

@@ -27,10 +27,8 @@ wxRect GridCellButton::PlaceIn(const wxRect& cell) {
         return cell;
     }
     auto& button = Button();
-    wxRect place = cell;
     const int width = std::min(cell.width, std::max(button.GetBestSize().x, cell.height));
-    place.SetLeft(cell.GetRight() + 1 - width);
-    button.SetSize(place);
+    button.SetSize({cell.GetRight() + 1 - width, cell.y, width, cell.height});
     button.Show();
     return {cell.x, cell.y, cell.width - width, cell.height};
 }

@@ -46,8 +46,8 @@ GridCursor::GridCursor(const ViewContext& context, Grid& model, GridWidget& grid
     });
     grid_.GetGridWindow()->Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent& event) {
         event.Skip();
-        // A click picks a cell of its own.
-        if (!wxGetMouseState().LeftIsDown()) {
+        // A click picks a cell of its own, and so does a program that moves the focus here.
+        if (!model_.HasFocus() && !wxGetMouseState().LeftIsDown()) {
             context_.gate.ActLater([this] { return TakeFirstCell(); });
         }
     });
@@ -57,7 +57,9 @@ void GridCursor::TakeCell(const wxGridEvent& event) {
     if (!showing_) {
         // The toolkit moves its cursor behind this event.
         context_.gate.ActLater([this, row = event.GetRow() + 1, column = event.GetCol()] {
-            if (row < model_.Rows()) {
+            // The toolkit also tells of its own first cell in rows that have just come.
+            const bool isCurrent = row == model_.Row() && column == model_.Column();
+            if (!isCurrent && row < model_.Rows()) {
                 model_.Pick(row, column);
             }
             return model_.HasFocus();

@@ -62,7 +62,10 @@ void GridEditor::CommitWhenLeft() {
     });
     wxGetTopLevelParent(&grid_)->Bind(wxEVT_MENU_OPEN, [this](wxMenuEvent& event) {
         event.Skip();
-        context_.gate.Act([this] { model_.CommitEdit(); });
+        // The list of a cell is a menu too, and belongs to the edit.
+        if (!event.IsPopup()) {
+            context_.gate.Act([this] { model_.CommitEdit(); });
+        }
     });
 }
 
@@ -83,7 +86,6 @@ void GridEditor::Show() {
 }
 
 void GridEditor::Open() {
-    text_->SetEditable(!button_.HasList());
     grid_.MakeCellVisible(model_.Row() - 1, model_.Column());
     Place();
     text_->Show();
@@ -95,7 +97,8 @@ void GridEditor::Open() {
 
 void GridEditor::Close() {
     if (text_->IsShown()) {
-        if (text_->HasFocus()) {
+        // While the cell's list is dropped down, the toolkit says that nothing has the focus.
+        if (HoldsFocus(*text_)) {
             grid_.GetGridWindow()->SetFocus();
         }
         text_->Hide();
@@ -169,6 +172,10 @@ void GridEditor::TakeCaret() {
 }
 
 void GridEditor::TakeText() {
+    if (button_.HasList()) {
+        ShowTextAndCaret();
+        return;
+    }
     const std::string before = model_.EditText().substr(0, kMostShown);
     const std::string beyond = model_.EditText().substr(before.size());
     const auto edited = TakeEdit(context_.codePage, before, text_->GetValue());

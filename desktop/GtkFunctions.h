@@ -8,6 +8,7 @@
 struct _AtkObject;
 struct _GdkScreen;
 struct _GtkComboBox;
+struct _GtkEntry;
 struct _GtkTreePath;
 struct _GtkTreeView;
 struct _GtkTreeViewColumn;
@@ -25,6 +26,7 @@ struct GtkSizeNeeded {
 void atk_object_set_name(_AtkObject* accessible, const char* name);
 _GdkScreen* gdk_screen_get_default();
 double gdk_screen_get_resolution(_GdkScreen* screen);
+void gtk_entry_set_invisible_char(_GtkEntry* entry, unsigned character);
 void gtk_combo_box_popdown(_GtkComboBox* comboBox);
 void gtk_tree_path_free(_GtkTreePath* path);
 _GtkTreePath* gtk_tree_path_new_from_indices(int first, ...);

@@ -36,6 +36,7 @@ void MainWindowView::Open() {
     auto& menu = window_.menu;
     menuBar_.emplace(*context_, binding_->Frame(), std::vector{&menu.mnuFile, &menu.mnuHelp},
                      std::vector{Shortcut{menu.mnuSave, "Ctrl+S"}});
+    menuBar_->AddContextMenu(menu.mnuSecuritypopMenu);
     binding_->Open();
 }
 

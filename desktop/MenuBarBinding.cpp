@@ -19,6 +19,16 @@ MenuBarBinding::MenuBarBinding(const ViewContext& context, wxFrame& frame, const
     frame_.SetMenuBar(bar);
 }
 
+MenuBarBinding::~MenuBarBinding() = default;
+
+void MenuBarBinding::AddContextMenu(MenuItem& menu) {
+    contextMenus_.emplace_back(MakeMenu(menu));
+    subscriptions_.push_back(menu.popUp.Observe([this, made = contextMenus_.back().get()] {
+        // Behind the handler that asks for it, for what is chosen is an action of its own.
+        frame_.CallAfter([this, made] { frame_.PopupMenu(made); });
+    }));
+}
+
 wxMenu* MenuBarBinding::MakeMenu(const MenuItem& menu) {
     auto* made = new wxMenu;
     for (auto* entry : menu.Entries()) {

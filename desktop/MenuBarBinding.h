@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -18,11 +19,15 @@ struct Shortcut {
     std::string key;
 };
 
-/// The menu bar of a window.
+/// The menu bar and the context menus of a window.
 class MenuBarBinding {
   public:
     MenuBarBinding(const ViewContext& context, wxFrame& frame, const std::vector<MenuItem*>& menus,
                    std::vector<Shortcut> shortcuts);
+    ~MenuBarBinding();
+
+    /// A menu that opens where the mouse is when its model asks for it.
+    void AddContextMenu(MenuItem& menu);
 
   private:
     wxMenu* MakeMenu(const MenuItem& menu);
@@ -33,6 +38,7 @@ class MenuBarBinding {
     wxFrame& frame_;
     std::vector<Shortcut> shortcuts_;
     std::vector<Subscription> subscriptions_;
+    std::vector<std::unique_ptr<wxMenu>> contextMenus_;
 };
 
 } // namespace zy

@@ -8,6 +8,7 @@ class wxChoice;
 class wxDataViewCtrl;
 class wxPoint;
 class wxStaticBox;
+class wxTextCtrl;
 class wxWindow;
 
 namespace zy {
@@ -34,6 +35,9 @@ bool HoldsFocus(const wxWindow& control);
 
 /// Closes the list that has dropped down; nothing when none has.
 void CloseDropDown(const wxChoice& choice);
+
+/// Shows one character in place of each one that a password box holds.
+void SetPasswordCharacter(wxTextCtrl& box, char character);
 
 /// Makes a row current for the keyboard and the selection, and scrolls it into view.
 void GoToRow(wxDataViewCtrl& list, int row);

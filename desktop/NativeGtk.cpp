@@ -2,6 +2,7 @@
 #include <wx/choice.h>
 #include <wx/dataview.h>
 #include <wx/statbox.h>
+#include <wx/textctrl.h>
 
 #include <memory>
 #include <utility>
@@ -49,6 +50,11 @@ double DotsPerInch() {
 
 void SetAccessibleName(wxWindow& window, const wxString& name) {
     atk_object_set_name(gtk_widget_get_accessible(FocusWidgetOf(window)), name.utf8_str());
+}
+
+void SetPasswordCharacter(wxTextCtrl& box, char character) {
+    gtk_entry_set_invisible_char(reinterpret_cast<_GtkEntry*>(box.GetHandle()),
+                                 static_cast<unsigned char>(character));
 }
 
 void LayOutUnseen(wxWindow& window) {

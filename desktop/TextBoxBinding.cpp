@@ -1,12 +1,17 @@
 #include "desktop/TextBoxBinding.h"
 
+#include "desktop/Native.h"
 #include "desktop/ShownText.h"
 #include "shell/StatusTexts.h"
 
 namespace zy {
 
 TextBoxBinding::TextBoxBinding(const ViewContext& context, const Inside& inside, TextBox& model)
-    : ControlBinding(context, inside, model), model_(model), box_(new wxTextCtrl(Parent(), wxID_ANY)) {
+    : ControlBinding(context, inside, model), model_(model), 
+      box_(new wxTextCtrl(Parent(), wxID_ANY, "", {}, {}, model.PasswordChar() == '\0' ? 0 : wxTE_PASSWORD)) {
+    if (model.PasswordChar() != '\0') {
+        SetPasswordCharacter(*box_, model.PasswordChar());
+    }
     const auto remember = [this](wxEvent& event) {
         RememberSelection();
         event.Skip();
@@ -30,10 +35,12 @@ std::string_view TextBoxBinding::Held() const {
 }
 
 void TextBoxBinding::TakeText() {
-    const auto edited = TakeEdit(Context().codePage, Held(), box_->GetValue());
+    const wxString entered = box_->GetValue();
+    const auto edited = TakeEdit(Context().codePage, Held(), entered);
     if (edited) {
         Gate().Act([&] { model_.Enter(edited->text + beyond_); });
-        if (ShowText()) {
+        ShowText();
+        if (box_->GetValue() != entered) {
             box_->SetInsertionPoint(static_cast<long>(edited->changeEnd));
         }
     } else {
@@ -43,14 +50,13 @@ void TextBoxBinding::TakeText() {
     }
 }
 
-bool TextBoxBinding::ShowText() {
+void TextBoxBinding::ShowText() {
     const std::string_view text = model_.Text();
     const bool isShown = text.ends_with(beyond_) && box_->GetValue() == Shown(Held());
     if (!isShown) {
         box_->ChangeValue(Shown(text));
         beyond_ = text.substr(box_->GetValue().length());
     }
-    return !isShown;
 }
 
 } // namespace zy

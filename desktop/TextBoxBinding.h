@@ -18,8 +18,7 @@ class TextBoxBinding : public ControlBinding {
     void TakeText();
     /// The part of the model's text that the box holds.
     std::string_view Held() const;
-    /// Shows the model's text; false when it is shown already.
-    bool ShowText();
+    void ShowText();
     void RememberSelection() { box_->GetSelection(&selectionStart_, &selectionEnd_); }
 
     TextBox& model_;

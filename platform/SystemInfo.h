@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <string>
 
 namespace zy {
@@ -18,6 +19,8 @@ class SystemInfo {
     virtual std::string ExecutableName() const = 0;
     /// The character between whole and fraction in the user's locale.
     virtual char DecimalSeparator() const = 0;
+    /// The date where the user is.
+    virtual std::chrono::year_month_day Today() const = 0;
 };
 
 } // namespace zy

@@ -5,9 +5,6 @@
 #include "platform/World.h"
 #include "shell/TraceChannel.h"
 
-// security: the users editor. It owns the user table and the settings file that says where the table stands,
-// and calls ini and what lies below that.
-
 namespace zy {
 
 /// The full path of the user table, in capitals and trimmed: what the key "ZYSECURE.SECURITYFILE" of the

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <string>
 #include <string_view>
 
@@ -14,17 +15,20 @@ class MemorySystemInfo final : public SystemInfo {
     std::string CommandLine() const override { return commandLine_; }
     std::string ExecutableName() const override { return executableName_; }
     char DecimalSeparator() const override { return decimalSeparator_; }
+    std::chrono::year_month_day Today() const override { return today_; }
 
     void SetSystemDirectory(std::string_view path) { systemDirectory_ = path; }
     void SetCommandLine(std::string_view text) { commandLine_ = text; }
     void SetExecutableName(std::string_view name) { executableName_ = name; }
     void SetDecimalSeparator(char separator) { decimalSeparator_ = separator; }
+    void SetToday(std::chrono::year_month_day today) { today_ = today; }
 
   private:
     std::string systemDirectory_ = R"(C:\SYS)";
     std::string commandLine_;
     std::string executableName_ = "zyGlobal";
     char decimalSeparator_ = '.';
+    std::chrono::year_month_day today_{std::chrono::year(2026), std::chrono::month(11), std::chrono::day(20)};
 };
 
 } // namespace zy

@@ -9,6 +9,9 @@
 namespace zy {
 namespace {
 
+/// What the records hold in place of a dialog's text.
+constexpr auto kAnyForm = "(a dialog of the program)";
+
 std::string Describe(bool asks, std::optional<Escape> escape, std::string_view text, std::string_view title) {
     std::ostringstream out;
     out << (asks ? "Yes/No box" : "message box");
@@ -57,12 +60,20 @@ bool ScriptedDialogs::AskYesNo(std::string_view text, std::string_view title, Es
     return expected && expected->answer == Answer::Yes;
 }
 
+void ScriptedDialogs::ShowForm(Form& form) {
+    const auto expected = Show({.text = kAnyForm, .title = "", .escape = std::nullopt});
+    if (expected && expected->person) {
+        expected->person(form);
+    }
+}
+
 void ScriptedDialogs::ExpectMessage(std::string_view text, std::string_view title) {
     script_.push_back({.text = std::string(text),
                        .title = std::string(title),
                        .asks = false,
                        .answer = Answer::No,
-                       .escape = std::nullopt});
+                       .escape = std::nullopt,
+                       .person = {}});
 }
 
 void ScriptedDialogs::ExpectYesNo(std::string_view text, std::string_view title, Answer answer,
@@ -71,7 +82,17 @@ void ScriptedDialogs::ExpectYesNo(std::string_view text, std::string_view title,
                        .title = std::string(title),
                        .asks = true,
                        .answer = answer,
-                       .escape = escape});
+                       .escape = escape,
+                       .person = {}});
+}
+
+void ScriptedDialogs::ExpectForm(std::function<void(Form&)> person) {
+    script_.push_back({.text = kAnyForm,
+                       .title = "",
+                       .asks = false,
+                       .answer = Answer::No,
+                       .escape = std::nullopt,
+                       .person = std::move(person)});
 }
 
 std::vector<std::string> ScriptedDialogs::Failures() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <iosfwd>
 #include <optional>
 #include <string>
@@ -40,11 +41,17 @@ class ScriptedDialogs final : public Dialogs {
     void ShowMessage(std::string_view text, std::string_view title) override;
     /// A box that is not the next one of the script is answered by No.
     bool AskYesNo(std::string_view text, std::string_view title, Escape escape) override;
+    /// A dialog that is not the next one of the script is closed at once.
+    void ShowForm(Form& form) override;
 
     void ExpectMessage(std::string_view text, std::string_view title);
     /// Without `escape` either kind of box will do.
     void ExpectYesNo(std::string_view text, std::string_view title, Answer answer,
                      std::optional<Escape> escape = std::nullopt);
+
+    /// A dialog, in which `person` does what is to be done; then, unless the dialog has hidden itself, it is
+    /// closed by its close box. The boxes that come meanwhile are expected behind it.
+    void ExpectForm(std::function<void(Form&)> person);
 
     /// Every box shown so far, expected or not, in their order.
     const std::vector<ShownBox>& Shown() const { return shown_; }
@@ -59,6 +66,7 @@ class ScriptedDialogs final : public Dialogs {
         bool asks;
         Answer answer;
         std::optional<Escape> escape;
+        std::function<void(Form&)> person; ///< of a dialog
 
         bool Matches(const ShownBox& box) const;
         std::string Describe() const;

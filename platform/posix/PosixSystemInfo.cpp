@@ -3,6 +3,7 @@
 #include <langinfo.h>
 
 #include <clocale>
+#include <ctime>
 #include <filesystem>
 #include <memory>
 #include <type_traits>
@@ -65,6 +66,16 @@ char PosixSystemInfo::DecimalSeparator() const {
     const auto separator =
         locale ? codePage_.FromUtf8(::nl_langinfo_l(RADIXCHAR, locale.get())) : std::nullopt;
     return separator && separator->size() == 1 ? separator->front() : '.';
+}
+
+std::chrono::year_month_day PosixSystemInfo::Today() const {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    ::localtime_r(&now, &local);
+    constexpr int kFirstYear = 1900;
+    return {std::chrono::year(local.tm_year + kFirstYear),
+            std::chrono::month(static_cast<unsigned>(local.tm_mon) + 1),
+            std::chrono::day(static_cast<unsigned>(local.tm_mday))};
 }
 
 } // namespace zy

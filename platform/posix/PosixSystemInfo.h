@@ -24,6 +24,7 @@ class PosixSystemInfo final : public SystemInfo {
     std::string ExecutableName() const override { return executableName_; }
     /// "." when the locale is not installed or its separator is no character of the code page.
     char DecimalSeparator() const override;
+    std::chrono::year_month_day Today() const override;
 
   private:
     const CodePage& codePage_;

@@ -14,21 +14,18 @@ constexpr std::string_view kModule = "frmGlobalSettings";
 
 } // namespace
 
-MainWindow::MainWindow(const Parts& parts) : parts_(parts) {
+MainWindow::MainWindow(const Parts& parts) : menu(parts.form.menu), parts_(parts) {
     parts_.form.resize.Connect([this] { Form_Resize(); });
     menu.mnuSave.click.Connect([this] { mnuSave_Click(); });
     menu.mnuExit.click.Connect([this] { mnuExit_Click(); });
-    ConnectHelp();
-}
-
-/// Help, web pages and the About box come later; until then whoever asks for them is told so.
-void MainWindow::ConnectHelp() {
-    const auto tell = [this] { parts_.form.zyStatusBar.SetText("Help comes with a later version"); };
     for (MenuItem* entry : {&menu.mnuContents, &menu.mnuIndex, &menu.mnuWebProducts, &menu.mnuWebAcademy,
                             &menu.mnuWebMentorDesk, &menu.mnuWebHome, &menu.mnuAbout}) {
-        entry->click.Connect(tell);
+        entry->click.Connect([this] { ShowHelp(); });
     }
-    parts_.rulesPage.controls.cmdHelpRules.click.Connect(tell);
+}
+
+void MainWindow::ShowHelp() {
+    parts_.form.zyStatusBar.SetText("Help comes with a later version");
 }
 
 void MainWindow::Trace(std::string_view procedure, std::string_view message) {

@@ -4,7 +4,6 @@
 
 #include "platform/World.h"
 #include "shell/Editors.h"
-#include "shell/MainMenu.h"
 #include "shell/SettingsForm.h"
 #include "shell/SharedState.h"
 #include "shell/TraceChannel.h"
@@ -58,14 +57,16 @@ class MainWindow {
     void mnuSave_Click();
     void mnuExit_Click();
 
+    /// Help, web pages and the About box come later; until then whoever asks for them is told so.
+    void ShowHelp();
+
     SettingsForm& Form() { return parts_.form; }
 
-    MainMenu menu;
+    MainMenu& menu; ///< the form's
     /// The window is gone; the program ends.
     Event<> unloaded;
 
   private:
-    void ConnectHelp();
     void ShowFrame(const Frame& frame);
     void Trace(std::string_view procedure, std::string_view message);
     bool WantsToSave();

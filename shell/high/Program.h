@@ -3,6 +3,7 @@
 #include "platform/World.h"
 #include "rules/RulesPage.h"
 #include "rules/mRules.h"
+#include "security/SecurityPage.h"
 #include "shell/MainWindow.h"
 #include "shell/SettingsForm.h"
 #include "shell/SharedState.h"
@@ -30,6 +31,7 @@ class Program {
     SettingsForm form;
     mRules rules;
     RulesPage rulesPage;
+    SecurityPage securityPage;
     UnitsPage unitsPage;
     Options options;
     MainWindow window;

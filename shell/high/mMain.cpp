@@ -36,8 +36,8 @@ StartUp StartRules(Program& program) {
 }
 
 StartUp StartSecurity(Program& program) {
-    auto* security = program.options.security;
-    if (security == nullptr || !security->LoadSecurityData()) {
+    auto& security = *program.options.security;
+    if (!security.LoadSecurityData()) {
         return StartUp::Ended;
     }
     program.trace.DebugTrace(kModule, kProcedure, "Security Mode Started");
@@ -45,7 +45,7 @@ StartUp StartSecurity(Program& program) {
     program.state.gbRulesMode = false;
     program.state.gbSecurityMode = true;
     program.state.gbUnitsMode = false;
-    security->ResizeSecurity();
+    security.ResizeSecurity();
     program.window.Show();
     return StartUp::WindowShown;
 }

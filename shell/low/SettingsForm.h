@@ -4,11 +4,12 @@
 #include "basics/Int16.h"
 #include "controls/Form.h"
 #include "controls/StatusBar.h"
+#include "shell/MainMenu.h"
 
 namespace zy {
 
 /// `frmGlobalSettings` as far as the editors know it: the window with one frame for each of them, the status
-/// bar and the mark of unsaved changes. What the window itself does is MainWindow's.
+/// bar, the menus and the mark of unsaved changes. What the window itself does is MainWindow's.
 class SettingsForm : public Form {
   public:
     SettingsForm();
@@ -24,6 +25,7 @@ class SettingsForm : public Form {
     Frame fraSecurity;
     Frame FraUnits;
     StatusBar zyStatusBar;
+    MainMenu menu;
 };
 
 } // namespace zy

@@ -195,19 +195,16 @@ TEST_F(StartUpTest, ClearsTheSharedMarkInTheRulesEditorAlone) {
     EXPECT_FALSE(state().gbChanged);
 }
 
-TEST_F(StartUpTest, EndsForAnEditorThatThisProgramDoesNotHave) {
-    options = {};
-    EXPECT_EQ(Start("@SECURITY"), StartUp::Ended);
-    ExpectNoWindow();
-}
-
-TEST_F(StartUpTest, BringsItsOwnRulesAndUnitsEditors) {
+TEST_F(StartUpTest, BringsItsOwnEditors) {
     options = {};
     EXPECT_EQ(Start("@RULES"), StartUp::WindowShown);
     EXPECT_TRUE(form().fraRules.Visible());
     EXPECT_EQ(Start("@UNITS"), StartUp::WindowShown);
     EXPECT_TRUE(form().FraUnits.Visible());
     EXPECT_EQ(program().unitsPage.controls.grdUnits.Text(0, 0), "Unit");
+    EXPECT_EQ(Start("@SECURITY"), StartUp::WindowShown);
+    EXPECT_TRUE(form().fraSecurity.Visible());
+    EXPECT_EQ(program().securityPage.controls.grdSecurity.Text(1, 0), "NewUser");
 }
 
 TEST_F(StartUpTest, LeavesThePlaceAloneForAnUnknownCommandLine) {

@@ -1,0 +1,110 @@
+#include "desktop/DialogBinding.h"
+
+#include <wx/button.h>
+#include <wx/display.h>
+#include <wx/panel.h>
+#include <wx/utils.h>
+
+#include <algorithm>
+
+#include "controls/CommandButton.h"
+#include "desktop/ControlBinding.h"
+#include "desktop/Native.h"
+#include "desktop/Pictures.h"
+#include "desktop/ShownText.h"
+
+namespace zy {
+namespace {
+
+/// A place where the whole dialog can be seen.
+wxRect OnScreen(wxRect place, const wxWindow& parent) {
+    const int display = wxDisplay::GetFromWindow(&parent);
+    const wxRect screen =
+        wxDisplay(display == wxNOT_FOUND ? 0U : static_cast<unsigned>(display)).GetClientArea();
+    place.x = std::max(screen.x, std::min(place.x, screen.GetRight() - place.width));
+    place.y = std::max(screen.y, std::min(place.y, screen.GetBottom() - place.height));
+    return place;
+}
+
+} // namespace
+
+DialogBinding::DialogBinding(const CodePage& codePage, EventGate& gate, Form& form, wxWindow* parent)
+    : gate_(gate), form_(form),
+      dialog_(parent, wxID_ANY, ToShown(codePage, form.Caption()), wxDefaultPosition, wxDefaultSize,
+              wxCAPTION | wxCLOSE_BOX | wxSYSTEM_MENU),
+      notes_(nullptr, "notes"), context_{.codePage = codePage,
+                                         .gate = gate,
+                                         .controls = controls_,
+                                         .statusBar = notes_,
+                                         .scale = Scale(DotsPerInch())},
+      inside_{.window = new wxPanel(&dialog_), .origin = {}},
+      children_(BindChildren(context_, inside_, form)), focus_(context_, form, dialog_),
+      appearanceChanged_(form.appearanceChanged.Observe([this] {
+          if (!form_.Visible()) {
+              End();
+          }
+      })),
+      noteChanged_(notes_.change.Observe([] { wxBell(); })) {
+    dialog_.SetName(ToShown(codePage, form.Name()));
+    dialog_.SetIcons(ProgramIcon());
+    form.SetInnerSize({});
+    PlaceOn(parent);
+    ConnectKeys();
+    dialog_.Bind(wxEVT_CLOSE_WINDOW,
+                 [this](wxCloseEvent&) { gate_.Act([this] { form_.SetVisible(false); }); });
+    dialog_.Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
+        event.Skip();
+        if (gate_.HasFailed()) {
+            End();
+        }
+    });
+}
+
+DialogBinding::~DialogBinding() = default;
+
+void DialogBinding::PlaceOn(wxWindow* parent) {
+    const wxRect place = context_.scale.ToPixels(form_.Bounds());
+    dialog_.SetClientSize(place.GetSize());
+    inside_.window->SetSize(place.GetSize());
+    if (parent != nullptr && place.GetPosition() != wxPoint()) {
+        const wxRect wanted(parent->ClientToScreen(place.GetPosition()), dialog_.GetSize());
+        dialog_.Move(OnScreen(wanted, *parent).GetPosition());
+    } else {
+        dialog_.Centre();
+    }
+    LayOutUnseen(dialog_);
+}
+
+void DialogBinding::ConnectKeys() {
+    dialog_.Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) { PressKey(event); });
+}
+
+void DialogBinding::PressKey(wxKeyEvent& event) {
+    const bool enter = event.GetKeyCode() == WXK_RETURN || event.GetKeyCode() == WXK_NUMPAD_ENTER;
+    const bool onButton = dynamic_cast<wxButton*>(wxWindow::FindFocus()) != nullptr;
+    CommandButton* button = enter && !onButton                 ? form_.OnEnter()
+                            : event.GetKeyCode() == WXK_ESCAPE ? form_.OnEscape()
+                                                               : nullptr;
+    if (button == nullptr || event.HasAnyModifiers()) {
+        event.Skip();
+        return;
+    }
+    gate_.Act([&] { button->Click(); });
+}
+
+void DialogBinding::Run() {
+    if (form_.Focused() == nullptr) {
+        controls_.FocusNext(nullptr);
+    }
+    if (form_.Visible()) {
+        dialog_.ShowModal();
+    }
+}
+
+void DialogBinding::End() {
+    if (dialog_.IsModal()) {
+        dialog_.EndModal(wxID_CANCEL);
+    }
+}
+
+} // namespace zy

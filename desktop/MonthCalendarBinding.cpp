@@ -1,0 +1,61 @@
+#include "desktop/MonthCalendarBinding.h"
+
+#include "desktop/Native.h"
+
+namespace zy {
+namespace {
+
+std::chrono::year_month_day DateOf(const wxDateTime& day) {
+    return {std::chrono::year(day.GetYear()), std::chrono::month(static_cast<unsigned>(day.GetMonth()) + 1),
+            std::chrono::day(day.GetDay())};
+}
+
+wxDateTime ShownDay(std::chrono::year_month_day date) {
+    const auto month = static_cast<wxDateTime::Month>(static_cast<unsigned>(date.month()) - 1);
+    return {static_cast<wxDateTime::wxDateTime_t>(static_cast<unsigned>(date.day())), month,
+            static_cast<int>(date.year())};
+}
+
+} // namespace
+
+MonthCalendarBinding::MonthCalendarBinding(const ViewContext& context, const Inside& inside,
+                                           MonthCalendar& model)
+    : ControlBinding(context, inside, model), model_(model),
+      calendar_(new wxGenericCalendarCtrl(Parent(), wxID_ANY, ShownDay(model.Value()), {}, {},
+                                          wxCAL_SHOW_HOLIDAYS | wxCAL_MONDAY_FIRST |
+                                              wxCAL_SHOW_SURROUNDING_WEEKS | wxBORDER_THEME)) {
+    calendar_->Bind(wxEVT_LEFT_UP, [this](wxMouseEvent& event) { PressMouse(event); });
+    calendar_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { PressKey(event); });
+    Keep(model_.valueChanged.Observe([this] { ShowValue(); }));
+    Attach(calendar_);
+    SetAccessibleName(*calendar_, Shown(model_.Caption()));
+}
+
+void MonthCalendarBinding::PressMouse(wxMouseEvent& event) {
+    wxDateTime day;
+    if (calendar_->HitTest(event.GetPosition(), &day) == wxCAL_HITTEST_DAY && day == calendar_->GetDate()) {
+        // The press has made the day under the mouse the chosen one.
+        Pick(day);
+    } else {
+        event.Skip();
+    }
+}
+
+void MonthCalendarBinding::PressKey(wxKeyEvent& event) {
+    const int key = event.GetKeyCode();
+    if (!event.HasAnyModifiers() && (key == WXK_RETURN || key == WXK_NUMPAD_ENTER || key == WXK_SPACE)) {
+        Pick(calendar_->GetDate());
+    } else {
+        event.Skip();
+    }
+}
+
+void MonthCalendarBinding::Pick(const wxDateTime& day) {
+    Gate().Act([&] { model_.Pick(DateOf(day)); });
+}
+
+void MonthCalendarBinding::ShowValue() {
+    calendar_->SetDate(ShownDay(model_.Value()));
+}
+
+} // namespace zy

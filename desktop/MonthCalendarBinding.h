@@ -1,0 +1,28 @@
+#pragma once
+
+#include <wx/calctrl.h>
+#include <wx/generic/calctrlg.h>
+
+#include "controls/MonthCalendar.h"
+#include "desktop/ControlBinding.h"
+
+namespace zy {
+
+/// A calendar of one month. A click picks a day, also the one that is chosen already; by keyboard the arrows
+/// move and Enter or the space bar picks.
+class MonthCalendarBinding : public ControlBinding {
+  public:
+    MonthCalendarBinding(const ViewContext& context, const Inside& inside, MonthCalendar& model);
+
+  private:
+    void PressMouse(wxMouseEvent& event);
+    void PressKey(wxKeyEvent& event);
+    void Pick(const wxDateTime& day);
+    void ShowValue();
+
+    MonthCalendar& model_;
+    // The toolkit's own calendar tells where the mouse stands, which the window system's does not.
+    wxGenericCalendarCtrl* calendar_;
+};
+
+} // namespace zy

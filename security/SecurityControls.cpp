@@ -1,0 +1,19 @@
+#include "security/SecurityControls.h"
+
+namespace zy {
+
+SecurityControls::SecurityControls(Frame& fraSecurity)
+    : grdSecurity(&fraSecurity, "grdSecurity", kUsersColumns),
+      cmdAddUser(&fraSecurity, "cmdAddUser", "Add", 'A'),
+      cmdDeleteUser(&fraSecurity, "cmdDeleteUser", "Delete", 'D'),
+      cmdSaveUsers(&fraSecurity, "cmdSaveUsers", "Save", 'S'),
+      cmdHelpSecurity(&fraSecurity, "cmdHelpSecurity", "Help", 'p') {
+    grdSecurity.SetColumnList(kStatus, "A|I");
+    grdSecurity.SetText(0, kUserName, "User Name");
+    grdSecurity.SetText(0, kPassword, "Password");
+    grdSecurity.SetText(0, kStatus, "Status");
+    grdSecurity.SetText(0, kExpiryDate, "Expiry Date");
+    grdSecurity.SetText(0, kIdentification, "User Identification");
+}
+
+} // namespace zy

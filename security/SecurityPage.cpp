@@ -1,0 +1,212 @@
+#include "security/SecurityPage.h"
+
+#include <string>
+
+#include "security/SecurityLayout.h"
+#include "security/frmDatePicker.h"
+#include "shell/mRecycleBin.h"
+
+namespace zy {
+namespace {
+
+constexpr std::string_view kForm = "frmGlobalSettings";
+constexpr std::string_view kDialogButton = "...";
+
+} // namespace
+
+SecurityPage::SecurityPage(SettingsForm& form, SharedState& state, TraceChannel& trace, const World& world)
+    : controls(form.fraSecurity), users(controls, form, state, trace, world), form_(form), state_(state),
+      trace_(trace), world_(world) {
+    Connect();
+}
+
+void SecurityPage::Connect() {
+    auto& grid = controls.grdSecurity;
+    controls.cmdAddUser.click.Connect([this] { cmdAddUser_Click(); });
+    controls.cmdDeleteUser.click.Connect([this] { cmdDeleteUser_Click(); });
+    controls.cmdSaveUsers.click.Connect([this] { cmdSaveUsers_Click(); });
+    form_.menu.mnuAddUser.click.Connect([this] { mnuAddUser_Click(); });
+    form_.menu.mnuDeleteUser.click.Connect([this] { mnuDeleteUser_Click(); });
+    grid.beforeEdit.Connect([this](int, int column) { grdSecurity_BeforeEdit(column); });
+    grid.afterEdit.Connect([this](int, int) { grdSecurity_AfterEdit(); });
+    grid.cellButtonClick.Connect([this](int row, int column) { grdSecurity_CellButtonClick(row, column); });
+    grid.keyDown.Connect(
+        [this](const KeyPress& press, bool& handled) { grdSecurity_KeyDown(press, handled); });
+    grid.mouseDown.Connect([this](int button, int row, int) { grdSecurity_MouseDown(button, row); });
+    users.reported.Connect([this](const std::string& report) { report_ = report; });
+}
+
+void SecurityPage::Trace(std::string_view procedure, std::string_view message) {
+    trace_.DebugTrace(kForm, procedure, message);
+}
+
+void SecurityPage::LoadSecurity() {
+    auto& grid = controls.grdSecurity;
+    LayOutSecurity(controls, form_);
+    grid.SetRedraw(false);
+    grid.SetRows(1);
+    for (const auto& user : users.zySecure) {
+        grid.AddItem(GridRow(user));
+    }
+    grid.SetRedraw(true);
+    controls.cmdSaveUsers.SetEnabled(false);
+    EnableDelete(HasUsers());
+    ReportCount();
+    Trace("LoadSecurity", "Finished");
+}
+
+void SecurityPage::ReportCount() {
+    const int count = controls.grdSecurity.Rows() - 1;
+    std::string text = std::to_string(count) + (count == 1 ? " user" : " users");
+    if (!report_.empty()) {
+        text += "; " + report_;
+    }
+    form_.zyStatusBar.SetText(text);
+}
+
+void SecurityPage::EnableDelete(bool enabled) {
+    controls.cmdDeleteUser.SetEnabled(enabled);
+    form_.menu.mnuDeleteUser.SetEnabled(enabled);
+}
+
+void SecurityPage::MarkChanged() {
+    state_.gbChanged = true;
+    ReportCount();
+}
+
+void SecurityPage::MarkChangedAndEnableSave() {
+    MarkChanged();
+    controls.cmdSaveUsers.SetEnabled(true);
+}
+
+void SecurityPage::cmdAddUser_Click() {
+    Trace("cmdAddUser_Click", "Start");
+    users.Add_User();
+    EnableDelete(true);
+    MarkChangedAndEnableSave();
+}
+
+void SecurityPage::mnuAddUser_Click() {
+    users.Add_User();
+    MarkChanged();
+}
+
+void SecurityPage::cmdDeleteUser_Click() {
+    Trace("cmdDeleteUser_Click", "Start");
+    if (world_.dialogs.AskYesNo("Are you sure you wish to delete this User?", "Confirm Delete",
+                                Escape::AnswersNo)) {
+        DeleteCurrentUser();
+    }
+    Trace("cmdDeleteUser_Click", "User deleted"); // after No as well, which is meant
+}
+
+void SecurityPage::DeleteCurrentUser() {
+    if (HasCurrentUser()) {
+        users.DeleteUser(controls.grdSecurity.Row());
+        MarkChangedAndEnableSave();
+    }
+    if (HasUsers()) {
+        controls.grdSecurity.Select(1, controls.grdSecurity.Column());
+    }
+    EnableDelete(HasUsers());
+}
+
+void SecurityPage::mnuDeleteUser_Click() {
+    if (HasCurrentUser()) {
+        users.DeleteUser(controls.grdSecurity.Row());
+        MarkChanged();
+    }
+}
+
+void SecurityPage::cmdSaveUsers_Click() {
+    Trace("cmdSaveUsers_Click", "Start");
+    if (!users.Validate_Security()) {
+        return;
+    }
+    users.Save_Security();
+    if (HasUsers()) {
+        users.Write_Security();
+        users.WriteDBIndex();
+    } else {
+        RecycleTable();
+    }
+    form_.ChangeFlag = false;
+    controls.cmdSaveUsers.SetEnabled(false);
+    form_.zyStatusBar.SetText("Saved");
+}
+
+/// Unlike File > Save, in the folder of the table.
+void SecurityPage::RecycleTable() {
+    for (const auto* name : {"ZYSECURE.DBF", "ZYSECURE.ndx"}) {
+        if (const auto path = users.SecurityFolder() + name; world_.files.Exists(path)) {
+            RecycleFile(world_.recycleBin, path);
+        }
+    }
+}
+
+void SecurityPage::grdSecurity_AfterEdit() {
+    Trace("grdSecurity_AfterEdit", "Start");
+    MarkChangedAndEnableSave();
+}
+
+void SecurityPage::grdSecurity_BeforeEdit(int column) {
+    Trace("grdSecurity_BeforeEdit", "Start");
+    if (column == kExpiryDate) {
+        controls.grdSecurity.SetEditList(kDialogButton);
+    }
+}
+
+void SecurityPage::grdSecurity_CellButtonClick(int row, int column) {
+    Trace("grdSecurity_CellButtonClick", "Start");
+    if (column != kExpiryDate) {
+        return;
+    }
+    auto& grid = controls.grdSecurity;
+    // What was typed is kept, as wherever an edit is left; a mere look at the calendar is no edit.
+    if (grid.EditText() != grid.Text(row, column)) {
+        grid.CommitEdit();
+    }
+    grid.CancelEdit();
+
+    frmDatePicker picker(trace_, world_);
+    picker.picked.Connect([this, row](const std::string& text) { SetDate(row, text); });
+    const auto& frame = form_.fraSecurity.Bounds();
+    const auto cell = grid.CellPlace(row, column);
+    picker.SetBounds({frame.left + grid.Bounds().left + cell.left,
+                      frame.top + grid.Bounds().top + cell.top + cell.height, 0, 0});
+    picker.Form_Load(grid.Text(row, column));
+    picker.SetVisible(true);
+    world_.dialogs.ShowForm(picker);
+}
+
+void SecurityPage::SetDate(int row, const std::string& text) {
+    controls.grdSecurity.SetText(row, kExpiryDate, text);
+    MarkChangedAndEnableSave();
+}
+
+void SecurityPage::grdSecurity_KeyDown(const KeyPress& press, bool& handled) {
+    Trace("grdSecurity_KeyDown", "Start");
+    auto& grid = controls.grdSecurity;
+    const bool shiftTab = press.key == Key::Tab && press.shift && !press.ctrl && !press.alt;
+    if (shiftTab && grid.Row() == 1 && grid.Column() == 0) {
+        grid.Select(grid.Rows() - 1, grid.Columns() - 1);
+        controls.cmdHelpSecurity.SetFocus();
+        handled = true;
+    }
+}
+
+void SecurityPage::grdSecurity_MouseDown(int button, int row) {
+    constexpr int kRightButton = 2;
+    Trace("grdSecurity_MouseDown", "Start");
+    controls.grdSecurity.Select(row, controls.grdSecurity.Column());
+    if (button == kRightButton) {
+        form_.menu.mnuDeleteUser.SetEnabled(row >= 1 && HasUsers());
+        form_.menu.mnuSecuritypopMenu.PopUp();
+    }
+}
+
+void SecurityPage::ResizeSecurity() {
+    LayOutSecurity(controls, form_);
+}
+
+} // namespace zy

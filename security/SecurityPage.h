@@ -1,0 +1,66 @@
+#pragma once
+
+#include "platform/World.h"
+#include "security/mSecurity.h"
+#include "shell/Editors.h"
+#include "shell/SettingsForm.h"
+
+namespace zy {
+
+/// The users page: its controls and their handlers.
+class SecurityPage : public SecurityEditor {
+  public:
+    SecurityPage(SettingsForm& form, SharedState& state, TraceChannel& trace, const World& world);
+
+    void cmdAddUser_Click();
+    void cmdDeleteUser_Click();
+    void cmdSaveUsers_Click();
+    void mnuAddUser_Click();
+    /// Deletes at once and leaves the buttons alone, unlike the button, which is meant.
+    void mnuDeleteUser_Click();
+    void grdSecurity_AfterEdit();
+    /// Gives the cells of dates their button.
+    void grdSecurity_BeforeEdit(int column);
+    /// Opens the calendar beside the cell.
+    void grdSecurity_CellButtonClick(int row, int column);
+    /// Shift+Tab at the grid's first cell goes on to the Help button.
+    void grdSecurity_KeyDown(const KeyPress& press, bool& handled);
+    /// Makes the row current; the right button opens the context menu.
+    void grdSecurity_MouseDown(int button, int row);
+
+    // SecurityEditor
+    bool LoadSecurityData() override { return users.LoadSecurityData(); }
+    void LoadSecurity() override;
+    void ResizeSecurity() override;
+    void CommitCellEdit() override { controls.grdSecurity.CommitEdit(); }
+    bool Validate_Security() override { return users.Validate_Security(); }
+    void Save_Security() override { users.Save_Security(); }
+    void Write_Security() override { users.Write_Security(); }
+    void WriteDBIndex() override { users.WriteDBIndex(); }
+    int GridRows() const override { return controls.grdSecurity.Rows(); }
+    void DisableSaveButton() override { controls.cmdSaveUsers.SetEnabled(false); }
+
+    SecurityControls controls;
+    mSecurity users;
+
+  private:
+    void Connect();
+    void Trace(std::string_view procedure, std::string_view message);
+    bool HasUsers() const { return controls.grdSecurity.Rows() >= 2; }
+    bool HasCurrentUser() const { return controls.grdSecurity.Row() >= 1; }
+    void EnableDelete(bool enabled);
+    void MarkChanged();
+    void MarkChangedAndEnableSave();
+    void DeleteCurrentUser();
+    void SetDate(int row, const std::string& text);
+    void RecycleTable();
+    void ReportCount();
+
+    SettingsForm& form_;
+    SharedState& state_;
+    TraceChannel& trace_;
+    World world_;
+    std::string report_; ///< what loading told
+};
+
+} // namespace zy

@@ -1,0 +1,132 @@
+#include "security/UserChecks.h"
+
+#include "basics/Date.h"
+#include "basics/Int16.h"
+#include "basics/Text.h"
+#include "security/SecurityControls.h"
+#include "security/UserRecord.h"
+#include "shell/Application.h"
+
+namespace zy {
+namespace {
+
+constexpr std::size_t kLongestName = 10;
+constexpr std::size_t kLongestPassword = 20;
+constexpr std::size_t kLongestIdentification = 20;
+constexpr std::size_t kLongestDate = 8;
+
+} // namespace
+
+UserChecks::UserChecks(Grid& grid, const World& world) : grid_(grid), world_(world) {}
+
+std::optional<Cell> UserChecks::FirstFailure() {
+    FindNames();
+    const Int16 last = grid_.Rows() - 1;
+    for (int row = 1; row <= last; ++row) {
+        if (const auto failure = CheckRow(row)) {
+            return failure;
+        }
+    }
+    return std::nullopt;
+}
+
+void UserChecks::FindNames() {
+    names_.clear();
+    names_.reserve(static_cast<std::size_t>(grid_.Rows()));
+    for (int row = 1; row < grid_.Rows(); ++row) {
+        auto& rows = names_[ComparedName(row)];
+        if (rows.first == 0) {
+            rows.first = row;
+        } else if (rows.second == 0) {
+            rows.second = row;
+        }
+    }
+}
+
+std::string UserChecks::ComparedName(int row) const {
+    return world_.codePage.UCase(grid_.Text(row, kUserName));
+}
+
+int UserChecks::RowOfSameName(int row) const {
+    const auto& rows = names_.at(ComparedName(row));
+    return rows.first == row ? rows.second : rows.first;
+}
+
+std::optional<Cell> UserChecks::CheckRow(int row) {
+    if (!CheckName(row)) {
+        return Cell{row, kUserName};
+    }
+    const int other = RowOfSameName(row);
+    if (FailsIf(other != 0, "Invalid User Name. User Name must be unique.")) {
+        return Cell{other, kUserName}; // the other user of that name is shown, which is meant
+    }
+    if (!CheckPassword(row)) {
+        return Cell{row, kPassword};
+    }
+    SetStatus(row);
+    if (!CheckIdentification(row)) {
+        return Cell{row, kIdentification};
+    }
+    DropUnfilledDate(row);
+    if (!CheckDate(row)) {
+        return Cell{row, kExpiryDate};
+    }
+    return std::nullopt;
+}
+
+bool UserChecks::CheckName(int row) {
+    const auto name = grid_.Text(row, kUserName);
+    return !FailsIf(Trim(name).empty(), "Invalid User Name. Cannot be blank") &&
+           !FailsIf(name.size() > kLongestName,
+                    "Invalid User ID. User ID must not be longer than 10 characters") &&
+           !FailsIf(Contains(name, '"'), "Invalid User Name. User ID cannot contain Double Quotes");
+}
+
+// Single quotes pass all checks, which is meant; the table engine then refuses them.
+
+bool UserChecks::CheckPassword(int row) {
+    const auto password = grid_.Text(row, kPassword);
+    return !FailsIf(Trim(password).empty(), "Invalid Password. Password Cannot be blank") &&
+           !FailsIf(password.size() > kLongestPassword,
+                    "Invalid Password. Password must not be longer than 20 characters") &&
+           !FailsIf(Contains(password, '"'), "Invalid Password. Password cannot contain Double Quotes");
+}
+
+void UserChecks::SetStatus(int row) {
+    // Any text beside the empty one is a status, which is meant.
+    if (grid_.Text(row, kStatus).empty()) {
+        grid_.SetText(row, kStatus, "I");
+    }
+}
+
+bool UserChecks::CheckIdentification(int row) {
+    const auto text = grid_.Text(row, kIdentification);
+    return !FailsIf(Trim(text).empty(), "Invalid User Identifier. User Identifier Cannot be blank") &&
+           !FailsIf(text.size() > kLongestIdentification,
+                    "Invalid User Identifier. User Identifier must not be longer than 20 characters") &&
+           !FailsIf(Contains(text, '"'),
+                    "Invalid User Identifier. User Identifier cannot contain Double Quotes");
+}
+
+void UserChecks::DropUnfilledDate(int row) {
+    if (world_.codePage.UCase(grid_.Text(row, kExpiryDate)) == kNoDateYet) {
+        grid_.SetText(row, kExpiryDate, "");
+    }
+}
+
+bool UserChecks::CheckDate(int row) {
+    const auto date = grid_.Text(row, kExpiryDate);
+    return !FailsIf(date.size() > kLongestDate,
+                    "Invalid Expiry Date. Expiry Date must not be longer than 8 characters") &&
+           !FailsIf(!date.empty() && !ParseDate(date),
+                    "Invalid Expiry Date. Must Use Format YY-MM-DD or blank for no Expiry Date");
+}
+
+bool UserChecks::FailsIf(bool condition, std::string_view message) {
+    if (condition) {
+        world_.dialogs.ShowMessage(message, kApplicationTitle);
+    }
+    return condition;
+}
+
+} // namespace zy

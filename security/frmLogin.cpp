@@ -1,0 +1,78 @@
+#include "security/frmLogin.h"
+
+#include <algorithm>
+
+namespace zy {
+
+frmLogin::frmLogin(std::string_view adminPassword, TraceChannel& trace, const World& world)
+    : Form("frmLogin"), lblUserName(this, "lblLabels", "&User Name:", 'U', txtUserName),
+      txtUserName(this, "txtUserName"), lblPassword(this, "lblLabels", "&Password:", 'P', txtPassword),
+      txtPassword(this, "txtPassword"), cmdOK(this, "cmdOK", "OK"), cmdCancel(this, "cmdCancel", "Cancel"),
+      adminPassword_(adminPassword), trace_(trace), world_(world) {
+    SetCaption("ZY Setup Security Login");
+    txtPassword.SetPasswordChar('*');
+    SetKeyButtons(&cmdOK, &cmdCancel);
+    cmdOK.click.Connect([this] { cmdOK_Click(); });
+    cmdCancel.click.Connect([this] { cmdCancel_Click(); });
+    resize.Connect([this] { Form_Resize(); });
+}
+
+void frmLogin::Start(std::string_view procedure) {
+    trace_.DebugTrace("frmLogin", procedure, "Start");
+}
+
+void frmLogin::Form_Load() {
+    Start("Form_Load");
+    CancelClicked = false;
+}
+
+void frmLogin::cmdOK_Click() {
+    Start("cmdOK_Click");
+    const auto password = world_.codePage.UCase(txtPassword.Text());
+    const auto userName = world_.codePage.UCase(txtUserName.Text());
+    if (password == adminPassword_ && userName == "ADMIN") {
+        LoginSucceeded = true;
+        SetVisible(false);
+        return;
+    }
+    // The same words for a wrong name: nobody learns which of the two was wrong.
+    world_.dialogs.ShowMessage("Invalid Password, try again!", "Login");
+    txtPassword.SetFocus();
+    txtPassword.Select(0, txtPassword.Text().size());
+}
+
+void frmLogin::cmdCancel_Click() {
+    Start("cmdCancel_Click");
+    LoginSucceeded = false;
+    CancelClicked = true;
+    SetVisible(false);
+}
+
+void frmLogin::Form_Resize() {
+    constexpr int kMargin = 180;
+    constexpr int kGap = 120;
+    constexpr int kBoxWidth = 2700;
+    constexpr int kButtonWidth = 1215;
+    const int labels = std::max(lblUserName.Preferred().width, lblPassword.Preferred().width);
+    const int boxes = kMargin + labels + kGap;
+    int top = kMargin;
+    const auto placeRow = [&](Label& label, TextBox& box) {
+        const int height = box.Preferred().height;
+        const int labelHeight = label.Preferred().height;
+        label.SetBounds({kMargin, top + (height - labelHeight) / 2, labels, labelHeight});
+        box.SetBounds({boxes, top, kBoxWidth, height});
+        top += height + kGap;
+    };
+    placeRow(lblUserName, txtUserName);
+    placeRow(lblPassword, txtPassword);
+
+    const int width = std::max({kButtonWidth, cmdOK.Preferred().width, cmdCancel.Preferred().width});
+    const int height = std::max(cmdOK.Preferred().height, cmdCancel.Preferred().height);
+    const int right = boxes + kBoxWidth;
+    top += kGap;
+    cmdCancel.SetBounds({right - width, top, width, height});
+    cmdOK.SetBounds({right - 2 * width - kGap, top, width, height});
+    SetBounds({0, 0, right + kMargin, top + height + kMargin});
+}
+
+} // namespace zy
