@@ -1,7 +1,6 @@
-#include "BigRules.h"
-
 #include <array>
 
+#include "BigFile.h"
 #include "rules/mRules.h"
 
 namespace zy::bench {
@@ -54,7 +53,7 @@ std::string RulesFileOf(int rules) {
     return text;
 }
 
-std::string KeyFileOf(int rules) {
+std::string RulesKeyFileOf(int rules) {
     std::string text;
     for (int number = 1; number <= rules; ++number) {
         AppendRule(text, "[RULE" + std::to_string(number) + "]", number);

@@ -8,6 +8,7 @@
 #include <deque>
 #include <stdexcept>
 #include <system_error>
+#include <vector>
 
 #include "Median.h"
 #include "Row.h"
@@ -50,6 +51,28 @@ class RowReporter final : public benchmark::BenchmarkReporter {
     }
 };
 
+/// Measures in a process of its own, and takes the figure over.
+double SecondsInChild(const Seconds& work) {
+    std::array<int, 2> ends{};
+    if (::pipe(ends.data()) != 0) {
+        throw std::system_error(errno, std::generic_category(), "pipe");
+    }
+    const FileDescriptor reader(ends[0]);
+    const FileDescriptor writer(ends[1]);
+    double seconds = 0;
+    const pid_t child = ::fork();
+    if (child == 0) {
+        seconds = work();
+        ::_exit(::write(writer.Number(), &seconds, sizeof(seconds)) == sizeof(seconds) ? 0 : 1);
+    }
+    int status = 0;
+    if (child < 0 || ::waitpid(child, &status, 0) != child || status != 0 ||
+        ::read(reader.Number(), &seconds, sizeof(seconds)) != sizeof(seconds)) {
+        throw std::runtime_error("a measurement in a process of its own failed");
+    }
+    return seconds;
+}
+
 } // namespace
 
 void Add(Duel duel) {
@@ -80,25 +103,12 @@ double WallSeconds() {
     return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
-double InFreshProcess(const std::function<double()>& measure) {
-    std::array<int, 2> ends{};
-    if (::pipe(ends.data()) != 0) {
-        throw std::system_error(errno, std::generic_category(), "pipe");
-    }
-    const FileDescriptor reader(ends[0]);
-    const FileDescriptor writer(ends[1]);
-    double seconds = 0;
-    const pid_t child = ::fork();
-    if (child == 0) {
-        seconds = measure();
-        ::_exit(::write(writer.Number(), &seconds, sizeof(seconds)) == sizeof(seconds) ? 0 : 1);
-    }
-    int status = 0;
-    if (child < 0 || ::waitpid(child, &status, 0) != child || status != 0 ||
-        ::read(reader.Number(), &seconds, sizeof(seconds)) != sizeof(seconds)) {
-        throw std::runtime_error("a measurement in a process of its own failed");
-    }
-    return seconds;
+Seconds InFreshProcess(const Seconds& work) {
+    return [work] { return SecondsInChild(work); };
+}
+
+Peer InFreshProcess(const Peer& peer) {
+    return {.name = peer.name, .work = InFreshProcess(peer.work)};
 }
 
 } // namespace zy::bench

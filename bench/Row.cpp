@@ -32,8 +32,21 @@ std::string Mebibytes(double bytes) {
     return Fixed(bytes / (1024 * 1024), 1) + " MiB";
 }
 
+std::string Millions(double count) {
+    return Fixed(count / 1e6, 0) + " million";
+}
+
 std::string TwoDecimals(double number) {
     return Fixed(number, 2);
+}
+
+std::string CountOf(int number, const std::string& things) {
+    auto digits = std::to_string(number);
+    for (auto comma = digits.size(); comma > 3;) {
+        comma -= 3;
+        digits.insert(comma, ",");
+    }
+    return digits + " " + things;
 }
 
 } // namespace zy::bench

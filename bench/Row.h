@@ -14,9 +14,12 @@ namespace zy::bench {
 void PrintRow(const std::string& work, const std::string& ours, const std::string& peer, double ratio,
               std::optional<double> goal);
 
-/// A time in milliseconds, a size in MiB, a number with two decimals: as the table shows them.
+/// A time, a size, a count and a number, as the table shows them.
 std::string Milliseconds(double seconds);
 std::string Mebibytes(double bytes);
+std::string Millions(double count);
 std::string TwoDecimals(double number);
+/// A number of things, with a comma for thousands: "32,767 rules".
+std::string CountOf(int number, const std::string& things);
 
 } // namespace zy::bench

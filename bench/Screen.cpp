@@ -61,6 +61,14 @@ void Screen::Press(KeySym key) {
     LetGoOfKey(key);
 }
 
+void Screen::Click(int x, int y) {
+    constexpr unsigned kLeftButton = 1;
+    ::XTestFakeMotionEvent(display_.get(), -1, x, y, CurrentTime);
+    ::XTestFakeButtonEvent(display_.get(), kLeftButton, True, CurrentTime);
+    ::XTestFakeButtonEvent(display_.get(), kLeftButton, False, CurrentTime);
+    ::XFlush(display_.get());
+}
+
 void Screen::FakeKey(KeySym key, bool down) {
     ::XTestFakeKeyEvent(display_.get(), ::XKeysymToKeycode(display_.get(), key), down ? True : False,
                         CurrentTime);

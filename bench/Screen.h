@@ -10,7 +10,7 @@ namespace zy::bench {
 
 using Clock = std::chrono::steady_clock;
 
-/// The X display as a person has it: sees what is painted, presses keys.
+/// The X display as a person has it: sees what is painted, presses keys and clicks.
 class Screen {
   public:
     Screen();
@@ -24,6 +24,8 @@ class Screen {
     void PushKey(KeySym key);
     void LetGoOfKey(KeySym key);
     void Press(KeySym key);
+    /// Clicks a place, counted in pixels from the screen's top left corner.
+    void Click(int x, int y);
 
   private:
     struct CloseDisplay {

@@ -1,5 +1,6 @@
 #include "WindowProgram.h"
 
+#include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -20,6 +21,7 @@ constexpr std::chrono::seconds kPatience{60};
 /// Any window is larger; a tooltip or a cursor is not.
 constexpr int kPixelsOfAWindow = 100000;
 
+/// Starts a program, whose complaints about the toolkit nobody reads.
 pid_t Start(const std::vector<std::string>& command) {
     std::vector<std::string> copies = command;
     std::vector<char*> arguments;
@@ -27,8 +29,12 @@ pid_t Start(const std::vector<std::string>& command) {
         arguments.push_back(copy.data());
     }
     arguments.push_back(nullptr);
+    posix_spawn_file_actions_t actions;
+    ::posix_spawn_file_actions_init(&actions);
+    ::posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
     pid_t process = -1;
-    const int error = ::posix_spawn(&process, arguments[0], nullptr, nullptr, arguments.data(), environ);
+    const int error = ::posix_spawn(&process, arguments[0], &actions, nullptr, arguments.data(), environ);
+    ::posix_spawn_file_actions_destroy(&actions);
     if (error != 0) {
         throw std::system_error(error, std::generic_category(), command.front());
     }
@@ -37,7 +43,9 @@ pid_t Start(const std::vector<std::string>& command) {
 
 } // namespace
 
-WindowProgram::WindowProgram(Screen& screen, const std::vector<std::string>& command) : screen_(screen) {
+WindowProgram::WindowProgram(Screen& screen, const std::vector<std::string>& command,
+                             std::chrono::milliseconds quiet)
+    : screen_(screen), quiet_(quiet) {
     screen_.Forget();
     start_ = Clock::now();
     process_ = Start(command);
@@ -45,8 +53,16 @@ WindowProgram::WindowProgram(Screen& screen, const std::vector<std::string>& com
 }
 
 WindowProgram::~WindowProgram() {
-    ::kill(process_, SIGKILL);
+    if (process_ > 0) {
+        ::kill(process_, SIGKILL);
+        ::waitpid(process_, nullptr, 0);
+    }
+}
+
+void WindowProgram::End() {
+    ::kill(process_, SIGTERM);
     ::waitpid(process_, nullptr, 0);
+    process_ = -1;
 }
 
 double WindowProgram::SecondsToIdle() {
@@ -78,7 +94,7 @@ bool WindowProgram::IsAsleep() const {
     stat.ignore(std::numeric_limits<std::streamsize>::max(), ')');
     stat >> state;
     if (!stat || state == 'Z') {
-        throw std::runtime_error("the program has ended");
+        throw std::runtime_error("the program has ended by itself");
     }
     return state == 'S';
 }
@@ -89,7 +105,7 @@ Clock::time_point WindowProgram::WaitUntilIdle(int pixels) {
     double used = ProcessorSeconds();
     auto busy = Clock::now();
     const auto deadline = busy + kPatience;
-    while (!painted || Clock::now() - busy < kQuiet) {
+    while (!painted || Clock::now() - busy < quiet_) {
         if (Clock::now() > deadline) {
             throw std::runtime_error("the program did not paint its window, or was never done");
         }

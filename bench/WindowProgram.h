@@ -14,7 +14,9 @@ namespace zy::bench {
 /// destructor.
 class WindowProgram {
   public:
-    WindowProgram(Screen& screen, const std::vector<std::string>& command);
+    /// A program that, its window painted, has slept for `quiet` has nothing left to do.
+    WindowProgram(Screen& screen, const std::vector<std::string>& command,
+                  std::chrono::milliseconds quiet = std::chrono::milliseconds(100));
     WindowProgram(const WindowProgram&) = delete;
     WindowProgram& operator=(const WindowProgram&) = delete;
     ~WindowProgram();
@@ -30,11 +32,15 @@ class WindowProgram {
     /// The memory that it holds.
     double ResidentBytes() const;
 
+    /// Asks the program to end, and waits for it.
+    void End();
+
   private:
     bool IsAsleep() const;
     Clock::time_point WaitUntilIdle(int pixels);
 
     Screen& screen_;
+    std::chrono::milliseconds quiet_;
     Clock::time_point start_;
     Clock::time_point lastPainted_;
     pid_t process_ = -1;
