@@ -7,7 +7,10 @@ namespace zy {
 
 FocusBinding::FocusBinding(const ViewContext& context, Form& form, wxWindow& window)
     : context_(context), form_(form), focusChanged_(form.focusChanged.Observe([this] { Show(); })) {
-    ObserveFocus(window, [this] { context_.gate.ActLater([this] { return TakeMove(); }); });
+    ObserveFocus(window, [this] {
+        // A dialog may be gone before the step is taken.
+        context_.gate.ActLater([this, open = std::weak_ptr(open_)] { return open.expired() || TakeMove(); });
+    });
 }
 
 bool FocusBinding::TakeMove() {

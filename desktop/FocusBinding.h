@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "controls/Form.h"
 #include "desktop/ViewContext.h"
 
@@ -19,6 +21,7 @@ class FocusBinding {
     const ViewContext& context_;
     Form& form_;
     Subscription focusChanged_;
+    std::shared_ptr<bool> open_ = std::make_shared<bool>(true); ///< tells others that this object lives
 };
 
 } // namespace zy

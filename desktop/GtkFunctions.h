@@ -36,6 +36,7 @@ void gtk_widget_get_allocation(GtkWidget* widget, GtkRectangle* allocation);
 void gtk_widget_get_preferred_size(GtkWidget* widget, GtkSizeNeeded* least, GtkSizeNeeded* natural);
 GtkWidget* gtk_widget_get_toplevel(GtkWidget* widget);
 int gtk_widget_is_ancestor(GtkWidget* widget, GtkWidget* ancestor);
+void gtk_widget_realize(GtkWidget* widget);
 void gtk_widget_size_allocate(GtkWidget* widget, GtkRectangle* allocation);
 GtkWidget* gtk_window_get_focus(_GtkWindow* window);
 }

@@ -58,7 +58,9 @@ void SetPasswordCharacter(wxTextCtrl& box, char character) {
 }
 
 void LayOutUnseen(wxWindow& window) {
-    // A window that first appears without a size has GTK complain of menus that do not fit in.
+    // A window that first appears without a size has GTK complain of menus that do not fit in. One that got its size
+    // before it is real waits in vain to be told of it, and gives room to nothing that is shown later.
+    gtk_widget_realize(window.m_widget);
     GtkSizeNeeded needed{};
     gtk_widget_get_preferred_size(window.m_widget, nullptr, &needed);
     const wxSize given = window.GetSize();

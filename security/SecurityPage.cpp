@@ -49,6 +49,7 @@ void SecurityPage::LoadSecurity() {
         grid.AddItem(GridRow(user));
     }
     grid.SetRedraw(true);
+    grid.FitColumns(0); // the designed width is too narrow for most headers
     controls.cmdSaveUsers.SetEnabled(false);
     EnableDelete(HasUsers());
     ReportCount();

@@ -1,4 +1,4 @@
-#include "WindowTest.h"
+#include "RulesWindow.h"
 
 namespace zy::test {
 namespace {
@@ -7,7 +7,7 @@ using ::testing::ElementsAre;
 
 constexpr auto kSure = "Are you Sure you want to Delete this Rule";
 
-class AddAndDeleteWindow : public WindowTest {};
+class AddAndDeleteWindow : public RulesWindow {};
 
 TEST_F(AddAndDeleteWindow, AddPutsANewRuleAtTheEndAndShowsIt) {
     PutRules(ThreeRules());

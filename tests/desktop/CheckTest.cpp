@@ -1,7 +1,7 @@
 #include <wx/frame.h>
 #include <wx/utils.h>
 
-#include "WindowTest.h"
+#include "RulesWindow.h"
 
 namespace zy::test {
 namespace {
@@ -11,7 +11,7 @@ using ::testing::ElementsAre;
 constexpr auto kBlankCode = "Rule Code cannot be Blank";
 constexpr auto kInvalidCode = "Invalid Rule Code";
 
-class CheckWindow : public WindowTest {
+class CheckWindow : public RulesWindow {
   protected:
     CheckWindow() { PutRules(ThreeRules()); }
 

@@ -2,14 +2,14 @@
 
 #include <stdexcept>
 
-#include "WindowTest.h"
+#include "RulesWindow.h"
 
 namespace zy::test {
 namespace {
 
 constexpr auto kOverflow = "Run-time error '6':\n\nOverflow";
 
-class ErrorWindow : public WindowTest {};
+class ErrorWindow : public RulesWindow {};
 
 TEST_F(ErrorWindow, ARunTimeErrorAtStartUpIsShownAndEndsTheProgramWithStatusOne) {
     PutRules(ManyRules(32768));

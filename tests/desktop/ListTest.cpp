@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
-#include "WindowTest.h"
+#include "RulesWindow.h"
 
 namespace zy::test {
 namespace {
 
 using ::testing::ElementsAre;
 
-class RulesListWindow : public WindowTest {
+class RulesListWindow : public RulesWindow {
   protected:
     RulesListWindow() { world.traceServers.SetRunning(true); }
 

@@ -1,9 +1,9 @@
-#include "WindowTest.h"
+#include "RulesWindow.h"
 
 namespace zy::test {
 namespace {
 
-class MoveWindow : public WindowTest {
+class MoveWindow : public RulesWindow {
   protected:
     std::vector<std::string> Codes() {
         std::vector<std::string> codes;

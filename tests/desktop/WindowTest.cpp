@@ -1,10 +1,8 @@
 #include "WindowTest.h"
 
-#include <wx/choice.h>
 #include <wx/clipbrd.h>
-#include <wx/dataview.h>
+#include <wx/dataobj.h>
 #include <wx/frame.h>
-#include <wx/textctrl.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -17,18 +15,6 @@
 
 namespace zy::test {
 namespace {
-
-std::vector<std::string> Split(const std::string& text) {
-    std::vector<std::string> fields(1);
-    for (const char character : text) {
-        if (character == '|') {
-            fields.emplace_back();
-        } else {
-            fields.back() += character;
-        }
-    }
-    return fields;
-}
 
 wxPoint MiddleOnScreen(const wxWindow& window) {
     const wxRect place = window.GetScreenRect();
@@ -49,37 +35,9 @@ void FailOnAssertion(const wxString& file, int line, const wxString& /*function*
 
 } // namespace
 
-WindowTest::WindowTest() : desktop(Windows1252()) {
+WindowTest::WindowTest(const std::string& argument) : desktop(Windows1252()) {
     wxSetAssertHandler(FailOnAssertion);
-    world.system.SetCommandLine("@RULES");
-}
-
-void WindowTest::PutRules(const std::vector<std::string>& rules) {
-    world.files.Put(R"(C:\SYS\ZYRules.sys)", FileOf(rules));
-}
-
-std::vector<std::string> WindowTest::ThreeRules() {
-    return {"R1|1|2|>|UCL|First rule", "R2|3|4|<=|LWL|Second rule", "R3|5|6|=|-3S|Third rule"};
-}
-
-std::vector<std::string> WindowTest::ManyRules(int count) {
-    std::vector<std::string> rules;
-    for (int i = 1; i <= count; ++i) {
-        rules.push_back(std::to_string(i % 1000) + "|1|2|>|UCL|Rule number " + std::to_string(i));
-    }
-    return rules;
-}
-
-std::string WindowTest::FileOf(const std::vector<std::string>& rules) {
-    std::string text;
-    for (const auto& rule : rules) {
-        const auto fields = Split(rule);
-        text += "[RULE]\r\n   CODE         = " + fields[0] + "\r\n   MIN          = " + fields[1] +
-                "\r\n   MAX          = " + fields[2] + "\r\n   COND         = " + fields[3] +
-                "\r\n   ZONE         = " + fields[4] + "\r\n   DESC1        = " + fields[5] +
-                "\r\n   DESC2        = \r\n   DESC3        = \r\n";
-    }
-    return text;
+    world.system.SetCommandLine(argument);
 }
 
 World WindowTest::OutsideWorld() {
@@ -112,6 +70,7 @@ int WindowTest::PlayFromTheStart(const std::function<void()>& script) {
 int WindowTest::RunProgram() {
     program = std::make_unique<Program>(OutsideWorld());
     const MainWindowView view(desktop, program->window);
+    prepare();
     return mMain(*program) == StartUp::WindowShown ? desktop.RunUntilClosed() : 0;
 }
 
@@ -129,43 +88,28 @@ void WindowTest::LeaveWindow() {
     // From here on the window's thread may be gone at any moment, so nothing is asked of it and waited for.
     wxTheApp->CallAfter([this] {
         if (program->window.IsLoaded()) {
+            program->unitsPage.controls.grdUnits.CancelEdit();
             program->form.ChangeFlag = false;
             program->window.Unload();
         }
     });
 }
 
-void WindowTest::Paste(const wxString& text) {
+void WindowTest::PutOnClipboard(const wxString& text) {
     InWindow([&] {
-        wxTheClipboard->Open();
+        const wxClipboardLocker open;
         wxTheClipboard->SetData(new wxTextDataObject(text));
-        wxTheClipboard->Close();
     });
+}
+
+void WindowTest::Paste(const wxString& text) {
+    PutOnClipboard(text);
     Press('V', wxMOD_CONTROL);
 }
 
 void WindowTest::Enter(const Control& control) {
     Click(control);
     WaitForFocus(control);
-}
-
-void WindowTest::Fill(const TextBox& box, const std::string& text) {
-    Enter(box);
-    Press('A', wxMOD_CONTROL);
-    Press(WXK_DELETE);
-    WaitUntil("the box is empty", [&] { return box.Text().empty(); });
-    Type(text);
-    WaitUntil("the box holds \"" + text + "\"", [&] { return box.Text() == text; });
-}
-
-void WindowTest::PickItem(const ComboBox& box, int index) {
-    Enter(box);
-    Press(WXK_ESCAPE); // closes the list that the click has dropped down
-    Press(WXK_HOME);
-    for (int i = 0; i < index; ++i) {
-        Press(WXK_DOWN);
-    }
-    WaitUntil("the item is picked", [&] { return box.ListIndex() == index; });
 }
 
 void WindowTest::ChooseSave() {
@@ -195,9 +139,13 @@ void WindowTest::PressInBox(int key, int modifiers) {
     WaitUntil("the box is gone", [&] { return boxes.ClosedCount() > closed; });
 }
 
+void WindowTest::ClickInLastBox(int answer) {
+    hands->Click(InWindow([&] { return ButtonOf(*boxes.Active(), answer); }));
+}
+
 void WindowTest::ClickInBox(int answer) {
     const auto closed = InWindow([&] { return boxes.ClosedCount(); });
-    hands->Click(InWindow([&] { return ButtonOf(*boxes.Active(), answer); }));
+    ClickInLastBox(answer);
     WaitUntil("the box is gone", [&] { return boxes.ClosedCount() > closed; });
 }
 
@@ -205,61 +153,29 @@ std::vector<std::string> WindowTest::BoxesSeen() {
     return InWindow([&] { return boxes.Seen(); });
 }
 
-std::string WindowTest::TextIn(const TextBox& box) {
-    return InWindow([&] { return dynamic_cast<wxTextCtrl&>(Real(box)).GetValue().utf8_string(); });
-}
-
-std::string WindowTest::ItemIn(const ComboBox& box) {
-    return InWindow([&] { return dynamic_cast<wxChoice&>(Real(box)).GetStringSelection().utf8_string(); });
-}
-
 bool WindowTest::IsEnabled(const Control& control) {
     return InWindow([&] { return Real(control).IsEnabled(); });
-}
-
-std::vector<std::string> WindowTest::Row(int item) {
-    return InWindow([&] {
-        std::vector<std::string> cells;
-        for (unsigned column = 0; column < RealList().GetColumnCount(); ++column) {
-            wxVariant value;
-            const auto& rows = static_cast<wxDataViewVirtualListModel&>(*RealList().GetModel());
-            rows.GetValueByRow(value, static_cast<unsigned>(item - 1), column);
-            cells.push_back(value.GetString().utf8_string());
-        }
-        return cells;
-    });
-}
-
-int WindowTest::SelectedRow() {
-    return InWindow([&] {
-        const auto selected = RealList().GetSelection();
-        return selected.IsOk() ? static_cast<int>(wxPtrToUInt(selected.GetID())) : 0;
-    });
-}
-
-bool WindowTest::IsRowVisible(int item) {
-    const auto place = PlaceOfRow(item);
-    return InWindow([&] { return RealList().GetScreenRect().Contains(place); });
 }
 
 std::string WindowTest::Status() {
     return InWindow([&] { return RealFrame().GetStatusBar()->GetStatusText().utf8_string(); });
 }
 
+std::string WindowTest::OnClipboard() {
+    return InWindow([&] {
+        wxTextDataObject text;
+        const wxClipboardLocker open;
+        wxTheClipboard->GetData(text);
+        return text.GetText().utf8_string();
+    });
+}
+
 wxPoint WindowTest::PlaceOf(const Control& control) {
     return InWindow([&] { return MiddleOnScreen(Real(control)); });
 }
 
-wxPoint WindowTest::PlaceOfRow(int item) {
-    return InWindow([&] {
-        const wxDataViewItem row(wxUIntToPtr(static_cast<unsigned>(item)));
-        const wxRect place = RealList().GetItemRect(row, RealList().GetColumn(0));
-        return RealList().ClientToScreen(wxPoint(place.x + place.width / 2, place.y + place.height / 2));
-    });
-}
-
-wxPoint WindowTest::PlaceOfArrow(std::size_t arrow) {
-    return InWindow([&] { return MiddleOnScreen(*Real(page().cmdUpDown).GetChildren()[arrow]); });
+wxPoint WindowTest::PlaceOfArrow(const UpDown& arrows, std::size_t arrow) {
+    return InWindow([&] { return MiddleOnScreen(*Real(arrows).GetChildren()[arrow]); });
 }
 
 void WindowTest::WaitForFocus(const Control& control) {
@@ -273,14 +189,6 @@ void WindowTest::WaitForStatus(const std::string& text) {
               [&] { return RealFrame().GetStatusBar()->GetStatusText() == text; });
 }
 
-void WindowTest::WaitForSelection(int item) {
-    WaitUntil("row " + std::to_string(item) + " is selected", [&] {
-        const auto selected = RealList().GetSelection();
-        return page().lstRulesList.Selected() == item && selected.IsOk() &&
-               wxPtrToUInt(selected.GetID()) == static_cast<unsigned>(item);
-    });
-}
-
 wxWindow& WindowTest::Real(const Control& control) {
     auto* window = wxWindow::FindWindowByName(ToShown(Windows1252(), control.Name()));
     if (window == nullptr) {
@@ -291,10 +199,6 @@ wxWindow& WindowTest::Real(const Control& control) {
 
 wxFrame& WindowTest::RealFrame() {
     return dynamic_cast<wxFrame&>(*wxTheApp->GetTopWindow());
-}
-
-wxDataViewCtrl& WindowTest::RealList() {
-    return dynamic_cast<wxDataViewCtrl&>(Real(page().lstRulesList));
 }
 
 } // namespace zy::test

@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <chrono>
 #include <clocale>
 #include <cstdint>
+#include <ctime>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -173,6 +175,18 @@ TEST(DecimalSeparator, LeavesTheLocaleOfTheProgramAlone) {
     const NumberLocale locale(",");
     EXPECT_EQ(Started().DecimalSeparator(), ',');
     EXPECT_EQ(std::setlocale(LC_ALL, nullptr), before);
+}
+
+TEST(Today, IsTheDateWhereTheUserIs) {
+    const auto dateIn = [](const char* zone) {
+        const EnvironmentVariable variable("TZ", zone);
+        ::tzset();
+        return std::chrono::sys_days(Started().Today());
+    };
+    const auto now = std::chrono::floor<std::chrono::days>(std::chrono::system_clock::now());
+    EXPECT_LE(std::chrono::abs(dateIn("UTC") - now), std::chrono::days(1))
+        << "midnight may have come in between";
+    EXPECT_GE(dateIn("UTC-26") - dateIn("UTC+24"), std::chrono::days(2)) << "fifty hours apart";
 }
 
 } // namespace

@@ -17,6 +17,7 @@ class NoDialogs final : public Dialogs {
     bool AskYesNo(std::string_view /*text*/, std::string_view /*title*/, Escape /*escape*/) override {
         return false;
     }
+    void ShowForm(Form& /*form*/) override {}
 };
 
 constexpr const char* kArguments[] = {"zyGlobal", "@UNITS"};

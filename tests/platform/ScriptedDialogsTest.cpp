@@ -103,6 +103,33 @@ TEST(ScriptedDialogsTest, ForgetFailuresThatWereAskedFor) {
     EXPECT_THAT(dialogs.Failures(), IsEmpty());
 }
 
+/// A dialog, as far as platform knows one.
+Form& AnyForm() {
+    static int standIn = 0;
+    return reinterpret_cast<Form&>(standIn); // handed on, never looked at
+}
+
+TEST(ScriptedDialogsTest, LetThePersonOfTheScriptUseADialog) {
+    ScriptedDialogs dialogs;
+    const Form* used = nullptr;
+    dialogs.ExpectForm([&](Form& form) {
+        used = &form;
+        dialogs.ShowMessage("inside", "title");
+    });
+    dialogs.ExpectMessage("inside", "title");
+    dialogs.ShowForm(AnyForm());
+    EXPECT_EQ(used, &AnyForm());
+    EXPECT_THAT(dialogs.Failures(), IsEmpty());
+}
+
+TEST(ScriptedDialogsTest, TellOfADialogThatWasNotExpectedAndOfOneThatDidNotCome) {
+    ScriptedDialogs dialogs;
+    dialogs.ShowForm(AnyForm());
+    EXPECT_THAT(dialogs.Failures(), ElementsAre(HasSubstr("unexpected")));
+    dialogs.ExpectForm([](Form&) {});
+    EXPECT_THAT(dialogs.Failures(), ElementsAre(HasSubstr("never shown")));
+}
+
 TEST(ScriptedDialogsTest, ShowABoxInAFailedTest) {
     std::ostringstream out;
     out << ShownBox{.text = "q", .title = "t", .escape = Escape::IsIgnored};

@@ -101,5 +101,9 @@ TEST_P(SystemInfoContract, GivesAPointWhereTheLocaleHasOne) {
     EXPECT_EQ(start->System().DecimalSeparator(), '.');
 }
 
+TEST_P(SystemInfoContract, GivesADateOfTheCalendar) {
+    EXPECT_TRUE(start->System().Today().ok());
+}
+
 } // namespace
 } // namespace zy::test

@@ -1,0 +1,262 @@
+#include <wx/grid.h>
+#include <wx/uiaction.h>
+
+#include "UnitsWindow.h"
+
+namespace zy::test {
+namespace {
+
+using ::testing::ElementsAre;
+
+class GridSelection : public UnitsWindow {
+  protected:
+    /// The block that is drawn as selected: its first row and column, its last row and column. Empty without one.
+    std::vector<int> ShownBlock() {
+        return InWindow([&] {
+            std::vector<int> edges;
+            for (const auto& block : RealGrid().GetSelectedBlocks()) {
+                edges.insert(edges.end(), {block.GetTopRow() + 1, block.GetLeftCol(), block.GetBottomRow() + 1,
+                                           block.GetRightCol()});
+            }
+            return edges;
+        });
+    }
+    void WaitForBlockEnd(int row, int column) {
+        WaitUntil("the block reaches to " + std::to_string(row) + "," + std::to_string(column),
+                  [&] { return grid().BlockEnd() == Cell{row, column}; });
+    }
+};
+
+TEST_F(GridSelection, NoCellIsCurrentAtFirst) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        EXPECT_EQ(InWindow([&] { return grid().Row(); }), -1);
+        EXPECT_EQ(InWindow([&] { return RealGrid().GetCellHighlightPenWidth(); }), 0);
+        EXPECT_FALSE(InWindow([&] { return page().cmdDeleteUnit.Enabled(); }));
+    });
+}
+
+TEST_F(GridSelection, WhoeverComesToTheGridByTabStandsOnTheFirstCell) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        Press(WXK_TAB);
+        Press(WXK_TAB);
+        WaitForFocus(grid());
+        WaitForCell(1, 0);
+        EXPECT_GT(InWindow([&] { return RealGrid().GetCellHighlightPenWidth(); }), 0);
+        Press(WXK_DOWN);
+        Press(WXK_RIGHT);
+        WaitForCell(2, 1);
+    });
+}
+
+TEST_F(GridSelection, ArrowsHomeAndEndMoveTheCurrentCell) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        ClickCell(2, 0);
+        Press(WXK_END);
+        WaitForCell(2, 1);
+        Press(WXK_HOME);
+        WaitForCell(2, 0);
+        Press(WXK_UP);
+        Press(WXK_UP);
+        WaitForCell(1, 0);
+    });
+}
+
+TEST_F(GridSelection, PageDownAndCtrlEndMoveTheModelToo) {
+    PutUnits(ManyUnits(500));
+    Play([&] {
+        ClickCell(1, 0);
+        Press(WXK_PAGEDOWN);
+        WaitUntil("the cell is a page down", [&] { return grid().Row() > 10; });
+        EXPECT_EQ(InWindow([&] { return RealGrid().GetGridCursorRow() + 1 - grid().Row(); }), 0);
+        Press(WXK_END, wxMOD_CONTROL);
+        WaitForCell(500, 1);
+        EXPECT_TRUE(IsOnScreen(500));
+        Press(WXK_HOME, wxMOD_CONTROL);
+        WaitForCell(1, 0);
+        EXPECT_TRUE(IsOnScreen(1));
+    });
+}
+
+TEST_F(GridSelection, ShiftWithArrowsSelectsABlock) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        ClickCell(1, 0);
+        Press(WXK_DOWN, wxMOD_SHIFT);
+        Press(WXK_RIGHT, wxMOD_SHIFT);
+        WaitForBlockEnd(2, 1);
+        EXPECT_THAT(ShownBlock(), ElementsAre(1, 0, 2, 1));
+        Press(WXK_UP, wxMOD_SHIFT);
+        WaitForBlockEnd(1, 1);
+        EXPECT_THAT(ShownBlock(), ElementsAre(1, 0, 1, 1));
+        Press(WXK_DOWN);
+        WaitForCell(2, 0);
+        EXPECT_THAT(ShownBlock(), ElementsAre());
+    });
+}
+
+TEST_F(GridSelection, ShiftWithPageDownSelectsABlockToo) {
+    PutUnits(ManyUnits(500));
+    Play([&] {
+        ClickCell(2, 0);
+        Press(WXK_PAGEDOWN, wxMOD_SHIFT);
+        WaitUntil("the block is a page long", [&] { return grid().BlockEnd().row > 10; });
+        EXPECT_EQ(InWindow([&] { return grid().Row(); }), 2);
+        EXPECT_EQ(ShownBlock().at(2), InWindow([&] { return grid().BlockEnd().row; }));
+    });
+}
+
+TEST_F(GridSelection, TheMouseSelectsABlock) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        DragOverCells({3, 1}, {2, 0});
+        WaitForBlockEnd(2, 0);
+        WaitForCell(3, 1);
+        EXPECT_THAT(ShownBlock(), ElementsAre(2, 0, 3, 1));
+        ClickCell(1, 0);
+        WaitForBlockEnd(1, 0);
+        EXPECT_THAT(ShownBlock(), ElementsAre());
+    });
+}
+
+TEST_F(GridSelection, AClickWithShiftStretchesTheBlock) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        ClickCell(1, 0);
+        hands->HoldKey(WXK_SHIFT);
+        hands->Click(PlaceOfCell(3, 1));
+        hands->LetGoOfKey(WXK_SHIFT);
+        WaitForBlockEnd(3, 1);
+        WaitForCell(1, 0);
+    });
+}
+
+TEST_F(GridSelection, AWholeColumnSelectedByKeysBeginsAtItsTop) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        ClickCell(2, 1);
+        Press(WXK_SPACE, wxMOD_CONTROL);
+        WaitForBlockEnd(3, 1);
+        WaitForCell(1, 1);
+        EXPECT_THAT(ShownBlock(), ElementsAre(1, 1, 3, 1));
+    });
+}
+
+TEST_F(GridSelection, WhatTheProgramSelectsIsShown) {
+    PutUnits(ManyUnits(300));
+    Play([&] {
+        InWindow([&] {
+            desktop.Gate().Act([&] {
+                grid().Select(250, 0);
+                grid().SelectTo(252, 1);
+            });
+        });
+        WaitForCell(250, 0);
+        EXPECT_THAT(ShownBlock(), ElementsAre(250, 0, 252, 1));
+        EXPECT_TRUE(IsOnScreen(250));
+        EXPECT_TRUE(IsOnScreen(252));
+    });
+}
+
+TEST_F(GridSelection, AClickOnTheHeaderSelectsNothing) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        std::vector<int> pressed;
+        grid().mouseDown.Connect([&](int button, int row, int column) { pressed = {button, row, column}; });
+        hands->Click(InWindow([&] {
+            auto* header = RealGrid().GetGridColLabelWindow();
+            return header->ClientToScreen(wxPoint(RealGrid().GetColSize(0) + 40, header->GetSize().y / 2));
+        }));
+        WaitUntil("the click has come", [&] { return !pressed.empty(); });
+        EXPECT_THAT(pressed, ElementsAre(1, 0, 1));
+        EXPECT_THAT(ShownBlock(), ElementsAre());
+        EXPECT_EQ(InWindow([&] { return grid().Row(); }), -1);
+    });
+}
+
+TEST_F(GridSelection, TheRightButtonIsToldWithItsCell) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        std::vector<int> pressed;
+        grid().mouseDown.Connect([&](int button, int row, int column) { pressed = {button, row, column}; });
+        const auto place = PlaceOfCell(2, 1);
+        InWindow([&] { wxUIActionSimulator().MouseMove(place); });
+        InWindow([] { wxUIActionSimulator().MouseClick(wxMOUSE_BTN_RIGHT); });
+        WaitUntil("the click has come", [&] { return !pressed.empty(); });
+        EXPECT_THAT(pressed, ElementsAre(2, 2, 1));
+    });
+}
+
+TEST_F(GridSelection, TabGoesFromCellToCell) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        ClickCell(1, 1);
+        Press(WXK_TAB);
+        WaitForCell(2, 0);
+        Press(WXK_TAB, wxMOD_SHIFT);
+        WaitForCell(1, 1);
+    });
+}
+
+TEST_F(GridSelection, TabInTheEditorCommitsAndGoesOn) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        ClickCell(1, 0);
+        Type("lb");
+        Press(WXK_TAB);
+        WaitForCell(1, 1);
+        EXPECT_EQ(Shown(1, 0), "lb");
+        WaitForFocus(grid());
+    });
+}
+
+TEST_F(GridSelection, TabAtTheLastCellGoesOnToTheAddButton) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        ClickCell(3, 1);
+        Press(WXK_TAB);
+        WaitForFocus(page().cmdAddUNit);
+        WaitForCell(1, 0);
+    });
+}
+
+TEST_F(GridSelection, TabAtTheLastCellCommitsFirst) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        ClickCell(3, 1);
+        Type("Days");
+        Press(WXK_TAB);
+        WaitForFocus(page().cmdAddUNit);
+        WaitForNoEditor();
+        EXPECT_EQ(Shown(3, 1), "Days");
+    });
+}
+
+TEST_F(GridSelection, ShiftTabAtTheFirstCellGoesOnToTheHelpButton) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        ClickCell(1, 0);
+        Press(WXK_TAB, wxMOD_SHIFT);
+        WaitForFocus(page().cmdHelpUnits);
+        WaitForCell(3, 1);
+    });
+}
+
+TEST_F(GridSelection, TabLeavesAnEmptyGridBothWays) {
+    Play([&] {
+        Press(WXK_TAB);
+        Press(WXK_TAB);
+        WaitForFocus(grid());
+        Press(WXK_TAB);
+        WaitForFocus(page().cmdAddUNit);
+        Press(WXK_TAB, wxMOD_SHIFT);
+        WaitForFocus(grid());
+        Press(WXK_TAB, wxMOD_SHIFT);
+        WaitForFocus(page().UpDownUnits);
+    });
+}
+
+} // namespace
+} // namespace zy::test

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <optional>
+
+#include "WindowTest.h"
+
+class wxDataViewCtrl;
+
+namespace zy::test {
+
+/// The rules editor in its real window.
+class RulesWindow : public WindowTest {
+  protected:
+    RulesWindow() : WindowTest("@RULES") {}
+
+    /// Puts a rules file on the disk, each rule given as "code|min|max|cond|zone|description".
+    void PutRules(const std::vector<std::string>& rules);
+    /// Some rules that differ in all their fields.
+    static std::vector<std::string> ThreeRules();
+    static std::vector<std::string> ManyRules(int count);
+    /// The bytes of a rules file.
+    static std::string FileOf(const std::vector<std::string>& rules);
+    std::optional<std::string> File() const { return world.files.Get(R"(C:\SYS\ZYRules.sys)"); }
+
+    // What the person does.
+    void ClickRow(int item) { hands->Click(PlaceOfRow(item)); }
+    void ClickUp() { WindowTest::ClickUp(page().cmdUpDown); }
+    void ClickDown() { WindowTest::ClickDown(page().cmdUpDown); }
+    /// Replaces the text of a box, as typed.
+    void Fill(const TextBox& box, const std::string& text);
+    /// Picks an item of a drop-down list with the mouse.
+    void PickItem(const ComboBox& box, int index);
+
+    // What the person sees.
+    std::string TextIn(const TextBox& box);
+    std::string ItemIn(const ComboBox& box);
+    std::vector<std::string> Row(int item);
+    int SelectedRow();
+    bool IsRowVisible(int item);
+    wxPoint PlaceOfRow(int item);
+
+    void WaitForSelection(int item);
+
+    /// The real list. For the window's thread.
+    wxDataViewCtrl& RealList();
+
+    RulesControls& page() { return program->rulesPage.controls; }
+};
+
+} // namespace zy::test
