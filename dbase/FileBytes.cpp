@@ -3,19 +3,6 @@
 #include "dbase/Errors.h"
 
 namespace zy::dbase {
-namespace {
-
-FileError WriteAll(FileHandle& file, std::string_view bytes) {
-    if (const auto error = file.Write(bytes); error != FileError::None) {
-        return error;
-    }
-    if (const auto error = file.Flush(); error != FileError::None) {
-        return error;
-    }
-    return file.Close();
-}
-
-} // namespace
 
 std::string ReadFile(FileSystem& files, std::string_view path) {
     const auto opened = files.OpenForReading(path);
@@ -39,7 +26,7 @@ FileError WriteNewFile(FileSystem& files, std::string_view path, std::string_vie
     if (!created.handle) {
         return created.error;
     }
-    const auto error = WriteAll(*created.handle, bytes);
+    const auto error = WriteAndClose(*created.handle, bytes);
     created.handle.reset();
     if (error != FileError::None) {
         files.Delete(path);
@@ -53,7 +40,7 @@ FileError WriteOverFile(FileSystem& files, std::string_view path, std::string_vi
         return FileError::NotFound;
     }
     const auto created = files.Create(path);
-    return created.handle ? WriteAll(*created.handle, bytes) : created.error;
+    return created.handle ? WriteAndClose(*created.handle, bytes) : created.error;
 }
 
 } // namespace zy::dbase

@@ -32,12 +32,9 @@ void INIfile::SaveFile(std::string_view Filename) {
         files_.Delete(Filename);
     }
     const auto created = files_.Create(Filename);
-    if (!created.handle) {
-        return;
+    if (created.handle) {
+        WriteAndClose(*created.handle, text.Get()); // a failure is silent, which is meant
     }
-    created.handle->Write(text.Get());
-    created.handle->Flush();
-    created.handle->Close();
 }
 
 } // namespace zy

@@ -26,6 +26,10 @@ class FileHandle {
     virtual FileError Close() = 0;
 };
 
+/// Writes the whole text, waits until it stands on the disk and closes the file. Returns the first error; the
+/// file is closed all the same.
+FileError WriteAndClose(FileHandle& file, std::string_view text);
+
 /// A handle, or the reason why there is none.
 struct OpenedFile {
     std::unique_ptr<FileHandle> handle;

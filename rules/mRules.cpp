@@ -76,14 +76,7 @@ bool mRules::WriteTemporary(const std::string& temporary, const std::string& tex
         Report("Not saved, Rules.tmp could not be created", created.error);
         return false;
     }
-    auto error = created.handle->Write(text);
-    if (error == FileError::None) {
-        error = created.handle->Flush();
-    }
-    const auto closed = created.handle->Close();
-    if (error == FileError::None) {
-        error = closed;
-    }
+    const auto error = WriteAndClose(*created.handle, text);
     if (error != FileError::None) {
         world_.files.Delete(temporary);
         Report("Not saved, Rules.tmp could not be written", error);

@@ -9,18 +9,6 @@
 #include "units/UnitsFileText.h"
 
 namespace zy {
-namespace {
-
-FileError WriteAndClose(FileHandle& file, std::string_view text) {
-    auto error = file.Write(text);
-    if (error == FileError::None) {
-        error = file.Flush();
-    }
-    const auto closed = file.Close();
-    return error == FileError::None ? closed : error;
-}
-
-} // namespace
 
 mUnits::mUnits(UnitsControls& controls, SharedState& state, TraceChannel& trace, const World& world)
     : controls_(controls), state_(state), trace_(trace), world_(world) {}

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zy {
+namespace zy::test {
 namespace {
 
 TEST(Bool16, StartsFalse) {
@@ -22,4 +22,4 @@ TEST(Bool16, TakesAnyOtherValueForFalse) {
 }
 
 } // namespace
-} // namespace zy
+} // namespace zy::test

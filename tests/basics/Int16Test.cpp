@@ -3,19 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "basics/RuntimeError.h"
+#include "support/RaisedError.h"
 
-namespace zy {
+namespace zy::test {
 namespace {
-
-template <typename Action>
-int ErrorNumber(const Action& action) {
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        return error.Number();
-    }
-    return 0;
-}
 
 TEST(Int16, HoldsEveryValueOfSixteenBits) {
     EXPECT_EQ(Int16(32767), 32767);
@@ -65,4 +56,4 @@ TEST(Int16, RaisesOverflowForANumberInTextThatIsTooLarge) {
 }
 
 } // namespace
-} // namespace zy
+} // namespace zy::test

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 #include <string>
 
-namespace zy {
+namespace zy::test {
 namespace {
 
 struct Numeric {
@@ -57,4 +57,4 @@ TEST(ParseNumber, ComesOutZeroBelowTheRangeOfADouble) {
 }
 
 } // namespace
-} // namespace zy
+} // namespace zy::test

@@ -1,33 +1,24 @@
 #include "basics/RuntimeError.h"
+#include "support/RaisedError.h"
 
 #include <gtest/gtest.h>
 
-namespace zy {
+namespace zy::test {
 namespace {
-
-template <typename Action>
-RuntimeError Caught(const Action& action) {
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        return error;
-    }
-    return {0, "nothing was raised"};
-}
 
 TEST(RuntimeError, BoxTextHoldsNumberEmptyLineAndDescription) {
     EXPECT_EQ(RuntimeError(6, "Overflow").BoxText(), "Run-time error '6':\n\nOverflow");
 }
 
 TEST(RuntimeError, EachKindHasItsNumberAndDescription) {
-    EXPECT_EQ(Caught(RaiseOverflow).BoxText(), "Run-time error '6':\n\nOverflow");
-    EXPECT_EQ(Caught(RaiseSubscriptOutOfRange).BoxText(), "Run-time error '9':\n\nSubscript out of range");
-    EXPECT_EQ(Caught(RaiseTypeMismatch).BoxText(), "Run-time error '13':\n\nType mismatch");
+    EXPECT_EQ(RaisedBy(RaiseOverflow).BoxText(), "Run-time error '6':\n\nOverflow");
+    EXPECT_EQ(RaisedBy(RaiseSubscriptOutOfRange).BoxText(), "Run-time error '9':\n\nSubscript out of range");
+    EXPECT_EQ(RaisedBy(RaiseTypeMismatch).BoxText(), "Run-time error '13':\n\nType mismatch");
 }
 
 TEST(RuntimeError, TellsItsDescriptionToWhoeverCatchesAnException) {
-    EXPECT_STREQ(Caught(RaiseOverflow).what(), "Overflow");
+    EXPECT_STREQ(RaisedBy(RaiseOverflow).what(), "Overflow");
 }
 
 } // namespace
-} // namespace zy
+} // namespace zy::test

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zy {
+namespace zy::test {
 namespace {
 
 TEST(Trim, TakesBlanksOffBothEnds) {
@@ -29,4 +29,4 @@ TEST(Contains, FindsACharacterAnywhere) {
 }
 
 } // namespace
-} // namespace zy
+} // namespace zy::test

@@ -6,7 +6,7 @@
 #include <random>
 #include <stdexcept>
 
-namespace zy {
+namespace zy::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -104,4 +104,4 @@ TEST(CellTexts, AreThoseOfAPlainListAfterManyChanges) {
 }
 
 } // namespace
-} // namespace zy
+} // namespace zy::test

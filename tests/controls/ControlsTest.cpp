@@ -9,22 +9,13 @@
 #include "controls/StatusBar.h"
 #include "controls/TextBox.h"
 #include "controls/UpDown.h"
+#include "support/RaisedError.h"
 
-namespace zy {
+namespace zy::test {
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-template <typename Action>
-int ErrorNumber(const Action& action) {
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        return error.Number();
-    }
-    return 0;
-}
 
 /// A visible form, and a list of what its controls announced.
 class ControlsTest : public ::testing::Test {
@@ -281,4 +272,4 @@ TEST_F(ControlsTest, ADisabledMenuEntryDoesNothing) {
 }
 
 } // namespace
-} // namespace zy
+} // namespace zy::test

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-namespace zy {
+namespace zy::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -80,4 +80,4 @@ TEST(CopiedCells, AreQuotedOnlyWhenTheyMustBe) {
 }
 
 } // namespace
-} // namespace zy
+} // namespace zy::test

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-namespace zy {
+namespace zy::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -84,4 +84,4 @@ TEST_F(EventTest, LetsASubscriptionOutliveIt) {
 }
 
 } // namespace
-} // namespace zy
+} // namespace zy::test

@@ -4,7 +4,7 @@
 #include "controls/Form.h"
 #include "controls/TextBox.h"
 
-namespace zy {
+namespace zy::test {
 namespace {
 
 /// A form with two boxes and a button, whose first box can refuse to be left.
@@ -141,4 +141,4 @@ TEST_F(FocusTest, KnowsTheFormThatAControlStandsOn) {
 }
 
 } // namespace
-} // namespace zy
+} // namespace zy::test

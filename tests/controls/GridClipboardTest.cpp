@@ -1,6 +1,6 @@
 #include "GridTest.h"
 
-namespace zy {
+namespace zy::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -141,4 +141,4 @@ TEST_F(GridTest, DoesNotGrowWithWhatWasPastedOver) {
 }
 
 } // namespace
-} // namespace zy
+} // namespace zy::test

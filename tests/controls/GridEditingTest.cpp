@@ -1,6 +1,6 @@
 #include "GridTest.h"
 
-namespace zy {
+namespace zy::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -184,4 +184,4 @@ TEST_F(GridTest, TellsItsViewWhenTheEditorOpensClosesOrGetsAnotherText) {
 }
 
 } // namespace
-} // namespace zy
+} // namespace zy::test

@@ -1,6 +1,6 @@
 #include "GridTest.h"
 
-namespace zy {
+namespace zy::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -148,4 +148,4 @@ TEST_F(GridTest, MovesNowhereWithoutARow) {
 }
 
 } // namespace
-} // namespace zy
+} // namespace zy::test

@@ -1,6 +1,6 @@
 #include "GridTest.h"
 
-namespace zy {
+namespace zy::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -194,4 +194,4 @@ TEST_F(GridTest, LetsNoOneWorkOnItWhileItIsDisabled) {
 }
 
 } // namespace
-} // namespace zy
+} // namespace zy::test

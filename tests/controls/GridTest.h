@@ -10,8 +10,9 @@
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
 #include "controls/Grid.h"
+#include "support/RaisedError.h"
 
-namespace zy {
+namespace zy::test {
 
 /// A grid of three columns and two rows, and a list of what it announced.
 class GridTest : public ::testing::Test {
@@ -45,16 +46,6 @@ class GridTest : public ::testing::Test {
         EXPECT_EQ(grid.Row(), row);
         EXPECT_EQ(grid.Column(), column);
     }
-    /// The number of the run-time error that the action raises; 0 when it raises none.
-    template <typename Action>
-    static int ErrorNumber(const Action& action) {
-        try {
-            action();
-        } catch (const RuntimeError& error) {
-            return error.Number();
-        }
-        return 0;
-    }
 
     Form form{"frm"};
     Grid grid{&form, "grd", 3};
@@ -62,4 +53,4 @@ class GridTest : public ::testing::Test {
     std::vector<std::string> notes;
 };
 
-} // namespace zy
+} // namespace zy::test

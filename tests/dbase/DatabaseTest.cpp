@@ -12,7 +12,7 @@ using ::testing::ElementsAre;
 
 TEST_F(DatabaseTest, OpensFoldersOfOneKindOnly) {
     for (const auto* connect : {"", "dBase IV", "dBase III;", "Excel"}) {
-        EXPECT_EQ(ErrorOf([&] { engine.OpenDatabase(kFolder, false, false, connect); }), kNoSuchKind)
+        EXPECT_EQ(ErrorNumber([&] { engine.OpenDatabase(kFolder, false, false, connect); }), kNoSuchKind)
             << connect;
     }
     EXPECT_NE(engine.OpenDatabase(kFolder, true, false, "DBASE iii"), nullptr);
@@ -26,10 +26,11 @@ TEST_F(DatabaseTest, TakesAFolderWithOrWithoutItsLastSeparator) {
 
 TEST_F(DatabaseTest, ShowsAMissingFolderWithTheFirstTable) {
     database = engine.OpenDatabase(R"(C:\MISSING)", false, false, "dBase III");
-    EXPECT_EQ(ErrorOf([&] { NamesIn("T"); }), kNoSuchTable);
+    EXPECT_EQ(ErrorNumber([&] { NamesIn("T"); }), kNoSuchTable);
     const auto raised = RaisedByRun("CREATE TABLE T (A TEXT(1))");
-    EXPECT_EQ(raised.number, kBadPath);
-    EXPECT_EQ(raised.text, R"('C:\MISSING\T.DBF' cannot be written: the file or folder does not exist.)");
+    EXPECT_EQ(raised.Number(), kBadPath);
+    EXPECT_EQ(raised.Description(),
+              R"('C:\MISSING\T.DBF' cannot be written: the file or folder does not exist.)");
 }
 
 TEST_F(DatabaseTest, FindsATableInAnyCase) {
@@ -45,17 +46,17 @@ TEST_F(DatabaseTest, ChangesNothingWhenItIsForReadingOnly) {
     EXPECT_THAT(NamesIn("T"), ElementsAre("Ada"));
     for (const auto* sql :
          {"CREATE TABLE U (A TEXT(1))", "INSERT INTO T (NAME) VALUES ('x')", "CREATE INDEX I ON T (NAME)"}) {
-        EXPECT_EQ(RaisedByRun(sql).number, kReadOnly);
+        EXPECT_EQ(RaisedByRun(sql).Number(), kReadOnly);
     }
     EXPECT_THAT(Names(), ElementsAre("T.DBF"));
 }
 
 TEST_F(DatabaseTest, IsOfNoUseOnceItIsClosed) {
     database->Close();
-    EXPECT_EQ(ErrorOf([&] { database->OpenRecordset("T", RecordsetType::Dynaset); }), kClosed);
-    EXPECT_EQ(RaisedByRun("CREATE TABLE T (A TEXT(1))").number, kClosed);
-    EXPECT_EQ(ErrorOf([&] { database->Flush(); }), kClosed);
-    EXPECT_EQ(ErrorOf([&] { database->Close(); }), kClosed);
+    EXPECT_EQ(ErrorNumber([&] { database->OpenRecordset("T", RecordsetType::Dynaset); }), kClosed);
+    EXPECT_EQ(RaisedByRun("CREATE TABLE T (A TEXT(1))").Number(), kClosed);
+    EXPECT_EQ(ErrorNumber([&] { database->Flush(); }), kClosed);
+    EXPECT_EQ(ErrorNumber([&] { database->Close(); }), kClosed);
 }
 
 // Recordsets
@@ -76,8 +77,8 @@ TEST_F(DatabaseTest, HasNoRecordBehindTheLastOne) {
     Put("T.DBF", TableBytes({{"NAME", 6}}).Add(' ', {"Ada"}).Bytes());
     const auto records = database->OpenRecordset("T", RecordsetType::Dynaset);
     records->MoveNext();
-    EXPECT_EQ(ErrorOf([&] { records->MoveNext(); }), kNoCurrentRecord);
-    EXPECT_EQ(ErrorOf([&] { static_cast<void>(records->Fields().Item(0).Value()); }), kNoCurrentRecord);
+    EXPECT_EQ(ErrorNumber([&] { records->MoveNext(); }), kNoCurrentRecord);
+    EXPECT_EQ(ErrorNumber([&] { static_cast<void>(records->Fields().Item(0).Value()); }), kNoCurrentRecord);
 }
 
 TEST_F(DatabaseTest, GoesToTheFirstOfNoRecordsWithoutAnError) {
@@ -86,7 +87,7 @@ TEST_F(DatabaseTest, GoesToTheFirstOfNoRecordsWithoutAnError) {
     EXPECT_TRUE(records->Eof());
     records->MoveFirst();
     EXPECT_TRUE(records->Eof());
-    EXPECT_EQ(ErrorOf([&] { records->MoveNext(); }), kNoCurrentRecord);
+    EXPECT_EQ(ErrorNumber([&] { records->MoveNext(); }), kNoCurrentRecord);
 }
 
 TEST_F(DatabaseTest, CountsColumnsFromNought) {
@@ -95,17 +96,17 @@ TEST_F(DatabaseTest, CountsColumnsFromNought) {
     EXPECT_EQ(records->Fields().Count(), 5);
     EXPECT_EQ(records->Fields().Item(0).Name(), "USERID");
     EXPECT_EQ(records->Fields().Item(4).Name(), "STATUS");
-    EXPECT_EQ(ErrorOf([&] { records->Fields().Item(-1); }), kNoSuchItem);
-    EXPECT_EQ(ErrorOf([&] { records->Fields().Item(5); }), kNoSuchItem);
+    EXPECT_EQ(ErrorNumber([&] { records->Fields().Item(-1); }), kNoSuchItem);
+    EXPECT_EQ(ErrorNumber([&] { records->Fields().Item(5); }), kNoSuchItem);
 }
 
 TEST_F(DatabaseTest, ClosesARecordsetForGood) {
     Run(kCreateUsers);
     const auto records = database->OpenRecordset("ZYSECURE.TMP", RecordsetType::Dynaset);
     records->Close();
-    EXPECT_EQ(ErrorOf([&] { records->MoveFirst(); }), kClosed);
-    EXPECT_EQ(ErrorOf([&] { static_cast<void>(records->Eof()); }), kClosed);
-    EXPECT_EQ(ErrorOf([&] { static_cast<void>(records->Fields().Count()); }), kClosed);
+    EXPECT_EQ(ErrorNumber([&] { records->MoveFirst(); }), kClosed);
+    EXPECT_EQ(ErrorNumber([&] { static_cast<void>(records->Eof()); }), kClosed);
+    EXPECT_EQ(ErrorNumber([&] { static_cast<void>(records->Fields().Count()); }), kClosed);
     records->Close();
 }
 

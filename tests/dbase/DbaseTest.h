@@ -6,37 +6,18 @@
 #include <string_view>
 #include <vector>
 
-#include "basics/RuntimeError.h"
 #include "dbase/DBEngine.h"
 #include "dbase/ErrorNumbers.h"
+#include "support/RaisedError.h"
 #include "support/WorldTest.h"
 
 namespace zy::dbase::test {
 
+using zy::test::ErrorNumber;
+using zy::test::RaisedBy;
 using zy::test::WorldTest;
 using Row = std::vector<std::string>;
 using Rows = std::vector<Row>;
-
-/// What the action raises: its number and text; number 0 when it raises nothing.
-struct Raised {
-    int number = 0;
-    std::string text;
-};
-
-template <typename Action>
-Raised RaisedBy(const Action& action) {
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        return {error.Number(), error.Description()};
-    }
-    return {};
-}
-
-template <typename Action>
-int ErrorOf(const Action& action) {
-    return RaisedBy(action).number;
-}
 
 inline constexpr std::string_view kFolder = R"(C:\SYS\)";
 inline constexpr std::string_view kCreateUsers = "CREATE TABLE [ZYSECURE.TMP] (USERID TEXT (10), PASSWORD "
@@ -73,7 +54,7 @@ class DbaseTest : public WorldTest {
     }
 
     void Run(std::string_view sql) { database->Execute(sql, ExecuteOptions::FailOnError); }
-    Raised RaisedByRun(std::string_view sql) {
+    RuntimeError RaisedByRun(std::string_view sql) {
         return RaisedBy([&] { Run(sql); });
     }
 

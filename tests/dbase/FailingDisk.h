@@ -32,13 +32,13 @@ class FailingDisk : public DbaseTest {
             world.files.Plan(how);
             const auto raised = RaisedBy(action);
             EXPECT_EQ(FirstFailure(), outcome.failing);
-            EXPECT_EQ(raised.number, outcome.number) << raised.text;
+            EXPECT_EQ(raised.Number(), outcome.number) << raised.Description();
             EXPECT_THAT(Contents(), ::testing::ElementsAreArray(outcome.files));
         }
         ++how.operation;
         Begin(start);
         world.files.Plan(how);
-        EXPECT_EQ(ErrorOf(action), 0);
+        EXPECT_EQ(ErrorNumber(action), 0);
         EXPECT_EQ(world.files.Operations().Faults(), 0U) << "the action has more operations than the table";
     }
 

@@ -51,7 +51,7 @@ TEST_F(FailingReplacement, SaysWhereTheRowsStand) {
     Put("U.DBF", oldBytes);
     AddUser("BO", "U");
     world.files.Plan({.operation = 7});
-    EXPECT_EQ(RaisedBy([&] { database->Flush(); }).text,
+    EXPECT_EQ(RaisedBy([&] { database->Flush(); }).Description(),
               R"(The table stands in 'C:\SYS\U.$$$': it could not be renamed to 'C:\SYS\U.DBF', )"
               "the disk reported an error.");
 }
@@ -60,7 +60,7 @@ TEST_F(FailingReplacement, DoesNotOverwriteTheFileBesideTheTable) {
     Put("U.DBF", oldBytes);
     Put("U.$$$", "somebody's");
     AddUser("BO", "U");
-    EXPECT_EQ(ErrorOf([&] { database->Flush(); }), kTableExists);
+    EXPECT_EQ(ErrorNumber([&] { database->Flush(); }), kTableExists);
     EXPECT_EQ(Get("U.DBF"), oldBytes);
     EXPECT_EQ(Get("U.$$$"), "somebody's");
 }
@@ -93,7 +93,7 @@ class RefusedOperation : public FailingDisk {
   protected:
     int CreateWith(FileError error) {
         world.files.Plan({.operation = 1, .error = error});
-        return RaisedByRun(kCreateUsers).number;
+        return RaisedByRun(kCreateUsers).Number();
     }
 };
 
@@ -111,8 +111,8 @@ TEST_F(RefusedOperation, HasANumberOfItsOwn) {
 TEST_F(RefusedOperation, IsThatOfAFolderThatMayNotBeChanged) {
     world.files.SetFolderReadOnly(R"(C:\SYS)");
     const auto raised = RaisedByRun(kCreateUsers);
-    EXPECT_EQ(raised.number, kReadOnly);
-    EXPECT_EQ(raised.text, R"('C:\SYS\ZYSECURE.TMP' cannot be written: access is denied.)");
+    EXPECT_EQ(raised.Number(), kReadOnly);
+    EXPECT_EQ(raised.Description(), R"('C:\SYS\ZYSECURE.TMP' cannot be written: access is denied.)");
 }
 
 // A disk that is full at every byte of the users editor's save
@@ -125,7 +125,7 @@ TEST_F(FailingDisk, ThatIsFullIsNoticedBeforeTheOldTableIsDeleted) {
         Put("ZYSECURE.DBF", oldTable);
         world.files.SetCapacity(oldTable.size() + room);
         database = Open();
-        const int number = ErrorOf([&] {
+        const int number = ErrorNumber([&] {
             Run(kCreateUsers);
             for (const auto* name : {"ADA", "BO", "CY"}) {
                 engine.BeginTrans();

@@ -67,7 +67,7 @@ TEST_F(FailingFlush, KeepsTheRowsForTheNextAttempt) {
         Run(kCreateUsers);
         AddUser("ADA", "ZYSECURE.TMP");
         world.files.Plan({.operation = operation, .cutShort = true});
-        EXPECT_NE(ErrorOf([&] { database->Flush(); }), 0);
+        EXPECT_NE(ErrorNumber([&] { database->Flush(); }), 0);
         database->Flush();
         EXPECT_EQ(RowsIn("ZYSECURE.TMP").size(), 1U);
     }
@@ -84,8 +84,8 @@ TEST_F(FailingFlush, ShowsInWhateverWritesTheRows) {
         AddUser("ADA", "ZYSECURE.TMP");
         world.files.Plan({.operation = 3, .error = FileError::DiskFull});
         const auto raised = RaisedBy(action);
-        EXPECT_EQ(raised.number, kDiskFull);
-        EXPECT_EQ(raised.text, R"('C:\SYS\ZYSECURE.TMP' cannot be written: the disk is full.)");
+        EXPECT_EQ(raised.Number(), kDiskFull);
+        EXPECT_EQ(raised.Description(), R"('C:\SYS\ZYSECURE.TMP' cannot be written: the disk is full.)");
         EXPECT_THAT(Names(), ElementsAre("ZYSECURE.TMP"));
     }
 }
@@ -94,10 +94,10 @@ TEST_F(FailingFlush, ClosesTheDatabaseAllTheSame) {
     Run(kCreateUsers);
     AddUser("ADA", "ZYSECURE.TMP");
     world.files.Plan({.operation = 3});
-    EXPECT_EQ(ErrorOf([&] { database->Close(); }), kDiskFailed);
-    EXPECT_EQ(ErrorOf([&] { database->Close(); }), kClosed);
+    EXPECT_EQ(ErrorNumber([&] { database->Close(); }), kDiskFailed);
+    EXPECT_EQ(ErrorNumber([&] { database->Close(); }), kClosed);
     database = Open();
-    EXPECT_EQ(ErrorOf([&] { database->Close(); }), 0) << "nothing is left to be written";
+    EXPECT_EQ(ErrorNumber([&] { database->Close(); }), 0) << "nothing is left to be written";
 }
 
 } // namespace

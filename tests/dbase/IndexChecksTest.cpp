@@ -25,8 +25,8 @@ class IndexChecks : public ::testing::Test {
     std::string Refusal() const {
         constexpr std::string_view kFront = "'T.NDX' cannot be read: ";
         const auto raised = RaisedBy([&] { RequireIndexOf(table, IndexFile(bytes, "T.NDX")); });
-        EXPECT_THAT(raised.number, ::testing::AnyOf(0, kBadFormat));
-        return raised.text.substr(std::min(kFront.size(), raised.text.size()));
+        EXPECT_THAT(raised.Number(), ::testing::AnyOf(0, kBadFormat));
+        return raised.Description().substr(std::min(kFront.size(), raised.Description().size()));
     }
     std::string RefusalWith32At(std::size_t at, std::uint32_t value) {
         const auto before = bytes;
@@ -202,7 +202,7 @@ TEST_F(IndexChecks, TakeTheFirstOfEqualKeysAloneWhenTheIndexIsUnique) {
 
 TEST_F(IndexChecks, EndASearchInALoop) {
     Put32(bytes, EntryAt(4, 0), 4);
-    EXPECT_EQ(ErrorOf([&] { static_cast<void>(IndexFile(bytes, "T.NDX").Find("K101")); }), kBadFormat);
+    EXPECT_EQ(ErrorNumber([&] { static_cast<void>(IndexFile(bytes, "T.NDX").Find("K101")); }), kBadFormat);
     EXPECT_EQ(IndexFile(bytes, "T.NDX").Find("K150"), 51U);
 }
 

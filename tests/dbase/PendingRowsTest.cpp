@@ -58,7 +58,7 @@ TEST_F(PendingRows, DropsWhatIsPendingWhenItIsDestroyedWithoutBeingClosed) {
     engine.BeginTrans();
     Insert("ADA");
     database = Open();
-    EXPECT_EQ(ErrorOf([&] { engine.CommitTrans(); }), kNoTransaction);
+    EXPECT_EQ(ErrorNumber([&] { engine.CommitTrans(); }), kNoTransaction);
     EXPECT_THAT(NamesIn("ZYSECURE.TMP"), IsEmpty());
 }
 
@@ -75,7 +75,7 @@ TEST_F(PendingRows, DoesNotMakeATableAnewThatOthersHaveTakenAway) {
     Run(kCreateUsers);
     Insert("ADA");
     world.files.Take(PathOf("ZYSECURE.TMP"));
-    EXPECT_EQ(ErrorOf([&] { database->Flush(); }), kBadPath);
+    EXPECT_EQ(ErrorNumber([&] { database->Flush(); }), kBadPath);
     EXPECT_THAT(Names(), IsEmpty());
 }
 

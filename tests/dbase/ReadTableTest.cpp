@@ -126,7 +126,7 @@ TEST_F(ReadTable, FindsAColumnByItsNameInAnyCase) {
     const auto records = database->OpenRecordset("t", RecordsetType::Dynaset);
     EXPECT_EQ(records->Fields().Item("nAME").Value(), "first");
     EXPECT_EQ(records->Fields().Item("city").Value(), "Rome");
-    EXPECT_EQ(ErrorOf([&] { records->Fields().Item("CIT"); }), kNoSuchItem);
+    EXPECT_EQ(ErrorNumber([&] { records->Fields().Item("CIT"); }), kNoSuchItem);
 }
 
 TEST_F(ReadTable, TakesANameOfElevenCharacters) {

@@ -16,13 +16,13 @@ class RefusedTables : public DbaseTest {
         constexpr std::string_view kFront = R"('C:\SYS\T.DBF' cannot be read: )";
         Put("T.DBF", bytes);
         const auto raised = RaisedBy([&] { RowsIn("T"); });
-        EXPECT_EQ(raised.number, kBadFormat);
-        EXPECT_EQ(RaisedByRun("INSERT INTO T (NAME) VALUES ('x')").number, kBadFormat);
-        EXPECT_EQ(RaisedByRun("CREATE INDEX I ON T (NAME)").number, kBadFormat);
+        EXPECT_EQ(raised.Number(), kBadFormat);
+        EXPECT_EQ(RaisedByRun("INSERT INTO T (NAME) VALUES ('x')").Number(), kBadFormat);
+        EXPECT_EQ(RaisedByRun("CREATE INDEX I ON T (NAME)").Number(), kBadFormat);
         EXPECT_EQ(Get("T.DBF"), bytes);
         EXPECT_EQ(Get("I.NDX"), "no file");
-        EXPECT_THAT(raised.text, StartsWith(kFront));
-        return raised.text.substr(std::min(kFront.size(), raised.text.size()));
+        EXPECT_THAT(raised.Description(), StartsWith(kFront));
+        return raised.Description().substr(std::min(kFront.size(), raised.Description().size()));
     }
     static TableBytes Table() { return TableBytes({{"NAME", 6}, {"CITY", 4}}).Add(' ', {"Ada", "Rome"}); }
 };
@@ -97,35 +97,36 @@ TEST_F(RefusedTables, HaveColumnsWiderThanAnyRecord) {
 
 TEST_F(RefusedTables, AreNotThere) {
     const auto raised = RaisedBy([&] { RowsIn("T"); });
-    EXPECT_EQ(raised.number, kNoSuchTable);
-    EXPECT_EQ(raised.text, R"('C:\SYS\T.DBF' cannot be opened: the file or folder does not exist.)");
+    EXPECT_EQ(raised.Number(), kNoSuchTable);
+    EXPECT_EQ(raised.Description(), R"('C:\SYS\T.DBF' cannot be opened: the file or folder does not exist.)");
 }
 
 TEST_F(RefusedTables, AreFolders) {
     world.files.AddFolder(PathOf("T.DBF"));
     const auto raised = RaisedBy([&] { RowsIn("T"); });
-    EXPECT_EQ(raised.number, kCannotOpen);
-    EXPECT_EQ(raised.text, R"('C:\SYS\T.DBF' cannot be opened: a folder of that name is in the way.)");
+    EXPECT_EQ(raised.Number(), kCannotOpen);
+    EXPECT_EQ(raised.Description(),
+              R"('C:\SYS\T.DBF' cannot be opened: a folder of that name is in the way.)");
 }
 
 TEST_F(RefusedTables, MayNotBeRead) {
     Put("T.DBF", Table().Bytes());
     world.files.SetUnreadable(PathOf("T.DBF"));
-    EXPECT_EQ(ErrorOf([&] { RowsIn("T"); }), kCannotOpen);
+    EXPECT_EQ(ErrorNumber([&] { RowsIn("T"); }), kCannotOpen);
 }
 
 TEST_F(RefusedTables, AreHeldByAnotherProgram) {
     Put("T.DBF", Table().Bytes());
     world.files.SetHeldOpen(PathOf("T.DBF"));
-    EXPECT_EQ(ErrorOf([&] { RowsIn("T"); }), kInUse);
+    EXPECT_EQ(ErrorNumber([&] { RowsIn("T"); }), kInUse);
 }
 
 TEST_F(RefusedTables, CannotBeReadToTheirEnd) {
     Put("T.DBF", Table().Bytes());
     world.files.Plan({.operation = 2});
     const auto raised = RaisedBy([&] { RowsIn("T"); });
-    EXPECT_EQ(raised.number, kReadFailed);
-    EXPECT_EQ(raised.text, R"('C:\SYS\T.DBF' could be read up to byte 0 of 109 only.)");
+    EXPECT_EQ(raised.Number(), kReadFailed);
+    EXPECT_EQ(raised.Description(), R"('C:\SYS\T.DBF' could be read up to byte 0 of 109 only.)");
 }
 
 } // namespace

@@ -12,8 +12,8 @@ class Sql : public DbaseTest {
     /// What is said of a statement after "Syntax error in ... statement: at character ".
     void ExpectFailure(const std::string& sql, int number, const std::string& text) {
         const auto raised = RaisedByRun(sql);
-        EXPECT_EQ(raised.number, number) << sql;
-        EXPECT_EQ(raised.text, text) << sql;
+        EXPECT_EQ(raised.Number(), number) << sql;
+        EXPECT_EQ(raised.Description(), text) << sql;
     }
     void ExpectInsertFailure(const std::string& sql, const std::string& place) {
         ExpectFailure(sql, kInsertSyntax, "Syntax error in INSERT INTO statement: at character " + place);
@@ -68,7 +68,7 @@ TEST_F(Sql, FillsColumnsThatAreNotNamedWithBlanks) {
 TEST_F(Sql, IsRefusedWhenItIsNoKnownStatement) {
     for (const auto* sql : {"", "   ", ";", "SELECT * FROM T", "INSERTS INTO T (A) VALUES ('x')",
                             "[INSERT] INTO T", "'INSERT'", "DROP TABLE T", "\xFF", "(", "12"}) {
-        EXPECT_EQ(RaisedByRun(sql).number, kInvalidStatement) << sql;
+        EXPECT_EQ(RaisedByRun(sql).Number(), kInvalidStatement) << sql;
     }
     ExpectFailure("  DROP TABLE T", kInvalidStatement,
                   "Invalid SQL statement: at character 3 stands a word where CREATE or INSERT should.");

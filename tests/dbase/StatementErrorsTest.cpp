@@ -18,9 +18,9 @@ TEST_F(StatementErrors, TakesAValueWithASingleQuoteForASyntaxErrorAndNeverShowsI
             Row user{"A", "", "", "", ""};
             user[field] = value;
             const auto raised = RaisedByRun(InsertUser(user));
-            EXPECT_THAT((std::vector{kInsertSyntax, kCountsDiffer}), ::testing::Contains(raised.number))
+            EXPECT_THAT((std::vector{kInsertSyntax, kCountsDiffer}), ::testing::Contains(raised.Number()))
                 << value;
-            EXPECT_THAT(raised.text, Not(HasSubstr("ret"))) << value;
+            EXPECT_THAT(raised.Description(), Not(HasSubstr("ret"))) << value;
         }
     }
     EXPECT_THAT(RowsIn("ZYSECURE.TMP"), ::testing::IsEmpty());
@@ -29,10 +29,10 @@ TEST_F(StatementErrors, TakesAValueWithASingleQuoteForASyntaxErrorAndNeverShowsI
 TEST_F(StatementErrors, RefusesValuesThatAreTooWideWithoutShowingThem) {
     Run(kCreateUsers);
     const auto raised = RaisedByRun(InsertUser({"A", "123456789012345678901", "", "", ""}));
-    EXPECT_EQ(raised.number, kFieldTooSmall);
-    EXPECT_EQ(raised.text,
+    EXPECT_EQ(raised.Number(), kFieldTooSmall);
+    EXPECT_EQ(raised.Description(),
               "The field is too small: the value for 'PASSWORD' is wider than its 20 characters.");
-    EXPECT_EQ(RaisedByRun(InsertUser({"A", "", "", "", "  "})).number, kFieldTooSmall);
+    EXPECT_EQ(RaisedByRun(InsertUser({"A", "", "", "", "  "})).Number(), kFieldTooSmall);
     EXPECT_THAT(RowsIn("ZYSECURE.TMP"), ::testing::IsEmpty());
 }
 
@@ -45,18 +45,18 @@ TEST_F(StatementErrors, AddsNoRowAndSaysNothingWithoutTheOptionToFail) {
 
 TEST_F(StatementErrors, FailsWithoutTheOptionTooWhenTheStatementItselfIsWrong) {
     database->Execute(kCreateUsers);
-    EXPECT_EQ(ErrorOf([&] { database->Execute(kCreateUsers); }), kTableExists);
-    EXPECT_EQ(ErrorOf([&] { database->Execute("INSERT INTO MISSING (A) VALUES ('x')"); }), kNoSuchTable);
-    EXPECT_EQ(ErrorOf([&] { database->Execute("INSERT INTO [ZYSECURE.TMP] (A) VALUES ('x')"); }),
+    EXPECT_EQ(ErrorNumber([&] { database->Execute(kCreateUsers); }), kTableExists);
+    EXPECT_EQ(ErrorNumber([&] { database->Execute("INSERT INTO MISSING (A) VALUES ('x')"); }), kNoSuchTable);
+    EXPECT_EQ(ErrorNumber([&] { database->Execute("INSERT INTO [ZYSECURE.TMP] (A) VALUES ('x')"); }),
               kUnknownField);
-    EXPECT_EQ(ErrorOf([&] { database->Execute("INSERT INTO"); }), kInsertSyntax);
+    EXPECT_EQ(ErrorNumber([&] { database->Execute("INSERT INTO"); }), kInsertSyntax);
 }
 
 TEST_F(StatementErrors, RefusesATableThatExistsAndNamesItsFile) {
     Put("zysecure.tmp", "left over");
     const auto raised = RaisedByRun(kCreateUsers);
-    EXPECT_EQ(raised.number, kTableExists);
-    EXPECT_EQ(raised.text,
+    EXPECT_EQ(raised.Number(), kTableExists);
+    EXPECT_EQ(raised.Description(),
               R"(Table 'ZYSECURE.TMP' already exists: the file 'C:\SYS\ZYSECURE.TMP' stands in the )"
               "way. If it is left over from a save that failed, it may be removed.");
     EXPECT_EQ(Get("ZYSECURE.TMP"), "left over");
@@ -66,33 +66,35 @@ TEST_F(StatementErrors, RefusesAnIndexThatExists) {
     Run("CREATE TABLE T (A TEXT(3))");
     Put("I.NDX", "old");
     const auto raised = RaisedByRun("CREATE INDEX I ON T (A)");
-    EXPECT_EQ(raised.number, kIndexExists);
-    EXPECT_EQ(raised.text, R"(Index 'I' already exists: the file 'C:\SYS\I.NDX' stands in the way.)");
+    EXPECT_EQ(raised.Number(), kIndexExists);
+    EXPECT_EQ(raised.Description(),
+              R"(Index 'I' already exists: the file 'C:\SYS\I.NDX' stands in the way.)");
     EXPECT_EQ(Get("I.NDX"), "old");
 }
 
 TEST_F(StatementErrors, RefusesColumnsThatATableDoesNotHave) {
     Run("CREATE TABLE T (A TEXT(3), B TEXT(3))");
     const auto raised = RaisedByRun("INSERT INTO T (A, C) VALUES ('x', 'y')");
-    EXPECT_EQ(raised.number, kUnknownField);
-    EXPECT_EQ(raised.text, "The INSERT INTO statement contains the following unknown field name: 'C'.");
-    EXPECT_EQ(RaisedByRun("INSERT INTO T (A, a) VALUES ('x', 'y')").number, kDuplicateDestination);
-    EXPECT_EQ(RaisedByRun("INSERT INTO T (A) VALUES ('x', 'y')").number, kCountsDiffer);
-    EXPECT_EQ(RaisedByRun("INSERT INTO T (A, B) VALUES ('x')").number, kCountsDiffer);
-    EXPECT_EQ(RaisedByRun("CREATE INDEX I ON T (C)").number, kUnknownIndexField);
-    EXPECT_EQ(RaisedByRun("CREATE INDEX I ON T (A, B)").number, kNotSupported);
-    EXPECT_EQ(RaisedByRun("CREATE INDEX I ON MISSING (A)").number, kNoSuchTable);
+    EXPECT_EQ(raised.Number(), kUnknownField);
+    EXPECT_EQ(raised.Description(),
+              "The INSERT INTO statement contains the following unknown field name: 'C'.");
+    EXPECT_EQ(RaisedByRun("INSERT INTO T (A, a) VALUES ('x', 'y')").Number(), kDuplicateDestination);
+    EXPECT_EQ(RaisedByRun("INSERT INTO T (A) VALUES ('x', 'y')").Number(), kCountsDiffer);
+    EXPECT_EQ(RaisedByRun("INSERT INTO T (A, B) VALUES ('x')").Number(), kCountsDiffer);
+    EXPECT_EQ(RaisedByRun("CREATE INDEX I ON T (C)").Number(), kUnknownIndexField);
+    EXPECT_EQ(RaisedByRun("CREATE INDEX I ON T (A, B)").Number(), kNotSupported);
+    EXPECT_EQ(RaisedByRun("CREATE INDEX I ON MISSING (A)").Number(), kNoSuchTable);
 }
 
 TEST_F(StatementErrors, RefusesColumnsThatATableCannotHave) {
     for (const auto* name : {"[]", "ABCDEFGHIJK", "[A B]", "_A", "\xC4", "[1A]", "[A-B]", "[A.B]"}) {
-        EXPECT_EQ(RaisedByRun("CREATE TABLE T (X TEXT(1), " + std::string(name) + " TEXT(1))").number,
+        EXPECT_EQ(RaisedByRun("CREATE TABLE T (X TEXT(1), " + std::string(name) + " TEXT(1))").Number(),
                   kBadName)
             << name;
     }
-    EXPECT_EQ(RaisedByRun("CREATE TABLE T (A TEXT(1), B TEXT(2), a TEXT(1))").number, kFieldDefinedTwice);
-    EXPECT_EQ(RaisedByRun("CREATE TABLE T (A TEXT(0))").number, kFieldSyntax);
-    EXPECT_EQ(RaisedByRun("CREATE TABLE T (A TEXT(255))").number, kFieldSyntax);
+    EXPECT_EQ(RaisedByRun("CREATE TABLE T (A TEXT(1), B TEXT(2), a TEXT(1))").Number(), kFieldDefinedTwice);
+    EXPECT_EQ(RaisedByRun("CREATE TABLE T (A TEXT(0))").Number(), kFieldSyntax);
+    EXPECT_EQ(RaisedByRun("CREATE TABLE T (A TEXT(255))").Number(), kFieldSyntax);
     EXPECT_THAT(Names(), ::testing::IsEmpty());
 }
 
@@ -100,9 +102,9 @@ TEST_F(StatementErrors, RefusesNamesThatCannotBeThoseOfFiles) {
     for (const auto* name :
          {"[]", "[ ]", "[.]", "[..]", "[a\\b]", "[a/b]", "[a:b]", "[a*]", "[a?]", "[a\tb]"}) {
         const std::string text = name;
-        EXPECT_EQ(RaisedByRun("CREATE TABLE " + text + " (A TEXT(1))").number, kBadName) << text;
-        EXPECT_EQ(RaisedByRun("INSERT INTO " + text + " (A) VALUES ('x')").number, kBadName) << text;
-        EXPECT_EQ(ErrorOf([&] { RowsIn(text.substr(1, text.size() - 2)); }), kBadName) << text;
+        EXPECT_EQ(RaisedByRun("CREATE TABLE " + text + " (A TEXT(1))").Number(), kBadName) << text;
+        EXPECT_EQ(RaisedByRun("INSERT INTO " + text + " (A) VALUES ('x')").Number(), kBadName) << text;
+        EXPECT_EQ(ErrorNumber([&] { RowsIn(text.substr(1, text.size() - 2)); }), kBadName) << text;
     }
 }
 
@@ -110,8 +112,8 @@ TEST_F(StatementErrors, WritesTextIntoTextColumnsOnly) {
     Put("T.DBF", std::string("\x03\x7E\x0B\x14\0\0\0\0\x41\0\x02\0", 12) + std::string(20, '\0') + "N" +
                      std::string(10, '\0') + "N" + std::string(4, '\0') + "\x01" + std::string(15, '\0') +
                      "\x0D\x1A");
-    EXPECT_EQ(RaisedByRun("INSERT INTO T (N) VALUES ('1')").number, kNotSupported);
-    EXPECT_EQ(RaisedByRun("CREATE INDEX I ON T (N)").number, kUnknownIndexField);
+    EXPECT_EQ(RaisedByRun("INSERT INTO T (N) VALUES ('1')").Number(), kNotSupported);
+    EXPECT_EQ(RaisedByRun("CREATE INDEX I ON T (N)").Number(), kUnknownIndexField);
 }
 
 } // namespace

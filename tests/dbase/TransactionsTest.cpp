@@ -29,7 +29,7 @@ TEST_F(Transactions, GivesUpAnOpenTransactionWhenItIsClosed) {
     Insert("BO");
     database->Close();
     EXPECT_EQ(RecordsOnDisk(), 1U);
-    EXPECT_EQ(ErrorOf([&] { engine.CommitTrans(); }), kNoTransaction);
+    EXPECT_EQ(ErrorNumber([&] { engine.CommitTrans(); }), kNoTransaction);
 }
 
 TEST_F(Transactions, ShowsNoRowsOfAnOpenTransaction) {
@@ -62,8 +62,8 @@ TEST_F(Transactions, LeavesTheOtherRowsOfATransactionAloneWhenAnInsertFails) {
     Run(kCreateUsers);
     engine.BeginTrans();
     Insert("ADA");
-    EXPECT_EQ(RaisedByRun(InsertUser({"O'BRIEN", "", "", "", ""})).number, kInsertSyntax);
-    EXPECT_EQ(RaisedByRun(InsertUser({"TOO LONG A NAME", "", "", "", ""})).number, kFieldTooSmall);
+    EXPECT_EQ(RaisedByRun(InsertUser({"O'BRIEN", "", "", "", ""})).Number(), kInsertSyntax);
+    EXPECT_EQ(RaisedByRun(InsertUser({"TOO LONG A NAME", "", "", "", ""})).Number(), kFieldTooSmall);
     Insert("BO");
     engine.CommitTrans();
     EXPECT_THAT(NamesIn("ZYSECURE.TMP"), ElementsAre("ADA", "BO"));
@@ -73,25 +73,25 @@ TEST_F(Transactions, LeavesATableAsItWasWhenAnInsertFails) {
     const auto bytes = UserTable().Add(' ', {"ADA", "", "", "", ""}).Bytes();
     Put("ZYSECURE.TMP", bytes);
     engine.BeginTrans();
-    EXPECT_EQ(RaisedByRun(InsertUser({"O'BRIEN", "", "", "", ""})).number, kInsertSyntax);
-    EXPECT_EQ(RaisedByRun(InsertUser({"", "", "", "", "too wide"})).number, kFieldTooSmall);
+    EXPECT_EQ(RaisedByRun(InsertUser({"O'BRIEN", "", "", "", ""})).Number(), kInsertSyntax);
+    EXPECT_EQ(RaisedByRun(InsertUser({"", "", "", "", "too wide"})).Number(), kFieldTooSmall);
     database->Close();
     EXPECT_EQ(Get("ZYSECURE.TMP"), bytes);
 }
 
 TEST_F(Transactions, DoesNotNestTransactions) {
     engine.BeginTrans();
-    EXPECT_EQ(ErrorOf([&] { engine.BeginTrans(); }), kInTransaction);
+    EXPECT_EQ(ErrorNumber([&] { engine.BeginTrans(); }), kInTransaction);
     engine.CommitTrans();
-    EXPECT_EQ(ErrorOf([&] { engine.CommitTrans(); }), kNoTransaction);
-    EXPECT_EQ(ErrorOf([&] { engine.Rollback(); }), kNoTransaction);
+    EXPECT_EQ(ErrorNumber([&] { engine.CommitTrans(); }), kNoTransaction);
+    EXPECT_EQ(ErrorNumber([&] { engine.Rollback(); }), kNoTransaction);
 }
 
 TEST_F(Transactions, CreatesNothingWithinATransaction) {
     Run("CREATE TABLE T (A TEXT(3))");
     engine.BeginTrans();
-    EXPECT_EQ(RaisedByRun(kCreateUsers).number, kInTransaction);
-    EXPECT_EQ(RaisedByRun("CREATE INDEX I ON T (A)").number, kInTransaction);
+    EXPECT_EQ(RaisedByRun(kCreateUsers).Number(), kInTransaction);
+    EXPECT_EQ(RaisedByRun("CREATE INDEX I ON T (A)").Number(), kInTransaction);
     EXPECT_THAT(Names(), ElementsAre("T.DBF"));
 }
 

@@ -86,7 +86,7 @@ TEST_F(WriteTable, HasUpTo255Columns) {
     EXPECT_EQ(rows[0].size(), 255U);
     EXPECT_EQ(rows[0].front(), "first");
     EXPECT_EQ(rows[0].back(), "last");
-    EXPECT_EQ(RaisedByRun("CREATE TABLE WIDER (" + columns + ", C256 TEXT(1))").number, kTooManyFields);
+    EXPECT_EQ(RaisedByRun("CREATE TABLE WIDER (" + columns + ", C256 TEXT(1))").Number(), kTooManyFields);
 }
 
 TEST_F(WriteTable, DoesNotStateALanguageAsLongAsAllIsAscii) {
@@ -207,8 +207,8 @@ TEST_F(WriteTable, RefusesACharacterThatItsCodePageLacks) {
     table.Add(' ', {"A", "", "", "", ""});
     Put("ZYSECURE.DBF", table.Bytes());
     const auto raised = RaisedByRun(InsertUser({"B", "\x80", "", "", ""}, "ZYSECURE.DBF"));
-    EXPECT_EQ(raised.number, kCannotConvert);
-    EXPECT_EQ(raised.text,
+    EXPECT_EQ(raised.Number(), kCannotConvert);
+    EXPECT_EQ(raised.Description(),
               "Data type conversion error: the value for 'PASSWORD' has a character that the table's "
               "code page lacks.");
     database->Flush();

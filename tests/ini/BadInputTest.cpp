@@ -87,21 +87,21 @@ TEST_F(BadInput, AByteOrderMarkIsPartOfTheFirstLine) {
 
 TEST_F(BadInput, A10MegabyteLineIsAnOverflowAndTheLinesBeforeItAreThere) {
     const std::string longLine = "b=" + std::string(10'000'000, 'x') + "\r\n";
-    EXPECT_EQ(ErrorOf([&] { Load("a=1\r\n" + longLine + "c=3\r\n"); }), 6);
+    EXPECT_EQ(ErrorNumber([&] { Load("a=1\r\n" + longLine + "c=3\r\n"); }), 6);
     EXPECT_THAT(Lines(), ElementsAre(Texts{"", "A", "1"}));
 }
 
 TEST_F(BadInput, ALongLineIsAnOverflowWhateverItHolds) {
     const std::string filler(32'768, ' ');
     for (const auto& line : {filler, ";" + filler, "[" + filler, "=" + filler, filler + "a=b"}) {
-        EXPECT_EQ(ErrorOf([&] { Load(line + "\r\n"); }), 6) << line.substr(0, 1);
+        EXPECT_EQ(ErrorNumber([&] { Load(line + "\r\n"); }), 6) << line.substr(0, 1);
     }
 }
 
 TEST_F(BadInput, ALineOf32767CharactersIsTakenAndOneOf32768IsNot) {
     const std::string value(32'765, 'x');
     EXPECT_THAT(Load("a=" + value + "\r\n"), ElementsAre(Texts{"", "A", value}));
-    EXPECT_EQ(ErrorOf([&] { Load("a=" + value + "x\r\n"); }), 6);
+    EXPECT_EQ(ErrorNumber([&] { Load("a=" + value + "x\r\n"); }), 6);
 
     const std::string key(32'766, 'K');
     EXPECT_THAT(Load(key + "=\r\n"), ElementsAre(Texts{"", key, ""}));

@@ -7,6 +7,7 @@
 
 #include "basics/RuntimeError.h"
 #include "ini/INIfile.h"
+#include "support/RaisedError.h"
 #include "support/WorldTest.h"
 
 namespace zy::test {
@@ -26,17 +27,6 @@ inline std::ostream& operator<<(std::ostream& out, const Texts& texts) {
 
 inline Texts TextsOf(const INIline& line) {
     return {std::string(line.Group()), std::string(line.Section()), std::string(line.Value())};
-}
-
-/// The number of the run-time error that `action` raises; 0 when it raises none.
-template <typename Action>
-int ErrorOf(const Action& action) {
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        return error.Number();
-    }
-    return 0;
 }
 
 /// A settings file in a memory world.

@@ -66,16 +66,16 @@ TEST_F(INIlinesTest, RaisesSubscriptOutOfRangeForALineItDoesNotHave) {
     AddSections({"a", "b"});
     const auto& constLines = lines;
     for (const int index : {-1, 0, 3, 32'768}) {
-        EXPECT_EQ(ErrorOf([&] { lines.Item(index); }), 9) << index;
-        EXPECT_EQ(ErrorOf([&] { static_cast<void>(constLines.Item(index)); }), 9) << index;
-        EXPECT_EQ(ErrorOf([&] { lines.Remove(index); }), 9) << index;
+        EXPECT_EQ(ErrorNumber([&] { lines.Item(index); }), 9) << index;
+        EXPECT_EQ(ErrorNumber([&] { static_cast<void>(constLines.Item(index)); }), 9) << index;
+        EXPECT_EQ(ErrorNumber([&] { lines.Remove(index); }), 9) << index;
     }
     EXPECT_THAT(Sections(lines), ElementsAre("a", "b"));
 }
 
 TEST_F(INIlinesTest, RaisesSubscriptOutOfRangeForAnyLineWhenItIsEmpty) {
-    EXPECT_EQ(ErrorOf([&] { lines.Item(1); }), 9);
-    EXPECT_EQ(ErrorOf([&] { lines.Remove(1); }), 9);
+    EXPECT_EQ(ErrorNumber([&] { lines.Item(1); }), 9);
+    EXPECT_EQ(ErrorNumber([&] { lines.Remove(1); }), 9);
 }
 
 TEST_F(INIlinesTest, MovesLaterLinesUpWhenOneIsRemoved) {

@@ -186,7 +186,7 @@ TEST_F(SaveFile, RaisesOverflowForMoreLinesBeforeItTouchesTheFile) {
         AddLines(32'767 + more);
         world.files.Put(kPath, "old");
         world.files.Plan({});
-        EXPECT_EQ(ErrorOf([this] { file.SaveFile(kPath); }), 6);
+        EXPECT_EQ(ErrorNumber([this] { file.SaveFile(kPath); }), 6);
         EXPECT_THAT(world.files.Operations().Lines(), IsEmpty());
         EXPECT_EQ(world.files.Get(kPath), "old");
     }
@@ -195,7 +195,7 @@ TEST_F(SaveFile, RaisesOverflowForMoreLinesBeforeItTouchesTheFile) {
 TEST_F(SaveFile, TracesItsStartAlsoWhenItRaisesOverflow) {
     world.traceServers.SetRunning(true);
     AddLines(33'000);
-    EXPECT_EQ(ErrorOf([this] { file.SaveFile(kPath); }), 6);
+    EXPECT_EQ(ErrorNumber([this] { file.SaveFile(kPath); }), 6);
     EXPECT_EQ(world.traceServers.Records().size(), 1U);
 }
 

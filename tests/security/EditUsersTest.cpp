@@ -179,7 +179,7 @@ TEST_F(EditUsers, ShiftTabElsewhereGoesOneCellBack) {
 
 TEST_F(EditUsers, OneUserMoreThanACounterHoldsIsRefusedBeforeAnythingChanges) {
     StartOver(Users(32767, User("x")));
-    EXPECT_EQ(ErrorOf([&] { controls().cmdAddUser.Click(); }).Number(), 6);
+    EXPECT_EQ(RaisedBy([&] { controls().cmdAddUser.Click(); }).Number(), 6);
     EXPECT_EQ(grid().Rows(), 32768);
     EXPECT_EQ(page().users.zySecure.size(), 32767U);
 }

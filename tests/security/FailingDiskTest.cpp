@@ -23,7 +23,7 @@ class FailingUsersDisk : public UsersTest {
         StartOver({User("Ann"), User("Bob")});
         Edit(1, kPassword, "new");
         world.files.Plan(plan);
-        const int error = ErrorOf([&] { Save(); }).Number();
+        const int error = RaisedBy([&] { Save(); }).Number();
         faults = world.files.Operations().Faults();
         world.files.Plan({});
         return error;
@@ -75,7 +75,7 @@ TEST_F(FailingUsersDisk, ADiskThatIsFullLeavesTheOldTable) {
     }
     const auto before = world.files.Get(kUsersTable);
     world.files.SetCapacity(before->size() + 3000);
-    const auto error = ErrorOf([&] { Save(); });
+    const auto error = RaisedBy([&] { Save(); });
     EXPECT_EQ(error.Number(), 3026);
     EXPECT_EQ(world.files.Get(kUsersTable), before);
 }
@@ -85,7 +85,7 @@ TEST_F(FailingUsersDisk, AFolderThatIsReadOnlyIsARunTimeErrorAndChangesNothing) 
     Edit(1, kPassword, "new");
     const auto before = world.files.Get(kUsersTable);
     world.files.SetFolderReadOnly(R"(C:\SYS)");
-    EXPECT_EQ(ErrorOf([&] { Save(); }).Number(), 3027);
+    EXPECT_EQ(RaisedBy([&] { Save(); }).Number(), 3027);
     EXPECT_EQ(world.files.Get(kUsersTable), before);
 }
 
@@ -93,7 +93,7 @@ TEST_F(FailingUsersDisk, ATableThatCannotBeRecycledIsNotReplacedAndTheNewOneIsNa
     StartOver({User("Ann")});
     Edit(1, kPassword, "new");
     world.recycleBin.SetResult(1);
-    const auto error = ErrorOf([&] { Save(); });
+    const auto error = RaisedBy([&] { Save(); });
     EXPECT_EQ(error.Number(), 75);
     EXPECT_THAT(error.Description(), HasSubstr("ZYSECURE.TMP stands in the way of the next save"));
     EXPECT_EQ(TableUsers(), Users{User("Ann")});

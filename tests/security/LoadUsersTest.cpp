@@ -49,7 +49,7 @@ TEST_F(LoadUsers, ATableOfFewerColumnsIsARunTimeError) {
     database->Execute("CREATE TABLE [ZYSECURE.DBF] (USERID TEXT (10));");
     database->Execute("INSERT INTO [ZYSECURE.DBF] (USERID) VALUES ('n');");
     database->Close();
-    EXPECT_EQ(ErrorOf([&] { Start("@SECURITY"); }).Number(), 3265);
+    EXPECT_EQ(RaisedBy([&] { Start("@SECURITY"); }).Number(), 3265);
 }
 
 TEST_F(LoadUsers, ATableWithoutUsersGivesOneEmptyElement) {
@@ -63,7 +63,7 @@ TEST_F(LoadUsers, AFileThatIsNoTableIsARunTimeErrorAndStays) {
     for (const std::string_view bytes :
          {std::string_view(""), std::string_view("no table"), std::string_view("\x03", 1)}) {
         world.files.Put(kUsersTable, bytes);
-        EXPECT_EQ(ErrorOf([&] { Start("@SECURITY"); }).Number(), 3274);
+        EXPECT_EQ(RaisedBy([&] { Start("@SECURITY"); }).Number(), 3274);
         EXPECT_EQ(world.files.Get(kUsersTable), bytes);
         EXPECT_FALSE(form().Visible());
     }
@@ -128,7 +128,7 @@ TEST_F(LoadUsers, MoreUsersThanACounterHoldsAreAnOverflowBeforeAnythingIsShown) 
     world.files.Take(kUsersTable);
     users.push_back(User("x"));
     PutTable(users);
-    EXPECT_EQ(ErrorOf([&] { Start("@SECURITY"); }).Number(), 6);
+    EXPECT_EQ(RaisedBy([&] { Start("@SECURITY"); }).Number(), 6);
     EXPECT_FALSE(form().Visible());
 }
 

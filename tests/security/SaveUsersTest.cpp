@@ -155,14 +155,14 @@ TEST_F(SaveUsers, ASingleQuoteBreaksTheStatementAndTheOldTableSurvives) {
     StartOver({User("Ann"), User("Bob")});
     const auto before = world.files.Get(kUsersTable);
     Edit(2, kUserName, "O'Neil");
-    const auto error = ErrorOf([&] { Save(); });
+    const auto error = RaisedBy([&] { Save(); });
     EXPECT_EQ(error.Number(), 3134);
     EXPECT_THAT(error.Description(),
                 HasSubstr("The file C:\\SYS\\ZYSECURE.TMP stands in the way of the next save"));
     EXPECT_THAT(error.Description(), Not(HasSubstr("secret")));
     EXPECT_EQ(world.files.Get(kUsersTable), before);
     EXPECT_TRUE(world.files.Exists(kUsersTemporary));
-    EXPECT_EQ(ErrorOf([&] { Save(); }).Number(), 3010) << "the next save finds it in the way";
+    EXPECT_EQ(RaisedBy([&] { Save(); }).Number(), 3010) << "the next save finds it in the way";
     EXPECT_EQ(world.files.Get(kUsersTable), before);
 }
 

@@ -6,28 +6,17 @@
 #include <string_view>
 #include <vector>
 
-#include "basics/RuntimeError.h"
 #include "dbase/DBEngine.h"
 #include "security/frmDatePicker.h"
 #include "security/frmLogin.h"
 #include "support/ProgramTest.h"
+#include "support/RaisedError.h"
 
 namespace zy::test {
 
 inline constexpr std::string_view kUsersTable = R"(C:\SYS\ZYSECURE.DBF)";
 inline constexpr std::string_view kUsersTemporary = R"(C:\SYS\ZYSECURE.TMP)";
 inline constexpr std::string_view kUsersIndex = R"(C:\SYS\ZYSECURE.NDX)";
-
-/// The run-time error that the action raises; number 0 when it raises none.
-template <typename Action>
-RuntimeError ErrorOf(const Action& action) {
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        return error;
-    }
-    return {0, "none"};
-}
 
 /// The program in its users mode, over a disk in memory, driven as a person does it.
 class UsersTest : public ProgramTest {

@@ -3,24 +3,13 @@
 #include <string>
 #include <string_view>
 
-#include "basics/RuntimeError.h"
 #include "rules/RunRule.h"
+#include "support/RaisedError.h"
 
 namespace zy::test {
 
 inline constexpr std::string_view kRulesFile = R"(C:\SYS\ZYRules.sys)";
 inline constexpr std::string_view kTemporary = R"(C:\SYS\Rules.tmp)";
-
-/// The number of the run-time error that the action raises; 0 when it raises none.
-template <typename Action>
-int ErrorNumber(const Action& action) {
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        return error.Number();
-    }
-    return 0;
-}
 
 /// A rule's properties in one line, in the order in which a file holds them.
 inline std::string Shown(const RunRule& rule) {

@@ -11,7 +11,7 @@ class BadUnitsFile : public UnitsTest {
     /// Loading ends in error 9 whose box names this line; the file stays as it was.
     void ExpectFatal(const std::string& bytes, int line) {
         SCOPED_TRACE(::testing::PrintToString(bytes));
-        const auto error = ErrorOf([&] { OpenOver(bytes); });
+        const auto error = RaisedBy([&] { OpenOver(bytes); });
         EXPECT_EQ(error.Number(), 9);
         EXPECT_EQ(error.BoxText(), "Run-time error '9':\n\nSubscript out of range\n\n"
                                    "C:\\SYS\\ZYUNITS.SYS, line " +

@@ -17,7 +17,7 @@ class ManyUnits : public UnitsTest {
   protected:
     template <typename Action>
     void ExpectOverflow(const Action& action) {
-        const auto error = ErrorOf(action);
+        const auto error = RaisedBy(action);
         EXPECT_EQ(error.Number(), 6);
         EXPECT_EQ(error.Description(), "Overflow");
     }

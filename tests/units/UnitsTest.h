@@ -5,27 +5,16 @@
 #include <string_view>
 #include <vector>
 
-#include "basics/RuntimeError.h"
 #include "rules/RulesPage.h"
 #include "rules/mRules.h"
 #include "shell/MainWindow.h"
+#include "support/RaisedError.h"
 #include "support/WorldTest.h"
 #include "units/UnitsPage.h"
 
 namespace zy::test {
 
 inline constexpr std::string_view kUnitsFile = R"(C:\SYS\ZYUNITS.SYS)";
-
-/// The run-time error that the action raises; number 0 when it raises none.
-template <typename Action>
-RuntimeError ErrorOf(const Action& action) {
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        return error;
-    }
-    return {0, "none"};
-}
 
 /// The units page in its window, over a disk in memory, driven as a person does it.
 class UnitsTest : public WorldTest {
