@@ -18,6 +18,8 @@ std::string RulesFileOf(int rules);
 std::string RulesKeyFileOf(int rules);
 /// Units of about 6 characters with descriptions of about 20.
 std::string UnitsFileOf(int units);
+/// A table of users, none of them the administrator.
+std::string UsersTableOf(int users);
 /// Lines of about 19 characters, of which 32,767 in 300,000 are headers. No header stands there twice.
 std::string IniFileOf(int lines);
 
@@ -26,6 +28,7 @@ constexpr int kManyIniLines = 300000;
 
 constexpr BigFile kRulesFile{.records = "rules", .name = "ZYRules.sys", .text = RulesFileOf};
 constexpr BigFile kUnitsFile{.records = "units", .name = "ZYUNITS.SYS", .text = UnitsFileOf};
+constexpr BigFile kUsersTable{.records = "users", .name = "ZYSECURE.DBF", .text = UsersTableOf};
 constexpr BigFile kIniFile{.records = "INI lines", .name = "Big.ini", .text = IniFileOf};
 
 } // namespace zy::bench

@@ -32,8 +32,9 @@ struct Editor {
 };
 
 /// A list that a screen reader can read costs a little for every row; a grid's rows cost nothing.
-constexpr std::array<Editor, 2> kEditors{{{.mode = "@RULES", .file = kRulesFile, .goalWithMany = 1.7},
-                                          {.mode = "@UNITS", .file = kUnitsFile, .goalWithMany = 1.4}}};
+constexpr std::array<Editor, 3> kEditors{{{.mode = "@RULES", .file = kRulesFile, .goalWithMany = 1.7},
+                                          {.mode = "@UNITS", .file = kUnitsFile, .goalWithMany = 1.4},
+                                          {.mode = "@SECURITY", .file = kUsersTable, .goalWithMany = 1.4}}};
 
 /// What was seen of a program that was started over and over.
 struct Starts {

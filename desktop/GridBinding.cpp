@@ -42,7 +42,12 @@ GridBinding::GridBinding(const ViewContext& context, const Inside& inside, Grid&
     ShowChanges();
 }
 
+GridBinding::~GridBinding() {
+    model_.cellPlace = nullptr;
+}
+
 void GridBinding::ObserveModel() {
+    model_.cellPlace = [this](int row, int column) { return PlaceOf(row, column); };
     Keep(model_.rowsChanged.Observe([this] { rowsChanged_ = true; }));
     Keep(model_.cellChanged.Observe([this](int, int) { cellsChanged_ = true; }));
     Keep(Gate().updateViews.Observe([this] { ShowChanges(); }));
@@ -65,6 +70,10 @@ void GridBinding::BindMouse() {
 }
 
 void GridBinding::PressMouse(int button, const wxGridEvent& event) {
+    if (button == kLeftButton && event.ShiftDown()) {
+        // That stretches the block, whose first cell stays the current one.
+        return;
+    }
     Gate().ActLater([this, button, row = event.GetRow() + 1, column = event.GetCol()] {
         if (row < model_.Rows()) {
             model_.PressMouse(button, row, column);
@@ -137,6 +146,16 @@ void GridBinding::Measure() {
     const wxSize least(grid_->GetDefaultColSize(),
                        grid_->GetColLabelSize() + kRows * grid_->GetDefaultRowSize());
     model_.SetPreferred(Context().scale.ToTwips(least));
+}
+
+Rect GridBinding::PlaceOf(int row, int column) const {
+    wxRect place = grid_->CellToRect(row - 1, column);
+    place.SetPosition(grid_->CalcScrolledPosition(place.GetPosition()));
+    // Behind the border and below the header.
+    place.Offset(grid_->GetPosition() + grid_->GetGridWindow()->GetPosition());
+    const auto& scale = Context().scale;
+    const auto size = scale.ToTwips(place.GetSize());
+    return {scale.ToTwips(place.x), scale.ToTwips(place.y), size.width, size.height};
 }
 
 void GridBinding::ShowAppearance() {

@@ -14,6 +14,7 @@ namespace zy {
 class GridBinding : public ControlBinding {
   public:
     GridBinding(const ViewContext& context, const Inside& inside, Grid& model);
+    ~GridBinding() override;
 
     void TakeFocus() override;
     void ShowAppearance() override;
@@ -21,6 +22,8 @@ class GridBinding : public ControlBinding {
   private:
     /// A grid needs no certain room; a few rows will do.
     void Measure() override;
+    /// Where a cell of the model stands inside the grid, in twips.
+    Rect PlaceOf(int row, int column) const;
     void ObserveModel();
     void BindMouse();
     void BindKeys();

@@ -2,8 +2,8 @@
 
 #include <wx/defs.h>
 
-// The calls of GTK that the program makes itself. The toolkit's development package brings GTK's libraries but not its
-// headers, so these few are declared here, as GTK 3 has fixed them for good.
+// The calls of GTK that the program makes itself. The toolkit's development package brings GTK's libraries
+// but not its headers, so these few are declared here, as GTK 3 has fixed them for good.
 
 struct _AtkObject;
 struct _GdkScreen;
@@ -30,7 +30,9 @@ void gtk_entry_set_invisible_char(_GtkEntry* entry, unsigned character);
 void gtk_combo_box_popdown(_GtkComboBox* comboBox);
 void gtk_tree_path_free(_GtkTreePath* path);
 _GtkTreePath* gtk_tree_path_new_from_indices(int first, ...);
-void gtk_tree_view_set_cursor(_GtkTreeView* view, _GtkTreePath* path, _GtkTreeViewColumn* focusColumn, int edit);
+void gtk_tree_view_column_set_clickable(_GtkTreeViewColumn* column, int clickable);
+void gtk_tree_view_set_cursor(_GtkTreeView* view, _GtkTreePath* path, _GtkTreeViewColumn* focusColumn,
+                              int edit);
 _AtkObject* gtk_widget_get_accessible(GtkWidget* widget);
 void gtk_widget_get_allocation(GtkWidget* widget, GtkRectangle* allocation);
 void gtk_widget_get_preferred_size(GtkWidget* widget, GtkSizeNeeded* least, GtkSizeNeeded* natural);

@@ -22,7 +22,8 @@ ListViewBinding::ListViewBinding(const ViewContext& context, const Inside& insid
     }));
     Keep(model_.itemRemoved.Observe(
         [this](int item) { ChangeList([&] { rows_->RowDeleted(static_cast<unsigned>(item - 1)); }); }));
-    Keep(model_.itemChanged.Observe([this](int item) { rows_->RowChanged(static_cast<unsigned>(item - 1)); }));
+    Keep(
+        model_.itemChanged.Observe([this](int item) { rows_->RowChanged(static_cast<unsigned>(item - 1)); }));
     Keep(Gate().updateViews.Observe([this] { ShowChanges(); }));
     Attach(list_);
 }
@@ -33,8 +34,10 @@ void ListViewBinding::MakeColumns() {
         renderer->EnableEllipsize(wxELLIPSIZE_END);
         const auto& column = model_.Columns()[i];
         const int width = Context().scale.ToPixels(column.width);
-        list_->AppendColumn(new wxDataViewColumn(Shown(column.header), renderer, static_cast<unsigned>(i), width,
-                                                 wxALIGN_LEFT, wxDATAVIEW_COL_RESIZABLE));
+        auto* made = new wxDataViewColumn(Shown(column.header), renderer, static_cast<unsigned>(i), width,
+                                          wxALIGN_LEFT, wxDATAVIEW_COL_RESIZABLE);
+        list_->AppendColumn(made);
+        MakeHeaderPlain(*made);
         shownWidths_.push_back(column.width);
     }
 }
@@ -101,7 +104,8 @@ void ListViewBinding::ShowSelection() {
 }
 
 void ListViewBinding::ChangeList(const std::function<void()>& change) {
-    // The selection that follows from it, such as that of a neighbour when a row goes, is not a person's choice.
+    // The selection that follows from it, such as that of a neighbour when a row goes, is not a person's
+    // choice.
     changing_ = true;
     change();
     changing_ = false;

@@ -1,5 +1,6 @@
 #include "desktop/MenuBarBinding.h"
 
+#include <wx/app.h>
 #include <wx/frame.h>
 #include <wx/menu.h>
 
@@ -9,8 +10,8 @@
 
 namespace zy {
 
-MenuBarBinding::MenuBarBinding(const ViewContext& context, wxFrame& frame, const std::vector<MenuItem*>& menus,
-                               std::vector<Shortcut> shortcuts)
+MenuBarBinding::MenuBarBinding(const ViewContext& context, wxFrame& frame,
+                               const std::vector<MenuItem*>& menus, std::vector<Shortcut> shortcuts)
     : context_(context), frame_(frame), shortcuts_(std::move(shortcuts)) {
     auto* bar = new wxMenuBar;
     for (const auto* menu : menus) {
@@ -25,7 +26,11 @@ void MenuBarBinding::AddContextMenu(MenuItem& menu) {
     contextMenus_.emplace_back(MakeMenu(menu));
     subscriptions_.push_back(menu.popUp.Observe([this, made = contextMenus_.back().get()] {
         // Behind the handler that asks for it, for what is chosen is an action of its own.
-        frame_.CallAfter([this, made] { frame_.PopupMenu(made); });
+        frame_.CallAfter([this, made] {
+            // The end of the click that asks for the menu would close it.
+            wxTheApp->Yield(true);
+            frame_.PopupMenu(made);
+        });
     }));
 }
 

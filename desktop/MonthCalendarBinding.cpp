@@ -1,5 +1,7 @@
 #include "desktop/MonthCalendarBinding.h"
 
+#include <wx/settings.h>
+
 #include "desktop/Native.h"
 
 namespace zy {
@@ -27,6 +29,8 @@ MonthCalendarBinding::MonthCalendarBinding(const ViewContext& context, const Ins
     calendar_->Bind(wxEVT_LEFT_UP, [this](wxMouseEvent& event) { PressMouse(event); });
     calendar_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { PressKey(event); });
     Keep(model_.valueChanged.Observe([this] { ShowValue(); }));
+    calendar_->SetHeaderColours(wxSystemSettings::GetColour(wxSYS_COLOUR_GRAYTEXT),
+                                wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW));
     Attach(calendar_);
     SetAccessibleName(*calendar_, Shown(model_.Caption()));
 }

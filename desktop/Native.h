@@ -5,6 +5,7 @@
 #include <functional>
 
 class wxChoice;
+class wxDataViewColumn;
 class wxDataViewCtrl;
 class wxPoint;
 class wxStaticBox;
@@ -27,8 +28,8 @@ void LayOutUnseen(wxWindow& window);
 /// Where the room for controls begins inside a box that has at least one child.
 wxPoint OriginInside(const wxStaticBox& box);
 
-/// Calls `moved` whenever the focus of a window goes from one of its controls to another, for the window's whole life.
-/// That another window becomes the active one moves no focus.
+/// Calls `moved` whenever the focus of a window goes from one of its controls to another, for the window's
+/// whole life. That another window becomes the active one moves no focus.
 void ObserveFocus(wxWindow& window, std::function<void()> moved);
 /// Whether the focus of its window is in this control.
 bool HoldsFocus(const wxWindow& control);
@@ -38,6 +39,9 @@ void CloseDropDown(const wxChoice& choice);
 
 /// Shows one character in place of each one that a password box holds.
 void SetPasswordCharacter(wxTextCtrl& box, char character);
+
+/// Lets a column's header be no button, which Tab would stop at. The column can be resized as before.
+void MakeHeaderPlain(wxDataViewColumn& column);
 
 /// Makes a row current for the keyboard and the selection, and scrolls it into view.
 void GoToRow(wxDataViewCtrl& list, int row);

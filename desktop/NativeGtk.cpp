@@ -41,6 +41,10 @@ void ForgetMoved(gpointer moved, GClosure* /*closure*/) {
     delete static_cast<Moved*>(moved);
 }
 
+void UnmakeButton(_GtkTreeViewColumn* column, GParamSpec* /*property*/, gpointer /*unused*/) {
+    gtk_tree_view_column_set_clickable(column, 0);
+}
+
 } // namespace
 
 double DotsPerInch() {
@@ -58,8 +62,9 @@ void SetPasswordCharacter(wxTextCtrl& box, char character) {
 }
 
 void LayOutUnseen(wxWindow& window) {
-    // A window that first appears without a size has GTK complain of menus that do not fit in. One that got its size
-    // before it is real waits in vain to be told of it, and gives room to nothing that is shown later.
+    // A window that first appears without a size has GTK complain of menus that do not fit in. One that got
+    // its size before it is real waits in vain to be told of it, and gives room to nothing that is shown
+    // later.
     gtk_widget_realize(window.m_widget);
     GtkSizeNeeded needed{};
     gtk_widget_get_preferred_size(window.m_widget, nullptr, &needed);
@@ -81,7 +86,8 @@ wxPoint OriginInside(const wxStaticBox& box) {
 
 void ObserveFocus(wxWindow& window, std::function<void()> moved) {
     auto* kept = new Moved(std::move(moved));
-    g_signal_connect_data(window.m_widget, "set-focus", G_CALLBACK(TellMoved), kept, ForgetMoved, G_CONNECT_AFTER);
+    g_signal_connect_data(window.m_widget, "set-focus", G_CALLBACK(TellMoved), kept, ForgetMoved,
+                          G_CONNECT_AFTER);
 }
 
 bool HoldsFocus(const wxWindow& control) {
@@ -93,6 +99,13 @@ bool HoldsFocus(const wxWindow& control) {
 
 void CloseDropDown(const wxChoice& choice) {
     gtk_combo_box_popdown(reinterpret_cast<_GtkComboBox*>(choice.m_widget));
+}
+
+void MakeHeaderPlain(wxDataViewColumn& column) {
+    // The toolkit makes it a button once the list is real.
+    g_signal_connect_data(column.GetGtkHandle(), "notify::clickable", G_CALLBACK(UnmakeButton), nullptr,
+                          nullptr, GConnectFlags{});
+    gtk_tree_view_column_set_clickable(reinterpret_cast<_GtkTreeViewColumn*>(column.GetGtkHandle()), 0);
 }
 
 void GoToRow(wxDataViewCtrl& list, int row) {

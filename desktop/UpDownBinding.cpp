@@ -4,6 +4,8 @@
 #include <wx/settings.h>
 #include <wx/sizer.h>
 
+#include <functional>
+
 #include "desktop/Keys.h"
 #include "desktop/Native.h"
 #include "desktop/Pictures.h"
@@ -36,7 +38,7 @@ wxBitmapButton* UpDownBinding::MakeArrow(const wxString& direction, const wxBitm
 }
 
 void UpDownBinding::Press(void (UpDown::*press)()) {
-    Gate().Act([&] { (model_.*press)(); });
+    Gate().Act([&] { std::invoke(press, model_); });
 }
 
 void UpDownBinding::PressKey(wxKeyEvent& event) {

@@ -83,6 +83,7 @@ void SecurityPage::MarkChangedAndEnableSave() {
 void SecurityPage::cmdAddUser_Click() {
     Trace("cmdAddUser_Click", "Start");
     users.Add_User();
+    controls.grdSecurity.SetFocus(); // what is typed next is the user's name
     EnableDelete(true);
     MarkChangedAndEnableSave();
 }
@@ -132,6 +133,10 @@ void SecurityPage::cmdSaveUsers_Click() {
         RecycleTable();
     }
     form_.ChangeFlag = false;
+    ShowSaved();
+}
+
+void SecurityPage::ShowSaved() {
     controls.cmdSaveUsers.SetEnabled(false);
     form_.zyStatusBar.SetText("Saved");
 }

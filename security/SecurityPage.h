@@ -38,7 +38,7 @@ class SecurityPage : public SecurityEditor {
     void Write_Security() override { users.Write_Security(); }
     void WriteDBIndex() override { users.WriteDBIndex(); }
     int GridRows() const override { return controls.grdSecurity.Rows(); }
-    void DisableSaveButton() override { controls.cmdSaveUsers.SetEnabled(false); }
+    void DisableSaveButton() override { ShowSaved(); }
 
     SecurityControls controls;
     mSecurity users;
@@ -54,6 +54,7 @@ class SecurityPage : public SecurityEditor {
     void DeleteCurrentUser();
     void SetDate(int row, const std::string& text);
     void RecycleTable();
+    void ShowSaved();
     void ReportCount();
 
     SettingsForm& form_;

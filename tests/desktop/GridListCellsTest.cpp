@@ -1,6 +1,4 @@
 #include <wx/button.h>
-#include <wx/grid.h>
-#include <wx/textctrl.h>
 
 #include "UnitsWindow.h"
 
@@ -24,21 +22,6 @@ class GridListCells : public UnitsWindow {
                 grid().SetText(row, column, "picked");
             });
         };
-    }
-
-    wxButton& RealButton() {
-        for (auto* child : RealGrid().GetGridWindow()->GetChildren()) {
-            if (auto* button = dynamic_cast<wxButton*>(child)) {
-                return *button;
-            }
-        }
-        throw GaveUp("The grid has no button");
-    }
-    void ClickButton() {
-        hands->Click(InWindow([&] {
-            const auto place = RealButton().GetScreenRect();
-            return place.GetPosition() + place.GetSize() / 2;
-        }));
     }
 };
 
@@ -83,7 +66,7 @@ TEST_F(GridListCells, TheButtonDropsTheListDownAndAChoiceIsCommitted) {
         ClickCell(1, 0);
         Press(WXK_F2);
         WaitForEditor("kg");
-        ClickButton();
+        ClickCellButton();
         Press(WXK_DOWN);
         Press(WXK_DOWN);
         Press(WXK_RETURN);
@@ -124,8 +107,8 @@ TEST_F(GridListCells, TheEllipsisButtonIsTold) {
         ClickCell(1, 1);
         Press(WXK_F2);
         WaitForEditor("Kilograms");
-        EXPECT_FALSE(InWindow([&] { return RealButton().GetLabel().empty(); }));
-        ClickButton();
+        EXPECT_FALSE(InWindow([&] { return RealCellButton().GetLabel().empty(); }));
+        ClickCellButton();
         WaitForText(1, 1, "picked");
         WaitForNoEditor();
     });

@@ -23,6 +23,12 @@ void Hands::Click(const wxPoint& place) {
     LetGoOfMouse();
 }
 
+void Hands::RightClick(const wxPoint& place) {
+    InWindow([&] { simulator_->MouseMove(place); });
+    InWindow([&] { simulator_->MouseDown(wxMOUSE_BTN_RIGHT); });
+    InWindow([&] { simulator_->MouseUp(wxMOUSE_BTN_RIGHT); });
+}
+
 void Hands::PushMouse(const wxPoint& place) {
     InWindow([&] { simulator_->MouseMove(place); });
     InWindow([&] { simulator_->MouseDown(); });

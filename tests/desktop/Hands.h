@@ -20,6 +20,7 @@ class Hands {
     /// Types characters that are on the keyboard.
     void Type(const std::string& text);
     void Click(const wxPoint& place);
+    void RightClick(const wxPoint& place);
     /// Presses the button of the mouse and keeps it down.
     void PushMouse(const wxPoint& place);
     void LetGoOfMouse();

@@ -51,10 +51,7 @@ World WindowTest::OutsideWorld() {
 
 int WindowTest::Play(const std::function<void()>& script) {
     return PlayFromTheStart([&] {
-        WaitUntil("the window is open", [] {
-            const auto* frame = wxTheApp->GetTopWindow();
-            return frame != nullptr && frame->IsShownOnScreen() && RealFrame().IsActive();
-        });
+        WaitForWindow();
         script();
     });
 }
@@ -89,7 +86,9 @@ void WindowTest::LeaveWindow() {
     wxTheApp->CallAfter([this] {
         if (program->window.IsLoaded()) {
             program->unitsPage.controls.grdUnits.CancelEdit();
+            program->securityPage.controls.grdSecurity.CancelEdit();
             program->form.ChangeFlag = false;
+            program->state.gbChanged = false;
             program->window.Unload();
         }
     });
@@ -181,6 +180,13 @@ wxPoint WindowTest::PlaceOfArrow(const UpDown& arrows, std::size_t arrow) {
 void WindowTest::WaitForFocus(const Control& control) {
     WaitUntil(control.Name() + " has the focus", [&] {
         return RealFrame().IsActive() && HoldsFocus(Real(control)) && program->form.Focused() == &control;
+    });
+}
+
+void WindowTest::WaitForWindow() {
+    WaitUntil("the window is open", [] {
+        auto* frame = dynamic_cast<wxFrame*>(wxTheApp->GetTopWindow());
+        return frame != nullptr && frame->IsShownOnScreen() && frame->IsActive();
     });
 }
 

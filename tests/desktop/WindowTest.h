@@ -71,6 +71,8 @@ class WindowTest : public ::testing::Test {
     std::string OnClipboard();
     wxPoint PlaceOf(const Control& control);
 
+    /// Waits until the main window is open and has the keyboard.
+    void WaitForWindow();
     void WaitForFocus(const Control& control);
     void WaitForStatus(const std::string& text);
 

@@ -20,6 +20,7 @@ TEST_F(EditUsers, AnAddedUserIsTheLastAndCurrentOne) {
     controls().cmdAddUser.Click();
     EXPECT_THAT(Rows(), ElementsAre("Ann|secret|A||id of Ann", "NewUser||A|YY-MM-DD|"));
     ExpectCurrent(2, 0);
+    EXPECT_TRUE(grid().HasFocus());
     EXPECT_EQ(page().users.zySecure.size(), 2U);
     EXPECT_EQ(page().users.zySecure.back(), NewUser());
     ExpectSaveEnabled(true);

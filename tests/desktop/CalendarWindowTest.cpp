@@ -1,0 +1,176 @@
+#include <wx/calctrl.h>
+#include <wx/dialog.h>
+#include <wx/display.h>
+#include <wx/frame.h>
+#include <wx/generic/calctrlg.h>
+#include <wx/grid.h>
+
+#include "UsersWindow.h"
+
+namespace zy::test {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kDialog = "frmDatePicker";
+
+class CalendarWindow : public UsersWindow {
+  protected:
+    CalendarWindow() {
+        auto users = TwoUsers();
+        users[1].EXPDATE = "26-02-28";
+        PutUsers(users);
+        world.system.SetToday(2027y / 3 / 9);
+    }
+
+    /// Opens the calendar by the button of a cell.
+    void OpenCalendar(int row) {
+        OpenEditor(row, kExpiryDate);
+        ClickCellButton();
+        WaitForDialog(kDialog);
+        WaitForFocusIn("dpZYSecurity");
+    }
+    void LeaveCalendar() {
+        Press(WXK_ESCAPE);
+        WaitForNoDialog(kDialog);
+    }
+    std::string ShownDay() {
+        return InWindow([] { return RealCalendar().GetDate().FormatISODate().utf8_string(); });
+    }
+    /// Clicks a day of the month that is shown.
+    void ClickDay(int day) {
+        hands->Click(InWindow([&] { return PlaceOfDay(day); }));
+    }
+    void ExpectClosedWith(const std::string& date) {
+        WaitForNoDialog(kDialog);
+        WaitForText(2, kExpiryDate, date);
+        WaitForNoEditor();
+        WaitForFocus(grid());
+        WaitForCell(2, kExpiryDate);
+    }
+    static wxGenericCalendarCtrl& RealCalendar() {
+        return dynamic_cast<wxGenericCalendarCtrl&>(RealNamed("dpZYSecurity"));
+    }
+
+  private:
+    static wxPoint PlaceOfDay(int day) {
+        constexpr int kStep = 5;
+        auto& calendar = RealCalendar();
+        const wxSize size = calendar.GetClientSize();
+        for (wxPoint place; place.y < size.y; place.y += kStep) {
+            for (place.x = 0; place.x < size.x; place.x += kStep) {
+                wxDateTime hit;
+                if (calendar.HitTest(place, &hit) == wxCAL_HITTEST_DAY && hit.GetDay() == day &&
+                    hit.GetMonth() == calendar.GetDate().GetMonth()) {
+                    return calendar.ClientToScreen(place);
+                }
+            }
+        }
+        throw GaveUp("The calendar does not show that day");
+    }
+};
+
+TEST_F(CalendarWindow, AClickPicksADayOfTheMonthThatIsShown) {
+    Play([&] {
+        OpenCalendar(2);
+        EXPECT_EQ(ShownDay(), "2026-02-28");
+        ClickDay(11);
+        ExpectClosedWith("26-02-11");
+        EXPECT_TRUE(IsEnabled(page().cmdSaveUsers));
+        Click(page().cmdSaveUsers);
+        WaitForStatus("Saved");
+    });
+    ASSERT_TRUE(Table());
+    EXPECT_EQ(Table()->at(1).EXPDATE, "26-02-11");
+}
+
+TEST_F(CalendarWindow, AClickOnTheDayThatIsShownPicksItToo) {
+    Play([&] {
+        OpenCalendar(2);
+        ClickDay(28);
+        ExpectClosedWith("26-02-28");
+        EXPECT_TRUE(IsEnabled(page().cmdSaveUsers));
+    });
+}
+
+TEST_F(CalendarWindow, ADayIsPickedByKeyboardAlone) {
+    Play([&] {
+        OpenEditor(2, kExpiryDate);
+        Press(WXK_DOWN, wxMOD_ALT);
+        WaitForDialog(kDialog);
+        WaitForFocusIn("dpZYSecurity");
+        Press(WXK_RIGHT);
+        Press(WXK_DOWN);
+        Press(WXK_RETURN);
+        ExpectClosedWith("26-03-08");
+    });
+}
+
+TEST_F(CalendarWindow, ShowsTodayForACellWithoutADate) {
+    Play([&] {
+        OpenCalendar(1);
+        EXPECT_EQ(ShownDay(), "2027-03-09");
+        LeaveCalendar();
+    });
+}
+
+TEST_F(CalendarWindow, ClearEmptiesTheCell) {
+    Play([&] {
+        OpenCalendar(2);
+        ClickIn("cmdClear");
+        ExpectClosedWith("");
+        EXPECT_TRUE(IsEnabled(page().cmdSaveUsers));
+    });
+}
+
+TEST_F(CalendarWindow, CancelEscapeAndTheCloseBoxChangeNothing) {
+    Play([&] {
+        OpenCalendar(2);
+        ClickIn("cmdcancel");
+        ExpectClosedWith("26-02-28");
+        OpenCalendar(2);
+        Press(WXK_ESCAPE);
+        ExpectClosedWith("26-02-28");
+        OpenCalendar(2);
+        CloseWindow();
+        ExpectClosedWith("26-02-28");
+        EXPECT_FALSE(IsEnabled(page().cmdSaveUsers));
+    });
+}
+
+TEST_F(CalendarWindow, AltWithALetterPressesItsButton) {
+    Play([&] {
+        OpenCalendar(2);
+        Press('C', wxMOD_ALT);
+        ExpectClosedWith("");
+    });
+}
+
+TEST_F(CalendarWindow, StandsJustBelowItsCell) {
+    Play([&] {
+        OpenCalendar(2);
+        const auto cell = RectOfCell(2, kExpiryDate);
+        const auto dialog = InWindow([] { return RealDialog(kDialog)->GetScreenRect(); });
+        EXPECT_NEAR(dialog.x, cell.x, 2);
+        EXPECT_NEAR(dialog.y, cell.GetBottom() + 1, 2);
+        LeaveCalendar();
+    });
+}
+
+TEST_F(CalendarWindow, StandsWhollyOnTheScreen) {
+    Play([&] {
+        const auto place =
+            InWindow([] { return wxDisplay().GetClientArea().GetBottomRight() - wxPoint(700, 200); });
+        InWindow([&] { RealFrame().Move(place); });
+        WaitUntil("the window stands at the corner", [&] {
+            return RealGrid().GetScreenPosition().y > place.y; // told by the window system
+        });
+        OpenCalendar(2);
+        const auto dialog = InWindow([] { return RealDialog(kDialog)->GetScreenRect(); });
+        EXPECT_TRUE(InWindow([] { return wxDisplay().GetClientArea(); }).Contains(dialog));
+        LeaveCalendar();
+    });
+}
+
+} // namespace
+} // namespace zy::test
