@@ -46,8 +46,10 @@ GridCursor::GridCursor(const ViewContext& context, Grid& model, GridWidget& grid
     });
     grid_.GetGridWindow()->Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent& event) {
         event.Skip();
-        // A click picks a cell of its own, and so does a program that moves the focus here.
-        if (!model_.HasFocus() && !wxGetMouseState().LeftIsDown()) {
+        // A click picks a cell of its own, and so does a program that moves the focus here. In a window that
+        // opens on the grid, the model may know of the focus already.
+        const bool opens = event.GetWindow() == nullptr;
+        if ((opens || !model_.HasFocus()) && !wxGetMouseState().LeftIsDown()) {
             context_.gate.ActLater([this] { return TakeFirstCell(); });
         }
     });
