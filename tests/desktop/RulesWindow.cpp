@@ -1,11 +1,19 @@
 #include "RulesWindow.h"
 
+#include <glib-object.h>
 #include <wx/choice.h>
 #include <wx/dataview.h>
 #include <wx/textctrl.h>
 
 namespace zy::test {
 namespace {
+
+/// Keys that come before go to nobody.
+bool HasDroppedDown(const wxChoice& choice) {
+    gboolean shown = 0;
+    g_object_get(G_OBJECT(choice.m_widget), "popup-shown", &shown, nullptr);
+    return shown != 0;
+}
 
 std::vector<std::string> Split(const std::string& text) {
     std::vector<std::string> fields(1);
@@ -60,6 +68,7 @@ void RulesWindow::Fill(const TextBox& box, const std::string& text) {
 
 void RulesWindow::PickItem(const ComboBox& box, int index) {
     Click(box);
+    WaitUntil("the list has dropped down", [&] { return HasDroppedDown(dynamic_cast<wxChoice&>(Real(box))); });
     Press(WXK_HOME);
     for (int i = 0; i < index; ++i) {
         Press(WXK_DOWN);
