@@ -68,7 +68,8 @@ void RulesWindow::Fill(const TextBox& box, const std::string& text) {
 
 void RulesWindow::PickItem(const ComboBox& box, int index) {
     Click(box);
-    WaitUntil("the list has dropped down", [&] { return HasDroppedDown(dynamic_cast<wxChoice&>(Real(box))); });
+    WaitUntil("the list has dropped down",
+              [&] { return HasDroppedDown(dynamic_cast<wxChoice&>(Real(box))); });
     Press(WXK_HOME);
     for (int i = 0; i < index; ++i) {
         Press(WXK_DOWN);
