@@ -1,5 +1,8 @@
 #include "security/UserChecks.h"
 
+#include <string>
+#include <unordered_map>
+
 #include "basics/Date.h"
 #include "basics/Int16.h"
 #include "basics/Text.h"
@@ -20,45 +23,38 @@ constexpr std::size_t kLongestDate = 8;
 UserChecks::UserChecks(Grid& grid, const World& world) : grid_(grid), world_(world) {}
 
 std::optional<Cell> UserChecks::FirstFailure() {
-    FindNames();
+    const auto sameNames = RowsOfSameName();
     const Int16 last = grid_.Rows() - 1;
     for (int row = 1; row <= last; ++row) {
-        if (const auto failure = CheckRow(row)) {
+        if (const auto failure = CheckRow(row, sameNames[static_cast<std::size_t>(row)])) {
             return failure;
         }
     }
     return std::nullopt;
 }
 
-void UserChecks::FindNames() {
-    names_.clear();
-    names_.reserve(static_cast<std::size_t>(grid_.Rows()));
+std::vector<int> UserChecks::RowsOfSameName() const {
+    std::vector<int> others(static_cast<std::size_t>(grid_.Rows()));
+    std::unordered_map<std::string, int> firstRows;
+    firstRows.reserve(others.size());
     for (int row = 1; row < grid_.Rows(); ++row) {
-        auto& rows = names_[ComparedName(row)];
-        if (rows.first == 0) {
-            rows.first = row;
-        } else if (rows.second == 0) {
-            rows.second = row;
+        const auto [name, isNew] =
+            firstRows.try_emplace(world_.codePage.UCase(grid_.Text(row, kUserName)), row);
+        if (!isNew) {
+            others[static_cast<std::size_t>(row)] = name->second;
+            auto& ofFirst = others[static_cast<std::size_t>(name->second)];
+            ofFirst = ofFirst == 0 ? row : ofFirst;
         }
     }
+    return others;
 }
 
-std::string UserChecks::ComparedName(int row) const {
-    return world_.codePage.UCase(grid_.Text(row, kUserName));
-}
-
-int UserChecks::RowOfSameName(int row) const {
-    const auto& rows = names_.at(ComparedName(row));
-    return rows.first == row ? rows.second : rows.first;
-}
-
-std::optional<Cell> UserChecks::CheckRow(int row) {
+std::optional<Cell> UserChecks::CheckRow(int row, int sameName) {
     if (!CheckName(row)) {
         return Cell{row, kUserName};
     }
-    const int other = RowOfSameName(row);
-    if (FailsIf(other != 0, "Invalid User Name. User Name must be unique.")) {
-        return Cell{other, kUserName}; // the other user of that name is shown, which is meant
+    if (FailsIf(sameName != 0, "Invalid User Name. User Name must be unique.")) {
+        return Cell{sameName, kUserName}; // the other user of that name is shown, which is meant
     }
     if (!CheckPassword(row)) {
         return Cell{row, kPassword};

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <optional>
-#include <string>
-#include <unordered_map>
+#include <string_view>
+#include <vector>
 
 #include "controls/Grid.h"
 #include "platform/World.h"
@@ -22,29 +22,21 @@ class UserChecks {
     std::optional<Cell> FirstFailure();
 
   private:
-    /// The first two rows of a name.
-    struct RowsOfName {
-        int first = 0;
-        int second = 0; ///< 0 when the name is used once
-    };
-
-    void FindNames();
-    std::optional<Cell> CheckRow(int row);
+    /// For each row the first other row with the same name, capitals or not; 0 when there is none.
+    std::vector<int> RowsOfSameName() const;
+    /// `sameName` is another row with the row's name; 0 when there is none.
+    std::optional<Cell> CheckRow(int row, int sameName);
     bool CheckName(int row);
     bool CheckPassword(int row);
     bool CheckIdentification(int row);
     bool CheckDate(int row);
     void SetStatus(int row);
     void DropUnfilledDate(int row);
-    /// Another row with the same name, the first one there is; 0 when there is none.
-    int RowOfSameName(int row) const;
-    std::string ComparedName(int row) const;
     /// Shows the message when the condition holds. Returns the condition.
     bool FailsIf(bool condition, std::string_view message);
 
     Grid& grid_;
     World world_;
-    std::unordered_map<std::string, RowsOfName> names_;
 };
 
 } // namespace zy
