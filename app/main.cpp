@@ -4,16 +4,16 @@
 #include "shell/Program.h"
 #include "shell/mMain.h"
 
-// The whole program, from the outside in: the operating system and the desktop that it runs on, the program itself,
-// and the window that shows it. Start-up, mMain, finds out from the command line which editor the window opens with;
-// from then on the window's events drive everything.
+// The whole program, from the outside in: the operating system and the desktop that it runs on, the program
+// itself, and the window that shows it. Start-up, mMain, finds out from the command line which editor the
+// window opens with; from then on the window's events drive everything.
 
 int main(int argc, char** argv) {
     zy::PosixWorld system(argc, argv);
-    zy::Desktop desktop(system.codePage);
+    zy::Desktop desktop(system.codePage, system.files);
 
     return desktop.Run([&] {
-        zy::Program program(system.Get(desktop.MessageBoxes()));
+        zy::Program program(system.Get(desktop.Get()));
         const zy::MainWindowView view(desktop, program.window);
 
         switch (zy::mMain(program)) {

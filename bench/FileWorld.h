@@ -25,7 +25,11 @@ class FileWorld {
                        .system = rest_.system,
                        .traceServers = rest_.traceServers,
                        .recycleBin = rest_.recycleBin,
+                       .registry = rest_.registry,
+                       .links = rest_.links,
                        .dialogs = rest_.dialogs,
+                       .help = rest_.help,
+                       .window = rest_.window,
                        .codePage = rest_.codePage};
 };
 

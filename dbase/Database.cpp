@@ -115,8 +115,7 @@ void Database::Do(const CreateTable& statement, ExecuteOptions) {
     const auto error = WriteNewFile(workspace_->Files(), path, table.FileBytes(0, workspace_->Today()));
     if (error == FileError::Exists) {
         Raise(kTableExists,
-              {"Table '", statement.table, "' already exists: the file '", path,
-               "' stands in the way. If it is left over from a save that failed, it may be removed."});
+              {"Table '", statement.table, "' already exists: the file '", path, "' stands in the way."});
     }
     if (error != FileError::None) {
         RaiseWriteError(path, error);

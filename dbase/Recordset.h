@@ -68,6 +68,8 @@ class Recordset {
 
     /// The number of records that the table's header promises but its file does not hold.
     std::uint32_t MissingRecords() const;
+    /// The number of records that are damaged, so that nobody can tell whether they are deleted.
+    std::uint32_t DamagedRecords() const;
 
   private:
     friend class Field;

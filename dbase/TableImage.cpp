@@ -13,6 +13,7 @@ namespace zy::dbase {
 namespace {
 
 constexpr char kEndOfFile = '\x1A';
+constexpr char kDeleted = '*';
 constexpr unsigned kLanguageNotStated = 0x00;
 constexpr unsigned kLanguageWindows1252 = 0x03;
 
@@ -55,6 +56,14 @@ std::optional<std::size_t> TableImage::FindField(std::string_view name) const {
         }
     }
     return std::nullopt;
+}
+
+std::uint32_t TableImage::DamagedRecords() const {
+    std::uint32_t damaged = 0;
+    for (std::uint32_t record = 0; record != records_; ++record) {
+        damaged += IsShown(record) || *At(record) == kDeleted ? 0U : 1U;
+    }
+    return damaged;
 }
 
 void TableImage::ConvertToAnsi() {

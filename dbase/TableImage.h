@@ -45,6 +45,8 @@ class TableImage {
 
     /// False when the record is deleted, or damaged so that its flag is none.
     bool IsShown(std::uint32_t record) const { return *At(record) == ' '; }
+    /// The number of records whose flag is none.
+    std::uint32_t DamagedRecords() const;
     /// The bytes of a column, all of them.
     std::string_view Bytes(std::uint32_t record, std::size_t field) const {
         const auto& column = header_.fields[field];

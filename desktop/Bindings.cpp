@@ -8,10 +8,14 @@
 #include "desktop/FrameBinding.h"
 #include "desktop/GridBinding.h"
 #include "desktop/LabelBinding.h"
+#include "desktop/LineBinding.h"
+#include "desktop/LinkLabelBinding.h"
 #include "desktop/ListViewBinding.h"
 #include "desktop/MonthCalendarBinding.h"
+#include "desktop/PictureBinding.h"
 #include "desktop/StatusBarBinding.h"
 #include "desktop/TextBoxBinding.h"
+#include "desktop/TextLabelBinding.h"
 #include "desktop/UpDownBinding.h"
 
 namespace zy {
@@ -37,6 +41,10 @@ Made MakeBinding(const ViewContext& context, const Inside& inside, Control& cont
     MakeIfKind<CommandButton, CommandButtonBinding>(made, context, inside, control);
     MakeIfKind<UpDown, UpDownBinding>(made, context, inside, control);
     MakeIfKind<Label, LabelBinding>(made, context, inside, control);
+    MakeIfKind<TextLabel, TextLabelBinding>(made, context, inside, control);
+    MakeIfKind<LinkLabel, LinkLabelBinding>(made, context, inside, control);
+    MakeIfKind<Line, LineBinding>(made, context, inside, control);
+    MakeIfKind<Picture, PictureBinding>(made, context, inside, control);
     MakeIfKind<Frame, FrameBinding>(made, context, inside, control);
     MakeIfKind<StatusBar, StatusBarBinding>(made, context, inside, control);
     if (!made) {

@@ -12,8 +12,8 @@ class ControlBinding;
 
 using Bindings = std::vector<std::unique_ptr<ControlBinding>>;
 
-/// Makes a real control for each child of a container, in tab order. A label stands right before the control that it
-/// names, which is how the toolkit learns of it.
+/// Makes a real control for each child of a container, in tab order. A label stands right before the control
+/// that it names, which is how the toolkit learns of it.
 Bindings BindChildren(const ViewContext& context, const Inside& inside, const Container& container);
 
 } // namespace zy

@@ -16,8 +16,8 @@ class BoundControls {
     /// The binding of a control, or of the one that really has the focus; null when there is none.
     ControlBinding* Find(const Control* control) const;
     ControlBinding* FindFocused() const;
-    /// Gives the focus to the next control that can have it, in tab order behind the given one; to the first when
-    /// none is given.
+    /// Gives the focus to the next control that can have it, in tab order behind the given one; to the first
+    /// when none is given.
     void FocusNext(const ControlBinding* behind) const;
 
   private:

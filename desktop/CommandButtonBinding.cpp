@@ -4,7 +4,8 @@
 
 namespace zy {
 
-CommandButtonBinding::CommandButtonBinding(const ViewContext& context, const Inside& inside, CommandButton& model)
+CommandButtonBinding::CommandButtonBinding(const ViewContext& context, const Inside& inside,
+                                           CommandButton& model)
     : ControlBinding(context, inside, model) {
     const auto text = WithMnemonic(context.codePage, model.Caption(), model.AccessKey());
     auto* button = new wxButton(Parent(), wxID_ANY, text);

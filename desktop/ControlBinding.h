@@ -9,12 +9,12 @@
 #include "controls/Control.h"
 #include "desktop/ViewContext.h"
 
-// This room shows the program's forms in real windows of the toolkit. It owns the toolkit, the real controls and the
-// event loop, and may call everything but the operating system below; nothing calls it but app/.
+// This room shows the program's forms in real windows of the toolkit. It owns the toolkit, the real controls
+// and the event loop, and may call everything but the operating system below; nothing calls it but app/.
 //
-// Each kind of control has one binding, which connects the model and the real control once, both ways: what the model
-// announces is shown, and what a person does is handed to the model. A window's view is a list of bindings. No rule or
-// decision of the program is made here.
+// Each kind of control has one binding, which connects the model and the real control once, both ways: what
+// the model announces is shown, and what a person does is handed to the model. A window's view is a list of
+// bindings. No rule or decision of the program is made here.
 
 namespace zy {
 

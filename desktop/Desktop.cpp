@@ -8,8 +8,9 @@
 
 namespace zy {
 
-Desktop::Desktop(const CodePage& codePage)
-    : codePage_(codePage), dialogs_(codePage, gate_, [this] { StartToolkit(); }) {}
+Desktop::Desktop(const CodePage& codePage, FileSystem& files)
+    : codePage_(codePage), dialogs_(codePage, gate_, [this] { StartToolkit(); }),
+      help_(codePage, files, dialogs_, [this] { StartToolkit(); }), window_([this] { StartToolkit(); }) {}
 
 void Desktop::StartToolkit() {
     if (!toolkit_) {
@@ -27,11 +28,13 @@ int Desktop::Run(const std::function<int()>& program) {
 
 int Desktop::RunUntilClosed() {
     // The error is reported here, while the window that it came from is still there.
-    return Run([this] {
+    const int status = Run([this] {
         toolkit_->RunLoop();
         gate_.Rethrow();
         return 0;
     });
+    help_.Close();
+    return status;
 }
 
 int Desktop::Report(const std::exception_ptr& error) {

@@ -5,22 +5,26 @@
 #include <optional>
 
 #include "desktop/DesktopDialogs.h"
+#include "desktop/DesktopHelp.h"
+#include "desktop/DesktopWindow.h"
 #include "desktop/EventGate.h"
 #include "desktop/Toolkit.h"
-#include "platform/CodePage.h"
+#include "platform/World.h"
 
 namespace zy {
 
-/// The user's desktop: message boxes, windows and the event loop. The toolkit starts when the first of them is needed,
-/// so that a program that shows nothing needs no display.
+/// The user's desktop: message boxes, help, windows and the event loop. The toolkit starts when the first of
+/// them is needed, so that a program that shows nothing needs no display.
 class Desktop {
   public:
-    explicit Desktop(const CodePage& codePage);
+    /// The help file is read from `files`.
+    Desktop(const CodePage& codePage, FileSystem& files);
 
-    Dialogs& MessageBoxes() { return dialogs_; }
+    /// The program's view of it.
+    ScreenWorld Get() { return {.dialogs = dialogs_, .help = help_, .window = window_}; }
 
-    /// Runs the program and returns the exit status: what the program returns, or 1 when an error that nothing
-    /// inside has caught was shown.
+    /// Runs the program and returns the exit status: what the program returns, or 1 when an error that
+    /// nothing inside has caught was shown.
     int Run(const std::function<int()>& program);
     /// Runs the event loop until Close. Returns the exit status as Run does.
     int RunUntilClosed();
@@ -29,6 +33,7 @@ class Desktop {
     /// Throws NoDisplay when there is none.
     void StartToolkit();
     EventGate& Gate() { return gate_; }
+    DesktopWindow& Window() { return window_; }
     const CodePage& TextCodePage() const { return codePage_; }
 
   private:
@@ -39,6 +44,8 @@ class Desktop {
     std::optional<Toolkit> toolkit_;
     EventGate gate_;
     DesktopDialogs dialogs_;
+    DesktopHelp help_;
+    DesktopWindow window_;
 };
 
 } // namespace zy

@@ -2,13 +2,13 @@
 
 #include <wx/button.h>
 #include <wx/display.h>
+#include <wx/hyperlink.h>
 #include <wx/panel.h>
 #include <wx/utils.h>
 
-#include <algorithm>
-
 #include "controls/CommandButton.h"
 #include "desktop/ControlBinding.h"
+#include "desktop/Displays.h"
 #include "desktop/Native.h"
 #include "desktop/Pictures.h"
 #include "desktop/ShownText.h"
@@ -16,14 +16,16 @@
 namespace zy {
 namespace {
 
-/// A place where the whole dialog can be seen.
-wxRect OnScreen(wxRect place, const wxWindow& parent) {
-    const int display = wxDisplay::GetFromWindow(&parent);
-    const wxRect screen =
-        wxDisplay(display == wxNOT_FOUND ? 0U : static_cast<unsigned>(display)).GetClientArea();
-    place.x = std::max(screen.x, std::min(place.x, screen.GetRight() - place.width));
-    place.y = std::max(screen.y, std::min(place.y, screen.GetBottom() - place.height));
-    return place;
+/// The room for windows on the screen that a window stands on.
+wxRect RoomAround(const wxWindow& window) {
+    const int display = wxDisplay::GetFromWindow(&window);
+    return wxDisplay(display == wxNOT_FOUND ? 0U : static_cast<unsigned>(display)).GetClientArea();
+}
+
+/// Enter works on these by itself.
+bool TakesEnter(const wxWindow* focused) {
+    return dynamic_cast<const wxButton*>(focused) != nullptr ||
+           dynamic_cast<const wxHyperlinkCtrl*>(focused) != nullptr;
 }
 
 } // namespace
@@ -68,7 +70,7 @@ void DialogBinding::PlaceOn(wxWindow* parent) {
     inside_.window->SetSize(place.GetSize());
     if (parent != nullptr && place.GetPosition() != wxPoint()) {
         const wxRect wanted(parent->ClientToScreen(place.GetPosition()), dialog_.GetSize());
-        dialog_.Move(OnScreen(wanted, *parent).GetPosition());
+        dialog_.Move(MovedInside(wanted, RoomAround(*parent)).GetPosition());
     } else {
         dialog_.Centre();
     }
@@ -81,10 +83,9 @@ void DialogBinding::ConnectKeys() {
 
 void DialogBinding::PressKey(wxKeyEvent& event) {
     const bool enter = event.GetKeyCode() == WXK_RETURN || event.GetKeyCode() == WXK_NUMPAD_ENTER;
-    const bool onButton = dynamic_cast<wxButton*>(wxWindow::FindFocus()) != nullptr;
-    CommandButton* button = enter && !onButton                 ? form_.OnEnter()
-                            : event.GetKeyCode() == WXK_ESCAPE ? form_.OnEscape()
-                                                               : nullptr;
+    CommandButton* button = enter && !TakesEnter(wxWindow::FindFocus()) ? form_.OnEnter()
+                            : event.GetKeyCode() == WXK_ESCAPE          ? form_.OnEscape()
+                                                                        : nullptr;
     if (button == nullptr || event.HasAnyModifiers()) {
         event.Skip();
         return;
@@ -93,9 +94,7 @@ void DialogBinding::PressKey(wxKeyEvent& event) {
 }
 
 void DialogBinding::Run() {
-    if (form_.Focused() == nullptr) {
-        controls_.FocusNext(nullptr);
-    }
+    focus_.ShowFirst();
     if (form_.Visible()) {
         dialog_.ShowModal();
     }

@@ -13,18 +13,18 @@ namespace zy {
 
 /// The one gate through which the toolkit's events reach the program.
 ///
-/// Exceptions do not pass through the toolkit, parts of which are in C: the gate keeps the first one, ends the event
-/// loop and lets nothing more through; whoever ran the loop then calls Rethrow.
+/// Exceptions do not pass through the toolkit, parts of which are in C: the gate keeps the first one, ends
+/// the event loop and lets nothing more through; whoever ran the loop then calls Rethrow.
 class EventGate {
   public:
     /// Work that was put off; false when a control refused to be left.
     using Step = std::function<bool()>;
 
-    /// Runs what a person did, behind everything that was put off before it. When a step of that was refused, all
-    /// later ones and the action itself are dropped, so that nobody is asked twice for one gesture.
+    /// Runs what a person did, behind everything that was put off before it. When a step of that was refused,
+    /// all later ones and the action itself are dropped, so that nobody is asked twice for one gesture.
     void Act(const std::function<void()>& action);
-    /// Puts a step off until the toolkit's own handler is done and no button of the mouse is held down, or until the
-    /// next action if that comes first.
+    /// Puts a step off until the toolkit's own handler is done and no button of the mouse is held down, or
+    /// until the next action if that comes first.
     void ActLater(Step step);
     /// Lets the window system tell something, such as a new size, whatever has been put off.
     void Tell(const std::function<void()>& news);

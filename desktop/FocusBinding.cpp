@@ -18,6 +18,14 @@ bool FocusBinding::TakeMove() {
     return focused == nullptr || focused->Model().TakeFocus();
 }
 
+void FocusBinding::ShowFirst() {
+    if (form_.Focused() == nullptr) {
+        context_.controls.FocusNext(nullptr);
+    } else {
+        Show();
+    }
+}
+
 void FocusBinding::Show() {
     auto* focused = context_.controls.Find(form_.Focused());
     if (focused != nullptr && focused->Model().IsUsable() && !HoldsFocus(focused->Window())) {

@@ -7,11 +7,15 @@
 
 namespace zy {
 
-/// The focus of one window. The model asks the control that is left, so it learns of every move of the real focus, and
-/// its answer is shown.
+/// The focus of one window. The model asks the control that is left, so it learns of every move of the real
+/// focus, and its answer is shown.
 class FocusBinding {
   public:
     FocusBinding(const ViewContext& context, Form& form, wxWindow& window);
+
+    /// Gives the focus to the control that the form has given it to, in a window that opens; to the first one
+    /// that can have it when there is none.
+    void ShowFirst();
 
   private:
     /// False when the control that the real focus left refused.

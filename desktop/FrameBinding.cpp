@@ -22,6 +22,8 @@ FrameBinding::FrameBinding(const ViewContext& context, const Inside& inside, Fra
 
 void FrameBinding::ShowAppearance() {
     if (model_.Visible() && children_.empty()) {
+        // A box that is hidden does not tell where its inside begins.
+        content_.window->Show();
         MakeChildren();
     }
     ControlBinding::ShowAppearance();

@@ -110,12 +110,14 @@ bool GridCursor::Show() {
 
 void GridCursor::ShowCell() {
     const wxGridCellCoords cell(model_.Row() - 1, model_.Column());
-    grid_.RefreshRow(grid_.GetGridCursorRow());
+    // A click has moved the toolkit's cursor already.
+    grid_.RefreshRow(shownRow_);
     grid_.SetHasCurrent(HasCell());
     if (HasCell() && grid_.GetGridCursorCoords() != cell) {
         grid_.GoToCell(cell);
     }
-    grid_.RefreshRow(grid_.GetGridCursorRow());
+    shownRow_ = grid_.GetGridCursorRow();
+    grid_.RefreshRow(shownRow_);
 }
 
 void GridCursor::ShowBlock() {

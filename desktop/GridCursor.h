@@ -31,6 +31,7 @@ class GridCursor {
     Grid& model_;
     GridWidget& grid_;
     bool changed_ = true;
+    int shownRow_ = -1;    ///< where the current row was shown last
     bool showing_ = false; ///< the toolkit tells of a move because the model's is shown
     Subscription blockChanged_;
 };

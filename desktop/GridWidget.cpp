@@ -32,7 +32,8 @@ class OneLine : public wxGridCellStringRenderer {
         } else {
             wxGridCellRenderer::Draw(grid, attr, dc, place, row, column, strong);
         }
-        SetTextColoursAndFont(grid, attr, dc, strong);
+        // Without the keyboard a block is grey, on which the selection's own colour of text is hard to read.
+        SetTextColoursAndFont(grid, attr, dc, strong && grid.HasFocus());
         DrawText(static_cast<GridWidget&>(grid), dc, place, grid.GetCellValue(row, column));
     }
 

@@ -6,6 +6,7 @@
 // but not its headers, so these few are declared here, as GTK 3 has fixed them for good.
 
 struct _AtkObject;
+struct _GdkAtom;
 struct _GdkScreen;
 struct _GtkComboBox;
 struct _GtkEntry;
@@ -24,8 +25,10 @@ struct GtkSizeNeeded {
 };
 
 void atk_object_set_name(_AtkObject* accessible, const char* name);
+_GdkAtom* gdk_atom_intern(const char* name, int onlyIfItExists);
 _GdkScreen* gdk_screen_get_default();
 double gdk_screen_get_resolution(_GdkScreen* screen);
+int gdk_x11_screen_supports_net_wm_hint(_GdkScreen* screen, _GdkAtom* property);
 void gtk_entry_set_invisible_char(_GtkEntry* entry, unsigned character);
 void gtk_combo_box_popdown(_GtkComboBox* comboBox);
 void gtk_tree_path_free(_GtkTreePath* path);

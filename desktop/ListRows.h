@@ -7,7 +7,8 @@
 
 namespace zy {
 
-/// The rows of a list, read from its model when the toolkit shows them. Rows count from 0, the model's items from 1.
+/// The rows of a list, read from its model when the toolkit shows them. Rows count from 0, the model's items
+/// from 1.
 class ListRows : public wxDataViewVirtualListModel {
   public:
     ListRows(const ViewContext& context, const ListView& list);

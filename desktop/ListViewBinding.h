@@ -9,8 +9,8 @@
 
 namespace zy {
 
-/// A list. What the program does to it is shown once, at the end of the action, so that a list that is filled anew and
-/// selected in several steps does not flicker or scroll about.
+/// A list. What the program does to it is shown once, at the end of the action, so that a list that is filled
+/// anew and selected in several steps does not flicker or scroll about.
 class ListViewBinding : public ControlBinding {
   public:
     ListViewBinding(const ViewContext& context, const Inside& inside, ListView& model);

@@ -5,13 +5,6 @@
 #include "desktop/Native.h"
 
 namespace zy {
-namespace {
-
-// The least size is fixed, whatever the registry holds.
-constexpr WindowBinding::Sizes kSizes{.first = {12000, 9600}, .least = {8800, 8400}};
-
-} // namespace
-
 MainWindowView::MainWindowView(Desktop& desktop, MainWindow& window)
     : desktop_(desktop), window_(window),
       appearanceChanged_(window.Form().appearanceChanged.Observe([this] { ShowOrHide(); })),
@@ -27,16 +20,19 @@ void MainWindowView::ShowOrHide() {
 
 void MainWindowView::Open() {
     desktop_.StartToolkit();
+    LearnBorders();
     context_.emplace(ViewContext{.codePage = desktop_.TextCodePage(),
                                  .gate = desktop_.Gate(),
                                  .controls = controls_,
                                  .statusBar = window_.Form().zyStatusBar,
                                  .scale = Scale(DotsPerInch())});
-    binding_.emplace(*context_, window_.Form(), kSizes, [this] { window_.Unload(); });
+    binding_.emplace(*context_, window_.Form(), [this] { window_.Unload(); });
     auto& menu = window_.menu;
     menuBar_.emplace(*context_, binding_->Frame(), std::vector{&menu.mnuFile, &menu.mnuHelp},
-                     std::vector{Shortcut{menu.mnuSave, "Ctrl+S"}});
+                     std::vector{Shortcut{menu.mnuSave, "Ctrl+S"}, Shortcut{menu.mnuContents, "F1"}});
+    menuBar_->AddContextMenu(menu.mnuGridPopMenu);
     menuBar_->AddContextMenu(menu.mnuSecuritypopMenu);
+    desktop_.Window().Attach(binding_->Frame());
     binding_->Open();
 }
 

@@ -10,8 +10,8 @@
 
 namespace zy {
 
-/// The main window on the desktop. It opens when the program shows the window, and ends the event loop when the
-/// program has unloaded it.
+/// The main window on the desktop. It opens when the program shows the window, and ends the event loop when
+/// the program has unloaded it.
 class MainWindowView {
   public:
     MainWindowView(Desktop& desktop, MainWindow& window);

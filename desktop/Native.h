@@ -19,6 +19,11 @@ namespace zy {
 /// The pixels in an inch of text, as the user's settings make it.
 double DotsPerInch();
 
+/// Has the toolkit find out, before the first window is made, how wide the borders of windows are. Otherwise
+/// it learns of them when the window is on the screen and adds them to its size, so that a window whose size
+/// is stored would grow from run to run.
+void LearnBorders();
+
 /// The name by which a screen reader calls a control that shows no text of its own.
 void SetAccessibleName(wxWindow& window, const wxString& name);
 

@@ -1,9 +1,12 @@
 #include <glib-object.h>
 #include <wx/choice.h>
 #include <wx/dataview.h>
+#include <wx/frame.h>
 #include <wx/statbox.h>
 #include <wx/textctrl.h>
+#include <wx/utils.h>
 
+#include <chrono>
 #include <memory>
 #include <utility>
 
@@ -45,11 +48,35 @@ void UnmakeButton(_GtkTreeViewColumn* column, GParamSpec* /*property*/, gpointer
     gtk_tree_view_column_set_clickable(column, 0);
 }
 
+/// Otherwise the toolkit would show a window at once.
+bool CanAskForBorders() {
+    return wxGetDisplayInfo().type == wxDisplayX11 &&
+           gdk_x11_screen_supports_net_wm_hint(gdk_screen_get_default(),
+                                               gdk_atom_intern("_NET_REQUEST_FRAME_EXTENTS", 0)) != 0;
+}
+
 } // namespace
 
 double DotsPerInch() {
     const double resolution = gdk_screen_get_resolution(gdk_screen_get_default());
     return resolution > 0 ? resolution : kUsualDotsPerInch;
+}
+
+void LearnBorders() {
+    if (!CanAskForBorders()) {
+        return;
+    }
+    constexpr std::chrono::milliseconds kPatience{100};
+    const auto end = std::chrono::steady_clock::now() + kPatience;
+    auto* probe = new wxFrame(nullptr, wxID_ANY, "");
+    // The toolkit asks, and shows the window only when the answer has come. By then nobody wants to see it
+    // any more.
+    probe->Show();
+    probe->Hide();
+    while (probe->m_decorSize.top == 0 && std::chrono::steady_clock::now() < end) {
+        g_main_context_iteration(nullptr, 0);
+    }
+    delete probe;
 }
 
 void SetAccessibleName(wxWindow& window, const wxString& name) {

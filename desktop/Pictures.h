@@ -12,6 +12,9 @@ namespace zy {
 wxBitmapBundle UpArrow(int size, const wxColour& colour);
 wxBitmapBundle DownArrow(int size, const wxColour& colour);
 
+/// The picture of the About box: a control chart with a point beyond its limit.
+wxBitmapBundle ProgramPicture(int size);
+
 /// The program's icon: a control chart with its limits.
 wxIconBundle ProgramIcon();
 

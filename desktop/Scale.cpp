@@ -13,10 +13,6 @@ wxRect Scale::ToPixels(const Rect& rect) const {
     return {topLeft.x, topLeft.y, ToPixels(rect.Right()) - topLeft.x, ToPixels(rect.Bottom()) - topLeft.y};
 }
 
-wxSize Scale::ToWholePixels(const Size& size) const {
-    return {static_cast<int>(size.width * pixelsPerTwip_), static_cast<int>(size.height * pixelsPerTwip_)};
-}
-
 int Scale::ToTwips(int pixels) const {
     return static_cast<int>(std::ceil(pixels / pixelsPerTwip_));
 }

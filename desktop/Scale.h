@@ -11,12 +11,11 @@ class Scale {
   public:
     explicit Scale(double dotsPerInch) : pixelsPerTwip_(dotsPerInch / kTwipsPerInch) {}
 
+    double TwipsPerPixel() const { return 1 / pixelsPerTwip_; }
     /// The nearest pixel.
     int ToPixels(int twips) const;
     /// Places are rounded by their edges, so that neighbours stay neighbours.
     wxRect ToPixels(const Rect& rect) const;
-    /// As many whole pixels as fit.
-    wxSize ToWholePixels(const Size& size) const;
     /// The fewest twips that are at least so many pixels again.
     int ToTwips(int pixels) const;
     Size ToTwips(const wxSize& size) const;

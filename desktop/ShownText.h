@@ -10,8 +10,8 @@
 
 namespace zy {
 
-// Text between the program, where it is in the code page, and the toolkit, where it is in Unicode. Both count the same
-// number of characters.
+// Text between the program, where it is in the code page, and the toolkit, where it is in Unicode. Both count
+// the same number of characters.
 
 /// The text as the toolkit shows it. A NUL, which would end the text there, is shown as its symbol, U+2400.
 wxString ToShown(const CodePage& codePage, std::string_view text);
@@ -23,11 +23,13 @@ struct EditedText {
     std::size_t changeEnd = 0;
 };
 
-/// What a person made of `before`, as the toolkit shows it now. In the part that is new, a line end or a TAB becomes a
-/// blank, since a text box has one line. Nothing when the new part holds a character that the code page lacks.
+/// What a person made of `before`, as the toolkit shows it now. In the part that is new, a line end or a TAB
+/// becomes a blank, since a text box has one line. Nothing when the new part holds a character that the code
+/// page lacks.
 std::optional<EditedText> TakeEdit(const CodePage& codePage, std::string_view before, const wxString& shown);
 
-/// A caption with "&" before its access key, as the toolkit wants it; every "&" of the caption itself is shown.
+/// A caption with "&" before its access key, as the toolkit wants it; every "&" of the caption itself is
+/// shown.
 wxString WithMnemonic(const CodePage& codePage, std::string_view caption, char accessKey);
 
 } // namespace zy

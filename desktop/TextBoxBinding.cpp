@@ -7,7 +7,7 @@
 namespace zy {
 
 TextBoxBinding::TextBoxBinding(const ViewContext& context, const Inside& inside, TextBox& model)
-    : ControlBinding(context, inside, model), model_(model), 
+    : ControlBinding(context, inside, model), model_(model),
       box_(new wxTextCtrl(Parent(), wxID_ANY, "", {}, {}, model.PasswordChar() == '\0' ? 0 : wxTE_PASSWORD)) {
     if (model.PasswordChar() != '\0') {
         SetPasswordCharacter(*box_, model.PasswordChar());

@@ -9,7 +9,8 @@
 
 namespace zy {
 
-/// A text box. What a person enters is taken character for character or, when the code page lacks one, not at all.
+/// A text box. What a person enters is taken character for character or, when the code page lacks one, not at
+/// all.
 class TextBoxBinding : public ControlBinding {
   public:
     TextBoxBinding(const ViewContext& context, const Inside& inside, TextBox& model);

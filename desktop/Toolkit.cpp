@@ -27,7 +27,8 @@ class App : public wxApp {
 } // namespace
 
 NoDisplay::NoDisplay()
-    : std::runtime_error("There is no display to open a window on: start it in a desktop session, or set DISPLAY") {}
+    : std::runtime_error(
+          "There is no display to open a window on: start it in a desktop session, or set DISPLAY") {}
 
 Toolkit::Toolkit() {
     static std::array<char, 9> name{"zyGlobal"};

@@ -7,7 +7,8 @@
 
 namespace zy {
 
-/// A pair of arrows, the upper above the lower. Alt with the arrow keys presses them as well, while one has the focus.
+/// A pair of arrows, the upper above the lower. Alt with the arrow keys presses them as well, while one has
+/// the focus.
 class UpDownBinding : public ControlBinding {
   public:
     UpDownBinding(const ViewContext& context, const Inside& inside, UpDown& model);
@@ -15,7 +16,8 @@ class UpDownBinding : public ControlBinding {
     void TakeFocus() override { up_->SetFocus(); }
 
   private:
-    wxBitmapButton* MakeArrow(const wxString& direction, const wxBitmapBundle& picture, void (UpDown::*press)());
+    wxBitmapButton* MakeArrow(const wxString& direction, const wxBitmapBundle& picture,
+                              void (UpDown::*press)());
     void PressKey(wxKeyEvent& event);
     void Press(void (UpDown::*press)());
 

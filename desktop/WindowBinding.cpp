@@ -1,6 +1,5 @@
 #include "desktop/WindowBinding.h"
 
-#include <wx/display.h>
 #include <wx/frame.h>
 #include <wx/panel.h>
 #include <wx/statusbr.h>
@@ -15,11 +14,6 @@
 namespace zy {
 namespace {
 
-wxSize FittingScreen(wxSize size) {
-    size.DecTo(wxDisplay().GetClientArea().GetSize());
-    return size;
-}
-
 WindowState StateOf(const wxFrame& frame) {
     return frame.IsIconized()    ? WindowState::Minimized
            : frame.IsMaximized() ? WindowState::Maximized
@@ -28,16 +22,13 @@ WindowState StateOf(const wxFrame& frame) {
 
 } // namespace
 
-WindowBinding::WindowBinding(const ViewContext& context, Form& form, const Sizes& sizes,
-                             std::function<void()> close)
-    : context_(context), form_(form), frame_(new wxFrame(nullptr, wxID_ANY, "")) {
+WindowBinding::WindowBinding(const ViewContext& context, Form& form, std::function<void()> close)
+    : context_(context), form_(form), frame_(new wxFrame(nullptr, wxID_ANY, "")), firstState_(form.State()) {
     frame_->SetName(ToShown(context.codePage, form.Name()));
     frame_->SetIcons(ProgramIcon());
     inside_.window = new wxPanel(frame_);
     children_ = BindChildren(context, inside_, form);
     focus_ = std::make_unique<FocusBinding>(context, form, *frame_);
-    frame_->SetMinSize(context.scale.ToWholePixels(sizes.least));
-    frame_->SetSize(FittingScreen(context.scale.ToPixels({0, 0, sizes.first.width, sizes.first.height}).GetSize()));
     ConnectFrame(std::move(close));
     ShowAppearance();
 }
@@ -72,8 +63,9 @@ void WindowBinding::ConnectFrame(std::function<void()> close) {
 void WindowBinding::Open() {
     frame_->SendSizeEvent();
     LayOutUnseen(*frame_);
-    if (form_.Focused() == nullptr) {
-        context_.controls.FocusNext(nullptr);
+    focus_->ShowFirst();
+    if (firstState_ == WindowState::Maximized) {
+        frame_->Maximize();
     }
     frame_->Show();
 }

@@ -12,22 +12,17 @@ class wxFrame;
 
 namespace zy {
 
-/// A main window on the screen: title, size, state, the controls in it and the focus among them.
+/// A main window on the screen: title, state, the controls in it and the focus among them.
 class WindowBinding {
   public:
-    /// What a main window is at first, in twips and with its borders.
-    struct Sizes {
-        Size first;
-        Size least;
-    };
     /// `mayClose` is asked when a person closes the window; it hides the form when it agrees.
-    WindowBinding(const ViewContext& context, Form& form, const Sizes& sizes, std::function<void()> mayClose);
+    WindowBinding(const ViewContext& context, Form& form, std::function<void()> mayClose);
     ~WindowBinding();
     WindowBinding(const WindowBinding&) = delete;
     WindowBinding& operator=(const WindowBinding&) = delete;
 
     wxFrame& Frame() { return *frame_; }
-    /// Brings the window to the screen, laid out.
+    /// Brings the window to the screen, laid out, in the state that its form has.
     void Open();
 
   private:
@@ -40,6 +35,7 @@ class WindowBinding {
     const ViewContext& context_;
     Form& form_;
     wxFrame* frame_;
+    WindowState firstState_; ///< the form's at first: until it is shown, the real window has none
     Inside inside_;
     Bindings children_;
     std::unique_ptr<FocusBinding> focus_;

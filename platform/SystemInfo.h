@@ -17,6 +17,8 @@ class SystemInfo {
     virtual std::string CommandLine() const = 0;
     /// The program's name without folder and extension.
     virtual std::string ExecutableName() const = 0;
+    /// The folder of the running program, without a closing "\".
+    virtual std::string ExecutableFolder() const = 0;
     /// The character between whole and fraction in the user's locale.
     virtual char DecimalSeparator() const = 0;
     /// The date where the user is.

@@ -3,11 +3,22 @@
 #include "platform/CodePage.h"
 #include "platform/Dialogs.h"
 #include "platform/FileSystem.h"
+#include "platform/HelpSystem.h"
+#include "platform/NativeWindow.h"
 #include "platform/RecycleBin.h"
+#include "platform/Registry.h"
+#include "platform/ShellLinks.h"
 #include "platform/SystemInfo.h"
 #include "platform/TraceServers.h"
 
 namespace zy {
+
+/// The part of the outside world that the window toolkit supplies.
+struct ScreenWorld {
+    Dialogs& dialogs;
+    HelpSystem& help;
+    NativeWindow& window;
+};
 
 /// The outside world, as one program sees it. Whoever builds the program owns the parts and outlives it.
 struct World {
@@ -15,7 +26,11 @@ struct World {
     SystemInfo& system;
     TraceServers& traceServers;
     RecycleBin& recycleBin;
+    Registry& registry;
+    ShellLinks& links;
     Dialogs& dialogs;
+    HelpSystem& help;
+    NativeWindow& window;
     const CodePage& codePage;
 };
 

@@ -125,19 +125,19 @@ bool RuleChecks::CheckDescription(std::string_view text) {
 }
 
 int RuleChecks::FailingColumn(const Grid& grid, int row, const CodeCounts& counts) {
-    enum Column { kCode = 0, kMin = 1, kMax = 2, kDescription = 5 };
     // Condition and zone are not checked: their cells are edited through fixed lists.
-    const auto& code = grid.Text(row, kCode);
+    const auto& code = grid.Text(row, kCodeColumn);
     if (!CheckCode(code, [&] { return IsTaken(counts, code, row); })) {
-        return kCode;
+        return kCodeColumn;
     }
-    if (!Check_Min(grid.Text(row, kMin))) {
-        return kMin;
+    if (!Check_Min(grid.Text(row, kMinColumn))) {
+        return kMinColumn;
     }
-    if (!Check_Max(grid.Text(row, kMax)) || !Verify_MinMax(grid.Text(row, kMin), grid.Text(row, kMax))) {
-        return kMax;
+    if (!Check_Max(grid.Text(row, kMaxColumn)) ||
+        !Verify_MinMax(grid.Text(row, kMinColumn), grid.Text(row, kMaxColumn))) {
+        return kMaxColumn;
     }
-    return CheckDescription(grid.Text(row, kDescription)) ? -1 : kDescription;
+    return CheckDescription(grid.Text(row, kDescriptionColumn)) ? -1 : kDescriptionColumn;
 }
 
 bool RuleChecks::Validate_RulesGRid(Grid& grid) {

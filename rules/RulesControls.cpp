@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "rules/RunRule.h"
+
 namespace zy {
 namespace {
 
@@ -37,6 +39,12 @@ std::vector<std::string> Zones() {
             "-4S  - Average - 4 SD"};
 }
 
+// The bar at the end offers an empty relation.
+constexpr std::string_view kGridConditions = ">|>=|<|<=|=|";
+
+// Unlike the detail form's codes, two end in a blank and "Avg" is in mixed case, which is meant.
+constexpr std::string_view kGridZones = "USL|UCL|UWL|TARG |LWL|LCL|LSL|PREV|+4S|+3S|+15S|Avg |-15S|-3S|-4S";
+
 } // namespace
 
 RulesControls::RulesControls(Frame& fraRules, ListView::Source rules)
@@ -56,8 +64,10 @@ RulesControls::RulesControls(Frame& fraRules, ListView::Source rules)
       lblCondition(&FraRuleDetails, "lblCondition", "Condition:", 'C', cboCondition),
       lblZone(&FraRuleDetails, "lblZone", "Zone:", 'Z', cboZone),
       lblDescription(&FraRuleDetails, "lblDescription", "Description:", 'D', txtDescription),
-      fraGridMode(&fraRules, "fraGridMode", "Grid Mode"), grdRules(&fraGridMode, "grdRules", 6) {
+      fraGridMode(&fraRules, "fraGridMode", "Grid Mode"), grdRules(&fraGridMode, "grdRules", kRuleColumns) {
     cmdUpDown.SetCaption("Move rule");
+    grdRules.SetColumnList(kCondColumn, kGridConditions);
+    grdRules.SetColumnList(kZoneColumn, kGridZones);
 }
 
 } // namespace zy

@@ -16,18 +16,7 @@ constexpr std::string_view kModule = "mRules";
 constexpr std::array<std::string_view, 5> kRelations{">", ">=", "<", "<=", "="};
 
 std::string_view CellOf(const RunRule& rule, int column) {
-    constexpr std::array kColumns{&RunRule::Code, &RunRule::Min,  &RunRule::Max,
-                                  &RunRule::Cond, &RunRule::Zone, &RunRule::Description};
-    return rule.*kColumns.at(static_cast<std::size_t>(column));
-}
-
-std::string RowOf(const RunRule& rule) {
-    std::string row(CellOf(rule, 0));
-    for (int column = 1; column < 6; ++column) {
-        row += '\t';
-        row += CellOf(rule, column);
-    }
-    return row;
+    return rule.*kColumnProperties.at(static_cast<std::size_t>(column));
 }
 
 } // namespace
@@ -35,34 +24,16 @@ std::string RowOf(const RunRule& rule) {
 RulesPage::RulesPage(mRules& rules, SettingsForm& form, SharedState& state, TraceChannel& trace,
                      const World& world)
     : controls(form.fraRules, [&rules](int item, int column) { return CellOf(rules.gaRules(item), column); }),
-      rules_(rules), form_(form), state_(state), trace_(trace), world_(world),
-      checks_(rules.gaRules, world, trace) {
+      gridMode(rules, controls, form, state, trace, world), rules_(rules), form_(form), state_(state),
+      trace_(trace), world_(world), checks_(rules.gaRules, world, trace) {
     ConnectButtons();
     ConnectDetails();
+    gridMode.countChanged.Connect([this] { ShowStatus(CountText()); });
     rules_.reported.Connect([this](const std::string& report) { ShowStatus(report); });
 }
 
 void RulesPage::Trace(std::string_view module, std::string_view procedure, std::string_view message) {
     trace_.DebugTrace(module, procedure, message);
-}
-
-void RulesPage::ShowListMode() {
-    controls.fraGridMode.SetVisible(false);
-    controls.fraRulesList.SetVisible(true);
-    controls.FraRuleDetails.SetVisible(true);
-}
-
-void RulesPage::ShowGridMode() {
-    constexpr std::string_view kHeaders = "Code\tMin\tMax\tCond.\tZone\tDescription";
-    controls.fraRulesList.SetVisible(false);
-    controls.FraRuleDetails.SetVisible(false);
-    controls.fraGridMode.SetVisible(true);
-    auto& grid = controls.grdRules;
-    grid.SetRows(0);
-    grid.AddItem(kHeaders);
-    for (int i = 1; i <= rules_.gaRules.UBound(); ++i) {
-        grid.AddItem(RowOf(rules_.gaRules(i)));
-    }
 }
 
 void RulesPage::LoadRulesListMode() {

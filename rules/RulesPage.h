@@ -7,6 +7,7 @@
 #include "platform/World.h"
 #include "rules/RuleChecks.h"
 #include "rules/RulesControls.h"
+#include "rules/RulesGridMode.h"
 #include "shell/SettingsForm.h"
 #include "shell/SharedState.h"
 #include "shell/TraceChannel.h"
@@ -15,15 +16,21 @@ namespace zy {
 
 class mRules;
 
-/// The rules page: list mode with its detail form, and the handlers of its controls.
+/// The rules page: list mode with its detail form, the handlers of its controls, and the switch to grid
+/// mode.
 class RulesPage {
   public:
     RulesPage(mRules& rules, SettingsForm& form, SharedState& state, TraceChannel& trace, const World& world);
 
-    /// Shows the list and the detail form; the grid is hidden.
+    /// Shows the list and the detail form as they stand, to be filled by LoadRulesListMode; the grid is
+    /// hidden.
     void ShowListMode();
     /// Shows the grid with one row per rule. Nothing in the program calls it.
     void ShowGridMode();
+    /// Checks and stores what the view that is shown holds, before another one is shown: the rule in the
+    /// detail form, or the grid when one of its cells was changed. False when a check failed; then nothing is
+    /// stored and the switch is not to be made. Nothing in the program calls it.
+    bool StoreBeforeTabSwitch();
 
     /// Fills the list from the rules and shows the first one; without rules the detail form is empty and
     /// disabled.
@@ -52,6 +59,7 @@ class RulesPage {
     void lstRulesList_KeyDown(const KeyPress& press);
 
     RulesControls controls;
+    RulesGridMode gridMode;
 
   private:
     void ConnectButtons();
@@ -66,6 +74,7 @@ class RulesPage {
     void SelectAndEdit(int item);
     void Swap(Int16 item, int neighbour);
     void DeleteSelected();
+    bool StoreRuleInHand();
 
     bool ValidateCode();
     bool ValidateMin();

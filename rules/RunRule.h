@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 
 namespace zy {
@@ -16,5 +17,20 @@ struct RunRule {
     std::string Desc2;       ///< second and third piece of the description as older files hold them;
     std::string Desc3;       ///< folded into Description at loading
 };
+
+/// The columns of the list and of the grid.
+enum RuleColumn {
+    kCodeColumn,
+    kMinColumn,
+    kMaxColumn,
+    kCondColumn,
+    kZoneColumn,
+    kDescriptionColumn,
+    kRuleColumns
+};
+
+/// The properties that stand in these columns.
+inline constexpr std::array<std::string RunRule::*, kRuleColumns> kColumnProperties{
+    &RunRule::Code, &RunRule::Min, &RunRule::Max, &RunRule::Cond, &RunRule::Zone, &RunRule::Description};
 
 } // namespace zy

@@ -12,9 +12,9 @@
 #include "rules/SettingsLibrary.h"
 #include "shell/TraceChannel.h"
 
-// The rules editor: the rule list and its file (mRules), the checks (RuleChecks), and the page with its list,
-// detail form and handlers (RulesPage). It owns the rules and the rules file, and calls the low part of the
-// shell and what lies below that.
+// The rules editor: the rule list and its file (mRules), the checks (RuleChecks), the page with its list,
+// detail form and handlers (RulesPage), and the grid view that the page carries out of reach (RulesGridMode).
+// It owns the rules and the rules file, and calls the low part of the shell and what lies below that.
 
 namespace zy {
 
@@ -42,6 +42,7 @@ class mRules {
     Bool16 gbNewRule;      ///< a rule was added and not stored from the detail form yet
     Bool16 gbRulesChanged; ///< cleared by writing and never set, which keeps a step of EditRule dormant
     Bool16 gbLoadingRule;  ///< the program fills the detail form: its change events are no user edits
+    Bool16 gbGridChanged;  ///< a cell of the rules grid was changed; never cleared, which is meant
 
     /// Lines of the rules file that are no part of a rule; the next save will not write them back.
     std::size_t SkippedLines() const { return skippedLines_; }

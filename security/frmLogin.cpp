@@ -55,20 +55,21 @@ void frmLogin::Form_Resize() {
     constexpr int kButtonWidth = 1215;
     const int labels = std::max(lblUserName.Preferred().width, lblPassword.Preferred().width);
     const int boxes = kMargin + labels + kGap;
+    const int width = std::max({kButtonWidth, cmdOK.Preferred().width, cmdCancel.Preferred().width});
+    // In large print the two buttons need more room than the rows above them.
+    const int right = std::max(boxes + kBoxWidth, kMargin + 2 * width + kGap);
     int top = kMargin;
     const auto placeRow = [&](Label& label, TextBox& box) {
         const int height = box.Preferred().height;
         const int labelHeight = label.Preferred().height;
         label.SetBounds({kMargin, top + (height - labelHeight) / 2, labels, labelHeight});
-        box.SetBounds({boxes, top, kBoxWidth, height});
+        box.SetBounds({boxes, top, right - boxes, height});
         top += height + kGap;
     };
     placeRow(lblUserName, txtUserName);
     placeRow(lblPassword, txtPassword);
 
-    const int width = std::max({kButtonWidth, cmdOK.Preferred().width, cmdCancel.Preferred().width});
     const int height = std::max(cmdOK.Preferred().height, cmdCancel.Preferred().height);
-    const int right = boxes + kBoxWidth;
     top += kGap;
     cmdCancel.SetBounds({right - width, top, width, height});
     cmdOK.SetBounds({right - 2 * width - kGap, top, width, height});

@@ -1,23 +1,33 @@
 #include "security/mSecurity.h"
 
+#include <algorithm>
+
 #include "basics/Int16.h"
 #include "basics/RuntimeError.h"
 #include "basics/Text.h"
+#include "dbase/ErrorNumbers.h"
 #include "security/UserChecks.h"
 #include "security/frmLogin.h"
 #include "shell/Utilities.h"
-#include "shell/mRecycleBin.h"
 
 namespace zy {
 namespace {
 
 constexpr std::string_view kModule = "mSecurity";
 constexpr std::string_view kConnect = "dBase III";
-constexpr std::string_view kTable = "ZYSECURE.DBF";
-constexpr std::string_view kTemporary = "ZYSECURE.TMP";
-constexpr std::string_view kIndex = "ZYSECURE.NDX";
+constexpr int kFields = 5;
 
-/// The first five columns of a table, whatever they are called.
+/// The engine would raise the same error, without a word about the table.
+void RequireFields(const dbase::Fields& fields, const std::string& table) {
+    if (fields.Count() < kFields) {
+        throw RuntimeError(dbase::kNoSuchItem, "Item not found in this collection: the table of users '" +
+                                                   table + "' has " + std::to_string(fields.Count()) +
+                                                   " of the " + std::to_string(kFields) +
+                                                   " fields of a user.");
+    }
+}
+
+/// The first columns of a table, whatever they are called.
 UserRecord UserIn(const dbase::Fields& fields) {
     const auto value = [&](int column) { return std::string(fields.Item(column).Value()); };
     return {.USERID = value(0),
@@ -42,8 +52,18 @@ void mSecurity::Trace(std::string_view procedure, std::string_view message) {
     trace_.DebugTrace(kModule, procedure, message);
 }
 
+std::string mSecurity::TablePath() const {
+    auto path = state_.gsSecurityFile;
+    std::replace(path.begin(), path.end(), '/', '\\');
+    return path;
+}
+
 std::string mSecurity::SecurityFolder() const {
-    return std::string(FolderOf(state_.gsSecurityFile));
+    return std::string(FolderOf(TablePath()));
+}
+
+std::string mSecurity::TableName() const {
+    return std::string(FileNameOf(TablePath()));
 }
 
 Bool16 mSecurity::LoadSecurityData() {
@@ -68,16 +88,25 @@ void mSecurity::StartNewList() {
 }
 
 void mSecurity::OpenDatabase() {
+    // The engine would look in the root of the drive.
+    if (SecurityFolder().empty()) {
+        throw RuntimeError(dbase::kBadPath, "'" + state_.gsSecurityFile +
+                                                "' isn't a valid path for the table of users: it names no "
+                                                "folder. " +
+                                                state_.gsSystemDir + "ZYSECURE.ZYX names the table.");
+    }
     database_ = engine_.OpenDatabase(SecurityFolder(), false, false, kConnect);
 }
 
 bool mSecurity::ReadTable() {
     OpenDatabase();
-    const auto records =
-        database_->OpenRecordset(FileNameOf(state_.gsSecurityFile), dbase::RecordsetType::Dynaset);
+    const auto records = database_->OpenRecordset(TableName(), dbase::RecordsetType::Dynaset);
     zySecure = {UserRecord()};
     bool hasAdmin = false;
     records->MoveFirst();
+    if (!records->Eof()) {
+        RequireFields(records->Fields(), state_.gsSecurityFile);
+    }
     for (Int16 i = 0; !records->Eof(); i = i + 1) {
         zySecure.resize(static_cast<std::size_t>(i) + 1);
         auto& user = zySecure.back();
@@ -89,12 +118,24 @@ bool mSecurity::ReadTable() {
         }
         records->MoveNext();
     }
-    if (const auto missing = records->MissingRecords(); missing != 0) {
-        reported.Raise(std::string(FileNameOf(state_.gsSecurityFile)) +
-                       " is cut short: " + std::to_string(missing) + " of its users are missing");
-    }
+    ReportLosses(*records);
     records->Close();
     return hasAdmin;
+}
+
+void mSecurity::ReportLosses(const dbase::Recordset& records) {
+    const std::string table = TableName();
+    std::string report;
+    if (const auto missing = records.MissingRecords(); missing != 0) {
+        report = table + " is cut short: " + std::to_string(missing) + " of its users are missing";
+    }
+    if (const auto damaged = records.DamagedRecords(); damaged != 0) {
+        report += report.empty() ? "" : "; ";
+        report += table + " is damaged: " + std::to_string(damaged) + " of its users cannot be shown";
+    }
+    if (!report.empty()) {
+        reported.Raise(report);
+    }
 }
 
 Bool16 mSecurity::LogIn() {
@@ -111,109 +152,6 @@ Bool16 mSecurity::LogIn() {
     }
     Trace("LoadSecurityData", "Load Complete");
     return login.LoginSucceeded;
-}
-
-void mSecurity::Save_Security() {
-    Start("Save_Security");
-    const auto& grid = controls_.grdSecurity;
-    for (int row = 1; row < grid.Rows(); ++row) {
-        auto& user = zySecure.at(static_cast<std::size_t>(row) - 1);
-        user.USERID = grid.Text(row, kUserName);
-        user.PASSWORD = grid.Text(row, kPassword);
-        user.STATUS = grid.Text(row, kStatus);
-        user.EXPDATE = grid.Text(row, kExpiryDate);
-        user.IDENTIFIER = grid.Text(row, kIdentification);
-    }
-}
-
-void mSecurity::Write_Security() {
-    constexpr std::string_view kProcedure = "Write_Security";
-    Start(kProcedure);
-    try {
-        OpenDatabase();
-        CreateTemporary();
-        InsertUsers(ColumnList());
-        database_->Flush(); // before the old table goes
-        ReplaceTable();
-        database_->Close();
-    } catch (const RuntimeError& error) {
-        database_.reset();
-        RaiseWithHint(error);
-    }
-    database_.reset();
-    Trace(kProcedure, "Security File Write Success");
-}
-
-/// The file that is left behind makes the next attempt fail, which is meant: a person has to look at it.
-void mSecurity::RaiseWithHint(const RuntimeError& error) {
-    const std::string temporary = SecurityFolder() + std::string(kTemporary);
-    if (!world_.files.Exists(temporary)) {
-        throw RuntimeError(error);
-    }
-    throw RuntimeError(error.Number(), error.Description() + "\n\nThe file " + temporary +
-                                           " stands in the way of the next save. It may be removed.");
-}
-
-void mSecurity::CreateTemporary() {
-    database_->Execute("CREATE TABLE [ZYSECURE.TMP] (USERID TEXT (10), PASSWORD TEXT (20), "
-                       "IDENTIFIER TEXT(20),EXPDATE TEXT (8), STATUS TEXT(1));");
-    const std::string table = SecurityFolder() + std::string(kTable);
-    if (world_.files.Exists(table)) {
-        world_.files.CopyPermissions(table, SecurityFolder() + std::string(kTemporary));
-    }
-}
-
-std::string mSecurity::ColumnList() {
-    const auto records = database_->OpenRecordset(kTemporary, dbase::RecordsetType::Dynaset);
-    const auto& fields = records->Fields();
-    std::string list;
-    for (int column = 0; column < fields.Count(); ++column) {
-        list += column == 0 ? "(" : ", ";
-        list += fields.Item(column).Name();
-    }
-    records->Close();
-    return list;
-}
-
-void mSecurity::InsertUsers(const std::string& columns) {
-    const std::string front = "INSERT INTO [ZYSECURE.TMP] " + columns + ") VALUES ('";
-    std::string statement;
-    for (const auto& user : zySecure) {
-        statement = front;
-        // Values are put in as they are: a single quote in one breaks the statement, which is meant.
-        statement.append(user.USERID).append("', '").append(user.PASSWORD).append("', '");
-        statement.append(user.IDENTIFIER).append("', '").append(user.EXPDATE).append("', '");
-        statement.append(user.STATUS).append("');");
-        engine_.BeginTrans();
-        database_->Execute(statement, dbase::ExecuteOptions::FailOnError);
-        engine_.CommitTrans();
-    }
-}
-
-void mSecurity::ReplaceTable() {
-    const std::string table = SecurityFolder() + std::string(kTable);
-    RecycleIfThere(table);
-    const auto error = world_.files.Rename(SecurityFolder() + std::string(kTemporary), table);
-    if (error != FileError::None) {
-        throw RuntimeError(75, "Path/File access error: " + table + " could not be replaced, " +
-                                   std::string(Describe(error)));
-    }
-}
-
-void mSecurity::RecycleIfThere(const std::string& path) {
-    if (world_.files.Exists(path)) {
-        RecycleFile(world_.recycleBin, path);
-    }
-}
-
-void mSecurity::WriteDBIndex() {
-    Start("WriteDBIndex");
-    OpenDatabase();
-    const auto records = database_->OpenRecordset(kTable, dbase::RecordsetType::Dynaset);
-    const std::string field(records->Fields().Item(0).Name());
-    records->Close();
-    RecycleIfThere(SecurityFolder() + std::string(kIndex));
-    database_->Execute("CREATE INDEX [ZYSECURE] ON [ZYSECURE.DBF] (" + field + ");");
 }
 
 void mSecurity::Add_User() {

@@ -64,9 +64,14 @@ class mSecurity {
   private:
     void Start(std::string_view procedure);
     void Trace(std::string_view procedure, std::string_view message);
+    /// Where the table is, as the look-up gave it. A path that a person typed may have "/" for "\".
+    std::string TablePath() const;
+    std::string TableName() const;
     void StartNewList();
     /// Reads the users, and the administrator's password; false when the table names no administrator.
     bool ReadTable();
+    /// Says which users of the table are not among those that were read.
+    void ReportLosses(const dbase::Recordset& records);
     Bool16 LogIn();
 
     void OpenDatabase();

@@ -11,7 +11,11 @@ World MemoryWorld::Get() {
             .system = system,
             .traceServers = traceServers,
             .recycleBin = recycleBin,
+            .registry = registry,
+            .links = links,
             .dialogs = dialogs,
+            .help = help,
+            .window = window,
             .codePage = codePage};
 }
 

@@ -8,6 +8,7 @@ namespace zy {
 
 struct ReleaseGlib {
     void operator()(GError* error) const { g_error_free(error); }
+    void operator()(GKeyFile* file) const { g_key_file_unref(file); }
     void operator()(GVariant* variant) const { g_variant_unref(variant); }
     void operator()(gchar* text) const { g_free(text); }
     template <typename Object>

@@ -26,11 +26,24 @@ std::optional<std::string> PathResolver::Resolve(std::string_view path) const {
     if (path.empty() || kSeparators.find(path.front()) == std::string_view::npos) {
         return std::nullopt;
     }
+    // Nearly always the path is right as it stands: then one look is enough.
+    const auto exact = ResolveEach(
+        path, [this](const std::string&, std::string_view name) { return text_.NameToOutside(name); });
+    if (exact && NameExists(*exact)) {
+        return exact;
+    }
+    return ResolveEach(
+        path, [this](const std::string& folder, std::string_view name) { return ResolveName(folder, name); });
+}
+
+template <typename NameInFolder>
+std::optional<std::string> PathResolver::ResolveEach(std::string_view path,
+                                                     const NameInFolder& nameInFolder) const {
     std::string resolved;
     while (!path.empty()) {
         const auto name = path.substr(0, path.find_first_of(kSeparators));
         if (!name.empty()) {
-            const auto found = ResolveName(resolved + '/', name);
+            const auto found = nameInFolder(resolved + '/', name);
             if (!found) {
                 return std::nullopt;
             }

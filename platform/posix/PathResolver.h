@@ -21,6 +21,9 @@ class PathResolver {
     std::optional<std::string> Resolve(std::string_view path) const;
 
   private:
+    /// The path whose parts are named by `nameInFolder`, from the first on; nothing when one has no name.
+    template <typename NameInFolder>
+    std::optional<std::string> ResolveEach(std::string_view path, const NameInFolder& nameInFolder) const;
     /// The name in the system of one part of a path.
     std::optional<std::string> ResolveName(const std::string& folder, std::string_view name) const;
     std::optional<std::string> FindIgnoringCase(const std::string& folder, std::string_view name) const;

@@ -46,7 +46,8 @@ std::string MadeDataSystemFolder() {
 
 PosixSystemInfo::PosixSystemInfo(int argumentCount, const char* const* arguments, const CodePage& codePage)
     : codePage_(codePage), text_(codePage), arguments_(arguments, arguments + argumentCount),
-      executableName_(text_.TextToInside(ExecutablePath(arguments_).stem().string())) {}
+      executableName_(text_.TextToInside(ExecutablePath(arguments_).stem().string())),
+      executableFolder_(text_.PathToInside(ExecutablePath(arguments_).parent_path().string())) {}
 
 std::string PosixSystemInfo::SystemDirectory() {
     const auto named = Environment("ZYSETUP_SYSTEM_DIR");

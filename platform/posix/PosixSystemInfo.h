@@ -22,6 +22,8 @@ class PosixSystemInfo final : public SystemInfo {
     std::string CommandLine() const override;
     /// That of the file that ran at the start, even when it has been replaced or removed meanwhile.
     std::string ExecutableName() const override { return executableName_; }
+    /// The one of that file.
+    std::string ExecutableFolder() const override { return executableFolder_; }
     /// "." when the locale is not installed or its separator is no character of the code page.
     char DecimalSeparator() const override;
     std::chrono::year_month_day Today() const override;
@@ -31,6 +33,7 @@ class PosixSystemInfo final : public SystemInfo {
     PathText text_;
     std::vector<std::string> arguments_;
     std::string executableName_;
+    std::string executableFolder_;
 };
 
 } // namespace zy

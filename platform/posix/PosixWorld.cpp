@@ -9,12 +9,16 @@ PosixWorld::PosixWorld(int argumentCount, const char* const* arguments)
     std::signal(SIGXFSZ, SIG_IGN);
 }
 
-World PosixWorld::Get(Dialogs& dialogs) {
+World PosixWorld::Get(const ScreenWorld& screen) {
     return {.files = files,
             .system = system,
             .traceServers = traceServers,
             .recycleBin = recycleBin,
-            .dialogs = dialogs,
+            .registry = registry,
+            .links = links,
+            .dialogs = screen.dialogs,
+            .help = screen.help,
+            .window = screen.window,
             .codePage = codePage};
 }
 

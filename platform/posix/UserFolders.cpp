@@ -28,6 +28,16 @@ std::string HomeFolder() {
     return IsAbsolute(home) ? home : HomeFromUserDatabase();
 }
 
+/// The folder that a variable names, else the usual one in the home folder.
+std::string UserFolder(const char* variable, const char* usual) {
+    auto named = Environment(variable);
+    if (IsAbsolute(named)) {
+        return named;
+    }
+    const auto home = HomeFolder();
+    return IsAbsolute(home) ? home + usual : "";
+}
+
 bool IsFolder(const std::string& path) {
     struct stat status {};
     return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
@@ -41,12 +51,11 @@ std::string Environment(const char* name) {
 }
 
 std::string UserDataFolder() {
-    auto data = Environment("XDG_DATA_HOME");
-    if (IsAbsolute(data)) {
-        return data;
-    }
-    const auto home = HomeFolder();
-    return IsAbsolute(home) ? home + "/.local/share" : "";
+    return UserFolder("XDG_DATA_HOME", "/.local/share");
+}
+
+std::string UserConfigFolder() {
+    return UserFolder("XDG_CONFIG_HOME", "/.config");
 }
 
 bool MakeFolders(const std::string& path) {

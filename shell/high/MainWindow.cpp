@@ -18,14 +18,6 @@ MainWindow::MainWindow(const Parts& parts) : menu(parts.form.menu), parts_(parts
     parts_.form.resize.Connect([this] { Form_Resize(); });
     menu.mnuSave.click.Connect([this] { mnuSave_Click(); });
     menu.mnuExit.click.Connect([this] { mnuExit_Click(); });
-    for (MenuItem* entry : {&menu.mnuContents, &menu.mnuIndex, &menu.mnuWebProducts, &menu.mnuWebAcademy,
-                            &menu.mnuWebMentorDesk, &menu.mnuWebHome, &menu.mnuAbout}) {
-        entry->click.Connect([this] { ShowHelp(); });
-    }
-}
-
-void MainWindow::ShowHelp() {
-    parts_.form.zyStatusBar.SetText("Help comes with a later version");
 }
 
 void MainWindow::Trace(std::string_view procedure, std::string_view message) {
@@ -65,7 +57,7 @@ void MainWindow::ShowSecurity() {
     Load();
     Trace("ShowSecurity", "Rules");
     ShowFrame(parts_.form.fraSecurity);
-    parts_.security->LoadSecurity();
+    parts_.security.LoadSecurity();
     parts_.form.SetCaption("ZY Setup - Security");
 }
 
@@ -74,7 +66,7 @@ void MainWindow::ShowUnits() {
     Trace("ShowUnits", "Rules");
     ShowFrame(parts_.form.FraUnits);
     parts_.form.SetCaption("ZY Setup - Units of Measure");
-    parts_.units->LoadUnitsData();
+    parts_.units.LoadUnitsData();
 }
 
 void MainWindow::ConfirmExit() {
@@ -96,9 +88,7 @@ bool MainWindow::Unload() {
 
 void MainWindow::Form_Load() {
     Trace("Form_Load", "Start");
-    if (parts_.placement != nullptr) {
-        parts_.placement->InstallMinSizeHook();
-    }
+    parts_.minSize.InstallMinSizeHook();
 }
 
 void MainWindow::Form_Resize() {
@@ -110,10 +100,10 @@ void MainWindow::Form_Resize() {
         parts_.rulesPage.ResizeRuleTab();
     }
     if (parts_.state.gbSecurityMode) {
-        parts_.security->ResizeSecurity();
+        parts_.security.ResizeSecurity();
     }
     if (parts_.state.gbUnitsMode) {
-        parts_.units->ResizeUnits();
+        parts_.units.ResizeUnits();
     }
 }
 
@@ -152,26 +142,26 @@ void MainWindow::SaveRules() {
 }
 
 void MainWindow::SaveSecurity() {
-    parts_.security->CommitCellEdit();
+    parts_.security.CommitCellEdit();
     Trace(kSaveProcedure, "Security");
-    if (!parts_.security->Validate_Security()) {
+    if (!parts_.security.Validate_Security()) {
         return;
     }
-    parts_.security->Save_Security();
+    parts_.security.Save_Security();
     WriteUserTable();
     parts_.state.gbChanged = false;
-    parts_.security->DisableSaveButton();
+    parts_.security.DisableSaveButton();
 }
 
 void MainWindow::SaveUnits() {
-    parts_.units->CommitCellEdit();
+    parts_.units.CommitCellEdit();
     Trace(kSaveProcedure, "Units");
-    if (!parts_.units->ValidateUnits()) {
+    if (!parts_.units.ValidateUnits()) {
         return;
     }
-    parts_.units->Write_Units();
+    parts_.units.Write_Units();
     parts_.form.ChangeFlag = false;
-    parts_.units->DisableSaveButton();
+    parts_.units.DisableSaveButton();
 }
 
 bool MainWindow::Form_Unload() {
@@ -183,10 +173,8 @@ bool MainWindow::Form_Unload() {
     if (!unload) {
         return false;
     }
-    if (parts_.placement != nullptr) {
-        parts_.placement->RemoveMinSizeHook();
-        parts_.placement->SaveWindowPlacement();
-    }
+    parts_.minSize.RemoveMinSizeHook();
+    parts_.placement.SaveWindowPlacement();
     Trace("Form_Unload", "Unloaded");
     return true;
 }
@@ -206,34 +194,34 @@ bool MainWindow::UnloadRules() {
 }
 
 bool MainWindow::UnloadSecurity() {
-    parts_.security->CommitCellEdit();
+    parts_.security.CommitCellEdit();
     Trace("Form_Unload", "Security");
     if (parts_.state.gbChanged && WantsToSave()) {
-        if (!parts_.security->Validate_Security()) {
+        if (!parts_.security.Validate_Security()) {
             return false;
         }
-        parts_.security->Save_Security();
+        parts_.security.Save_Security();
         WriteUserTable();
     }
     return true;
 }
 
 bool MainWindow::UnloadUnits() {
-    parts_.units->CommitCellEdit();
+    parts_.units.CommitCellEdit();
     Trace("Form_Unload", "Units");
     if (parts_.form.ChangeFlag && WantsToSave()) {
-        if (!parts_.units->ValidateUnits()) {
+        if (!parts_.units.ValidateUnits()) {
             return false;
         }
-        parts_.units->Write_Units();
+        parts_.units.Write_Units();
     }
     return true;
 }
 
 void MainWindow::WriteUserTable() {
-    if (parts_.security->GridRows() > 1) {
-        parts_.security->Write_Security();
-        parts_.security->WriteDBIndex();
+    if (parts_.security.GridRows() > 1) {
+        parts_.security.Write_Security();
+        parts_.security.WriteDBIndex();
     } else {
         RecycleUserTable();
     }

@@ -19,8 +19,7 @@ class RulesPage;
 /// `frmGlobalSettings`: which page is shown, the menu, Save, Exit, and the question before closing.
 class MainWindow {
   public:
-    /// The editors and helpers it works with. A missing editor has no page; a missing placement is never
-    /// stored.
+    /// The editors and helpers it works with.
     struct Parts {
         SettingsForm& form;
         SharedState& state;
@@ -28,9 +27,10 @@ class MainWindow {
         World world;
         mRules& rules;
         RulesPage& rulesPage;
-        SecurityEditor* security = nullptr;
-        UnitsEditor* units = nullptr;
-        WindowPlacement* placement = nullptr;
+        SecurityEditor& security;
+        UnitsEditor& units;
+        WindowPlacement& placement;
+        MinSizeHook& minSize;
     };
 
     explicit MainWindow(const Parts& parts);
@@ -56,9 +56,6 @@ class MainWindow {
     bool Form_Unload();
     void mnuSave_Click();
     void mnuExit_Click();
-
-    /// Help, web pages and the About box come later; until then whoever asks for them is told so.
-    void ShowHelp();
 
     SettingsForm& Form() { return parts_.form; }
 

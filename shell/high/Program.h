@@ -4,10 +4,13 @@
 #include "rules/RulesPage.h"
 #include "rules/mRules.h"
 #include "security/SecurityPage.h"
+#include "shell/HelpMenu.h"
 #include "shell/MainWindow.h"
 #include "shell/SettingsForm.h"
 #include "shell/SharedState.h"
+#include "shell/SubClasser.h"
 #include "shell/TraceChannel.h"
+#include "shell/mRegistryEdit.h"
 #include "units/UnitsPage.h"
 
 namespace zy {
@@ -15,11 +18,12 @@ namespace zy {
 /// Everything that one run of the program consists of, short of the outside world.
 class Program {
   public:
-    /// What may be supplied from outside. An editor that is given takes the place of the program's own.
+    /// What may be supplied from outside. A part that is given takes the place of the program's own.
     struct Options {
         SecurityEditor* security = nullptr;
         UnitsEditor* units = nullptr;
         WindowPlacement* placement = nullptr;
+        MinSizeHook* minSize = nullptr;
     };
 
     explicit Program(const World& outside);
@@ -33,11 +37,14 @@ class Program {
     RulesPage rulesPage;
     SecurityPage securityPage;
     UnitsPage unitsPage;
+    mRegistryEdit registryEdit;
+    SubClasser subClasser;
     Options options;
     MainWindow window;
+    HelpMenu helpMenu;
 
   private:
-    Options WithOwnEditors(Options given);
+    Options WithOwnParts(Options given);
 };
 
 } // namespace zy

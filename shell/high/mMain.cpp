@@ -66,9 +66,7 @@ StartUp StartUnits(Program& program) {
 StartUp mMain(Program& program) {
     program.trace.DebugTrace(kModule, kProcedure, "ZYGlobal Start");
     ComputePaths(program);
-    if (program.options.placement != nullptr) {
-        program.options.placement->RestoreWindowPlacement();
-    }
+    program.options.placement->RestoreWindowPlacement();
 
     // Upper case first, then the cut at NUL. Nothing is trimmed, so a blank behind the keyword makes it
     // unknown.

@@ -41,7 +41,7 @@ class UnitsEditor {
     virtual void DisableSaveButton() = 0;
 };
 
-/// The main window's place on the screen and its minimum size.
+/// The main window's place on the screen.
 class WindowPlacement {
   public:
     virtual ~WindowPlacement() = default;
@@ -49,7 +49,14 @@ class WindowPlacement {
     /// Opens the window where it was left; nothing when no place is stored. May load the window.
     virtual void RestoreWindowPlacement() = 0;
     virtual void SaveWindowPlacement() = 0;
-    /// Puts the window procedure that bounds the size in place of the window's own, and back.
+};
+
+/// The window procedure that bounds the main window's size.
+class MinSizeHook {
+  public:
+    virtual ~MinSizeHook() = default;
+
+    /// Puts it in place of the window's own, and back.
     virtual void InstallMinSizeHook() = 0;
     virtual void RemoveMinSizeHook() = 0;
 };

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "basics/Bool16.h"
+#include "platform/NativeWindow.h"
 
 // The low part of the shell is what the editors call: the shared state, the utilities, the trace channel and
 // the part of the main window that all of them write to. It owns no window and calls platform/, controls/ and
@@ -26,6 +27,9 @@ struct SharedState {
 
     /// Unsaved changes of the editors' records. Only the users editor asks it before closing.
     Bool16 gbChanged;
+
+    /// The main window's own procedure, while another one is in its place; none at other times.
+    WindowProcedure glOldWndProc;
 };
 
 } // namespace zy

@@ -1,7 +1,7 @@
 // Databases and recordsets.
 
 #include "DatabaseTest.h"
-#include "TableBytes.h"
+#include "support/TableBytes.h"
 
 namespace zy::dbase::test {
 namespace {

@@ -3,7 +3,7 @@
 #include <functional>
 
 #include "DbaseTest.h"
-#include "TableBytes.h"
+#include "support/TableBytes.h"
 
 namespace zy::dbase::test {
 

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "DbaseTest.h"
-#include "TableBytes.h"
 #include "dbase/IndexBuilder.h"
 #include "dbase/IndexChecks.h"
 #include "dbase/IndexFile.h"
 #include "dbase/TableImage.h"
+#include "support/TableBytes.h"
 
 namespace zy::dbase::test {
 

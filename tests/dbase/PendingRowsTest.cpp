@@ -1,7 +1,7 @@
 // What is on the disk when.
 
 #include "DatabaseTest.h"
-#include "TableBytes.h"
+#include "support/TableBytes.h"
 
 namespace zy::dbase::test {
 namespace {

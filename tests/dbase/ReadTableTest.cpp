@@ -1,7 +1,7 @@
 // Tables as other programs leave them behind.
 
 #include "DbaseTest.h"
-#include "TableBytes.h"
+#include "support/TableBytes.h"
 
 namespace zy::dbase::test {
 namespace {
@@ -82,6 +82,13 @@ TEST_F(ReadTable, LeavesOutRecordsWhoseFlagIsDamaged) {
         const auto c = static_cast<char>(flag);
         EXPECT_EQ(Read(TableBytes({{"N", 1}}).Add(c, {"x"}).Bytes()).size(), c == ' ' ? 1U : 0U) << flag;
     }
+}
+
+TEST_F(ReadTable, CountsTheDamagedRecordsAndNotTheDeletedOnes) {
+    Put("T.DBF", TwoColumns().Add('*', {"Gone", ""}).Add('\xFF', {"Cy", ""}).Add('\0', {"Di", ""}).Bytes());
+    const auto records = database->OpenRecordset("T", RecordsetType::Dynaset);
+    EXPECT_EQ(records->DamagedRecords(), 2U);
+    EXPECT_EQ(records->MissingRecords(), 0U);
 }
 
 TEST_F(ReadTable, UsesWhatTheFileHoldsWhenTheHeaderCountsMore) {

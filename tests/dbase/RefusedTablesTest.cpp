@@ -1,7 +1,11 @@
 // Files that are no tables, and what is said of them.
 
+#include <filesystem>
+
 #include "DbaseTest.h"
-#include "TableBytes.h"
+#include "platform/posix/PosixFileSystem.h"
+#include "support/TableBytes.h"
+#include "support/TemporaryFolder.h"
 
 namespace zy::dbase::test {
 namespace {
@@ -119,6 +123,22 @@ TEST_F(RefusedTables, AreHeldByAnotherProgram) {
     Put("T.DBF", Table().Bytes());
     world.files.SetHeldOpen(PathOf("T.DBF"));
     EXPECT_EQ(ErrorNumber([&] { RowsIn("T"); }), kInUse);
+}
+
+TEST_F(RefusedTables, AreLargerThan2GigabytesAndAreNotReadAtAll) {
+    const zy::test::TemporaryFolder folder;
+    const auto bytes = Table().Bytes();
+    folder.Put("T.DBF", bytes);
+    std::filesystem::resize_file(folder.Path("T.DBF"), 0x80000000U); // the rest is no room on the disk
+    PosixFileSystem files(Windows1252());
+    DBEngine real(files, [] { return std::chrono::year_month_day(); });
+    const auto raised = RaisedBy([&] {
+        real.OpenDatabase(folder.InsidePath(), false, false, "dBase III")
+            ->OpenRecordset("T", RecordsetType::Dynaset);
+    });
+    EXPECT_EQ(raised.Number(), kBadFormat);
+    EXPECT_EQ(raised.Description(),
+              "'" + folder.InsidePath("T.DBF") + "' cannot be read: it is larger than 2 GB.");
 }
 
 TEST_F(RefusedTables, CannotBeReadToTheirEnd) {

@@ -57,8 +57,7 @@ TEST_F(StatementErrors, RefusesATableThatExistsAndNamesItsFile) {
     const auto raised = RaisedByRun(kCreateUsers);
     EXPECT_EQ(raised.Number(), kTableExists);
     EXPECT_EQ(raised.Description(),
-              R"(Table 'ZYSECURE.TMP' already exists: the file 'C:\SYS\ZYSECURE.TMP' stands in the )"
-              "way. If it is left over from a save that failed, it may be removed.");
+              R"(Table 'ZYSECURE.TMP' already exists: the file 'C:\SYS\ZYSECURE.TMP' stands in the way.)");
     EXPECT_EQ(Get("ZYSECURE.TMP"), "left over");
 }
 

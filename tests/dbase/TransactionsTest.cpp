@@ -1,7 +1,7 @@
 // Transactions, and the save of the users editor.
 
 #include "DatabaseTest.h"
-#include "TableBytes.h"
+#include "support/TableBytes.h"
 
 namespace zy::dbase::test {
 namespace {

@@ -1,7 +1,7 @@
 // What a table looks like on the disk, byte by byte.
 
 #include "DbaseTest.h"
-#include "TableBytes.h"
+#include "support/TableBytes.h"
 
 namespace zy::dbase::test {
 namespace {

@@ -10,20 +10,22 @@ using ::testing::ElementsAre;
 
 class GridSelection : public UnitsWindow {
   protected:
-    /// The block that is drawn as selected: its first row and column, its last row and column. Empty without one.
+    /// The block that is drawn as selected: its first row and column, its last row and column. Empty without
+    /// one.
     std::vector<int> ShownBlock() {
         return InWindow([&] {
             std::vector<int> edges;
             for (const auto& block : RealGrid().GetSelectedBlocks()) {
-                edges.insert(edges.end(), {block.GetTopRow() + 1, block.GetLeftCol(), block.GetBottomRow() + 1,
-                                           block.GetRightCol()});
+                edges.insert(edges.end(), {block.GetTopRow() + 1, block.GetLeftCol(),
+                                           block.GetBottomRow() + 1, block.GetRightCol()});
             }
             return edges;
         });
     }
     void WaitForBlockEnd(int row, int column) {
-        WaitUntil("the block reaches to " + std::to_string(row) + "," + std::to_string(column),
-                  [&] { return grid().BlockEnd() == Cell{row, column}; });
+        WaitUntil("the block reaches to " + std::to_string(row) + "," + std::to_string(column), [&] {
+            return grid().BlockEnd() == Cell{row, column};
+        });
     }
 };
 

@@ -4,6 +4,12 @@
 #include <wx/grid.h>
 #include <wx/textctrl.h>
 
+#include "desktop/GtkFunctions.h"
+
+extern "C" {
+GtkWidget* gtk_grab_get_current();
+}
+
 namespace zy::test {
 
 void GridWindow::ClickCell(int row, int column) {
@@ -33,6 +39,25 @@ void GridWindow::ClickCellButton() {
     }));
 }
 
+void GridWindow::Fill(int row, int column, const std::string& text) {
+    ClickCell(row, column);
+    Type(text);
+    WaitForEditor(text);
+    Press(WXK_RETURN);
+    WaitForText(row, column, text);
+}
+
+void GridWindow::OpenMenuAt(const wxPoint& place) {
+    hands->RightClick(place);
+    WaitUntil("the menu is open", [] { return gtk_grab_get_current() != nullptr; });
+}
+
+void GridWindow::ChooseFromMenu(int key) {
+    Press(key);
+    Press(WXK_RETURN);
+    WaitUntil("the menu is closed", [] { return gtk_grab_get_current() == nullptr; });
+}
+
 std::string GridWindow::Shown(int row, int column) {
     return InWindow([&] { return RealGrid().GetCellValue(row - 1, column).utf8_string(); });
 }
@@ -48,6 +73,13 @@ wxRect GridWindow::RectOfCell(int row, int column) {
         place.SetPosition(RealGrid().CalcScrolledPosition(place.GetPosition()));
         place.SetPosition(RealGrid().GetGridWindow()->ClientToScreen(place.GetPosition()));
         return place;
+    });
+}
+
+wxPoint GridWindow::PlaceOfHeader() {
+    return InWindow([&] {
+        const auto place = RealGrid().GetGridColLabelWindow()->GetScreenRect();
+        return place.GetPosition() + place.GetSize() / 2;
     });
 }
 

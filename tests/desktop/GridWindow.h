@@ -25,6 +25,12 @@ class GridWindow : public WindowTest {
     void OpenEditor(int row, int column);
     /// Clicks the button of the cell that is open.
     void ClickCellButton();
+    /// Types over a cell and presses Enter.
+    void Fill(int row, int column, const std::string& text);
+    /// Clicks with the right button and waits for the menu.
+    void OpenMenuAt(const wxPoint& place);
+    /// Picks the entry of the open menu to which this key goes.
+    void ChooseFromMenu(int key);
 
     // What the person sees.
     /// A cell as the grid draws it.
@@ -33,6 +39,8 @@ class GridWindow : public WindowTest {
     wxPoint PlaceOfCell(int row, int column);
     /// The whole cell on the screen.
     wxRect RectOfCell(int row, int column);
+    /// The middle of the header.
+    wxPoint PlaceOfHeader();
     bool IsOnScreen(int row);
 
     /// Waits until model and grid agree that this is the current cell.

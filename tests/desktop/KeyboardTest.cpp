@@ -15,8 +15,8 @@ class KeyboardWindow : public RulesWindow {
     /// The controls as a person reads them. The arrows are one control with two stops.
     std::vector<const Control*> ReadingOrder() {
         auto& c = page();
-        return {&c.lstRulesList, &c.cmdUpDown,    &c.cmdUpDown, &c.cmdAddList,   &c.cmdDeleteList,
-                &c.cmdSaveRules, &c.cmdHelpRules, &c.txtCode,   &c.txtMin,       &c.txtMax,
+        return {&c.lstRulesList, &c.cmdUpDown,    &c.cmdUpDown,     &c.cmdAddList, &c.cmdDeleteList,
+                &c.cmdSaveRules, &c.cmdHelpRules, &c.txtCode,       &c.txtMin,     &c.txtMax,
                 &c.cboCondition, &c.cboZone,      &c.txtDescription};
     }
     static std::vector<std::string> EntriesOf(const wxMenu& menu) {
@@ -56,8 +56,8 @@ TEST_F(KeyboardWindow, ShiftTabGoesTheSameWayBack) {
 TEST_F(KeyboardWindow, AltWithALabelsLetterGoesToTheControlThatItNames) {
     Play([&] {
         const std::vector<std::pair<char, const Control*>> labels{
-            {'N', &page().txtMin},       {'X', &page().txtMax},         {'C', &page().cboCondition},
-            {'Z', &page().cboZone},      {'D', &page().txtDescription}, {'R', &page().txtCode}};
+            {'N', &page().txtMin},  {'X', &page().txtMax},         {'C', &page().cboCondition},
+            {'Z', &page().cboZone}, {'D', &page().txtDescription}, {'R', &page().txtCode}};
         for (const auto& [letter, control] : labels) {
             Press(letter, wxMOD_ALT);
             WaitForFocus(*control);
@@ -112,8 +112,8 @@ TEST_F(KeyboardWindow, TheMenusBearTheirCaptions) {
             EXPECT_EQ(bar.GetMenuLabel(1), "&Help");
             EXPECT_THAT(EntriesOf(*bar.GetMenu(0)), ElementsAre("&Save\tCtrl+S", "E&xit"));
             const auto& help = *bar.GetMenu(1);
-            EXPECT_THAT(EntriesOf(help), ElementsAre("&Contents", "&Index", "-", "Norvale on the &Web...", "-",
-                                                     "&About ZY Setup"));
+            EXPECT_THAT(EntriesOf(help), ElementsAre("&Contents\tF1", "&Index", "-", "Norvale on the &Web...",
+                                                     "-", "&About ZY Setup"));
             EXPECT_THAT(EntriesOf(*help.GetMenuItems()[3]->GetSubMenu()),
                         ElementsAre("Products", "Academy Web Based Training", "Mentor Desk", "-",
                                     "Norvale Home Page"));

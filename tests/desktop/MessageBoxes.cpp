@@ -37,7 +37,8 @@ GtkWidget* WidgetOf(const wxMessageDialog& box, int answer) {
 
 wxMessageDialog* MessageBoxes::Active() const {
     auto* box = open_.empty() ? nullptr : open_.back();
-    return box != nullptr && box->m_widget != nullptr && gtk_window_is_active(WindowOf(*box)) != 0 ? box : nullptr;
+    return box != nullptr && box->m_widget != nullptr && gtk_window_is_active(WindowOf(*box)) != 0 ? box
+                                                                                                   : nullptr;
 }
 
 int MessageBoxes::Enter(wxDialog* dialog) {
@@ -61,7 +62,8 @@ wxPoint ButtonOf(const wxMessageDialog& box, int answer) {
     GtkRectangle size{};
     gtk_widget_get_allocation(button, &size);
     wxPoint inBox;
-    gtk_widget_translate_coordinates(button, box.m_widget, size.width / 2, size.height / 2, &inBox.x, &inBox.y);
+    gtk_widget_translate_coordinates(button, box.m_widget, size.width / 2, size.height / 2, &inBox.x,
+                                     &inBox.y);
     wxPoint origin;
     gdk_window_get_origin(gtk_widget_get_window(box.m_widget), &origin.x, &origin.y);
     return origin + inBox;

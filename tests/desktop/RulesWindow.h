@@ -2,16 +2,16 @@
 
 #include <optional>
 
-#include "WindowTest.h"
+#include "GridWindow.h"
 
 class wxDataViewCtrl;
 
 namespace zy::test {
 
 /// The rules editor in its real window.
-class RulesWindow : public WindowTest {
+class RulesWindow : public GridWindow {
   protected:
-    RulesWindow() : WindowTest("@RULES") {}
+    RulesWindow() : GridWindow("@RULES") {}
 
     /// Puts a rules file on the disk, each rule given as "code|min|max|cond|zone|description".
     void PutRules(const std::vector<std::string>& rules);
@@ -26,6 +26,7 @@ class RulesWindow : public WindowTest {
     void ClickRow(int item) { hands->Click(PlaceOfRow(item)); }
     void ClickUp() { WindowTest::ClickUp(page().cmdUpDown); }
     void ClickDown() { WindowTest::ClickDown(page().cmdUpDown); }
+    using GridWindow::Fill;
     /// Replaces the text of a box, as typed.
     void Fill(const TextBox& box, const std::string& text);
     /// Picks an item of a drop-down list with the mouse.
@@ -45,6 +46,7 @@ class RulesWindow : public WindowTest {
     wxDataViewCtrl& RealList();
 
     RulesControls& page() { return program->rulesPage.controls; }
+    Grid& grid() override { return page().grdRules; }
 };
 
 } // namespace zy::test

@@ -64,9 +64,8 @@ TEST_F(SaveAndCloseWindow, WhatCouldNotBeWrittenIsToldInTheStatusBar) {
         Click(page().cmdAddList);
         WaitForSelection(4);
         Press('S', wxMOD_CONTROL);
-        WaitUntil("the status bar tells", [&] {
-            return program->form.zyStatusBar.Text().starts_with("Not saved");
-        });
+        WaitUntil("the status bar tells",
+                  [&] { return program->form.zyStatusBar.Text().starts_with("Not saved"); });
         EXPECT_TRUE(Status().starts_with("Not saved")) << Status();
     });
     EXPECT_EQ(File(), before);

@@ -39,9 +39,9 @@ TEST(Scale, GivesWhatWasMeasuredNoLessRoomWhereverItStands) {
     }
 }
 
-TEST(Scale, CutsTheLeastSizeToWholePixels) {
-    EXPECT_EQ(Scale(96).ToWholePixels({8800, 8400}), wxSize(586, 560));
-    EXPECT_EQ(Scale(192).ToWholePixels({8800, 8400}), wxSize(1173, 1120));
+TEST(Scale, TellsTheTwipsOfAPixel) {
+    EXPECT_DOUBLE_EQ(Scale(96).TwipsPerPixel(), 15);
+    EXPECT_DOUBLE_EQ(Scale(192).TwipsPerPixel(), 7.5);
 }
 
 } // namespace

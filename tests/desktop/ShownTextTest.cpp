@@ -53,7 +53,7 @@ TEST(TakeEdit, RefusesACharacterThatTheCodePageLacks) {
     EXPECT_EQ(Taken("abc", wxString::FromUTF8("abΩc")), "(refused)");
     EXPECT_EQ(Taken("abc", wxString::FromUTF8("ab😀c")), "(refused)");
     EXPECT_EQ(Taken("abc", wxString::FromUTF8("ab€c")), "ab\x80"
-                                                       "c");
+                                                        "c");
 }
 
 TEST(TakeEdit, KeepsANulThatIsShownAsItsSymbol) {

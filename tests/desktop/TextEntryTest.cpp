@@ -26,7 +26,8 @@ class TextEntryWindow : public RulesWindow {
         return InWindow([&] { return page().txtDescription.Text(); });
     }
     void WaitForDescription(const std::string& text) {
-        WaitUntil("the description is \"" + text + "\"", [&] { return page().txtDescription.Text() == text; });
+        WaitUntil("the description is \"" + text + "\"",
+                  [&] { return page().txtDescription.Text() == text; });
     }
     void EnterDescription() {
         Enter(page().txtDescription);

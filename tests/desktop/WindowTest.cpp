@@ -2,6 +2,7 @@
 
 #include <wx/clipbrd.h>
 #include <wx/dataobj.h>
+#include <wx/dialog.h>
 #include <wx/frame.h>
 
 #include <cstdio>
@@ -35,17 +36,22 @@ void FailOnAssertion(const wxString& file, int line, const wxString& /*function*
 
 } // namespace
 
-WindowTest::WindowTest(const std::string& argument) : desktop(Windows1252()) {
+WindowTest::WindowTest(const std::string& argument) : desktop(Windows1252(), world.files) {
     wxSetAssertHandler(FailOnAssertion);
     world.system.SetCommandLine(argument);
 }
 
 World WindowTest::OutsideWorld() {
+    const ScreenWorld screen = desktop.Get();
     return {.files = world.files,
             .system = world.system,
             .traceServers = world.traceServers,
             .recycleBin = world.recycleBin,
-            .dialogs = desktop.MessageBoxes(),
+            .registry = world.registry,
+            .links = world.links,
+            .dialogs = screen.dialogs,
+            .help = screen.help,
+            .window = screen.window,
             .codePage = world.codePage};
 }
 
@@ -85,6 +91,7 @@ void WindowTest::LeaveWindow() {
     // From here on the window's thread may be gone at any moment, so nothing is asked of it and waited for.
     wxTheApp->CallAfter([this] {
         if (program->window.IsLoaded()) {
+            program->rulesPage.controls.grdRules.CancelEdit();
             program->unitsPage.controls.grdUnits.CancelEdit();
             program->securityPage.controls.grdSecurity.CancelEdit();
             program->form.ChangeFlag = false;
@@ -152,6 +159,28 @@ std::vector<std::string> WindowTest::BoxesSeen() {
     return InWindow([&] { return boxes.Seen(); });
 }
 
+void WindowTest::WaitForDialog(const std::string& name) {
+    WaitUntil(name + " is open", [&] {
+        auto* dialog = RealDialog(name);
+        return dialog != nullptr && dialog->IsShownOnScreen() && dialog->IsActive();
+    });
+}
+
+void WindowTest::WaitForNoDialog(const std::string& name) {
+    WaitUntil(name + " is gone", [&] { return RealDialog(name) == nullptr; });
+}
+
+void WindowTest::ClickIn(const std::string& control) {
+    hands->Click(InWindow([&] {
+        const auto place = RealNamed(control).GetScreenRect();
+        return place.GetPosition() + place.GetSize() / 2;
+    }));
+}
+
+void WindowTest::WaitForFocusIn(const std::string& control) {
+    WaitUntil(control + " has the focus", [&] { return HoldsFocus(RealNamed(control)); });
+}
+
 bool WindowTest::IsEnabled(const Control& control) {
     return InWindow([&] { return Real(control).IsEnabled(); });
 }
@@ -196,11 +225,19 @@ void WindowTest::WaitForStatus(const std::string& text) {
 }
 
 wxWindow& WindowTest::Real(const Control& control) {
-    auto* window = wxWindow::FindWindowByName(ToShown(Windows1252(), control.Name()));
+    return RealNamed(control.Name());
+}
+
+wxWindow& WindowTest::RealNamed(const std::string& name) {
+    auto* window = wxWindow::FindWindowByName(ToShown(Windows1252(), name));
     if (window == nullptr) {
-        throw GaveUp("No real control called " + control.Name());
+        throw GaveUp("No real control called " + name);
     }
     return *window;
+}
+
+wxDialog* WindowTest::RealDialog(const std::string& name) {
+    return dynamic_cast<wxDialog*>(wxWindow::FindWindowByName(ToShown(Windows1252(), name)));
 }
 
 wxFrame& WindowTest::RealFrame() {

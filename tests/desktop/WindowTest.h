@@ -15,6 +15,7 @@
 #include "platform/memory/MemoryWorld.h"
 #include "shell/Program.h"
 
+class wxDialog;
 class wxFrame;
 class wxWindow;
 
@@ -65,6 +66,12 @@ class WindowTest : public ::testing::Test {
     void ClickInLastBox(int answer);
     std::vector<std::string> BoxesSeen();
 
+    // The program's own dialogs, by the names of dialog and control.
+    void WaitForDialog(const std::string& name);
+    void WaitForNoDialog(const std::string& name);
+    void ClickIn(const std::string& control);
+    void WaitForFocusIn(const std::string& control);
+
     // What the person sees.
     bool IsEnabled(const Control& control);
     std::string Status();
@@ -78,6 +85,8 @@ class WindowTest : public ::testing::Test {
 
     /// The real control that shows a model. For the window's thread.
     static wxWindow& Real(const Control& control);
+    static wxWindow& RealNamed(const std::string& name);
+    static wxDialog* RealDialog(const std::string& name);
     static wxFrame& RealFrame();
 
     MemoryWorld world;

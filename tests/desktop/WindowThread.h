@@ -11,8 +11,8 @@
 
 namespace zy::test {
 
-// A test's script runs beside the window: what it does to the window or asks of it runs in the window's own thread,
-// between the window's events, also while a message box is open.
+// A test's script runs beside the window: what it does to the window or asks of it runs in the window's own
+// thread, between the window's events, also while a message box is open.
 
 /// What a script waited for did not come.
 class GaveUp : public std::runtime_error {

@@ -1,36 +1,33 @@
-#include "RulesForm.h"
+#include <chrono>
+
+#include "GridModeForm.h"
 
 namespace zy::test {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::IsEmpty;
 
-/// The second view of the rules, which the page carries and nothing in the program shows.
-class GridMode : public RulesForm {
+constexpr auto kHeaders = "Code|Min|Max|Cond.|Zone|Description";
+
+/// What the second view of the rules shows.
+class GridMode : public GridModeForm {
   protected:
-    std::vector<std::string> GridRows() {
-        std::vector<std::string> rows;
-        for (int row = 0; row < page().grdRules.Rows(); ++row) {
-            std::string text(page().grdRules.Text(row, 0));
-            for (int column = 1; column < page().grdRules.Columns(); ++column) {
-                text += "|" + std::string(page().grdRules.Text(row, column));
-            }
-            rows.push_back(text);
-        }
-        return rows;
+    /// The list from which a cell of this column is chosen.
+    std::string ListOf(int column) {
+        grid().Pick(1, column);
+        grid().OpenEditor();
+        return grid().EditList();
     }
 };
 
 TEST_F(GridMode, ShowsOneRowForEveryRuleBelowTheHeaders) {
-    StartWithCodes({"A", "B"});
-    handlers().ShowGridMode();
-    EXPECT_THAT(GridRows(), ElementsAre("Code|Min|Max|Cond.|Zone|Description", "A|1|2|>|UCL|text  ",
-                                        "B|1|2|>|UCL|text  "));
+    ShowGridOver({"A", "B"});
+    EXPECT_THAT(GridRows(), ElementsAre(kHeaders, "A|1|2|>|UCL|text  ", "B|1|2|>|UCL|text  "));
 }
 
 TEST_F(GridMode, HidesTheListAndTheDetailForm) {
-    StartWithCodes({"A"});
-    handlers().ShowGridMode();
+    ShowGridOver({"A"});
     EXPECT_FALSE(page().fraRulesList.Visible());
     EXPECT_FALSE(page().FraRuleDetails.Visible());
     EXPECT_TRUE(page().fraGridMode.Visible());
@@ -41,27 +38,130 @@ TEST_F(GridMode, HidesTheListAndTheDetailForm) {
 }
 
 TEST_F(GridMode, ShowsTheRulesOfTheMomentEveryTime) {
-    StartWithCodes({"A", "B", "C"});
-    handlers().ShowGridMode();
+    ShowGridOver({"A", "B", "C"});
     rules().Delete_Rule(1);
     rules().gaRules(1).Code = "X";
     handlers().ShowGridMode();
-    EXPECT_THAT(GridRows(), ElementsAre("Code|Min|Max|Cond.|Zone|Description", "X|1|2|>|UCL|text  ",
-                                        "C|1|2|>|UCL|text  "));
+    EXPECT_THAT(GridRows(), ElementsAre(kHeaders, "X|1|2|>|UCL|text  ", "C|1|2|>|UCL|text  "));
 }
 
 TEST_F(GridMode, ShowsTheHeadersAloneWithoutRules) {
-    StartWithCodes({});
+    ShowGridOver({});
+    EXPECT_THAT(GridRows(), ElementsAre(kHeaders));
+}
+
+TEST_F(GridMode, ShowsEmptyFieldsAsEmptyCells) {
+    StartOver("[RULE]\r\n[RULE]\r\n   CODE         = B\r\n");
     handlers().ShowGridMode();
-    EXPECT_EQ(page().grdRules.Rows(), 1);
+    EXPECT_THAT(GridRows(), ElementsAre(kHeaders, "|||||  ", "B|||||  "));
+}
+
+TEST_F(GridMode, KeepsATabWithinAFieldInItsCell) {
+    RunRule rule = RuleOf("A\tB");
+    rule.Description = "one\ttwo";
+    StartWith({rule, RuleOf("C")});
+    handlers().ShowGridMode();
+    EXPECT_THAT(GridRows(), ElementsAre(kHeaders, "A\tB|1|2|>|UCL|one\ttwo  ", "C|1|2|>|UCL|text  "));
 }
 
 TEST_F(GridMode, ChangesNoRuleAndSetsNoMark) {
-    StartWithCodes({"A"});
-    handlers().ShowGridMode();
+    ShowGridOver({"A"});
     handlers().ShowListMode();
     ExpectInHand(1);
     ExpectMarks(false, false);
+    EXPECT_FALSE(rules().gbGridChanged);
+}
+
+TEST_F(GridMode, HasNoCurrentRowAtFirstNorWhenItIsShownAnew) {
+    ShowGridOver({"A", "B"});
+    EXPECT_EQ(grid().Row(), -1);
+    grid().Pick(2, 3);
+    handlers().ShowGridMode();
+    EXPECT_EQ(grid().Row(), -1);
+}
+
+TEST_F(GridMode, DropsWhatIsBeingTypedWhenItIsShownAnew) {
+    ShowGridOver({"A"});
+    grid().Pick(1, kCodeColumn);
+    grid().TypeOver("X");
+    handlers().ShowGridMode();
+    EXPECT_FALSE(grid().IsEditing());
+    EXPECT_THAT(GridCodes(), ElementsAre("A"));
+    EXPECT_FALSE(rules().gbGridChanged);
+}
+
+TEST_F(GridMode, HasSixColumnsOf960TwipsAndFitsNoneByItself) {
+    ShowGridOver({"A"});
+    ASSERT_EQ(grid().Columns(), 6);
+    for (int column = 0; column < 6; ++column) {
+        EXPECT_EQ(grid().ColumnWidth(column), 960) << column;
+    }
+    EXPECT_EQ(grid().FittedFrom(), 6);
+}
+
+TEST_F(GridMode, OffersFiveConditionsAndAnEmptyOne) {
+    ShowGridOver({"A"});
+    EXPECT_EQ(ListOf(3), ">|>=|<|<=|=|");
+}
+
+TEST_F(GridMode, OffersTheZonesInItsOwnSpelling) {
+    ShowGridOver({"A"});
+    EXPECT_EQ(ListOf(4), "USL|UCL|UWL|TARG |LWL|LCL|LSL|PREV|+4S|+3S|+15S|Avg |-15S|-3S|-4S");
+}
+
+TEST_F(GridMode, LetsTheOtherColumnsBeTyped) {
+    ShowGridOver({"A"});
+    for (const int column : {0, 1, 2, 5}) {
+        EXPECT_EQ(ListOf(column), "") << column;
+        EXPECT_TRUE(grid().IsEditing()) << column;
+    }
+}
+
+TEST_F(GridMode, StandsInThePageAsSoonAsItIsShown) {
+    StartWithCodes({"A"});
+    form().SetInnerSize({9000, 8000});
+    // A view measures the frame's caption only when it is shown first.
+    page().fraGridMode.appearanceChanged.Connect([this] { page().fraGridMode.SetPreferred({0, 300}); });
+    handlers().ShowGridMode();
+    EXPECT_GE(grid().Bounds().top, 300);
+    EXPECT_LE(grid().Bounds().Bottom(), page().fraGridMode.Bounds().height);
+}
+
+TEST_F(GridMode, GivesTheGridTheAdditionalWidthAndHeight) {
+    ShowGridOver({"A"});
+    form().SetInnerSize({9000, 8000});
+    const Rect before = grid().Bounds();
+    form().SetInnerSize({12000, 10000});
+    EXPECT_EQ(grid().Bounds().width, before.width + 3000);
+    EXPECT_EQ(grid().Bounds().height, before.height + 2000);
+}
+
+TEST_F(GridMode, TracesNothingWhenItIsShown) {
+    StartWithCodes({"A"});
+    Traces();
+    handlers().ShowGridMode();
+    handlers().ShowListMode();
+    EXPECT_THAT(Traces(), IsEmpty());
+}
+
+TEST_F(GridMode, IsFilledAtOnceWithAFullListOfRules) {
+    std::string text;
+    for (int i = 0; i < kMaxItems; ++i) {
+        text += Section(RuleOf(std::to_string(i)));
+    }
+    StartOver(text);
+    int shown = 0;
+    grid().rowsChanged.Connect([&] { ++shown; });
+    const auto start = std::chrono::steady_clock::now();
+    handlers().ShowGridMode();
+    const auto taken = std::chrono::steady_clock::now() - start;
+    EXPECT_EQ(shown, 1);
+    ASSERT_EQ(grid().Rows(), kMaxItems + 1);
+    EXPECT_EQ(grid().Text(1, kCodeColumn), "0");
+    EXPECT_EQ(grid().Text(kMaxItems, kCodeColumn), "32766");
+    EXPECT_EQ(grid().Text(kMaxItems, kDescriptionColumn), "text  ");
+    // A tenth of that is plenty; time that grows with the square of the rules would be far beyond.
+    EXPECT_LT(taken, std::chrono::seconds(1));
 }
 
 } // namespace

@@ -15,7 +15,11 @@ TEST(MemoryWorldTest, GivesItsOwnParts) {
     EXPECT_EQ(&view.system, &world.system);
     EXPECT_EQ(&view.traceServers, &world.traceServers);
     EXPECT_EQ(&view.recycleBin, &world.recycleBin);
+    EXPECT_EQ(&view.registry, &world.registry);
+    EXPECT_EQ(&view.links, &world.links);
     EXPECT_EQ(&view.dialogs, &world.dialogs);
+    EXPECT_EQ(&view.help, &world.help);
+    EXPECT_EQ(&view.window, &world.window);
     EXPECT_EQ(&view.codePage, &Windows1252());
 }
 
@@ -39,11 +43,13 @@ TEST(MemoryWorldTest, SaysOfTheSystemWhatItIsTold) {
     world.system.SetSystemDirectory(R"(D:\Other)");
     world.system.SetExecutableName("other");
     world.system.SetCommandLine("@UNITS");
+    world.system.SetExecutableFolder(R"(D:\Programs)");
     world.system.SetDecimalSeparator(',');
     SystemInfo& system = world.Get().system;
     EXPECT_EQ(system.SystemDirectory(), R"(D:\Other)");
     EXPECT_EQ(system.ExecutableName(), "other");
     EXPECT_EQ(system.CommandLine(), "@UNITS");
+    EXPECT_EQ(system.ExecutableFolder(), R"(D:\Programs)");
     EXPECT_EQ(system.DecimalSeparator(), ',');
 }
 

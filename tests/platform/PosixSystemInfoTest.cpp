@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/posix/PosixFileSystem.h"
 #include "support/EnvironmentVariable.h"
 #include "support/TemporaryFolder.h"
 
@@ -26,6 +27,12 @@ PosixSystemInfo StartedWith(const std::vector<const char*>& arguments) {
 
 PosixSystemInfo Started() {
     return StartedWith({"zyGlobal"});
+}
+
+TEST(ExecutableFolder, IsTheOneOfTheRunningProgram) {
+    const auto program = fs::read_symlink("/proc/self/exe");
+    EXPECT_TRUE(PosixFileSystem(Windows1252())
+                    .Exists(Started().ExecutableFolder() + "\\" + program.filename().string()));
 }
 
 // The system directory

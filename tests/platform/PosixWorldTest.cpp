@@ -5,32 +5,28 @@
 
 #include <csignal>
 
+#include "platform/memory/MemoryWorld.h"
 #include "support/EnvironmentVariable.h"
 #include "support/TemporaryFolder.h"
 
 namespace zy::test {
 namespace {
 
-class NoDialogs final : public Dialogs {
-  public:
-    void ShowMessage(std::string_view /*text*/, std::string_view /*title*/) override {}
-    bool AskYesNo(std::string_view /*text*/, std::string_view /*title*/, Escape /*escape*/) override {
-        return false;
-    }
-    void ShowForm(Form& /*form*/) override {}
-};
-
 constexpr const char* kArguments[] = {"zyGlobal", "@UNITS"};
 
-TEST(PosixWorldTest, GivesItsOwnPartsAndTheDialogsGiven) {
+TEST(PosixWorldTest, GivesItsOwnPartsAndTheScreenGiven) {
     PosixWorld world(2, kArguments);
-    NoDialogs dialogs;
-    const World view = world.Get(dialogs);
+    MemoryWorld screen;
+    const World view = world.Get({.dialogs = screen.dialogs, .help = screen.help, .window = screen.window});
     EXPECT_EQ(&view.files, &world.files);
     EXPECT_EQ(&view.system, &world.system);
     EXPECT_EQ(&view.traceServers, &world.traceServers);
     EXPECT_EQ(&view.recycleBin, &world.recycleBin);
-    EXPECT_EQ(&view.dialogs, &dialogs);
+    EXPECT_EQ(&view.registry, &world.registry);
+    EXPECT_EQ(&view.links, &world.links);
+    EXPECT_EQ(&view.dialogs, &screen.dialogs);
+    EXPECT_EQ(&view.help, &screen.help);
+    EXPECT_EQ(&view.window, &screen.window);
     EXPECT_EQ(&view.codePage, &Windows1252());
     EXPECT_EQ(view.system.CommandLine(), "@UNITS");
 }

@@ -97,6 +97,12 @@ TEST_P(SystemInfoContract, GivesTheProgramsNameWithoutFolderAndExtension) {
     }
 }
 
+TEST_P(SystemInfoContract, GivesTheProgramsFolderWithoutABackslashAtItsEnd) {
+    const auto folder = start->System().ExecutableFolder();
+    EXPECT_NE(folder, "");
+    EXPECT_THAT(folder, Not(EndsWith("\\")));
+}
+
 TEST_P(SystemInfoContract, GivesAPointWhereTheLocaleHasOne) {
     EXPECT_EQ(start->System().DecimalSeparator(), '.');
 }

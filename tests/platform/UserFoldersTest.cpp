@@ -46,6 +46,16 @@ TEST(UserDataFolderTest, IsNotTakenFromARelativePath) {
     EXPECT_EQ(UserDataFolder(), "/home/u/.local/share");
 }
 
+TEST(UserConfigFolderTest, IsTheOneThatTheEnvironmentNamesElseInTheHomeFolder) {
+    const EnvironmentVariable home("HOME", "/home/u");
+    const EnvironmentVariable config("XDG_CONFIG_HOME", "/config");
+    EXPECT_EQ(UserConfigFolder(), "/config");
+    const EnvironmentVariable relative("XDG_CONFIG_HOME", "config");
+    EXPECT_EQ(UserConfigFolder(), "/home/u/.config");
+    const EnvironmentVariable unset("XDG_CONFIG_HOME", std::nullopt);
+    EXPECT_EQ(UserConfigFolder(), "/home/u/.config");
+}
+
 TEST(UserDataFolderTest, IsFoundThroughTheUserDatabaseWithoutAHomeInTheEnvironment) {
     const EnvironmentVariable data("XDG_DATA_HOME", std::nullopt);
     const EnvironmentVariable home("HOME", std::nullopt);

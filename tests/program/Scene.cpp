@@ -15,6 +15,12 @@ namespace fs = std::filesystem;
 namespace {
 /// What every record of the program begins with.
 constexpr std::string_view kProgramName = "zyGlobal\t";
+
+/// A file's bytes; empty when there is none.
+std::string Content(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
 } // namespace
 
 Scene::Scene() {
@@ -42,8 +48,11 @@ void Scene::PutRules(const std::string& bytes) {
 }
 
 std::string Scene::Rules() const {
-    std::ifstream file(folder_ / "system" / "ZYRules.sys", std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    return Content(folder_ / "system" / "ZYRules.sys");
+}
+
+std::string Scene::Registry() const {
+    return Content(folder_ / "config" / "zysetup" / "registry.ini");
 }
 
 std::vector<std::string> Scene::FileNames() const {

@@ -22,6 +22,8 @@ class Scene : public ::testing::Test {
     /// The rules file's bytes; empty when there is none.
     std::string Rules() const;
     std::vector<std::string> FileNames() const;
+    /// What the registry's file holds; empty when there is none.
+    std::string Registry() const;
 
     // The session bus and the trace viewer on it.
     void StartBus();

@@ -113,6 +113,8 @@ TEST_F(DatePicker, OnlyCellsOfDatesHaveIt) {
     EXPECT_EQ(grid().EditList(), "");
     grid().PressCellButton();
     EXPECT_TRUE(grid().IsEditing());
+    grid().cellButtonClick.Raise(2, kUserName);
+    EXPECT_TRUE(grid().IsEditing()) << "and no calendar came";
 }
 
 } // namespace

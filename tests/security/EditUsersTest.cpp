@@ -119,6 +119,20 @@ TEST_F(EditUsers, TheMenuDeletesAtOnceAndLeavesTheButtonsAlone) {
     EXPECT_TRUE(controls().cmdDeleteUser.Enabled()) << "the button is not the menu's business";
 }
 
+TEST_F(EditUsers, TheMenuDeletesNothingWithoutACurrentRow) {
+    StartOver({User("Ann"), User("Bob")});
+    for (const int row : {-1, 0}) {
+        if (row == 0) {
+            grid().PressMouse(1, 0, 0);
+        }
+        ASSERT_EQ(grid().Row(), row);
+        ChooseDelete();
+        EXPECT_EQ(grid().Rows(), 3);
+        EXPECT_EQ(page().users.zySecure.size(), 2U);
+        ExpectMarks(false, false);
+    }
+}
+
 TEST_F(EditUsers, AClickMakesItsRowCurrent) {
     StartOver({User("Ann"), User("Bob")});
     grid().PressMouse(1, 2, 3);

@@ -84,6 +84,29 @@ TEST_F(Login, AnEmptyPasswordIsAPasswordLikeAnyOther) {
     EXPECT_EQ(Start("@SECURITY"), StartUp::WindowShown);
 }
 
+TEST_F(Login, ANulIsACharacterLikeAnyOther) {
+    const std::string password("p\0w", 3);
+    PutTable({User("ADMIN", password)});
+    ExpectLogin([&](frmLogin& login) {
+        Refuse(login, "ADMIN", "p");
+        Refuse(login, "ADMIN", std::string("p\0x", 3));
+        Refuse(login, std::string("ADMIN\0", 6), password);
+        LogIn(login, "ADMIN", password);
+    });
+    EXPECT_EQ(Start("@SECURITY"), StartUp::WindowShown);
+}
+
+TEST_F(Login, AnEmptyOrAnEndlessPasswordIsRefusedAndTheRightOneStillTaken) {
+    PutTable({User("ADMIN", "pw")});
+    ExpectLogin([&](frmLogin& login) {
+        Refuse(login, "ADMIN", "");
+        Refuse(login, "ADMIN", "pw" + std::string(10000, ' '));
+        Refuse(login, std::string(10000, 'A'), "pw");
+        LogIn(login, "ADMIN", "pw");
+    });
+    EXPECT_EQ(Start("@SECURITY"), StartUp::WindowShown);
+}
+
 TEST_F(Login, CancelUnloadsTheWindowAndEndsTheProgramWithoutAWord) {
     PutTable({User("ADMIN", "pw")});
     ExpectLogin([&](frmLogin& login) {

@@ -130,14 +130,6 @@ TEST_F(MainWindowTest, SavesThePlaceAfterTheHookIsGoneAndBeforeItTellsThatItIsGo
                                    "trace frmGlobalSettings Form_Unload Unloaded", "unloaded"));
 }
 
-TEST_F(MainWindowTest, ClosesWithoutAPlacementToo) {
-    options.placement = nullptr;
-    StartAndForget("@RULES");
-    EXPECT_TRUE(window().Unload());
-    EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings Form_Unload Rules",
-                                   "trace frmGlobalSettings Form_Unload Unloaded"));
-}
-
 TEST_F(MainWindowTest, KeepsThePlaceAndTheHookWhenAFailedCheckKeepsItOpen) {
     StartAndForget("@UNITS");
     form().ChangeFlag = true;

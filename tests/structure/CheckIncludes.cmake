@@ -4,7 +4,7 @@ cmake_minimum_required(VERSION 3.25)
 # reaches into another folder by "..".
 set(inner basics platform controls shell/low shell/high rules ini security units dbase platform/memory)
 set(standard
-  algorithm array bit charconv chrono compare concepts cstddef cstdint cstdlib cstring deque exception functional
+  algorithm array bit charconv chrono cmath compare concepts cstddef cstdint cstdlib cstring deque exception functional
   initializer_list iosfwd iostream iterator limits map memory numeric optional ostream queue ranges set span sstream
   stdexcept string string_view system_error tuple type_traits unordered_map unordered_set utility variant vector)
 

@@ -5,11 +5,13 @@
 
 namespace zy::test {
 
-/// A program whose users editor, units editor and placement are fakes; their calls and the traces come in one
-/// list.
+/// A program whose users editor, units editor, placement and size hook are fakes; their calls and the traces
+/// come in one list.
 class EditorsTest : public ProgramTest {
   protected:
-    EditorsTest() { options = {.security = &security, .units = &units, .placement = &placement}; }
+    EditorsTest() {
+        options = {.security = &security, .units = &units, .placement = &placement, .minSize = &minSize};
+    }
 
     /// Starts the program as ProgramTest does and forgets the calls of the start.
     void StartAndForget(std::string_view commandLine) {
@@ -23,7 +25,11 @@ class EditorsTest : public ProgramTest {
                 .system = outside.system,
                 .traceServers = viewer,
                 .recycleBin = outside.recycleBin,
+                .registry = outside.registry,
+                .links = outside.links,
                 .dialogs = outside.dialogs,
+                .help = outside.help,
+                .window = outside.window,
                 .codePage = outside.codePage};
     }
 
@@ -31,6 +37,7 @@ class EditorsTest : public ProgramTest {
     FakeSecurityEditor security{calls};
     FakeUnitsEditor units{calls};
     FakePlacement placement{calls};
+    FakeMinSizeHook minSize{calls};
     TracesAmongCalls viewer{calls};
 };
 

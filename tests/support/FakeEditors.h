@@ -93,10 +93,19 @@ class FakePlacement final : public WindowPlacement {
         restoring();
     }
     void SaveWindowPlacement() override { calls_.emplace_back("SaveWindowPlacement"); }
-    void InstallMinSizeHook() override { calls_.emplace_back("InstallMinSizeHook"); }
-    void RemoveMinSizeHook() override { calls_.emplace_back("RemoveMinSizeHook"); }
 
     std::function<void()> restoring = [] {};
+
+  private:
+    Calls& calls_;
+};
+
+class FakeMinSizeHook final : public MinSizeHook {
+  public:
+    explicit FakeMinSizeHook(Calls& calls) : calls_(calls) {}
+
+    void InstallMinSizeHook() override { calls_.emplace_back("InstallMinSizeHook"); }
+    void RemoveMinSizeHook() override { calls_.emplace_back("RemoveMinSizeHook"); }
 
   private:
     Calls& calls_;

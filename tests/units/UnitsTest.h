@@ -5,12 +5,9 @@
 #include <string_view>
 #include <vector>
 
-#include "rules/RulesPage.h"
-#include "rules/mRules.h"
-#include "shell/MainWindow.h"
+#include "shell/Program.h"
 #include "support/RaisedError.h"
 #include "support/WorldTest.h"
-#include "units/UnitsPage.h"
 
 namespace zy::test {
 
@@ -102,13 +99,11 @@ class UnitsTest : public WorldTest {
         EXPECT_EQ(grid.Column(), column);
     }
 
-    SettingsForm form;
-    SharedState state;
-    TraceChannel trace{world.traceServers, "zyGlobal"};
-    mRules rules{world.Get(), trace};
-    RulesPage rulesPage{rules, form, state, trace, world.Get()};
-    UnitsPage page{form, state, trace, world.Get()};
-    MainWindow window{{form, state, trace, world.Get(), rules, rulesPage, nullptr, &page, nullptr}};
+    Program program{world.Get()};
+    SettingsForm& form = program.form;
+    SharedState& state = program.state;
+    UnitsPage& page = program.unitsPage;
+    MainWindow& window = program.window;
     UnitsControls& controls = page.controls;
     Grid& grid = page.controls.grdUnits;
 };

@@ -1,0 +1,11 @@
+#include "controls/LinkLabel.h"
+
+namespace zy {
+
+void LinkLabel::Click() {
+    if (TakeFocus()) {
+        click.Raise();
+    }
+}
+
+} // namespace zy

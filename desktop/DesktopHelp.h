@@ -1,0 +1,41 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "platform/CodePage.h"
+#include "platform/Dialogs.h"
+#include "platform/FileSystem.h"
+#include "platform/HelpSystem.h"
+
+class wxHtmlHelpController;
+
+namespace zy {
+
+/// The toolkit's viewer of help books. A help file is an archive of pages with a list of their contents and
+/// an index.
+class DesktopHelp final : public HelpSystem {
+  public:
+    /// `startToolkit` is called before anything is shown.
+    DesktopHelp(const CodePage& codePage, FileSystem& files, Dialogs& dialogs,
+                std::function<void()> startToolkit);
+    ~DesktopHelp() override;
+
+    void Show(std::string_view helpFile, HelpCommand command, std::uintptr_t data) override;
+    /// Closes the viewer if it is open.
+    void Close();
+
+  private:
+    /// Reads the file and opens the viewer on it. False when a person was told that there is no help.
+    bool Open(std::string_view helpFile);
+    void Refuse(std::string_view helpFile, std::string_view why);
+
+    const CodePage& codePage_;
+    FileSystem& files_;
+    Dialogs& dialogs_;
+    std::function<void()> startToolkit_;
+    std::unique_ptr<wxHtmlHelpController> viewer_;
+};
+
+} // namespace zy

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace zy {
+
+enum class HelpCommand {
+    Contents = 3,
+    Key = 0x101, ///< the keyword index; without a keyword, all of it
+};
+
+/// The viewer of help files.
+class HelpSystem {
+  public:
+    virtual ~HelpSystem() = default;
+
+    /// Shows a help file in a window that belongs to the main window. A file that is missing or no help file
+    /// is told to the person here.
+    virtual void Show(std::string_view helpFile, HelpCommand command, std::uintptr_t data) = 0;
+};
+
+} // namespace zy

@@ -1,0 +1,177 @@
+#include "rules/RulesGridMode.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "rules/mRules.h"
+
+namespace zy {
+namespace {
+
+constexpr std::string_view kModule = "mRules";
+constexpr std::string_view kForm = "frmGlobalSettings";
+
+std::string TabJoined(const RunRule& rule) {
+    std::string row;
+    for (const auto property : kColumnProperties) {
+        row += rule.*property;
+        row += '\t';
+    }
+    row.pop_back();
+    return row;
+}
+
+} // namespace
+
+RulesGridMode::RulesGridMode(mRules& rules, RulesControls& controls, SettingsForm& form, SharedState& state,
+                             TraceChannel& trace, const World& world)
+    : rules_(rules), grid_(controls.grdRules), form_(form), state_(state), trace_(trace),
+      checks_(rules.gaRules, world, trace) {
+    Connect();
+}
+
+void RulesGridMode::Connect() {
+    form_.menu.mnuAddRule.click.Connect([this] { mnuAddRule_Click(); });
+    form_.menu.mnuDeleteRule.click.Connect([this] { mnuDeleteRule_Click(); });
+    grid_.mouseDown.Connect([this](int button, int, int) { grdRules_MouseDown(button); });
+    grid_.afterEdit.Connect([this](int, int) { grdRules_AfterEdit(); });
+    // That is all that happens then.
+    grid_.cellChanged.Connect([this](int, int) { rules_.gbGridChanged = true; });
+}
+
+void RulesGridMode::Trace(std::string_view module, std::string_view procedure) {
+    trace_.DebugTrace(module, procedure, "Start");
+}
+
+void RulesGridMode::Fill() {
+    grid_.CancelEdit();
+    grid_.SetRedraw(false);
+    grid_.SetRows(0);
+    grid_.AddItem("Code\tMin\tMax\tCond.\tZone\tDescription");
+    AddRows();
+    grid_.SetRedraw(true);
+}
+
+/// Hands the fields over one by one, and not joined by TAB, for a file may hold a TAB within a field.
+void RulesGridMode::AddRows() {
+    const auto& rules = rules_.gaRules;
+    std::string text;
+    for (int i = 1; i <= rules.UBound(); ++i) {
+        for (const auto property : kColumnProperties) {
+            text += rules(i).*property;
+        }
+    }
+    grid_.AddRowsOf(std::move(text), [&](std::string_view all, std::vector<std::string_view>& cells) {
+        for (int i = 1; i <= rules.UBound(); ++i) {
+            for (const auto property : kColumnProperties) {
+                const auto length = (rules(i).*property).size();
+                cells.push_back(all.substr(0, length));
+                all.remove_prefix(length);
+            }
+        }
+    });
+}
+
+void RulesGridMode::AddtoGrid() {
+    Trace(kModule, "AddtoGrid");
+    grid_.AddItem(TabJoined(rules_.gaRules(rules_.gaRules.UBound())));
+    SelectRow(grid_.Rows() - 1);
+}
+
+void RulesGridMode::SelectRow(int row) {
+    grid_.Select(row, 0);
+    grid_.SelectTo(row, kDescriptionColumn);
+}
+
+void RulesGridMode::Save_RulesGrid() {
+    Trace(kModule, "Save_RulesGrid");
+    bool changed = false;
+    for (int row = 1; row < grid_.Rows(); ++row) {
+        changed = StoreRow(row) || changed;
+    }
+    if (changed) {
+        state_.gbChanged = true;
+        form_.ChangeFlag = true; // without it no save would write what was stored
+    }
+}
+
+/// True when the rule is another one now.
+bool RulesGridMode::StoreRow(int row) {
+    RunRule& rule = rules_.gaRules(row);
+    bool changed = false;
+    for (int column = 0; column < kRuleColumns; ++column) {
+        auto& held = rule.*kColumnProperties.at(static_cast<std::size_t>(column));
+        if (const auto text = grid_.Text(row, column); held != text) {
+            held = text;
+            changed = true;
+        }
+    }
+    return changed;
+}
+
+bool RulesGridMode::StoreIfChanged() {
+    grid_.CommitEdit();
+    if (!rules_.gbGridChanged) {
+        return true;
+    }
+    const bool valid = checks_.Validate_RulesGRid(grid_);
+    if (valid) {
+        Save_RulesGrid();
+    }
+    return valid;
+}
+
+void RulesGridMode::mnuAddRule_Click() {
+    Trace(kForm, "mnuAddRule_Click");
+    rules_.Add_New_Rule();
+    AddtoGrid();
+    TellCountChanged();
+}
+
+void RulesGridMode::mnuDeleteRule_Click() {
+    Trace(kForm, "mnuDeleteRule_Click");
+    const int row = grid_.Row();
+    if (row < 1) {
+        return;
+    }
+    rules_.Delete_Rule(row);
+    grid_.RemoveItem(row);
+    KeepRuleInHand(row);
+    TellCountChanged();
+}
+
+/// The detail form goes on to show the rule that it shows, unless that one is gone.
+void RulesGridMode::KeepRuleInHand(int deleted) {
+    if (rules_.giCurRule == deleted) {
+        rules_.giCurRule = -1;
+    } else if (rules_.giCurRule > deleted) {
+        --rules_.giCurRule;
+    }
+}
+
+void RulesGridMode::TellCountChanged() {
+    form_.ChangeFlag = true;
+    countChanged.Raise();
+}
+
+void RulesGridMode::grdRules_MouseDown(int button) {
+    constexpr int kRightButton = 2;
+    Trace(kForm, "grdRules_MouseDown");
+    if (button != kRightButton) {
+        return;
+    }
+    const bool hasCurrent = grid_.Row() != -1;
+    if (hasCurrent) {
+        SelectRow(grid_.Row());
+    }
+    form_.menu.mnuDeleteRule.SetEnabled(hasCurrent);
+    form_.menu.mnuGridPopMenu.PopUp();
+}
+
+void RulesGridMode::grdRules_AfterEdit() {
+    Trace(kForm, "grdRules_AfterEdit");
+    grid_.FitColumns(0);
+}
+
+} // namespace zy

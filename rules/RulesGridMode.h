@@ -1,0 +1,61 @@
+#pragma once
+
+#include <string_view>
+
+#include "platform/World.h"
+#include "rules/RuleChecks.h"
+#include "rules/RulesControls.h"
+#include "shell/SettingsForm.h"
+#include "shell/SharedState.h"
+#include "shell/TraceChannel.h"
+
+namespace zy {
+
+class mRules;
+
+/// The second view of the rules page: all rules in one grid, edited in place. Row r is rule r.
+///
+/// It is ready and out of reach: nothing in the program shows it.
+class RulesGridMode {
+  public:
+    RulesGridMode(mRules& rules, RulesControls& controls, SettingsForm& form, SharedState& state,
+                  TraceChannel& trace, const World& world);
+
+    /// Fills the grid anew from the rules, in time linear in them. Text that is being typed is dropped, no
+    /// cell is current, and no mark is set.
+    void Fill();
+    /// Appends the newest rule as a row and selects it.
+    void AddtoGrid();
+    /// Copies the cells into the rules as they stand, nothing trimmed.
+    void Save_RulesGrid();
+    /// Checks the grid and copies it into the rules when a cell was changed. False when a check failed.
+    bool StoreIfChanged();
+
+    void mnuAddRule_Click();
+    /// Deletes the current row's rule at once, unlike list mode, which asks. Meant.
+    void mnuDeleteRule_Click();
+    /// The right button selects the current row and opens the context menu; the others do nothing.
+    void grdRules_MouseDown(int button);
+    void grdRules_AfterEdit();
+
+    /// A rule came or went.
+    Event<> countChanged;
+
+  private:
+    void Connect();
+    void Trace(std::string_view module, std::string_view procedure);
+    void AddRows();
+    void SelectRow(int row);
+    bool StoreRow(int row);
+    void KeepRuleInHand(int deleted);
+    void TellCountChanged();
+
+    mRules& rules_;
+    Grid& grid_;
+    SettingsForm& form_;
+    SharedState& state_;
+    TraceChannel& trace_;
+    RuleChecks checks_;
+};
+
+} // namespace zy

@@ -1,0 +1,64 @@
+#include "shell/SubClasser.h"
+
+#include <cstring>
+#include <exception>
+#include <utility>
+
+namespace zy {
+namespace {
+
+// Fixed: what the registry holds as the least size does not count, which is meant.
+constexpr int kLeastWidth = 8800;
+constexpr int kLeastHeight = 8400;
+
+/// Parts of pixels are cut off.
+std::int32_t WholePixels(int twips, double twipsPerPixel) {
+    return static_cast<std::int32_t>(twips / twipsPerPixel);
+}
+
+} // namespace
+
+void SubClasser::InstallMinSizeHook() {
+    state_.glOldWndProc =
+        window_.SetProcedure([this](const WindowMessage& message) { return MinSizeWndProc(message); });
+}
+
+void SubClasser::RemoveMinSizeHook() {
+    if (state_.glOldWndProc) {
+        window_.SetProcedure(std::exchange(state_.glOldWndProc, nullptr));
+    }
+}
+
+std::intptr_t SubClasser::MinSizeWndProc(const WindowMessage& message) {
+    try {
+        return Answer(message);
+    } catch (const std::exception&) {
+        return 0;
+    }
+}
+
+std::intptr_t SubClasser::Answer(const WindowMessage& message) {
+    if (message.window != window_.Handle()) {
+        return 0;
+    }
+    if (message.message != kGetMinMaxInfo) {
+        return state_.glOldWndProc(message);
+    }
+    auto* const record = reinterpret_cast<void*>(message.lParam);
+    if (record == nullptr) {
+        return 0;
+    }
+    MinMaxInfo bounds;
+    std::memcpy(&bounds, record, sizeof bounds);
+    FillIn(bounds);
+    std::memcpy(record, &bounds, sizeof bounds);
+    return 0;
+}
+
+void SubClasser::FillIn(MinMaxInfo& bounds) {
+    bounds.minTrackSize = {WholePixels(kLeastWidth, window_.TwipsPerPixelX()),
+                           WholePixels(kLeastHeight, window_.TwipsPerPixelY())};
+    bounds.maxTrackSize = window_.ScreenSize();
+}
+
+} // namespace zy

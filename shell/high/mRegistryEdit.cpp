@@ -1,0 +1,104 @@
+#include "shell/mRegistryEdit.h"
+
+#include <charconv>
+#include <cmath>
+#include <string>
+#include <system_error>
+
+#include "basics/Int16.h"
+#include "basics/RuntimeError.h"
+#include "basics/Text.h"
+#include "shell/MainWindow.h"
+#include "shell/Utilities.h"
+
+namespace zy {
+namespace {
+
+/// The number at the front of a text; 0 when it does not begin with one.
+Int16 LeadingNumber(std::string_view text) {
+    text = LTrim(text);
+    std::int64_t number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error == std::errc::result_out_of_range) {
+        RaiseOverflow();
+    }
+    return Int16(number);
+}
+
+/// A missing value, and one that cannot be read, is 0.
+Int16 ReadNumber(const RegistryKey& key, std::string_view name) {
+    constexpr std::size_t kBuffer = 260;
+    const auto text = key.QueryText(name, kBuffer);
+    return text ? LeadingNumber(StripAtNull(*text)) : Int16();
+}
+
+std::int32_t ToPixels(int twips, double twipsPerPixel) {
+    return static_cast<std::int32_t>(std::lround(twips / twipsPerPixel));
+}
+
+Int16 ToTwips(std::int32_t pixels, double twipsPerPixel) {
+    return Int16(static_cast<std::int64_t>(std::llrint(pixels * twipsPerPixel)));
+}
+
+} // namespace
+
+void mRegistryEdit::RestoreWindowPlacement() {
+    const auto key = world_.registry.Open(kKey);
+    if (!key) {
+        return;
+    }
+    const auto height = ReadNumber(*key, "Height");
+    const auto width = ReadNumber(*key, "Width");
+    const auto top = ReadNumber(*key, "Top");
+    const auto left = ReadNumber(*key, "Left");
+    const auto state = ReadNumber(*key, "State");
+    const auto minWidth = ReadNumber(*key, "MinWidth");
+    const auto minHeight = ReadNumber(*key, "MinHeight");
+
+    window_.Load();
+    auto& form = window_.Form();
+    form.MinHeight = minHeight;
+    form.MinWidth = minWidth;
+
+    constexpr std::uint32_t kHideWindow = 0x80;
+    constexpr int kShowDefault = 10;
+    auto& native = world_.window;
+    const double horizontal = native.TwipsPerPixelX();
+    const double vertical = native.TwipsPerPixelY();
+    const auto x = ToPixels(left, horizontal);
+    const auto y = ToPixels(top, vertical);
+    native.SetPosition({x, y, x + ToPixels(width, horizontal), y + ToPixels(height, vertical)}, kHideWindow);
+    native.Show(kShowDefault);
+    if (form.State() == WindowState::Normal && state == static_cast<int>(WindowState::Maximized)) {
+        form.SetState(WindowState::Maximized);
+    }
+}
+
+void mRegistryEdit::SaveWindowPlacement() {
+    const auto place = world_.window.NormalRectangle();
+    // The vertical values too, which is meant: where the two factors differ, height and top drift from run to
+    // run.
+    const double factor = world_.window.TwipsPerPixelX();
+    const auto top = ToTwips(place.top, factor);
+    const auto left = ToTwips(place.left, factor);
+    const auto width = ToTwips(place.right - place.left, factor);
+    const auto height = ToTwips(place.bottom - place.top, factor);
+    const auto held = window_.Form().State();
+    const auto state = held == WindowState::Minimized ? WindowState::Normal : held;
+
+    auto key = world_.registry.Open(kKey);
+    if (!key) {
+        key = world_.registry.Create(kKey);
+    }
+    if (!key) {
+        return;
+    }
+    key->SetText("Height", std::to_string(height));
+    key->SetText("Left", std::to_string(left));
+    key->SetText("Top", std::to_string(top));
+    key->SetText("Width", std::to_string(width));
+    key->SetText("State", std::to_string(static_cast<int>(state)));
+    key->Close();
+}
+
+} // namespace zy

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/World.h"
+#include "shell/Editors.h"
+
+namespace zy {
+
+class MainWindow;
+
+/// Keeps in the registry where the main window was left. What fails there is told to nobody: the window then
+/// opens at its designed place, or its place is not stored.
+class mRegistryEdit final : public WindowPlacement {
+  public:
+    /// The key of the place, below the registry's part for the whole machine.
+    static constexpr std::string_view kKey = R"(software\norvale\products\ZYSetup\Window)";
+
+    mRegistryEdit(const World& world, MainWindow& window) : world_(world), window_(window) {}
+
+    /// Loads the window and gives it its stored place, size and state; nothing when the key is missing.
+    /// Run-time error 6 for a stored number beyond 16 bits.
+    void RestoreWindowPlacement() override;
+    /// Run-time error 6, with nothing stored, for a place or a size of more than 32,767 twips.
+    void SaveWindowPlacement() override;
+
+  private:
+    World world_;
+    MainWindow& window_;
+};
+
+} // namespace zy

@@ -1,0 +1,45 @@
+"""Texts of the program that the help book need not explain, because nobody who uses the program gets to see them."""
+
+# What is told to the trace viewer.
+TRACES = {
+    "Finished", "Load Complete", "Load New Sec FIle Complete", "Rule Deleted", "Rules Mode Started",
+    "Security File Write Success", "Security Mode Started", "Start", "Start item: ",
+    "Start item: zySecure(index).UserID", "Unit Deleted", "Units Mode Started", "Unloaded", "User deleted",
+    "ZYGlobal Start",
+}
+
+# What the program sends to the table engine. A mistake in it shows as one of the engine's errors, which are explained.
+STATEMENTS = {
+    "CREATE INDEX [ZYSECURE] ON [ZYSECURE.DBF] (",
+    "CREATE TABLE [ZYSECURE.TMP] (USERID TEXT (10), PASSWORD TEXT (20), IDENTIFIER TEXT(20),EXPDATE TEXT (8), "
+    "STATUS TEXT(1));",
+    "INSERT INTO [ZYSECURE.TMP] ", ") VALUES ('",
+}
+
+# The rules grid and the question before leaving without saving are there, but no menu, button or key leads to them.
+OUT_OF_REACH = {
+    "&Add Rule", "&Delete Rule", "Are you Sure you want to Exit Without Saving Changes",
+    "Code\tMin\tMax\tCond.\tZone\tDescription", "Confirm Exit", "Grid Mode",
+    "USL|UCL|UWL|TARG |LWL|LCL|LSL|PREV|+4S|+3S|+15S|Avg |-15S|-3S|-4S",
+}
+
+# Under which names the place of the window is stored.
+REGISTRY_VALUES = {"Height", "Left", "MinHeight", "MinWidth", "State", "Top", "Width"}
+
+# What a screen reader says of a cell beside its text, and what the toolkit's log gets.
+OF_THE_TOOLKIT = {", row %d of %d", "Cell", "table cell", "%s:%d: %s: %s %s"}
+
+# The program writes an index and never reads one; these files are for those that check it. HelpBook tests that it
+# stays so.
+INDEX_READERS = {"dbase/IndexChecks.cpp", "dbase/IndexChecks.h", "dbase/IndexFile.cpp", "dbase/IndexFile.h"}
+
+# How to reach the maker changes without a new book, which leaves that to the About box.
+CONTACT = {"shell/low/Maker.h"}
+
+NOT_FOR_PEOPLE = TRACES | STATEMENTS | OUT_OF_REACH | REGISTRY_VALUES | OF_THE_TOOLKIT
+FILES_NOT_FOR_THE_BOOK = INDEX_READERS | CONTACT
+
+
+def is_picture(text):
+    """Whether a text describes a drawing, as the icons do."""
+    return text.startswith(("<svg", "M2 ")) or text.lstrip('"/').startswith((" fill=", "></svg>"))
