@@ -34,11 +34,9 @@ TEST_F(ErrorWindow, ARunTimeErrorInAHandlerDoesTheSame) {
 TEST_F(ErrorWindow, AnyOtherErrorIsShownByItsMessage) {
     PutRules(ThreeRules());
     const int status = Play([&] {
-        InWindow([&] {
-            program->window.menu.mnuAbout.click.Connect([] { throw std::runtime_error("No such thing"); });
-        });
-        Press('H', wxMOD_ALT);
-        Press('A');
+        InWindow(
+            [&] { page().cmdSaveRules.click.Connect([] { throw std::runtime_error("No such thing"); }); });
+        Click(page().cmdSaveRules);
         ExpectBox("No such thing", "ZY Setup");
         Press(WXK_RETURN);
     });
