@@ -9,9 +9,11 @@
 #include <wx/html/helpfrm.h>
 #include <wx/imaggif.h>
 #include <wx/log.h>
+#include <wx/treectrl.h>
 
 #include <utility>
 
+#include "desktop/Native.h"
 #include "desktop/Pictures.h"
 #include "shell/Application.h"
 
@@ -36,13 +38,24 @@ class Viewer : public wxHtmlHelpController {
   public:
     using wxHtmlHelpController::wxHtmlHelpController;
 
-  protected:
+  private:
+    /// The list of contents begins with the book's title, closed.
+    static void ShowChapters(wxHtmlHelpFrame& frame) {
+        auto* contents = dynamic_cast<wxTreeCtrl*>(frame.FindWindow(wxID_HTML_TREECTRL));
+        wxTreeItemIdValue cookie{};
+        if (contents != nullptr && !contents->IsEmpty()) {
+            contents->Expand(contents->GetFirstChild(contents->GetRootItem(), cookie));
+        }
+    }
+
     wxHtmlHelpFrame* CreateHelpFrame(wxHtmlHelpData* data) override {
         auto* frame = wxHtmlHelpController::CreateHelpFrame(data);
         wxSize size = frame->FromDIP(wxSize(1000, 700));
         size.DecTo(wxDisplay(frame).GetClientArea().GetSize());
         frame->SetSize(size);
         frame->SetIcons(ProgramIcon());
+        LayOutUnseen(*frame);
+        ShowChapters(*frame);
         return frame;
     }
 };

@@ -2,6 +2,7 @@
 #include <wx/html/helpfrm.h>
 #include <wx/html/helpwnd.h>
 #include <wx/notebook.h>
+#include <wx/treectrl.h>
 
 #include <fstream>
 #include <iterator>
@@ -58,6 +59,15 @@ class HelpWindow : public RulesWindow {
             return lists.GetPageText(static_cast<std::size_t>(lists.GetSelection())).utf8_string();
         });
     }
+    /// How many chapters the list of contents shows below the title of the book.
+    static std::size_t ChaptersShown() {
+        return InWindow([] {
+            auto& contents = *Find<wxTreeCtrl>(*Frame());
+            wxTreeItemIdValue cookie{};
+            const auto book = contents.GetFirstChild(contents.GetRootItem(), cookie);
+            return contents.IsExpanded(book) ? contents.GetChildrenCount(book, false) : 0;
+        });
+    }
     void CloseHelp() {
         InWindow([] { Frame()->Close(); });
         WaitUntil("the help is closed", [] { return Frame() == nullptr; });
@@ -71,6 +81,7 @@ TEST_F(HelpWindow, OpensAtItsContentsByTheMenu) {
         Press('C');
         WaitForPage("ZY Setup Help");
         EXPECT_EQ(List(), "Contents");
+        EXPECT_GT(ChaptersShown(), 5U);
         CloseHelp();
     });
 }
