@@ -69,9 +69,8 @@ std::string Content(FileHandle& file) {
 
 } // namespace
 
-DesktopHelp::DesktopHelp(const CodePage& codePage, FileSystem& files, Dialogs& dialogs,
-                         std::function<void()> startToolkit)
-    : codePage_(codePage), files_(files), dialogs_(dialogs), startToolkit_(std::move(startToolkit)) {}
+DesktopHelp::DesktopHelp(FileSystem& files, Dialogs& dialogs, std::function<void()> startToolkit)
+    : files_(files), dialogs_(dialogs), startToolkit_(std::move(startToolkit)) {}
 
 DesktopHelp::~DesktopHelp() = default;
 

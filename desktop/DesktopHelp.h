@@ -4,7 +4,6 @@
 #include <memory>
 #include <string>
 
-#include "platform/CodePage.h"
 #include "platform/Dialogs.h"
 #include "platform/FileSystem.h"
 #include "platform/HelpSystem.h"
@@ -18,8 +17,7 @@ namespace zy {
 class DesktopHelp final : public HelpSystem {
   public:
     /// `startToolkit` is called before anything is shown.
-    DesktopHelp(const CodePage& codePage, FileSystem& files, Dialogs& dialogs,
-                std::function<void()> startToolkit);
+    DesktopHelp(FileSystem& files, Dialogs& dialogs, std::function<void()> startToolkit);
     ~DesktopHelp() override;
 
     void Show(std::string_view helpFile, HelpCommand command, std::uintptr_t data) override;
@@ -31,7 +29,6 @@ class DesktopHelp final : public HelpSystem {
     bool Open(std::string_view helpFile);
     void Refuse(std::string_view helpFile, std::string_view why);
 
-    const CodePage& codePage_;
     FileSystem& files_;
     Dialogs& dialogs_;
     std::function<void()> startToolkit_;

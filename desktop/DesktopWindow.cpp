@@ -64,8 +64,12 @@ double DesktopWindow::TwipsPerPixel() {
 
 wxRect DesktopWindow::DesignedPlace() {
     startToolkit_();
-    const wxRect room = RoomOnScreens().front();
     wxRect place(Scale(DotsPerInch()).ToPixels({0, 0, kDesignedSize.width, kDesignedSize.height}).GetSize());
+    const auto screens = RoomOnScreens();
+    if (screens.empty()) {
+        return place;
+    }
+    const wxRect& room = screens.front();
     place.width = std::min(place.width, room.width);
     place.height = std::min(place.height, room.height);
     return place.CentreIn(room);
