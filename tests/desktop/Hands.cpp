@@ -2,6 +2,8 @@
 
 #include <wx/uiaction.h>
 
+#include <thread>
+
 #include "WindowThread.h"
 
 namespace zy::test {
@@ -38,13 +40,20 @@ void Hands::LetGoOfMouse() {
     InWindow([&] { simulator_->MouseUp(); });
 }
 
-void Hands::Drag(const wxPoint& from, const wxPoint& to) {
+void Hands::Drag(const wxPoint& from, const wxPoint& to, std::chrono::milliseconds pause) {
     PushMouse(from);
     constexpr int kSteps = 10;
     for (int step = 1; step <= kSteps; ++step) {
+        std::this_thread::sleep_for(pause);
         InWindow([&] { simulator_->MouseMove(from + (to - from) * step / kSteps); });
     }
+    std::this_thread::sleep_for(pause);
     LetGoOfMouse();
+}
+
+void Hands::DragWindow(const wxPoint& from, const wxPoint& to) {
+    constexpr std::chrono::milliseconds kUnhurried{60};
+    Drag(from, to, kUnhurried);
 }
 
 void Hands::HoldKey(int key) {

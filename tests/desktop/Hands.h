@@ -3,6 +3,7 @@
 #include <wx/defs.h>
 #include <wx/gdicmn.h>
 
+#include <chrono>
 #include <memory>
 #include <string>
 
@@ -24,7 +25,10 @@ class Hands {
     /// Presses the button of the mouse and keeps it down.
     void PushMouse(const wxPoint& place);
     void LetGoOfMouse();
-    void Drag(const wxPoint& from, const wxPoint& to);
+    /// Waits that long between the steps of the way.
+    void Drag(const wxPoint& from, const wxPoint& to, std::chrono::milliseconds pause = {});
+    /// Drags a window's title or border, in a way that a window manager with much to do can follow.
+    void DragWindow(const wxPoint& from, const wxPoint& to);
     /// Holds a key such as WXK_CONTROL down.
     void HoldKey(int key);
     void LetGoOfKey(int key);

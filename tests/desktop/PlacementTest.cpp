@@ -39,7 +39,7 @@ class Placement : public RulesWindow {
     /// Drags the corner at the bottom right by that much.
     void DragCornerBy(int x, int y) {
         const auto corner = InWindow([] { return RealFrame().GetRect().GetBottomRight(); });
-        hands->Drag(corner - wxPoint(1, 1), corner + wxPoint(x, y));
+        hands->DragWindow(corner - wxPoint(1, 1), corner + wxPoint(x, y));
     }
 };
 
@@ -63,7 +63,7 @@ TEST_F(Placement, StoresWhereAPersonHasMovedTheWindow) {
     StorePlace(300, 200, 700, 650);
     Play([&] {
         WaitForPlace({300, 200, 700, 650});
-        hands->Drag({500, 205}, {560, 305});
+        hands->DragWindow({500, 205}, {560, 305});
         WaitForPlace({360, 300, 700, 650});
     });
     EXPECT_EQ(Stored("Left"), "5400");
