@@ -1,6 +1,6 @@
+#include "SystemWorld.h"
 #include "desktop/Desktop.h"
 #include "desktop/MainWindowView.h"
-#include "platform/posix/PosixWorld.h"
 #include "shell/Program.h"
 #include "shell/mMain.h"
 
@@ -9,7 +9,7 @@
 // window opens with; from then on the window's events drive everything.
 
 int main(int argc, char** argv) {
-    zy::PosixWorld system(argc, argv);
+    zy::SystemWorld system(argc, argv);
     zy::Desktop desktop(system.codePage, system.files);
 
     return desktop.Run([&] {

@@ -35,4 +35,10 @@ void ControlBinding::ShowAppearance() {
     window_->Show(model_.Visible());
 }
 
+void ControlBinding::Rescale() {
+    window_->InvalidateBestSize();
+    Measure();
+    ShowAppearance();
+}
+
 } // namespace zy

@@ -31,6 +31,8 @@ class ControlBinding {
     virtual void TakeFocus() { window_->SetFocus(); }
     /// Shows the model's place and switches.
     virtual void ShowAppearance();
+    /// Measures and places the real control anew, on a screen where an inch has more or fewer pixels.
+    virtual void Rescale();
 
   protected:
     ControlBinding(const ViewContext& context, const Inside& inside, Control& model)

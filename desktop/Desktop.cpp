@@ -10,7 +10,8 @@ namespace zy {
 
 Desktop::Desktop(const CodePage& codePage, FileSystem& files)
     : codePage_(codePage), dialogs_(codePage, gate_, [this] { StartToolkit(); }),
-      help_(files, dialogs_, [this] { StartToolkit(); }), window_([this] { StartToolkit(); }) {}
+      help_(files, dialogs_, [this] { StartToolkit(); }),
+      window_(MakeDesktopWindow([this] { StartToolkit(); })) {}
 
 void Desktop::StartToolkit() {
     if (!toolkit_) {

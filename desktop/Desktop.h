@@ -2,6 +2,7 @@
 
 #include <exception>
 #include <functional>
+#include <memory>
 #include <optional>
 
 #include "desktop/DesktopDialogs.h"
@@ -21,7 +22,7 @@ class Desktop {
     Desktop(const CodePage& codePage, FileSystem& files);
 
     /// The program's view of it.
-    ScreenWorld Get() { return {.dialogs = dialogs_, .help = help_, .window = window_}; }
+    ScreenWorld Get() { return {.dialogs = dialogs_, .help = help_, .window = *window_}; }
 
     /// Runs the program and returns the exit status: what the program returns, or 1 when an error that
     /// nothing inside has caught was shown.
@@ -33,7 +34,7 @@ class Desktop {
     /// Throws NoDisplay when there is none.
     void StartToolkit();
     EventGate& Gate() { return gate_; }
-    DesktopWindow& Window() { return window_; }
+    DesktopWindow& Window() { return *window_; }
     const CodePage& TextCodePage() const { return codePage_; }
 
   private:
@@ -45,7 +46,7 @@ class Desktop {
     EventGate gate_;
     DesktopDialogs dialogs_;
     DesktopHelp help_;
-    DesktopWindow window_;
+    std::unique_ptr<DesktopWindow> window_;
 };
 
 } // namespace zy

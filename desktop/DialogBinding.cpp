@@ -38,7 +38,7 @@ DialogBinding::DialogBinding(const CodePage& codePage, EventGate& gate, Form& fo
                                          .gate = gate,
                                          .controls = controls_,
                                          .statusBar = notes_,
-                                         .scale = Scale(DotsPerInch())},
+                                         .scale = Scale(DotsPerInch(dialog_))},
       inside_{.window = new wxPanel(&dialog_), .origin = {}},
       children_(BindChildren(context_, inside_, form)), focus_(context_, form, dialog_),
       appearanceChanged_(form.appearanceChanged.Observe([this] {
@@ -49,7 +49,8 @@ DialogBinding::DialogBinding(const CodePage& codePage, EventGate& gate, Form& fo
       noteChanged_(notes_.change.Observe([] { wxBell(); })) {
     dialog_.SetName(ToShown(codePage, form.Name()));
     dialog_.SetIcons(ProgramIcon());
-    form.SetInnerSize({});
+    TakeSize();
+    ObserveDotsPerInch(dialog_, [this] { Rescale(); });
     PlaceOn(parent);
     ConnectKeys();
     dialog_.Bind(wxEVT_CLOSE_WINDOW,
@@ -64,10 +65,24 @@ DialogBinding::DialogBinding(const CodePage& codePage, EventGate& gate, Form& fo
 
 DialogBinding::~DialogBinding() = default;
 
+void DialogBinding::TakeSize() {
+    form_.SetInnerSize({});
+    const wxSize size = context_.scale.ToPixels(form_.Bounds()).GetSize();
+    dialog_.SetClientSize(size);
+    inside_.window->SetSize(size);
+}
+
+void DialogBinding::Rescale() {
+    context_.scale = Scale(DotsPerInch(dialog_));
+    for (const auto& child : children_) {
+        child->Rescale();
+    }
+    // Behind the size that the system gives it.
+    dialog_.CallAfter([this] { TakeSize(); });
+}
+
 void DialogBinding::PlaceOn(wxWindow* parent) {
     const wxRect place = context_.scale.ToPixels(form_.Bounds());
-    dialog_.SetClientSize(place.GetSize());
-    inside_.window->SetSize(place.GetSize());
     if (parent != nullptr && place.GetPosition() != wxPoint()) {
         const wxRect wanted(parent->ClientToScreen(place.GetPosition()), dialog_.GetSize());
         dialog_.Move(MovedInside(wanted, RoomAround(*parent)).GetPosition());
@@ -90,7 +105,8 @@ void DialogBinding::PressKey(wxKeyEvent& event) {
         event.Skip();
         return;
     }
-    gate_.Act([&] { button->Click(); });
+    // Behind the key itself: a message box that opens at once would get the key as well.
+    dialog_.CallAfter([this, button] { gate_.Act([button] { button->Click(); }); });
 }
 
 void DialogBinding::Run() {

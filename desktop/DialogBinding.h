@@ -24,7 +24,9 @@ class DialogBinding {
     void Run();
 
   private:
+    void TakeSize();
     void PlaceOn(wxWindow* parent);
+    void Rescale();
     void ConnectKeys();
     void PressKey(wxKeyEvent& event);
     void End();

@@ -32,7 +32,7 @@ void FrameBinding::ShowAppearance() {
 void FrameBinding::MakeChildren() {
     children_ = BindChildren(Context(), content_, model_);
     if (box_ != nullptr && !children_.empty()) {
-        content_.origin = OriginInside(*box_);
+        LookInside();
         Measure();
         for (const auto& child : children_) {
             child->ShowAppearance();
@@ -40,8 +40,24 @@ void FrameBinding::MakeChildren() {
     }
 }
 
+void FrameBinding::LookInside() {
+    const BoxInside inside = InsideOf(*box_);
+    content_.origin = inside.origin;
+    above_ = inside.above;
+}
+
+void FrameBinding::Rescale() {
+    if (box_ != nullptr && !children_.empty()) {
+        LookInside();
+    }
+    for (const auto& child : children_) {
+        child->Rescale();
+    }
+    ControlBinding::Rescale();
+}
+
 void FrameBinding::Measure() {
-    model_.SetPreferred({0, Context().scale.ToTwips(content_.origin.y)});
+    model_.SetPreferred({0, Context().scale.ToTwips(above_)});
 }
 
 } // namespace zy

@@ -20,9 +20,8 @@ constexpr int kRightButton = 2;
 
 /// A thin line around the grid, of which the toolkit draws none.
 wxWindow* MakeBorder(wxWindow* parent) {
-    auto* border = new wxWindow(parent, wxID_ANY);
+    auto* border = MakeSurround(parent);
     border->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNSHADOW));
-    border->SetCanFocus(false);
     border->SetSizer(new wxBoxSizer(wxVERTICAL));
     return border;
 }
@@ -161,6 +160,11 @@ Rect GridBinding::PlaceOf(int row, int column) const {
 void GridBinding::ShowAppearance() {
     ControlBinding::ShowAppearance();
     columns_.Show();
+}
+
+void GridBinding::Rescale() {
+    grid_->FitRows(editor_.NeededHeight());
+    ControlBinding::Rescale();
 }
 
 void GridBinding::ShowChanges() {

@@ -18,6 +18,7 @@ class GridBinding : public ControlBinding {
 
     void TakeFocus() override;
     void ShowAppearance() override;
+    void Rescale() override;
 
   private:
     /// A grid needs no certain room; a few rows will do.

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "desktop/Native.h"
 #include "desktop/Pictures.h"
 #include "desktop/ShownText.h"
 
@@ -39,7 +40,7 @@ wxButton& GridCellButton::Button() {
     if (button == nullptr) {
         button = HasList() ? MakeListButton() : MakeDialogButton();
         // The editor's text keeps the keyboard.
-        button->SetCanFocus(false);
+        KeepFocusAway(*button);
         button->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { Press(); });
     }
     return *button;

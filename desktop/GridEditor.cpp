@@ -18,8 +18,8 @@ namespace {
 constexpr std::size_t kMostShown = 65534 / 3;
 
 wxTextCtrl* MakeText(const GridWidget& grid) {
-    auto* text =
-        new wxTextCtrl(grid.GetGridWindow(), wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxBORDER_NONE);
+    auto* text = new wxTextCtrl(grid.GetGridWindow(), wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
+                                wxBORDER_NONE | EveryKeyStyle());
     text->Hide();
     // The first name a control gets is told nobody, the later ones are.
     SetAccessibleName(*text, "Cell");

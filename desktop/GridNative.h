@@ -6,6 +6,9 @@ class wxWindow;
 
 namespace zy {
 
+/// The window around a grid, whose background is the grid's border. It takes no focus itself.
+wxWindow* MakeSurround(wxWindow* parent);
+
 /// Tells assistive technology what the current cell of a grid is. The toolkit paints its grid, so that its
 /// cells are nothing to a screen reader: the window that has the keyboard stands for the current one, and
 /// bears its text as its name. `announce` has a screen reader that listens say the text at once.

@@ -13,6 +13,12 @@ void atk_object_set_role(_AtkObject* accessible, int role);
 
 namespace zy {
 
+wxWindow* MakeSurround(wxWindow* parent) {
+    auto* surround = new wxWindow(parent, wxID_ANY);
+    surround->SetCanFocus(false);
+    return surround;
+}
+
 void PresentCell(wxWindow& gridWindow, const wxString& text, bool announce) {
     auto* accessible = gtk_widget_get_accessible(gridWindow.GetHandle());
     atk_object_set_role(accessible, atk_role_for_name("table cell"));

@@ -15,7 +15,7 @@ ListViewBinding::ListViewBinding(const ViewContext& context, const Inside& insid
     list_->AssociateModel(rows_.get());
     SetAccessibleName(*list_, Shown(model_.Parent()->Caption()));
     list_->Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, [this](wxDataViewEvent&) { TakePick(); });
-    list_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { PressKey(event); });
+    KeyboardPart(*list_).Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { PressKey(event); });
     Keep(model_.refilled.Observe([this] {
         ChangeList([this] { rows_->MatchCount(); });
         rowsChanged_ = true;
@@ -45,6 +45,11 @@ void ListViewBinding::MakeColumns() {
 void ListViewBinding::ShowAppearance() {
     ControlBinding::ShowAppearance();
     ShowColumnWidths();
+}
+
+void ListViewBinding::Rescale() {
+    shownWidths_.assign(shownWidths_.size(), -1);
+    ControlBinding::Rescale();
 }
 
 void ListViewBinding::ShowColumnWidths() {

@@ -16,6 +16,7 @@ class ListViewBinding : public ControlBinding {
     ListViewBinding(const ViewContext& context, const Inside& inside, ListView& model);
 
     void ShowAppearance() override;
+    void Rescale() override;
 
   private:
     void MakeColumns();

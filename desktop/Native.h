@@ -1,13 +1,14 @@
 #pragma once
 
+#include <wx/gdicmn.h>
 #include <wx/string.h>
 
 #include <functional>
 
+class wxButton;
 class wxChoice;
 class wxDataViewColumn;
 class wxDataViewCtrl;
-class wxPoint;
 class wxStaticBox;
 class wxTextCtrl;
 class wxWindow;
@@ -18,6 +19,10 @@ namespace zy {
 
 /// The pixels in an inch of text, as the user's settings make it.
 double DotsPerInch();
+/// The same where a window stands: screens may differ.
+double DotsPerInch(const wxWindow& window);
+/// Calls `changed` when a window has come to a screen where that is different, before it gets its size there.
+void ObserveDotsPerInch(wxWindow& window, std::function<void()> changed);
 
 /// Has the toolkit find out, before the first window is made, how wide the borders of windows are. Otherwise
 /// it learns of them when the window is on the screen and adds them to its size, so that a window whose size
@@ -30,14 +35,25 @@ void SetAccessibleName(wxWindow& window, const wxString& name);
 /// Gives a window that is not shown yet its size, down to its last control.
 void LayOutUnseen(wxWindow& window);
 
-/// Where the room for controls begins inside a box that has at least one child.
-wxPoint OriginInside(const wxStaticBox& box);
+/// The inside of a box that has at least one child.
+struct BoxInside {
+    /// The place in the box that the window system counts its controls' places from.
+    wxPoint origin;
+    /// The height that caption and border take at the top.
+    int above = 0;
+};
+BoxInside InsideOf(const wxStaticBox& box);
 
 /// Calls `moved` whenever the focus of a window goes from one of its controls to another, for the window's
 /// whole life. That another window becomes the active one moves no focus.
 void ObserveFocus(wxWindow& window, std::function<void()> moved);
 /// Whether the focus of its window is in this control.
 bool HoldsFocus(const wxWindow& control);
+
+/// Lets a button be pressed by the mouse alone, without taking the focus from where it is.
+void KeepFocusAway(wxButton& button);
+/// The style of a line of text that gets Tab and Enter itself, in place of the window around it.
+long EveryKeyStyle();
 
 /// Closes the list that has dropped down; nothing when none has.
 void CloseDropDown(const wxChoice& choice);
@@ -48,6 +64,8 @@ void SetPasswordCharacter(wxTextCtrl& box, char character);
 /// Lets a column's header be no button, which Tab would stop at. The column can be resized as before.
 void MakeHeaderPlain(wxDataViewColumn& column);
 
+/// The part of a list that gets its keys.
+wxWindow& KeyboardPart(wxDataViewCtrl& list);
 /// Makes a row current for the keyboard and the selection, and scrolls it into view.
 void GoToRow(wxDataViewCtrl& list, int row);
 

@@ -1,4 +1,5 @@
 #include <glib-object.h>
+#include <wx/button.h>
 #include <wx/choice.h>
 #include <wx/dataview.h>
 #include <wx/frame.h>
@@ -62,6 +63,14 @@ double DotsPerInch() {
     return resolution > 0 ? resolution : kUsualDotsPerInch;
 }
 
+double DotsPerInch(const wxWindow& /*window*/) {
+    return DotsPerInch();
+}
+
+void ObserveDotsPerInch(wxWindow& /*window*/, std::function<void()> /*changed*/) {
+    // It is the same on all screens.
+}
+
 void LearnBorders() {
     if (!CanAskForBorders()) {
         return;
@@ -100,7 +109,7 @@ void LayOutUnseen(wxWindow& window) {
     gtk_widget_size_allocate(window.m_widget, &size);
 }
 
-wxPoint OriginInside(const wxStaticBox& box) {
+BoxInside InsideOf(const wxStaticBox& box) {
     // GTK tells it only of a frame that has been given a size, whatever size that is.
     GtkSizeNeeded needed{};
     gtk_widget_get_preferred_size(box.m_widget, nullptr, &needed);
@@ -108,7 +117,8 @@ wxPoint OriginInside(const wxStaticBox& box) {
     gtk_widget_size_allocate(box.m_widget, &size);
     const auto outer = AllocationOf(box.m_widget);
     const auto inner = AllocationOf(box.m_wxwindow);
-    return {inner.x - outer.x, inner.y - outer.y};
+    const wxPoint origin(inner.x - outer.x, inner.y - outer.y);
+    return {.origin = origin, .above = origin.y};
 }
 
 void ObserveFocus(wxWindow& window, std::function<void()> moved) {
@@ -124,6 +134,14 @@ bool HoldsFocus(const wxWindow& control) {
            (focused == control.m_widget || gtk_widget_is_ancestor(focused, control.m_widget) != 0);
 }
 
+void KeepFocusAway(wxButton& button) {
+    button.SetCanFocus(false);
+}
+
+long EveryKeyStyle() {
+    return 0; // it gets every key anyhow
+}
+
 void CloseDropDown(const wxChoice& choice) {
     gtk_combo_box_popdown(reinterpret_cast<_GtkComboBox*>(choice.m_widget));
 }
@@ -133,6 +151,10 @@ void MakeHeaderPlain(wxDataViewColumn& column) {
     g_signal_connect_data(column.GetGtkHandle(), "notify::clickable", G_CALLBACK(UnmakeButton), nullptr,
                           nullptr, GConnectFlags{});
     gtk_tree_view_column_set_clickable(reinterpret_cast<_GtkTreeViewColumn*>(column.GetGtkHandle()), 0);
+}
+
+wxWindow& KeyboardPart(wxDataViewCtrl& list) {
+    return list;
 }
 
 void GoToRow(wxDataViewCtrl& list, int row) {

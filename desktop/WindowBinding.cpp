@@ -22,11 +22,12 @@ WindowState StateOf(const wxFrame& frame) {
 
 } // namespace
 
-WindowBinding::WindowBinding(const ViewContext& context, Form& form, std::function<void()> close)
+WindowBinding::WindowBinding(ViewContext& context, Form& form, std::function<void()> close)
     : context_(context), form_(form), frame_(new wxFrame(nullptr, wxID_ANY, "")), firstState_(form.State()) {
     frame_->SetName(ToShown(context.codePage, form.Name()));
     frame_->SetIcons(ProgramIcon());
     inside_.window = new wxPanel(frame_);
+    context_.scale = Scale(DotsPerInch(*frame_));
     children_ = BindChildren(context, inside_, form);
     focus_ = std::make_unique<FocusBinding>(context, form, *frame_);
     ConnectFrame(std::move(close));
@@ -56,6 +57,7 @@ void WindowBinding::ConnectFrame(std::function<void()> close) {
         event.Veto();
         context_.gate.Tell(close);
     });
+    ObserveDotsPerInch(*frame_, [this] { Rescale(); });
     subscriptions_.push_back(form_.appearanceChanged.Observe([this] { ShowAppearance(); }));
     subscriptions_.push_back(form_.stateChanged.Observe([this] { ShowState(); }));
 }
@@ -82,6 +84,13 @@ void WindowBinding::TellSize() {
 void WindowBinding::TellState() {
     if (StateOf(*frame_) != form_.State()) {
         TellSize();
+    }
+}
+
+void WindowBinding::Rescale() {
+    context_.scale = Scale(DotsPerInch(*frame_));
+    for (const auto& child : children_) {
+        child->Rescale();
     }
 }
 

@@ -16,7 +16,7 @@ namespace zy {
 class WindowBinding {
   public:
     /// `mayClose` is asked when a person closes the window; it hides the form when it agrees.
-    WindowBinding(const ViewContext& context, Form& form, std::function<void()> mayClose);
+    WindowBinding(ViewContext& context, Form& form, std::function<void()> mayClose);
     ~WindowBinding();
     WindowBinding(const WindowBinding&) = delete;
     WindowBinding& operator=(const WindowBinding&) = delete;
@@ -29,10 +29,11 @@ class WindowBinding {
     void ConnectFrame(std::function<void()> close);
     void TellSize();
     void TellState();
+    void Rescale();
     void ShowAppearance();
     void ShowState();
 
-    const ViewContext& context_;
+    ViewContext& context_;
     Form& form_;
     wxFrame* frame_;
     WindowState firstState_; ///< the form's at first: until it is shown, the real window has none

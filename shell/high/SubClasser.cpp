@@ -42,7 +42,9 @@ std::intptr_t SubClasser::Answer(const WindowMessage& message) {
         return 0;
     }
     if (message.message != kGetMinMaxInfo) {
-        return state_.glOldWndProc(message);
+        // Copied, for a message that closes the window takes the hook away.
+        const auto own = state_.glOldWndProc;
+        return own(message);
     }
     auto* const record = reinterpret_cast<void*>(message.lParam);
     if (record == nullptr) {

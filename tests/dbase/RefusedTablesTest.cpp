@@ -3,9 +3,9 @@
 #include <filesystem>
 
 #include "DbaseTest.h"
-#include "platform/posix/PosixFileSystem.h"
 #include "support/TableBytes.h"
 #include "support/TemporaryFolder.h"
+#include "support/ThisSystem.h"
 
 namespace zy::dbase::test {
 namespace {
@@ -66,7 +66,7 @@ TEST_F(RefusedTables, HaveAHeaderThatIsCutShort) {
 
 TEST_F(RefusedTables, HaveAHeaderShorterThanTheirColumns) {
     auto table = Table();
-    for (unsigned long size = 34; size < 97; ++size) {
+    for (std::size_t size = 34; size < 97; ++size) {
         table.headerSize = size;
         EXPECT_EQ(Refusal(table.Bytes()), "the mark 0D that ends its columns is missing in the " +
                                               std::to_string(size) + " bytes of its header.");
@@ -86,7 +86,7 @@ TEST_F(RefusedTables, HaveNoColumns) {
 
 TEST_F(RefusedTables, HaveRecordsOfAnotherLengthThanTheirColumns) {
     auto table = Table();
-    for (const unsigned long size : {0UL, 1UL, 10UL, 12UL, 0xFFFFUL}) {
+    for (const std::size_t size : {0UL, 1UL, 10UL, 12UL, 0xFFFFUL}) {
         table.recordSize = size;
         EXPECT_EQ(Refusal(table.Bytes()), "byte 10 says that its records have " + std::to_string(size) +
                                               " bytes, but its columns make 11.");
@@ -130,8 +130,8 @@ TEST_F(RefusedTables, AreLargerThan2GigabytesAndAreNotReadAtAll) {
     const auto bytes = Table().Bytes();
     folder.Put("T.DBF", bytes);
     std::filesystem::resize_file(folder.Path("T.DBF"), 0x80000000U); // the rest is no room on the disk
-    PosixFileSystem files(Windows1252());
-    DBEngine real(files, [] { return std::chrono::year_month_day(); });
+    const auto files = zy::test::SystemFiles();
+    DBEngine real(*files, [] { return std::chrono::year_month_day(); });
     const auto raised = RaisedBy([&] {
         real.OpenDatabase(folder.InsidePath(), false, false, "dBase III")
             ->OpenRecordset("T", RecordsetType::Dynaset);

@@ -29,15 +29,19 @@ class Disk {
     virtual std::optional<std::string> Get(std::string_view name) const = 0;
     virtual std::vector<std::string> Names() const = 0;
 
+    /// Written as in 0604: what the owner may do, and what everybody may. The figure between them, the
+    /// group's, is not on every system.
     virtual void SetPermissions(std::string_view name, unsigned permissions) = 0;
     virtual std::optional<unsigned> Permissions(std::string_view name) const = 0;
 
+    // These say false, and change nothing, where the system of the tests does not let itself be set so.
+
     /// From here on the user may not read the file.
-    virtual void ForbidReading(std::string_view name) = 0;
+    [[nodiscard]] virtual bool ForbidReading(std::string_view name) = 0;
     /// From here on the user may not change the folder.
-    virtual void ForbidChanges() = 0;
+    [[nodiscard]] virtual bool ForbidChanges() = 0;
     /// From here on no file gets beyond that many bytes.
-    virtual void LimitTo(unsigned bytes) = 0;
+    [[nodiscard]] virtual bool LimitTo(unsigned bytes) = 0;
 };
 
 /// A kind of disk, by a name for the test's name.

@@ -15,6 +15,8 @@ using ::testing::IsEmpty;
 using ::testing::Optional;
 using namespace std::string_literals;
 
+constexpr auto kBound = "Permissions do not bind the user of this test.";
+
 class FileSystemContract : public ::testing::TestWithParam<DiskKind> {
   protected:
     FileSystem& Files() { return disk->Files(); }
@@ -170,7 +172,9 @@ TEST_P(FileSystemContract, SaysWhyAFileCannotBeOpened) {
 
 TEST_P(FileSystemContract, RefusesToOpenAFileThatTheUserMayNotRead) {
     disk->Put("a.sys", "secret");
-    disk->ForbidReading("a.sys");
+    if (!disk->ForbidReading("a.sys")) {
+        GTEST_SKIP() << kBound;
+    }
     EXPECT_EQ(OpenError(disk->Path("a.sys")), FileError::AccessDenied);
     EXPECT_TRUE(Files().Exists(disk->Path("a.sys")));
 }
@@ -216,9 +220,9 @@ TEST_P(FileSystemContract, EmptiesAFileThatExistsAndLeavesItItsName) {
 
 TEST_P(FileSystemContract, KeepsThePermissionsOfAFileThatItEmpties) {
     disk->Put("a.sys", "old");
-    disk->SetPermissions("a.sys", 0640);
+    disk->SetPermissions("a.sys", 0604);
     Created("a.sys")->Close();
-    EXPECT_THAT(disk->Permissions("a.sys"), Optional(0640U));
+    EXPECT_THAT(disk->Permissions("a.sys"), Optional(0604U));
 }
 
 TEST_P(FileSystemContract, KeepsBytesLettersBeyondAsciiInNames) {
@@ -251,7 +255,9 @@ TEST_P(FileSystemContract, LetsOthersReadAFileBeingWritten) {
 }
 
 TEST_P(FileSystemContract, WritesThePartThatFitsOnAFullDisk) {
-    disk->LimitTo(6);
+    if (!disk->LimitTo(6)) {
+        GTEST_SKIP() << "This system has no limit for the files of a single test.";
+    }
     const auto file = Created("a.sys");
     EXPECT_EQ(file->Write("1234"), FileError::None);
     EXPECT_EQ(file->Write("5678"), FileError::DiskFull);
@@ -294,14 +300,14 @@ TEST_P(FileSystemContract, CreatesAFileForItsOwnerAlone) {
 
 TEST_P(FileSystemContract, LeavesAFileThatIsThereWhenItShouldCreateOneForItsOwner) {
     disk->Put("a.sys", "old");
-    disk->SetPermissions("a.sys", 0644);
+    disk->SetPermissions("a.sys", 0604);
     for (const auto* name : {"a.sys", "A.SYS"}) {
         const auto created = Files().CreatePrivate(disk->Path(name));
         EXPECT_FALSE(created.handle);
         EXPECT_EQ(created.error, FileError::Exists);
     }
     EXPECT_THAT(disk->Get("a.sys"), Optional("old"s));
-    EXPECT_THAT(disk->Permissions("a.sys"), Optional(0644U));
+    EXPECT_THAT(disk->Permissions("a.sys"), Optional(0604U));
     EXPECT_THAT(disk->Names(), ElementsAre("a.sys"));
 }
 
@@ -393,7 +399,9 @@ TEST_P(FileSystemContract, SaysWhyPermissionsCannotBeCopied) {
 // A folder that the user may not change
 
 TEST_P(FileSystemContract, CreatesNoFileInAFolderThatTheUserMayNotChange) {
-    disk->ForbidChanges();
+    if (!disk->ForbidChanges()) {
+        GTEST_SKIP() << kBound;
+    }
     EXPECT_EQ(CreateError(disk->Path("new.sys")), FileError::AccessDenied);
     EXPECT_EQ(Files().CreatePrivate(disk->Path("new.sys")).error, FileError::AccessDenied);
     EXPECT_THAT(disk->Names(), IsEmpty());
@@ -401,14 +409,18 @@ TEST_P(FileSystemContract, CreatesNoFileInAFolderThatTheUserMayNotChange) {
 
 TEST_P(FileSystemContract, RewritesAFileInAFolderThatTheUserMayNotChange) {
     disk->Put("a.sys", "old");
-    disk->ForbidChanges();
+    if (!disk->ForbidChanges()) {
+        GTEST_SKIP() << kBound;
+    }
     EXPECT_EQ(Created("a.sys")->Write("new"), FileError::None);
     EXPECT_THAT(disk->Get("a.sys"), Optional("new"s));
 }
 
 TEST_P(FileSystemContract, DeletesAndRenamesNothingInAFolderThatTheUserMayNotChange) {
     disk->Put("a.sys", "old");
-    disk->ForbidChanges();
+    if (!disk->ForbidChanges()) {
+        GTEST_SKIP() << kBound;
+    }
     EXPECT_EQ(Files().Delete(disk->Path("a.sys")), FileError::AccessDenied);
     EXPECT_EQ(Files().Rename(disk->Path("a.sys"), disk->Path("b.sys")), FileError::AccessDenied);
     EXPECT_THAT(disk->Get("a.sys"), Optional("old"s));
@@ -418,7 +430,7 @@ TEST_P(FileSystemContract, DeletesAndRenamesNothingInAFolderThatTheUserMayNotCha
 
 TEST_P(FileSystemContract, PutsANewFileInPlaceOfAnOldOneWithItsPermissions) {
     disk->Put("ZYRules.sys", "old");
-    disk->SetPermissions("ZYRules.sys", 0660);
+    disk->SetPermissions("ZYRules.sys", 0606);
     const auto temporary = disk->Path("Rules.tmp");
     const auto target = disk->Path("ZYRules.sys");
     {
@@ -432,7 +444,7 @@ TEST_P(FileSystemContract, PutsANewFileInPlaceOfAnOldOneWithItsPermissions) {
     EXPECT_EQ(Files().Rename(temporary, target), FileError::None);
     EXPECT_THAT(disk->Names(), ElementsAre("ZYRules.sys"));
     EXPECT_THAT(disk->Get("ZYRules.sys"), Optional("new"s));
-    EXPECT_THAT(disk->Permissions("ZYRules.sys"), Optional(0660U));
+    EXPECT_THAT(disk->Permissions("ZYRules.sys"), Optional(0606U));
 }
 
 } // namespace

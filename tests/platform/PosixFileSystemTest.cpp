@@ -190,6 +190,13 @@ TEST_F(PosixFileSystemTest, WritesAndReadsMoreThanOneCallTakes) {
     EXPECT_EQ(read.substr(0, count), bytes);
 }
 
+TEST_F(PosixFileSystemTest, KeepsThePermissionsOfTheGroupInAFileThatItEmpties) {
+    folder.Put("a.sys", "old");
+    ::chmod(folder.Path("a.sys").c_str(), 0660);
+    files.Create(Path("a.sys"));
+    EXPECT_EQ(Mode("a.sys"), 0660U);
+}
+
 TEST_F(PosixFileSystemTest, CopiesThePermissionBitsAndNoOthers) {
     folder.Put("a.sys", "");
     folder.Put("b.sys", "");

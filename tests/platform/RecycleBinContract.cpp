@@ -5,9 +5,8 @@
 
 #include <string>
 
-#include "RecyclePlaces.h"
+#include "ContractWorlds.h"
 #include "platform/memory/MemoryRecycleBin.h"
-#include "platform/posix/PosixRecycleBin.h"
 
 namespace zy::test {
 namespace {
@@ -16,20 +15,6 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::UnorderedElementsAre;
 using namespace std::string_literals;
-
-/// A folder whose files can be recycled.
-class Bin {
-  public:
-    virtual ~Bin() = default;
-
-    virtual RecycleBin& Recycler() = 0;
-    virtual std::string Path(std::string_view name) const = 0;
-    virtual void Put(std::string_view name, std::string_view bytes) = 0;
-    virtual void AddFolder(std::string_view name) = 0;
-    virtual std::vector<std::string> Names() const = 0;
-    /// The bytes of each file in the bin.
-    virtual std::vector<std::string> Recycled() const = 0;
-};
 
 class MemoryBin final : public Bin {
   public:
@@ -53,21 +38,6 @@ class MemoryBin final : public Bin {
     MemoryRecycleBin bin_{files_};
 };
 
-class PosixBin final : public Bin {
-  public:
-    RecycleBin& Recycler() override { return bin_; }
-    std::string Path(std::string_view name) const override { return folder_.InsidePath(name); }
-    void Put(std::string_view name, std::string_view bytes) override { folder_.Put(name, bytes); }
-    void AddFolder(std::string_view name) override { folder_.AddFolder(name); }
-    std::vector<std::string> Names() const override { return folder_.Names(); }
-    std::vector<std::string> Recycled() const override { return places_.BytesInDesktopTrash(); }
-
-  private:
-    RecyclePlaces places_;
-    TemporaryFolder folder_{places_.Home()};
-    PosixRecycleBin bin_{Windows1252()};
-};
-
 struct BinKind {
     const char* name;
     std::unique_ptr<Bin> (*make)();
@@ -82,12 +52,13 @@ class RecycleBinContract : public ::testing::TestWithParam<BinKind> {
     std::unique_ptr<Bin> bin = GetParam().make();
 };
 
-INSTANTIATE_TEST_SUITE_P(
-    Bins, RecycleBinContract,
-    ::testing::Values(
-        BinKind{"OverMemory", []() -> std::unique_ptr<Bin> { return std::make_unique<MemoryBin>(); }},
-        BinKind{"OverPosix", []() -> std::unique_ptr<Bin> { return std::make_unique<PosixBin>(); }}),
-    [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(Bins, RecycleBinContract,
+                         ::testing::Values(BinKind{"OverMemory",
+                                                   []() -> std::unique_ptr<Bin> {
+                                                       return std::make_unique<MemoryBin>();
+                                                   }},
+                                           BinKind{kOverSystem, SystemBin}),
+                         [](const auto& test) { return test.param.name; });
 
 TEST_P(RecycleBinContract, RecyclesAFileWithItsBytes) {
     bin->Put("a.dbf", "users");

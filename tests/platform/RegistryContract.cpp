@@ -5,10 +5,8 @@
 
 #include <string>
 
+#include "ContractWorlds.h"
 #include "platform/memory/MemoryRegistry.h"
-#include "platform/posix/PosixRegistry.h"
-#include "support/EnvironmentVariable.h"
-#include "support/TemporaryFolder.h"
 
 namespace zy::test {
 namespace {
@@ -18,29 +16,12 @@ using ::testing::Optional;
 constexpr auto kKey = R"(software\norvale\products\ZYSetup\Window)";
 constexpr std::size_t kRoom = 260;
 
-/// A registry that is empty at first.
-class Store {
-  public:
-    virtual ~Store() = default;
-    virtual Registry& Keys() = 0;
-};
-
 class MemoryStore final : public Store {
   public:
     Registry& Keys() override { return registry_; }
 
   private:
     MemoryRegistry registry_{Windows1252()};
-};
-
-class PosixStore final : public Store {
-  public:
-    Registry& Keys() override { return registry_; }
-
-  private:
-    TemporaryFolder folder_;
-    EnvironmentVariable config_{"XDG_CONFIG_HOME", folder_.Path("config")};
-    PosixRegistry registry_{Windows1252()};
 };
 
 struct StoreKind {
@@ -68,17 +49,19 @@ class RegistryContract : public ::testing::TestWithParam<StoreKind> {
     std::unique_ptr<Store> store = GetParam().make();
 };
 
-INSTANTIATE_TEST_SUITE_P(
-    Stores, RegistryContract,
-    ::testing::Values(
-        StoreKind{"OverMemory", []() -> std::unique_ptr<Store> { return std::make_unique<MemoryStore>(); }},
-        StoreKind{"OverPosix", []() -> std::unique_ptr<Store> { return std::make_unique<PosixStore>(); }}),
-    [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(Stores, RegistryContract,
+                         ::testing::Values(StoreKind{"OverMemory",
+                                                     []() -> std::unique_ptr<Store> {
+                                                         return std::make_unique<MemoryStore>();
+                                                     }},
+                                           StoreKind{kOverSystem, SystemStore}),
+                         [](const auto& test) { return test.param.name; });
 
 TEST_P(RegistryContract, OpensNoKeyThatIsMissing) {
     EXPECT_FALSE(store->Keys().Open(kKey));
     Set(kKey, "Top", "15");
-    EXPECT_FALSE(store->Keys().Open(R"(software\norvale\products\ZYSetup)"));
+    EXPECT_FALSE(store->Keys().Open(R"(software\norvale\products\ZYSetup\Windows)"));
+    EXPECT_FALSE(store->Keys().Open(R"(software\norvale\products\ZYSetup\Window\Top)"));
 }
 
 TEST_P(RegistryContract, KeepsWhatWasSet) {

@@ -5,10 +5,8 @@
 
 #include <string>
 
+#include "ContractWorlds.h"
 #include "platform/memory/MemoryWorld.h"
-#include "platform/posix/PosixWorld.h"
-#include "support/EnvironmentVariable.h"
-#include "support/TemporaryFolder.h"
 
 namespace zy::test {
 namespace {
@@ -16,14 +14,6 @@ namespace {
 using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::Not;
-
-/// A program started with the argument "@RULES" in a system directory of its own, under the locale "C".
-class Start {
-  public:
-    virtual ~Start() = default;
-    virtual SystemInfo& System() = 0;
-    virtual FileSystem& Files() = 0;
-};
 
 class MemoryStart final : public Start {
   public:
@@ -33,20 +23,6 @@ class MemoryStart final : public Start {
 
   private:
     MemoryWorld world_;
-};
-
-class PosixStart final : public Start {
-  public:
-    SystemInfo& System() override { return world_.system; }
-    FileSystem& Files() override { return world_.files; }
-
-  private:
-    static constexpr const char* kArguments[] = {"/usr/bin/zyGlobal", "@RULES"};
-
-    TemporaryFolder folder_;
-    EnvironmentVariable directory_{"ZYSETUP_SYSTEM_DIR", folder_.Path().string()};
-    EnvironmentVariable locale_{"LC_ALL", "C"};
-    PosixWorld world_{2, kArguments};
 };
 
 struct StartKind {
@@ -63,12 +39,13 @@ class SystemInfoContract : public ::testing::TestWithParam<StartKind> {
     std::unique_ptr<Start> start = GetParam().make();
 };
 
-INSTANTIATE_TEST_SUITE_P(
-    Starts, SystemInfoContract,
-    ::testing::Values(
-        StartKind{"OverMemory", []() -> std::unique_ptr<Start> { return std::make_unique<MemoryStart>(); }},
-        StartKind{"OverPosix", []() -> std::unique_ptr<Start> { return std::make_unique<PosixStart>(); }}),
-    [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(Starts, SystemInfoContract,
+                         ::testing::Values(StartKind{"OverMemory",
+                                                     []() -> std::unique_ptr<Start> {
+                                                         return std::make_unique<MemoryStart>();
+                                                     }},
+                                           StartKind{kOverSystem, SystemStart}),
+                         [](const auto& test) { return test.param.name; });
 
 TEST_P(SystemInfoContract, GivesASystemDirectoryWithoutABackslashAtItsEnd) {
     EXPECT_THAT(start->System().SystemDirectory(), Not(EndsWith("\\")));
@@ -78,6 +55,7 @@ TEST_P(SystemInfoContract, GivesASystemDirectoryThatFilesCanBeCreatedIn) {
     const auto path = start->System().SystemDirectory() + R"(\ZYRules.sys)";
     EXPECT_EQ(start->Files().Create(path).error, FileError::None);
     EXPECT_TRUE(start->Files().Exists(path));
+    EXPECT_EQ(start->Files().Delete(path), FileError::None);
 }
 
 TEST_P(SystemInfoContract, GivesTheSameSystemDirectoryEachTime) {

@@ -5,27 +5,14 @@
 
 #include <string>
 
+#include "ContractWorlds.h"
+#include "platform/CodePage.h"
 #include "platform/memory/MemoryTraceServers.h"
-#include "platform/posix/PosixTraceServers.h"
-#include "support/PrivateBus.h"
-#include "support/TraceViewerProcess.h"
 
 namespace zy::test {
 namespace {
 
 using ::testing::Optional;
-
-/// A desktop on which a trace viewer can be started and ended.
-class Desktop {
-  public:
-    virtual ~Desktop() = default;
-
-    virtual TraceServers& Servers() = 0;
-    virtual void StartViewer() = 0;
-    virtual void StopViewer() = 0;
-    /// The next record that the viewer took, its fields with a TAB between them; nothing when none comes.
-    virtual std::optional<std::string> NextRecord() = 0;
-};
 
 class MemoryDesktop final : public Desktop {
   public:
@@ -45,21 +32,6 @@ class MemoryDesktop final : public Desktop {
   private:
     MemoryTraceServers servers_;
     std::size_t taken_ = 0;
-};
-
-class PosixDesktop final : public Desktop {
-  public:
-    PosixDesktop() { bus_.Start(); }
-
-    TraceServers& Servers() override { return servers_; }
-    void StartViewer() override { viewer_.emplace(); }
-    void StopViewer() override { EXPECT_THAT(viewer_->Stop(), Optional(0)); }
-    std::optional<std::string> NextRecord() override { return viewer_->NextLine(); }
-
-  private:
-    PrivateBus bus_;
-    std::optional<TraceViewerProcess> viewer_;
-    PosixTraceServers servers_{Windows1252()};
 };
 
 struct DesktopKind {
@@ -83,10 +55,7 @@ INSTANTIATE_TEST_SUITE_P(Desktops, TraceServersContract,
                                                        []() -> std::unique_ptr<Desktop> {
                                                            return std::make_unique<MemoryDesktop>();
                                                        }},
-                                           DesktopKind{"OverPosix",
-                                                       []() -> std::unique_ptr<Desktop> {
-                                                           return std::make_unique<PosixDesktop>();
-                                                       }}),
+                                           DesktopKind{kOverSystem, SystemDesktop}),
                          [](const auto& test) { return test.param.name; });
 
 TEST_P(TraceServersContract, FindNothingWithoutAViewer) {

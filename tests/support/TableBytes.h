@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <initializer_list>
 #include <string>
 #include <vector>
@@ -15,7 +16,7 @@ struct Column {
 };
 
 /// A number as a file has it, the lowest byte first.
-inline std::string Low(unsigned long number, std::size_t bytes) {
+inline std::string Low(std::size_t number, std::size_t bytes) {
     std::string text;
     for (std::size_t i = 0; i < bytes; ++i) {
         text += static_cast<char>(number >> (8 * i) & 0xFFU);
@@ -61,11 +62,11 @@ struct TableBytes {
     std::vector<Column> columns;
     std::string version = "\x03";
     std::string date = "\x7E\x0B\x14"; // 20 November 2026
-    unsigned long count = 0;
-    unsigned long headerSize;
-    unsigned long recordSize = 1;
+    std::size_t count = 0;
+    std::size_t headerSize;
+    std::size_t recordSize = 1;
     std::string language = std::string(1, '\0');
-    unsigned long address = 0;
+    std::size_t address = 0;
     std::string endOfFields = "\x0D";
     std::string records;
     std::string endOfFile = "\x1A";

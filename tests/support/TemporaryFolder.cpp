@@ -1,11 +1,11 @@
 #include "support/TemporaryFolder.h"
 
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <set>
 
-#include "platform/posix/PathText.h"
+#include "support/ThisSystem.h"
 
 namespace zy::test {
 
@@ -24,17 +24,22 @@ void Unlock(const fs::path& folder) {
     }
 }
 
+/// A new folder for the user alone, under a name that no other program has at the same time.
+fs::path MakeFolder(const fs::path& below) {
+    std::random_device random;
+    auto path = below / ("zytest-" + std::to_string(random()));
+    while (!fs::create_directory(path)) {
+        path = below / ("zytest-" + std::to_string(random()));
+    }
+    fs::permissions(path, fs::perms::owner_all);
+    return path;
+}
+
 } // namespace
 
 TemporaryFolder::TemporaryFolder() : TemporaryFolder(fs::temp_directory_path()) {}
 
-TemporaryFolder::TemporaryFolder(const fs::path& below) {
-    auto name = (below / "zytest-XXXXXX").string();
-    if (::mkdtemp(name.data()) == nullptr) {
-        throw fs::filesystem_error("mkdtemp", name, std::error_code(errno, std::generic_category()));
-    }
-    path_ = name;
-}
+TemporaryFolder::TemporaryFolder(const fs::path& below) : path_(MakeFolder(below)) {}
 
 TemporaryFolder::~TemporaryFolder() {
     Unlock(path_);
@@ -43,23 +48,24 @@ TemporaryFolder::~TemporaryFolder() {
 }
 
 std::string TemporaryFolder::InsidePath() const {
-    return PathText(Windows1252()).PathToInside(path_.string());
+    return PathToInside(path_);
 }
 
 void TemporaryFolder::AddFolder(std::string_view name) const {
-    fs::create_directories(path_ / name);
+    fs::create_directories(path_ / FromUtf8(name));
 }
 
 void TemporaryFolder::Put(std::string_view name, std::string_view bytes) const {
-    std::ofstream out(path_ / name, std::ios::binary);
+    std::ofstream out(path_ / FromUtf8(name), std::ios::binary);
     out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     if (!out.flush()) {
-        throw fs::filesystem_error("write", path_ / name, std::make_error_code(std::errc::io_error));
+        throw fs::filesystem_error("write", path_ / FromUtf8(name),
+                                   std::make_error_code(std::errc::io_error));
     }
 }
 
 std::optional<std::string> TemporaryFolder::Get(std::string_view name) const {
-    std::ifstream in(path_ / name, std::ios::binary);
+    std::ifstream in(path_ / FromUtf8(name), std::ios::binary);
     if (!in) {
         return std::nullopt;
     }
@@ -68,9 +74,9 @@ std::optional<std::string> TemporaryFolder::Get(std::string_view name) const {
 
 std::vector<std::string> TemporaryFolder::Names(std::string_view folder) const {
     std::set<std::string> names;
-    for (const auto& entry : fs::directory_iterator(path_ / folder)) {
+    for (const auto& entry : fs::directory_iterator(path_ / FromUtf8(folder))) {
         if (entry.is_regular_file()) {
-            names.insert(entry.path().filename().string());
+            names.insert(ToUtf8(entry.path().filename()));
         }
     }
     return {names.begin(), names.end()};

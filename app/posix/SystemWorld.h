@@ -1,0 +1,10 @@
+#pragma once
+
+#include "platform/posix/PosixWorld.h"
+
+namespace zy {
+
+/// The operating system that the program runs on.
+using SystemWorld = PosixWorld;
+
+} // namespace zy

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/windows/WindowsWorld.h"
+
+namespace zy {
+
+/// The operating system that the program runs on.
+struct SystemWorld : WindowsWorld {
+    /// The arguments are not needed: the system itself tells the command line.
+    SystemWorld(int /*argumentCount*/, const char* const* /*arguments*/) {}
+};
+
+} // namespace zy

@@ -1,0 +1,101 @@
+#include "desktop/DesktopWindowGtk.h"
+
+#include <wx/frame.h>
+
+#include <bit>
+#include <memory>
+
+#include "desktop/Displays.h"
+#include "desktop/Native.h"
+#include "desktop/Scale.h"
+#include "desktop/Toolkit.h"
+
+namespace zy {
+
+std::unique_ptr<DesktopWindow> MakeDesktopWindow(std::function<void()> startToolkit) {
+    return std::make_unique<DesktopWindowGtk>(std::move(startToolkit));
+}
+
+WindowHandle DesktopWindowGtk::Handle() {
+    return std::bit_cast<WindowHandle>(this);
+}
+
+WindowProcedure DesktopWindowGtk::SetProcedure(WindowProcedure procedure) {
+    auto before = std::exchange(procedure_, std::move(procedure));
+    SetBounds();
+    return before;
+}
+
+PixelRect DesktopWindowGtk::NormalRectangle() {
+    NotePlace();
+    return ToPixelRect(Place());
+}
+
+void DesktopWindowGtk::SetPosition(const PixelRect& place, std::uint32_t /*flags*/) {
+    SetPlace(ToRect(place));
+    if (frame_) {
+        frame_->SetSize(Place());
+    }
+}
+
+double DesktopWindowGtk::TwipsPerPixel() {
+    try {
+        StartToolkit();
+        return Scale(DotsPerInch()).TwipsPerPixel();
+    } catch (const NoDisplay&) {
+        // Whether a display is needed at all is not known yet.
+        constexpr double kUsual = 15;
+        return kUsual;
+    }
+}
+
+void DesktopWindowGtk::Attach(wxFrame& frame) {
+    frame_ = &frame;
+    SetBounds();
+    wxRect wanted = Place();
+    wxSize size = wanted.GetSize();
+    size.IncTo(frame.GetMinSize());
+    size.DecTo(SizeOfScreens());
+    wanted.SetSize(size);
+    SetPlace(Reachable(wanted, RoomOnScreens()));
+    frame.SetSize(Place());
+    settled_.emplace();
+    settled_->Bind(wxEVT_TIMER, [this](wxTimerEvent&) { NotePlace(); });
+    frame.Bind(wxEVT_MOVE, [this](wxMoveEvent& event) {
+        event.Skip();
+        FollowPlace();
+    });
+    frame.Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+        event.Skip();
+        FollowPlace();
+    });
+}
+
+void DesktopWindowGtk::SetBounds() {
+    if (frame_) {
+        MinMaxInfo bounds;
+        procedure_(
+            {.window = Handle(), .message = kGetMinMaxInfo, .lParam = std::bit_cast<std::intptr_t>(&bounds)});
+        const auto toSize = [](const PixelPoint& size) {
+            return size == PixelPoint() ? wxDefaultSize : wxSize(size.x, size.y);
+        };
+        frame_->SetSizeHints(toSize(bounds.minTrackSize), toSize(bounds.maxTrackSize));
+    }
+}
+
+bool DesktopWindowGtk::IsNormal() const {
+    return frame_ && frame_->IsShown() && !frame_->IsMaximized() && !frame_->IsIconized();
+}
+
+void DesktopWindowGtk::FollowPlace() {
+    constexpr int kUntilSettled = 250; // milliseconds
+    settled_->StartOnce(kUntilSettled);
+}
+
+void DesktopWindowGtk::NotePlace() {
+    if (IsNormal()) {
+        SetPlace(frame_->GetRect());
+    }
+}
+
+} // namespace zy

@@ -1,0 +1,146 @@
+#include <wx/button.h>
+#include <wx/choice.h>
+#include <wx/dataview.h>
+#include <wx/msw/wrapwin.h>
+#include <wx/statbox.h>
+#include <wx/textctrl.h>
+
+#include <utility>
+
+#include "desktop/AccessibleMsw.h"
+#include "desktop/Native.h"
+
+namespace zy {
+namespace {
+
+class ScreenContext {
+  public:
+    ~ScreenContext() { ::ReleaseDC(nullptr, context_); }
+    ScreenContext(const ScreenContext&) = delete;
+    ScreenContext& operator=(const ScreenContext&) = delete;
+    ScreenContext() = default;
+
+    int Ask(int what) const { return ::GetDeviceCaps(context_, what); }
+
+  private:
+    HDC context_ = ::GetDC(nullptr);
+};
+
+/// The toolkit's own list answers screen readers itself, and calls itself by its window's name.
+class NamedList : public wxDataViewCtrlAccessible {
+  public:
+    NamedList(wxDataViewCtrl& list, wxString name) : wxDataViewCtrlAccessible(&list), name_(std::move(name)) {}
+
+    wxAccStatus GetName(int child, wxString* name) override {
+        if (child != wxACC_SELF) {
+            return wxDataViewCtrlAccessible::GetName(child, name);
+        }
+        *name = name_;
+        return wxACC_OK;
+    }
+
+  private:
+    wxString name_;
+};
+
+void ShowPushed(const wxButton& button, bool pushed) {
+    ::SendMessageW(button.GetHandle(), BM_SETSTATE, pushed ? TRUE : FALSE, 0);
+}
+
+} // namespace
+
+double DotsPerInch() {
+    return ScreenContext().Ask(LOGPIXELSX);
+}
+
+double DotsPerInch(const wxWindow& window) {
+    return window.GetDPI().x;
+}
+
+void ObserveDotsPerInch(wxWindow& window, std::function<void()> changed) {
+    window.Bind(wxEVT_DPI_CHANGED, [changed = std::move(changed)](wxDPIChangedEvent& event) {
+        event.Skip();
+        changed();
+    });
+}
+
+void LearnBorders() {
+    // The system knows them before there is a window.
+}
+
+void SetAccessibleName(wxWindow& window, const wxString& name) {
+    if (auto* list = dynamic_cast<wxDataViewCtrl*>(&window)) {
+        list->SetAccessible(new NamedList(*list, name));
+    } else {
+        AnnotateName(window, name);
+    }
+}
+
+void SetPasswordCharacter(wxTextCtrl& box, char character) {
+    ::SendMessageW(box.GetHandle(), EM_SETPASSWORDCHAR, static_cast<unsigned char>(character), 0);
+}
+
+void LayOutUnseen(wxWindow& /*window*/) {
+    // A window has its size, shown or not.
+}
+
+BoxInside InsideOf(const wxStaticBox& box) {
+    int above = 0;
+    int beside = 0;
+    box.GetBordersForSizer(&above, &beside);
+    return {.origin = {}, .above = above};
+}
+
+void ObserveFocus(wxWindow& window, std::function<void()> moved) {
+    window.Bind(wxEVT_CHILD_FOCUS, [moved = std::move(moved)](wxChildFocusEvent& event) {
+        event.Skip();
+        moved();
+    });
+}
+
+bool HoldsFocus(const wxWindow& control) {
+    return control.IsDescendant(wxWindow::FindFocus());
+}
+
+void KeepFocusAway(wxButton& button) {
+    // The system's button takes the focus when it is pressed, so it does not get to know of the mouse.
+    button.DisableFocusFromKeyboard();
+    button.Bind(wxEVT_LEFT_DOWN, [&button](wxMouseEvent&) { ShowPushed(button, true); });
+    button.Bind(wxEVT_LEFT_DCLICK, [&button](wxMouseEvent&) { ShowPushed(button, true); });
+    button.Bind(wxEVT_LEAVE_WINDOW, [&button](wxMouseEvent& event) {
+        event.Skip();
+        ShowPushed(button, false);
+    });
+    button.Bind(wxEVT_LEFT_UP, [&button](wxMouseEvent&) {
+        ShowPushed(button, false);
+        wxCommandEvent press(wxEVT_BUTTON, button.GetId());
+        press.SetEventObject(&button);
+        button.ProcessWindowEvent(press);
+    });
+}
+
+long EveryKeyStyle() {
+    return wxTE_PROCESS_TAB | wxTE_PROCESS_ENTER;
+}
+
+void CloseDropDown(const wxChoice& choice) {
+    ::SendMessageW(choice.GetHandle(), CB_SHOWDROPDOWN, FALSE, 0);
+}
+
+void MakeHeaderPlain(wxDataViewColumn& /*column*/) {
+    // The list's header takes no focus.
+}
+
+wxWindow& KeyboardPart(wxDataViewCtrl& list) {
+    return *list.GetMainWindow();
+}
+
+void GoToRow(wxDataViewCtrl& list, int row) {
+    const auto item =
+        static_cast<wxDataViewVirtualListModel*>(list.GetModel())->GetItem(static_cast<unsigned>(row));
+    list.SetCurrentItem(item);
+    list.Select(item);
+    list.EnsureVisible(item);
+}
+
+} // namespace zy

@@ -1,0 +1,89 @@
+#include "platform/windows/WindowsFileSystem.h"
+
+#include <windows.h>
+
+#include "platform/windows/ErrorCode.h"
+#include "platform/windows/FilePermissions.h"
+#include "platform/windows/RootedPath.h"
+#include "platform/windows/WindowsFile.h"
+
+namespace zy {
+namespace {
+
+using Opening = OpenedFile (*)(const std::string& path);
+
+OpenedFile OpenBy(Opening open, std::string_view path) {
+    const auto rooted = RootedPath(path);
+    return rooted ? open(*rooted) : OpenedFile{.handle = nullptr, .error = FileError::NotFound};
+}
+
+/// A directory search takes these for patterns, and could find another file.
+bool HasWildcard(std::string_view path) {
+    return path.find_first_of("*?<>\"") != std::string_view::npos;
+}
+
+bool FindsNormalFile(const std::string& path) {
+    constexpr DWORD kNotNormal = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+    WIN32_FIND_DATAA found{};
+    const HANDLE search = ::FindFirstFileA(path.c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) {
+        return false;
+    }
+    ::FindClose(search);
+    return (found.dwFileAttributes & kNotNormal) == 0;
+}
+
+FileError DeleteRooted(const std::string& path) {
+    if (::DeleteFileA(path.c_str()) != FALSE) {
+        // A file goes as it is closed, and Wine does not tell when that fails.
+        return IsFile(path) ? FileError::AccessDenied : FileError::None;
+    }
+    const auto error = ToFileError(::GetLastError(), path);
+    return error == FileError::AccessDenied && IsWriteProtected(path) ? FileError::ReadOnly : error;
+}
+
+FileError RenameRooted(const std::string& from, const std::string& to) {
+    if (IsFolder(from)) {
+        return FileError::IsFolder;
+    }
+    const auto renamed = ::MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH);
+    return renamed != FALSE ? FileError::None : ToFileError(::GetLastError(), to);
+}
+
+} // namespace
+
+bool WindowsFileSystem::Exists(std::string_view path) {
+    const auto rooted = RootedPath(path);
+    return rooted && !HasWildcard(*rooted) && FindsNormalFile(*rooted);
+}
+
+OpenedFile WindowsFileSystem::OpenForReading(std::string_view path) {
+    return OpenBy(OpenWindowsFile, path);
+}
+
+OpenedFile WindowsFileSystem::Create(std::string_view path) {
+    return OpenBy(CreateWindowsFile, path);
+}
+
+OpenedFile WindowsFileSystem::CreatePrivate(std::string_view path) {
+    return OpenBy(CreatePrivateWindowsFile, path);
+}
+
+FileError WindowsFileSystem::Delete(std::string_view path) {
+    const auto rooted = RootedPath(path);
+    return rooted ? DeleteRooted(*rooted) : FileError::NotFound;
+}
+
+FileError WindowsFileSystem::Rename(std::string_view from, std::string_view to) {
+    const auto rootedFrom = RootedPath(from);
+    const auto rootedTo = RootedPath(to);
+    return rootedFrom && rootedTo ? RenameRooted(*rootedFrom, *rootedTo) : FileError::NotFound;
+}
+
+FileError WindowsFileSystem::CopyPermissions(std::string_view from, std::string_view to) {
+    const auto rootedFrom = RootedPath(from);
+    const auto rootedTo = RootedPath(to);
+    return rootedFrom && rootedTo ? CopyWindowsPermissions(*rootedFrom, *rootedTo) : FileError::NotFound;
+}
+
+} // namespace zy

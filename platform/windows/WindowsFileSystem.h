@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/FileSystem.h"
+
+namespace zy {
+
+/// The files of the system. Paths are its own: from a drive, a root or a server on.
+class WindowsFileSystem final : public FileSystem {
+  public:
+    /// A file that is hidden or the system's is no normal one.
+    bool Exists(std::string_view path) override;
+    OpenedFile OpenForReading(std::string_view path) override;
+    OpenedFile Create(std::string_view path) override;
+    OpenedFile CreatePrivate(std::string_view path) override;
+    FileError Delete(std::string_view path) override;
+    /// The new name stands on the disk when this returns.
+    FileError Rename(std::string_view from, std::string_view to) override;
+    /// The access list and, as far as the user may, owner and group.
+    FileError CopyPermissions(std::string_view from, std::string_view to) override;
+};
+
+} // namespace zy

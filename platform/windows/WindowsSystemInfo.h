@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+
+#include "platform/SystemInfo.h"
+
+namespace zy {
+
+/// The system as Windows tells of it.
+class WindowsSystemInfo final : public SystemInfo {
+  public:
+    /// How this process was started.
+    WindowsSystemInfo();
+    /// The same for a whole command line, which starts with the program's name.
+    explicit WindowsSystemInfo(std::string commandLine);
+
+    /// The system directory of Windows.
+    std::string SystemDirectory() override;
+    std::string CommandLine() const override;
+    std::string ExecutableName() const override;
+    std::string ExecutableFolder() const override;
+    /// "." when the locale's is more than one character.
+    char DecimalSeparator() const override;
+    std::chrono::year_month_day Today() const override;
+
+  private:
+    std::string commandLine_;
+};
+
+} // namespace zy

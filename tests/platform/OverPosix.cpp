@@ -1,0 +1,151 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include "ContractWorlds.h"
+#include "RecyclePlaces.h"
+#include "platform/posix/PosixFileSystem.h"
+#include "platform/posix/PosixRecycleBin.h"
+#include "platform/posix/PosixRegistry.h"
+#include "platform/posix/PosixTraceServers.h"
+#include "platform/posix/PosixWorld.h"
+#include "support/EnvironmentVariable.h"
+#include "support/FileSizeLimit.h"
+#include "support/OrdinaryUser.h"
+#include "support/PrivateBus.h"
+#include "support/TemporaryFolder.h"
+#include "support/ThisSystem.h"
+#include "support/TraceViewerProcess.h"
+
+namespace zy::test {
+namespace {
+
+using ::testing::Optional;
+
+class PosixDisk final : public Disk {
+  public:
+    FileSystem& Files() override { return files_; }
+    std::string Folder() const override { return folder_.InsidePath(); }
+    void AddFolder(std::string_view name) override { folder_.AddFolder(NameToOutside(name)); }
+    void Put(std::string_view name, std::string_view bytes) override {
+        folder_.Put(NameToOutside(name), bytes);
+    }
+    std::optional<std::string> Get(std::string_view name) const override {
+        return folder_.Get(NameToOutside(name));
+    }
+    std::vector<std::string> Names() const override {
+        std::vector<std::string> names;
+        for (const auto& name : folder_.Names()) {
+            names.push_back(NameToInside(name));
+        }
+        return names;
+    }
+    void SetPermissions(std::string_view name, unsigned permissions) override {
+        ::chmod(folder_.Path(NameToOutside(name)).c_str(), static_cast<mode_t>(permissions));
+    }
+    std::optional<unsigned> Permissions(std::string_view name) const override {
+        struct stat status {};
+        const bool found = ::stat(folder_.Path(NameToOutside(name)).c_str(), &status) == 0;
+        return found ? std::optional<unsigned>(status.st_mode & 07777U) : std::nullopt;
+    }
+    bool ForbidReading(std::string_view name) override {
+        SetPermissions(name, 0200);
+        user_.emplace(folder_.Path());
+        return true;
+    }
+    bool ForbidChanges() override {
+        ::chmod(folder_.Path().c_str(), 0555);
+        user_.emplace(folder_.Path());
+        return true;
+    }
+    bool LimitTo(unsigned bytes) override {
+        limit_.emplace(bytes);
+        return true;
+    }
+
+  private:
+    TemporaryFolder folder_;
+    PosixFileSystem files_{Windows1252()};
+    std::optional<OrdinaryUser> user_;
+    std::optional<FileSizeLimit> limit_;
+};
+
+class PosixBin final : public Bin {
+  public:
+    RecycleBin& Recycler() override { return bin_; }
+    std::string Path(std::string_view name) const override { return folder_.InsidePath(name); }
+    void Put(std::string_view name, std::string_view bytes) override { folder_.Put(name, bytes); }
+    void AddFolder(std::string_view name) override { folder_.AddFolder(name); }
+    std::vector<std::string> Names() const override { return folder_.Names(); }
+    std::vector<std::string> Recycled() const override { return places_.BytesInDesktopTrash(); }
+
+  private:
+    RecyclePlaces places_;
+    TemporaryFolder folder_{places_.Home()};
+    PosixRecycleBin bin_{Windows1252()};
+};
+
+class PosixStore final : public Store {
+  public:
+    Registry& Keys() override { return registry_; }
+
+  private:
+    TemporaryFolder folder_;
+    EnvironmentVariable config_{"XDG_CONFIG_HOME", folder_.Path("config")};
+    PosixRegistry registry_{Windows1252()};
+};
+
+class PosixStart final : public Start {
+  public:
+    SystemInfo& System() override { return world_.system; }
+    FileSystem& Files() override { return world_.files; }
+
+  private:
+    static constexpr const char* kArguments[] = {"/usr/bin/zyGlobal", "@RULES"};
+
+    TemporaryFolder folder_;
+    EnvironmentVariable directory_{"ZYSETUP_SYSTEM_DIR", folder_.Path().string()};
+    EnvironmentVariable locale_{"LC_ALL", "C"};
+    PosixWorld world_{2, kArguments};
+};
+
+class PosixDesktop final : public Desktop {
+  public:
+    PosixDesktop() { bus_.Start(); }
+
+    TraceServers& Servers() override { return servers_; }
+    void StartViewer() override { viewer_.emplace(); }
+    void StopViewer() override { EXPECT_THAT(viewer_->Stop(), Optional(0)); }
+    std::optional<std::string> NextRecord() override { return viewer_->NextLine(); }
+
+  private:
+    PrivateBus bus_;
+    std::optional<TraceViewerProcess> viewer_;
+    PosixTraceServers servers_{Windows1252()};
+};
+
+} // namespace
+
+const char* const kOverSystem = "OverPosix";
+
+std::unique_ptr<Disk> SystemDisk() {
+    return std::make_unique<PosixDisk>();
+}
+
+std::unique_ptr<Bin> SystemBin() {
+    return std::make_unique<PosixBin>();
+}
+
+std::unique_ptr<Store> SystemStore() {
+    return std::make_unique<PosixStore>();
+}
+
+std::unique_ptr<Start> SystemStart() {
+    return std::make_unique<PosixStart>();
+}
+
+std::unique_ptr<Desktop> SystemDesktop() {
+    return std::make_unique<PosixDesktop>();
+}
+
+} // namespace zy::test

@@ -1,0 +1,92 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "ContractWorlds.h"
+#include "WindowsDisk.h"
+#include "WindowsRecycledFiles.h"
+#include "WindowsRegistryAside.h"
+#include "platform/windows/AnsiCodePage.h"
+#include "platform/windows/WindowsFileSystem.h"
+#include "platform/windows/WindowsRecycleBin.h"
+#include "platform/windows/WindowsRegistry.h"
+#include "platform/windows/WindowsSystemInfo.h"
+#include "platform/windows/WindowsTraceServers.h"
+#include "support/TemporaryFolder.h"
+#include "support/WindowsTraceViewer.h"
+
+namespace zy::test {
+namespace {
+
+using ::testing::Optional;
+
+class WindowsBin final : public Bin {
+  public:
+    RecycleBin& Recycler() override { return bin_; }
+    std::string Path(std::string_view name) const override { return folder_.InsidePath(name); }
+    void Put(std::string_view name, std::string_view bytes) override { folder_.Put(name, bytes); }
+    void AddFolder(std::string_view name) override { folder_.AddFolder(name); }
+    std::vector<std::string> Names() const override { return folder_.Names(); }
+    std::vector<std::string> Recycled() const override { return recycled_.Bytes(); }
+
+  private:
+    TemporaryFolder folder_;
+    WindowsRecycledFiles recycled_;
+    WindowsRecycleBin bin_;
+};
+
+class WindowsStore final : public Store {
+  public:
+    Registry& Keys() override { return registry_; }
+
+  private:
+    WindowsRegistryAside machine_;
+    WindowsRegistry registry_;
+};
+
+class WindowsStart final : public Start {
+  public:
+    SystemInfo& System() override { return system_; }
+    FileSystem& Files() override { return files_; }
+
+  private:
+    WindowsSystemInfo system_{R"("C:\Program Files\zyGlobal.exe" @RULES)"};
+    WindowsFileSystem files_;
+};
+
+class WindowsDesktop final : public Desktop {
+  public:
+    TraceServers& Servers() override { return servers_; }
+    void StartViewer() override { viewer_.emplace(); }
+    void StopViewer() override { EXPECT_THAT(viewer_->Stop(), Optional(0)); }
+    std::optional<std::string> NextRecord() override { return viewer_->NextLine(); }
+
+  private:
+    WindowsTraceServers servers_{AnsiCodePage()};
+    std::optional<WindowsTraceViewer> viewer_;
+};
+
+} // namespace
+
+const char* const kOverSystem = "OverWindows";
+
+std::unique_ptr<Disk> SystemDisk() {
+    return MakeWindowsDisk();
+}
+
+std::unique_ptr<Bin> SystemBin() {
+    return std::make_unique<WindowsBin>();
+}
+
+std::unique_ptr<Store> SystemStore() {
+    return std::make_unique<WindowsStore>();
+}
+
+std::unique_ptr<Start> SystemStart() {
+    return std::make_unique<WindowsStart>();
+}
+
+std::unique_ptr<Desktop> SystemDesktop() {
+    return std::make_unique<WindowsDesktop>();
+}
+
+} // namespace zy::test

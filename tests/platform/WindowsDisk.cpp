@@ -1,0 +1,86 @@
+#include "WindowsDisk.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include "WindowsPermissions.h"
+#include "platform/windows/WindowsFileSystem.h"
+#include "support/TemporaryFolder.h"
+#include "support/ThisSystem.h"
+#include "support/WindowsHandles.h"
+
+namespace zy::test {
+namespace {
+
+/// The letters of a figure of permissions, as in 6 for reading and writing.
+std::string Rights(unsigned figure) {
+    return std::string((figure & 4U) != 0 ? "FR" : "") + ((figure & 2U) != 0 ? "FW" : "");
+}
+
+bool CanOpen(const std::string& path, DWORD access, DWORD disposition, DWORD flags) {
+    return static_cast<bool>(WindowsHandle(
+        ::CreateFileA(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                      disposition, flags, nullptr)));
+}
+
+class WindowsDisk final : public Disk {
+  public:
+    WindowsDisk() = default;
+    WindowsDisk(const WindowsDisk&) = delete;
+    WindowsDisk& operator=(const WindowsDisk&) = delete;
+    /// The folder could otherwise not be removed.
+    ~WindowsDisk() override {
+        SetAccess(Folder(), "FA", "");
+        for (const auto& name : Names()) {
+            SetAccess(Path(name), "FA", "");
+        }
+    }
+
+    FileSystem& Files() override { return files_; }
+    std::string Folder() const override { return folder_.InsidePath(); }
+    void AddFolder(std::string_view name) override { folder_.AddFolder(NameToOutside(name)); }
+    void Put(std::string_view name, std::string_view bytes) override {
+        folder_.Put(NameToOutside(name), bytes);
+    }
+    std::optional<std::string> Get(std::string_view name) const override {
+        return folder_.Get(NameToOutside(name));
+    }
+    std::vector<std::string> Names() const override {
+        std::vector<std::string> names;
+        for (const auto& name : folder_.Names()) {
+            names.push_back(NameToInside(name));
+        }
+        return names;
+    }
+    void SetPermissions(std::string_view name, unsigned permissions) override {
+        EXPECT_TRUE(SetAccess(Path(name), "SD" + Rights(permissions / 0100U), Rights(permissions % 010U)));
+    }
+    std::optional<unsigned> Permissions(std::string_view name) const override {
+        return AccessFigures(Path(name));
+    }
+    bool ForbidReading(std::string_view name) override {
+        SetPermissions(name, 0200);
+        return !CanOpen(Path(name), GENERIC_READ, OPEN_EXISTING, 0);
+    }
+    bool ForbidChanges() override {
+        // The right to delete a file is the file's own, or its folder's.
+        for (const auto& name : Names()) {
+            EXPECT_TRUE(SetAccess(Path(name), Rights(6), ""));
+        }
+        EXPECT_TRUE(SetAccess(Folder(), "FRFX", ""));
+        return !CanOpen(Path("probe"), GENERIC_WRITE | DELETE, CREATE_NEW, FILE_FLAG_DELETE_ON_CLOSE);
+    }
+    bool LimitTo(unsigned /*bytes*/) override { return false; }
+
+  private:
+    TemporaryFolder folder_;
+    WindowsFileSystem files_;
+};
+
+} // namespace
+
+std::unique_ptr<Disk> MakeWindowsDisk() {
+    return std::make_unique<WindowsDisk>();
+}
+
+} // namespace zy::test
