@@ -16,6 +16,7 @@
 #include "desktop/Native.h"
 #include "desktop/Pictures.h"
 #include "shell/Application.h"
+#include "shell/Utilities.h"
 
 namespace zy {
 namespace {
@@ -60,13 +61,6 @@ class Viewer : public wxHtmlHelpController {
     }
 };
 
-/// The whole file; shorter than its size when it cannot be read to its end.
-std::string Content(FileHandle& file) {
-    std::string content(file.Size(), '\0');
-    content.resize(file.Read(content));
-    return content;
-}
-
 } // namespace
 
 DesktopHelp::DesktopHelp(FileSystem& files, Dialogs& dialogs, std::function<void()> startToolkit)
@@ -91,7 +85,8 @@ bool DesktopHelp::Open(std::string_view helpFile) {
         Refuse(helpFile, Describe(opened.error));
         return false;
     }
-    const auto content = Content(*opened.handle);
+    auto& file = *opened.handle;
+    const auto content = ReadFileText(file, static_cast<std::uint32_t>(file.Size()));
     startToolkit_();
     AddReaders();
     wxMemoryFSHandler::AddFileWithMimeType(kNameInMemory, content.data(), content.size(), "application/zip");

@@ -144,9 +144,7 @@ void SecurityPage::ShowSaved() {
 /// Unlike File > Save, in the folder of the table.
 void SecurityPage::RecycleTable() {
     for (const auto* name : {"ZYSECURE.DBF", "ZYSECURE.ndx"}) {
-        if (const auto path = users.SecurityFolder() + name; world_.files.Exists(path)) {
-            RecycleFile(world_.recycleBin, path);
-        }
+        RecycleIfThere(world_.files, world_.recycleBin, users.SecurityFolder() + name);
     }
 }
 

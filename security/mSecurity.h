@@ -79,7 +79,6 @@ class mSecurity {
     void CreateTemporary();
     void InsertUsers(const std::string& columns);
     void ReplaceTable();
-    void RecycleIfThere(const std::string& path);
     [[noreturn]] void RaiseWithHint(const RuntimeError& error);
 
     SecurityControls& controls_;

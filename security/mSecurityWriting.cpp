@@ -97,17 +97,11 @@ void mSecurity::InsertUsers(const std::string& columns) {
 
 void mSecurity::ReplaceTable() {
     const std::string table = SecurityFolder() + std::string(kTable);
-    RecycleIfThere(table);
+    RecycleIfThere(world_.files, world_.recycleBin, table);
     const auto error = world_.files.Rename(SecurityFolder() + std::string(kTemporary), table);
     if (error != FileError::None) {
         throw RuntimeError(75, "Path/File access error: " + table + " could not be replaced, " +
                                    std::string(Describe(error)));
-    }
-}
-
-void mSecurity::RecycleIfThere(const std::string& path) {
-    if (world_.files.Exists(path)) {
-        RecycleFile(world_.recycleBin, path);
     }
 }
 
@@ -117,7 +111,7 @@ void mSecurity::WriteDBIndex() {
     const auto records = database_->OpenRecordset(kTable, dbase::RecordsetType::Dynaset);
     const std::string field(records->Fields().Item(0).Name());
     records->Close();
-    RecycleIfThere(SecurityFolder() + std::string(kIndex));
+    RecycleIfThere(world_.files, world_.recycleBin, SecurityFolder() + std::string(kIndex));
     database_->Execute("CREATE INDEX [ZYSECURE] ON [ZYSECURE.DBF] (" + field + ");");
 }
 

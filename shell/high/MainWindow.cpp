@@ -230,14 +230,8 @@ void MainWindow::WriteUserTable() {
 /// The two files under the system directory go, even when the table that is edited lies in another folder:
 /// meant.
 void MainWindow::RecycleUserTable() {
-    RecycleIfThere("ZYSECURE.DBF");
-    RecycleIfThere("ZYSECURE.ndx");
-}
-
-void MainWindow::RecycleIfThere(std::string_view name) {
-    const std::string path = parts_.state.gsSystemDir + std::string(name);
-    if (parts_.world.files.Exists(path)) {
-        RecycleFile(parts_.world.recycleBin, path);
+    for (const auto* name : {"ZYSECURE.DBF", "ZYSECURE.ndx"}) {
+        RecycleIfThere(parts_.world.files, parts_.world.recycleBin, parts_.state.gsSystemDir + name);
     }
 }
 

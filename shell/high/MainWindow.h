@@ -76,7 +76,6 @@ class MainWindow {
     bool UnloadUnits();
     void WriteUserTable();
     void RecycleUserTable();
-    void RecycleIfThere(std::string_view name);
 
     Parts parts_;
     bool loaded_ = false;

@@ -23,4 +23,10 @@ void RecycleFile(RecycleBin& bin, std::string_view path) {
     RecycleFiles(bin, std::array{std::string(path)});
 }
 
+void RecycleIfThere(FileSystem& files, RecycleBin& bin, std::string_view path) {
+    if (files.Exists(path)) {
+        RecycleFile(bin, path);
+    }
+}
+
 } // namespace zy

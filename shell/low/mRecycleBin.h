@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/FileSystem.h"
 #include "platform/RecycleBin.h"
 
 namespace zy {
@@ -13,5 +14,8 @@ bool RecycleFiles(RecycleBin& bin, std::span<const std::string> paths);
 
 /// Sends one file to the recycle bin, whether that succeeds or not.
 void RecycleFile(RecycleBin& bin, std::string_view path);
+
+/// The same for a file that may be missing: then the bin is not asked.
+void RecycleIfThere(FileSystem& files, RecycleBin& bin, std::string_view path);
 
 } // namespace zy

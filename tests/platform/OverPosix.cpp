@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "ContractWorlds.h"
+#include "FolderWorlds.h"
 #include "RecyclePlaces.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "platform/posix/PosixRecycleBin.h"
@@ -14,7 +14,6 @@
 #include "support/OrdinaryUser.h"
 #include "support/PrivateBus.h"
 #include "support/TemporaryFolder.h"
-#include "support/ThisSystem.h"
 #include "support/TraceViewerProcess.h"
 
 namespace zy::test {
@@ -22,40 +21,25 @@ namespace {
 
 using ::testing::Optional;
 
-class PosixDisk final : public Disk {
+class PosixDisk final : public FolderDisk {
   public:
     FileSystem& Files() override { return files_; }
-    std::string Folder() const override { return folder_.InsidePath(); }
-    void AddFolder(std::string_view name) override { folder_.AddFolder(NameToOutside(name)); }
-    void Put(std::string_view name, std::string_view bytes) override {
-        folder_.Put(NameToOutside(name), bytes);
-    }
-    std::optional<std::string> Get(std::string_view name) const override {
-        return folder_.Get(NameToOutside(name));
-    }
-    std::vector<std::string> Names() const override {
-        std::vector<std::string> names;
-        for (const auto& name : folder_.Names()) {
-            names.push_back(NameToInside(name));
-        }
-        return names;
-    }
     void SetPermissions(std::string_view name, unsigned permissions) override {
-        ::chmod(folder_.Path(NameToOutside(name)).c_str(), static_cast<mode_t>(permissions));
+        ::chmod(RealFolder().Path(NameToOutside(name)).c_str(), static_cast<mode_t>(permissions));
     }
     std::optional<unsigned> Permissions(std::string_view name) const override {
         struct stat status {};
-        const bool found = ::stat(folder_.Path(NameToOutside(name)).c_str(), &status) == 0;
+        const bool found = ::stat(RealFolder().Path(NameToOutside(name)).c_str(), &status) == 0;
         return found ? std::optional<unsigned>(status.st_mode & 07777U) : std::nullopt;
     }
     bool ForbidReading(std::string_view name) override {
         SetPermissions(name, 0200);
-        user_.emplace(folder_.Path());
+        user_.emplace(RealFolder().Path());
         return true;
     }
     bool ForbidChanges() override {
-        ::chmod(folder_.Path().c_str(), 0555);
-        user_.emplace(folder_.Path());
+        ::chmod(RealFolder().Path().c_str(), 0555);
+        user_.emplace(RealFolder().Path());
         return true;
     }
     bool LimitTo(unsigned bytes) override {
@@ -64,24 +48,25 @@ class PosixDisk final : public Disk {
     }
 
   private:
-    TemporaryFolder folder_;
     PosixFileSystem files_{Windows1252()};
     std::optional<OrdinaryUser> user_;
     std::optional<FileSizeLimit> limit_;
 };
 
-class PosixBin final : public Bin {
+class PosixBin final : public FolderBin {
   public:
+    PosixBin() : FolderBin(EmptyHome()) {}
+
     RecycleBin& Recycler() override { return bin_; }
-    std::string Path(std::string_view name) const override { return folder_.InsidePath(name); }
-    void Put(std::string_view name, std::string_view bytes) override { folder_.Put(name, bytes); }
-    void AddFolder(std::string_view name) override { folder_.AddFolder(name); }
-    std::vector<std::string> Names() const override { return folder_.Names(); }
-    std::vector<std::string> Recycled() const override { return places_.BytesInDesktopTrash(); }
+    std::vector<std::string> Recycled() const override { return RecyclePlaces::BytesInDesktopTrash(); }
 
   private:
-    RecyclePlaces places_;
-    TemporaryFolder folder_{places_.Home()};
+    /// Emptied before the folder in it is made.
+    static const std::filesystem::path& EmptyHome() {
+        const RecyclePlaces places;
+        return RecyclePlaces::Home();
+    }
+
     PosixRecycleBin bin_{Windows1252()};
 };
 

@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "ContractWorlds.h"
+#include "FolderWorlds.h"
 #include "WindowsDisk.h"
 #include "WindowsRecycledFiles.h"
 #include "WindowsRegistryAside.h"
@@ -11,7 +11,6 @@
 #include "platform/windows/WindowsRegistry.h"
 #include "platform/windows/WindowsSystemInfo.h"
 #include "platform/windows/WindowsTraceServers.h"
-#include "support/TemporaryFolder.h"
 #include "support/WindowsTraceViewer.h"
 
 namespace zy::test {
@@ -19,17 +18,12 @@ namespace {
 
 using ::testing::Optional;
 
-class WindowsBin final : public Bin {
+class WindowsBin final : public FolderBin {
   public:
     RecycleBin& Recycler() override { return bin_; }
-    std::string Path(std::string_view name) const override { return folder_.InsidePath(name); }
-    void Put(std::string_view name, std::string_view bytes) override { folder_.Put(name, bytes); }
-    void AddFolder(std::string_view name) override { folder_.AddFolder(name); }
-    std::vector<std::string> Names() const override { return folder_.Names(); }
     std::vector<std::string> Recycled() const override { return recycled_.Bytes(); }
 
   private:
-    TemporaryFolder folder_;
     WindowsRecycledFiles recycled_;
     WindowsRecycleBin bin_;
 };

@@ -3,10 +3,9 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include "FolderWorlds.h"
 #include "WindowsPermissions.h"
 #include "platform/windows/WindowsFileSystem.h"
-#include "support/TemporaryFolder.h"
-#include "support/ThisSystem.h"
 #include "support/WindowsHandles.h"
 
 namespace zy::test {
@@ -23,7 +22,7 @@ bool CanOpen(const std::string& path, DWORD access, DWORD disposition, DWORD fla
                       disposition, flags, nullptr)));
 }
 
-class WindowsDisk final : public Disk {
+class WindowsDisk final : public FolderDisk {
   public:
     WindowsDisk() = default;
     WindowsDisk(const WindowsDisk&) = delete;
@@ -37,21 +36,6 @@ class WindowsDisk final : public Disk {
     }
 
     FileSystem& Files() override { return files_; }
-    std::string Folder() const override { return folder_.InsidePath(); }
-    void AddFolder(std::string_view name) override { folder_.AddFolder(NameToOutside(name)); }
-    void Put(std::string_view name, std::string_view bytes) override {
-        folder_.Put(NameToOutside(name), bytes);
-    }
-    std::optional<std::string> Get(std::string_view name) const override {
-        return folder_.Get(NameToOutside(name));
-    }
-    std::vector<std::string> Names() const override {
-        std::vector<std::string> names;
-        for (const auto& name : folder_.Names()) {
-            names.push_back(NameToInside(name));
-        }
-        return names;
-    }
     void SetPermissions(std::string_view name, unsigned permissions) override {
         EXPECT_TRUE(SetAccess(Path(name), "SD" + Rights(permissions / 0100U), Rights(permissions % 010U)));
     }
@@ -73,7 +57,6 @@ class WindowsDisk final : public Disk {
     bool LimitTo(unsigned /*bytes*/) override { return false; }
 
   private:
-    TemporaryFolder folder_;
     WindowsFileSystem files_;
 };
 

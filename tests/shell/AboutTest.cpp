@@ -24,13 +24,6 @@ class AboutTest : public WorldTest {
         box_->SetVisible(true);
         return *box_;
     }
-    std::vector<std::string> Traces() {
-        std::vector<std::string> lines;
-        for (const auto& record : world.traceServers.Records()) {
-            lines.push_back(record.module + " " + record.procedure + " " + record.message);
-        }
-        return lines;
-    }
 
     TraceChannel trace{world.traceServers, "zyGlobal"};
 

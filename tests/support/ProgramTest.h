@@ -36,16 +36,6 @@ class ProgramTest : public WorldTest {
     SettingsForm& form() { return program().form; }
     SharedState& state() { return program().state; }
 
-    /// The records that came since the last call, as "module procedure message".
-    std::vector<std::string> Traces() {
-        std::vector<std::string> lines;
-        for (const auto& record : world.traceServers.Records()) {
-            lines.push_back(record.module + " " + record.procedure + " " + record.message);
-        }
-        world.traceServers.Clear();
-        return lines;
-    }
-
     /// What the closing question will be answered; it ignores Escape, for No loses the changes.
     void ExpectWishToSave(Answer answer) {
         world.dialogs.ExpectYesNo(kWishToSave, kSaveChanges, answer, Escape::IsIgnored);

@@ -3,6 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 #include "platform/memory/MemoryWorld.h"
 
 namespace zy::test {
@@ -18,6 +21,16 @@ inline void ExpectScriptPlayed(ScriptedDialogs& dialogs) {
 class WorldTest : public ::testing::Test {
   protected:
     void TearDown() override { ExpectScriptPlayed(world.dialogs); }
+
+    /// The records that came to the trace viewer since the last call, as "module procedure message".
+    std::vector<std::string> Traces() {
+        std::vector<std::string> lines;
+        for (const auto& record : world.traceServers.Records()) {
+            lines.push_back(record.module + " " + record.procedure + " " + record.message);
+        }
+        world.traceServers.Clear();
+        return lines;
+    }
 
     MemoryWorld world;
 };

@@ -46,15 +46,6 @@ class UnitsTest : public WorldTest {
         }
         return units;
     }
-    /// The records that came since the last call, as "module procedure message".
-    std::vector<std::string> Traces() {
-        std::vector<std::string> lines;
-        for (const auto& record : world.traceServers.Records()) {
-            lines.push_back(record.module + " " + record.procedure + " " + record.message);
-        }
-        world.traceServers.Clear();
-        return lines;
-    }
 
     void Add() { controls.cmdAddUNit.Click(); }
     void Save() { controls.cmdSaveUnits.Click(); }
