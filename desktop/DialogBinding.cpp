@@ -10,6 +10,7 @@
 #include "desktop/ControlBinding.h"
 #include "desktop/Displays.h"
 #include "desktop/Native.h"
+#include "desktop/Panels.h"
 #include "desktop/Pictures.h"
 #include "desktop/ShownText.h"
 
@@ -39,7 +40,7 @@ DialogBinding::DialogBinding(const CodePage& codePage, EventGate& gate, Form& fo
                                          .controls = controls_,
                                          .statusBar = notes_,
                                          .scale = Scale(DotsPerInch(dialog_))},
-      inside_{.window = new wxPanel(&dialog_), .origin = {}},
+      inside_{.window = MakeOuterPanel(dialog_), .origin = {}},
       children_(BindChildren(context_, inside_, form)), focus_(context_, form, dialog_),
       appearanceChanged_(form.appearanceChanged.Observe([this] {
           if (!form_.Visible()) {

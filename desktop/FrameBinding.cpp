@@ -4,6 +4,7 @@
 #include <wx/statbox.h>
 
 #include "desktop/Native.h"
+#include "desktop/Panels.h"
 #include "desktop/ShownText.h"
 
 namespace zy {
@@ -11,10 +12,10 @@ namespace zy {
 FrameBinding::FrameBinding(const ViewContext& context, const Inside& inside, Frame& model)
     : ControlBinding(context, inside, model), model_(model) {
     if (model_.Caption().empty()) {
-        content_.window = new wxPanel(Parent());
+        content_.window = MakeInnerPanel(*Parent());
     } else {
         const auto caption = WithMnemonic(context.codePage, model_.Caption(), '\0');
-        box_ = new wxStaticBox(Parent(), wxID_ANY, caption);
+        box_ = MakeInnerBox(*Parent(), caption);
         content_.window = box_;
     }
     Attach(content_.window);

@@ -5,12 +5,13 @@
 
 #include "desktop/AccessibleMsw.h"
 #include "desktop/GridNative.h"
+#include "desktop/Panels.h"
 
 namespace zy {
 
 wxWindow* MakeSurround(wxWindow* parent) {
     // A panel hands the focus on to the grid in it.
-    return new wxPanel(parent, wxID_ANY);
+    return MakeInnerPanel(*parent);
 }
 
 void PresentCell(wxWindow& gridWindow, const wxString& text, bool announce) {

@@ -8,12 +8,13 @@
 
 #include "desktop/Keys.h"
 #include "desktop/Native.h"
+#include "desktop/Panels.h"
 #include "desktop/Pictures.h"
 
 namespace zy {
 
 UpDownBinding::UpDownBinding(const ViewContext& context, const Inside& inside, UpDown& model)
-    : ControlBinding(context, inside, model), model_(model), both_(new wxPanel(Parent())) {
+    : ControlBinding(context, inside, model), model_(model), both_(MakeInnerPanel(*Parent())) {
     const int size = both_->GetCharHeight();
     const auto colour = wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT);
     up_ = MakeArrow(" up", UpArrow(size, colour), &UpDown::PressUp);

@@ -8,6 +8,7 @@
 
 #include "desktop/ControlBinding.h"
 #include "desktop/Native.h"
+#include "desktop/Panels.h"
 #include "desktop/Pictures.h"
 #include "desktop/ShownText.h"
 
@@ -26,7 +27,7 @@ WindowBinding::WindowBinding(ViewContext& context, Form& form, std::function<voi
     : context_(context), form_(form), frame_(new wxFrame(nullptr, wxID_ANY, "")), firstState_(form.State()) {
     frame_->SetName(ToShown(context.codePage, form.Name()));
     frame_->SetIcons(ProgramIcon());
-    inside_.window = new wxPanel(frame_);
+    inside_.window = MakeOuterPanel(*frame_);
     context_.scale = Scale(DotsPerInch(*frame_));
     children_ = BindChildren(context, inside_, form);
     focus_ = std::make_unique<FocusBinding>(context, form, *frame_);

@@ -1,0 +1,19 @@
+#pragma once
+
+class wxPanel;
+class wxStaticBox;
+class wxString;
+class wxWindow;
+
+namespace zy {
+
+// The panels of a window, one in the other. Each system has one file of these.
+
+/// The panel that fills a window. An access key finds its control in all of it, wherever the focus is.
+wxPanel* MakeOuterPanel(wxWindow& window);
+
+/// A panel in another one, and a box with a caption.
+wxPanel* MakeInnerPanel(wxWindow& parent);
+wxStaticBox* MakeInnerBox(wxWindow& parent, const wxString& caption);
+
+} // namespace zy
