@@ -4,11 +4,10 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
-
-#include <sys/types.h>
 
 namespace zy::test {
 
@@ -36,15 +35,19 @@ class Child {
     std::optional<int> Status();
     /// Waits for it to end by itself. Nothing when it does not within the limit.
     std::optional<int> WaitForEnd();
-    void Signal(int signal) const;
+    /// Asks a trace viewer to end in its orderly way, and waits for that. Returns its exit status.
+    std::optional<int> Stop();
 
   private:
-    pid_t pid_ = -1;
+    // Each system has one file of these.
+    struct Handles;
+    /// Its exit status, told one time.
+    std::optional<int> Ended();
+    void AskToEnd();
+
     std::filesystem::path output_;
+    std::unique_ptr<Handles> handles_;
     std::optional<int> status_;
 };
-
-/// Runs a command to its end and returns what it printed.
-std::string Printed(const std::string& shellCommand);
 
 } // namespace zy::test

@@ -1,103 +1,70 @@
 #include "Scene.h"
 
 #include <algorithm>
-#include <csignal>
 #include <fstream>
 #include <iterator>
 #include <sstream>
 
-#include <unistd.h>
+#include "Screen.h"
 
 namespace zy::test {
-
-namespace fs = std::filesystem;
 
 namespace {
 /// What every record of the program begins with.
 constexpr std::string_view kProgramName = "zyGlobal\t";
 
-/// A file's bytes; empty when there is none.
-std::string Content(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+/// The lines as they are read from a text file, whatever ends them.
+std::vector<std::string> LinesOf(const std::string& text) {
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);) {
+        lines.push_back(line);
+    }
+    return lines;
 }
 } // namespace
-
-Scene::Scene() {
-    std::string pattern = (fs::temp_directory_path() / "zyProgramXXXXXX").string();
-    folder_ = mkdtemp(pattern.data());
-    fs::create_directory(folder_ / "system");
-    environment.set = {{"ZYSETUP_SYSTEM_DIR", (folder_ / "system").string()},
-                       {"XDG_RUNTIME_DIR", folder_.string()},
-                       {"XDG_DATA_HOME", (folder_ / "data").string()},
-                       {"XDG_CONFIG_HOME", (folder_ / "config").string()},
-                       {"NO_AT_BRIDGE", "1"},
-                       {"LC_ALL", "C.UTF-8"}};
-    environment.unset = {"DBUS_SESSION_BUS_ADDRESS", "WAYLAND_DISPLAY"};
-}
 
 Scene::~Scene() {
     program_.reset();
     viewers_.clear();
-    bus_.reset();
-    fs::remove_all(folder_);
 }
 
-void Scene::PutRules(const std::string& bytes) {
-    std::ofstream(folder_ / "system" / "ZYRules.sys", std::ios::binary) << bytes;
+void Scene::Put(const std::string& fileName, const std::string& bytes) const {
+    std::ofstream(outside.Settings() / fileName, std::ios::binary) << bytes;
 }
 
-std::string Scene::Rules() const {
-    return Content(folder_ / "system" / "ZYRules.sys");
+std::string Scene::Get(const std::string& fileName) const {
+    std::ifstream file(outside.Settings() / fileName, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
-std::string Scene::Registry() const {
-    return Content(folder_ / "config" / "zysetup" / "registry.ini");
-}
-
-std::vector<std::string> Scene::FileNames() const {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(folder_ / "system")) {
-        names.push_back(entry.path().filename().string());
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
-void Scene::StartBus() {
-    bus_ = std::make_unique<Child>(
-        std::vector<std::string>{"dbus-daemon", "--session", "--nofork", "--print-address=1"}, environment,
-        folder_ / "bus.txt");
-    ASSERT_TRUE(WaitUntil([&] { return bus_->Output().ends_with('\n'); })) << bus_->Output();
-    std::string address = bus_->Output();
-    address.pop_back();
-    std::erase(environment.unset, "DBUS_SESSION_BUS_ADDRESS");
-    environment.set["DBUS_SESSION_BUS_ADDRESS"] = address;
+bool Scene::WaitForBytes(const std::string& fileName, const std::string& bytes) const {
+    return WaitUntil([&] { return Get(fileName) == bytes; });
 }
 
 void Scene::StartViewer() {
-    const auto output = folder_ / ("viewer" + std::to_string(viewers_.size()) + ".txt");
-    viewers_.push_back(std::make_unique<Child>(std::vector<std::string>{ZY_VIEWER}, environment, output));
+    outside.AdmitViewers();
+    const auto output = outside.Output("viewer" + std::to_string(viewers_.size()) + ".txt");
+    viewers_.push_back(
+        std::make_unique<Child>(std::vector<std::string>{ViewerPath()}, outside.environment, output));
     ASSERT_TRUE(WaitUntil([&] { return viewers_.back()->Output().find("listening") != std::string::npos; }))
         << viewers_.back()->Output();
 }
 
 void Scene::StopViewer() {
-    viewers_.back()->Signal(SIGINT);
-    ASSERT_EQ(viewers_.back()->WaitForEnd(), 0);
+    ASSERT_EQ(viewers_.back()->Stop(), 0);
 }
 
 std::vector<std::string> Scene::Traces() const {
-    std::vector<std::string> lines;
+    std::vector<std::string> traces;
     for (const auto& viewer : viewers_) {
-        std::istringstream output(viewer->Output());
-        for (std::string line; std::getline(output, line);) {
+        for (const auto& line : LinesOf(viewer->Output())) {
             if (line.starts_with(kProgramName)) {
-                lines.push_back(line.substr(kProgramName.size()));
+                traces.push_back(line.substr(kProgramName.size()));
             }
         }
     }
-    return lines;
+    return traces;
 }
 
 bool Scene::WaitForTrace(const std::string& line) const {
@@ -108,30 +75,30 @@ bool Scene::WaitForTrace(const std::string& line) const {
 }
 
 void Scene::Start(const std::vector<std::string>& arguments) {
-    std::vector<std::string> command{ZY_PROGRAM};
+    std::vector<std::string> command{ProgramPath()};
     command.insert(command.end(), arguments.begin(), arguments.end());
-    program_ = std::make_unique<Child>(command, environment, folder_ / "program.txt");
+    program_ = std::make_unique<Child>(command, outside.environment, outside.Output("program.txt"));
+}
+
+void Scene::Open(const std::string& argument, const std::string& title) {
+    Start({argument});
+    ASSERT_TRUE(WaitForWindow(title)) << Program().Output();
 }
 
 bool Scene::WaitForWindow(const std::string& title) const {
-    WaitUntil([&] {
-        return program_->Status() ||
-               Printed("xdotool getactivewindow getwindowname 2>/dev/null") == title + "\n";
-    });
-    return !program_->Status();
+    return WaitUntil([&] { return program_->Status() || ActiveWindowTitle() == title; }) &&
+           !program_->Status();
 }
 
-void Scene::Press(const std::string& keys) {
-    Printed("xdotool key --delay 60 " + keys);
+void Scene::Close() {
+    PressKeys("alt+F4");
+    EXPECT_EQ(Program().WaitForEnd(), 0);
+    EXPECT_EQ(Program().Output(), "");
 }
 
 void Scene::PressFor(const std::string& keys, const std::string& trace) const {
-    Press(keys);
+    PressKeys(keys);
     EXPECT_TRUE(WaitForTrace(trace)) << keys << " did not lead to " << trace;
-}
-
-void Scene::TypeText(const std::string& text) {
-    Printed("xdotool type --delay 40 '" + text + "'");
 }
 
 } // namespace zy::test

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -8,25 +7,25 @@
 #include <gtest/gtest.h>
 
 #include "Child.h"
+#include "Surroundings.h"
 
 namespace zy::test {
 
-/// A folder of settings, a session bus of its own, and the program between them.
+/// The program between a folder of settings, a registry and trace viewers of its own, and a person at the
+/// keyboard.
 class Scene : public ::testing::Test {
   protected:
-    Scene();
+    Scene() = default;
     ~Scene() override;
 
     // The settings.
-    void PutRules(const std::string& bytes);
-    /// The rules file's bytes; empty when there is none.
-    std::string Rules() const;
-    std::vector<std::string> FileNames() const;
-    /// What the registry's file holds; empty when there is none.
-    std::string Registry() const;
+    void Put(const std::string& fileName, const std::string& bytes) const;
+    /// A file's bytes; empty when there is none.
+    std::string Get(const std::string& fileName) const;
+    /// Waits until a file holds these bytes.
+    bool WaitForBytes(const std::string& fileName, const std::string& bytes) const;
 
-    // The session bus and the trace viewer on it.
-    void StartBus();
+    // The trace viewers.
     void StartViewer();
     void StopViewer();
     /// The lines that the viewers of this test have printed, without the program's name.
@@ -35,21 +34,20 @@ class Scene : public ::testing::Test {
 
     // The program.
     void Start(const std::vector<std::string>& arguments);
+    /// Starts it and waits for its window.
+    void Open(const std::string& argument, const std::string& title);
     Child& Program() { return *program_; }
     /// Waits until a window of that title has the keyboard. False when the program ended or none came.
     bool WaitForWindow(const std::string& title) const;
-    /// Presses keys in the window that has the keyboard, one after the other, as xdotool names them.
-    static void Press(const std::string& keys);
+    /// Closes the window that has the keyboard and waits for the program's orderly and silent end.
+    void Close();
     /// Presses keys and waits until the viewer has got this record. A button that is pressed by the keyboard
     /// takes its time, and swallows what is typed meanwhile.
     void PressFor(const std::string& keys, const std::string& trace) const;
-    static void TypeText(const std::string& text);
 
-    Environment environment;
+    Surroundings outside;
 
   private:
-    std::filesystem::path folder_;
-    std::unique_ptr<Child> bus_;
     std::vector<std::unique_ptr<Child>> viewers_;
     std::unique_ptr<Child> program_;
 };

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "Scene.h"
+#include "Screen.h"
 
 namespace zy::test {
 namespace {
@@ -14,21 +15,17 @@ const std::string kUnloaded = "frmGlobalSettings\tForm_Unload\tUnloaded";
 
 class Traces : public Scene {
   protected:
-    void Open() {
-        Start({"@RULES"});
-        ASSERT_TRUE(WaitForWindow("ZY Setup - Rules")) << Program().Output();
-    }
+    void OpenRules() { Open("@RULES", "ZY Setup - Rules"); }
 
     void CloseWithoutSaving() {
-        Press("alt+F4");
+        PressKeys("alt+F4");
         ASSERT_TRUE(WaitForWindow("Save Changes?")) << Program().Output();
-        Press("alt+n");
+        PressKeys("alt+n");
         EXPECT_EQ(Program().WaitForEnd(), 0);
     }
 };
 
 TEST_F(Traces, AViewerThatRunsAtTheStartReceivesTheWholeRun) {
-    StartBus();
     StartViewer();
     Start({"@OTHER"});
     EXPECT_EQ(Program().WaitForEnd(), 0);
@@ -37,34 +34,24 @@ TEST_F(Traces, AViewerThatRunsAtTheStartReceivesTheWholeRun) {
 }
 
 TEST_F(Traces, AViewerThatGoesAwayAndComesBackIsFoundAgain) {
-    StartBus();
     StartViewer();
-    Open();
+    OpenRules();
     PressFor("alt+a", kAdded);
     StopViewer();
-    Press("alt+z"); // to the zone: a check that is traced to no one
+    PressKeys("alt+r alt+d"); // leaves the Rule ID: a check that is traced to no one
     StartViewer();
     CloseWithoutSaving();
     EXPECT_TRUE(WaitForTrace(kUnloaded));
 }
 
 TEST_F(Traces, AViewerThatStartsLaterIsNeverFound) {
-    StartBus();
-    Open();
+    outside.AdmitViewers();
+    OpenRules();
     StartViewer();
-    Press("alt+F4");
+    PressKeys("alt+F4");
     EXPECT_EQ(Program().WaitForEnd(), 0);
     StopViewer();
     EXPECT_THAT(Scene::Traces(), IsEmpty());
-}
-
-TEST_F(Traces, WithoutASessionBusNoneIsStarted) {
-    Open();
-    Press("alt+F4");
-    EXPECT_EQ(Program().WaitForEnd(), 0);
-    const auto runtimeFolder = environment.set["XDG_RUNTIME_DIR"];
-    EXPECT_FALSE(std::filesystem::exists(runtimeFolder + "/bus"));
-    EXPECT_EQ(Printed("pgrep -f '[d]bus-daemon.*" + runtimeFolder + "'"), "");
 }
 
 } // namespace

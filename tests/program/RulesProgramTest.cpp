@@ -1,4 +1,5 @@
 #include "Scene.h"
+#include "Screen.h"
 
 namespace zy::test {
 namespace {
@@ -31,73 +32,67 @@ std::string RuleText(const std::string& code, const std::string& min, const std:
            "   DESC3        = \r\n";
 }
 
-class Session : public Scene {
-  protected:
-    void Open() {
-        StartBus();
-        StartViewer();
-        Start({"@RULES"});
-        ASSERT_TRUE(WaitForWindow("ZY Setup - Rules")) << Program().Output();
-    }
+constexpr auto kFile = "ZYRules.sys";
 
-    bool WaitForRules(const std::string& bytes) const {
-        return WaitUntil([&] { return Rules() == bytes; });
+class RulesProgram : public Scene {
+  protected:
+    void OpenRules() {
+        StartViewer();
+        Open("@RULES", "ZY Setup - Rules");
     }
 };
 
-TEST_F(Session, AddsEditsSavesAndClosesByKeyboardAlone) {
-    PutRules(RuleText("R1", "1", "1", ">", "UCL", "One point above the limit"));
-    Open();
+TEST_F(RulesProgram, AddsEditsSavesAndClosesByKeyboardAlone) {
+    Put(kFile, RuleText("R1", "1", "1", ">", "UCL", "One point above the limit"));
+    OpenRules();
     PressFor("alt+a", kAdded);
-    Press("alt+r"); // to the Rule ID
-    Press("ctrl+a");
-    TypeText("R2");
-    Press("alt+d"); // to the Description
-    Press("ctrl+a");
-    TypeText("Second");
-    Press("ctrl+s");
+    PressKeys("alt+r"); // to the Rule ID
+    PressKeys("ctrl+a");
+    TypeCharacters("R2");
+    PressKeys("alt+d"); // to the Description
+    PressKeys("ctrl+a");
+    TypeCharacters("Second");
+    PressKeys("ctrl+s");
     const auto expected = RuleText("R1", "1", "1", ">", "UCL", "One point above the limit  ") +
                           RuleText("R2", "1", "2", "=", "USL", "Second");
-    EXPECT_TRUE(WaitForRules(expected)) << Rules();
-    EXPECT_EQ(FileNames(), std::vector<std::string>{"ZYRules.sys"});
-    Press("alt+F4");
-    EXPECT_EQ(Program().WaitForEnd(), 0);
-    EXPECT_EQ(Program().Output(), "");
+    EXPECT_TRUE(WaitForBytes(kFile, expected)) << Get(kFile);
+    EXPECT_EQ(outside.FileNames(), std::vector<std::string>{"ZYRules.sys"});
+    Close();
 }
 
-TEST_F(Session, ClosingWithYesWritesTheRulesAsTheyAreHeld) {
-    Open(); // no rules file yet
+TEST_F(RulesProgram, ClosingWithYesWritesTheRulesAsTheyAreHeld) {
+    OpenRules(); // no rules file yet
     PressFor("alt+a", kAdded);
-    Press("alt+F4");
+    PressKeys("alt+F4");
     ASSERT_TRUE(WaitForWindow("Save Changes?")) << Program().Output();
-    Press("Return");
+    PressKeys("Return");
     EXPECT_EQ(Program().WaitForEnd(), 0);
-    EXPECT_EQ(Rules(), RuleText("NEW", "1", "2", "=", "USL", "New"));
+    EXPECT_EQ(Get(kFile), RuleText("NEW", "1", "2", "=", "USL", "New"));
 }
 
-TEST_F(Session, ClosingWithNoLeavesTheFileAsItWas) {
+TEST_F(RulesProgram, ClosingWithNoLeavesTheFileAsItWas) {
     const auto before = RuleText("R1", "1", "1", ">", "UCL", "One");
-    PutRules(before);
-    Open();
+    Put(kFile, before);
+    OpenRules();
     PressFor("alt+a", kAdded);
-    Press("alt+F4");
+    PressKeys("alt+F4");
     ASSERT_TRUE(WaitForWindow("Save Changes?")) << Program().Output();
-    Press("alt+n");
+    PressKeys("alt+n");
     EXPECT_EQ(Program().WaitForEnd(), 0);
-    EXPECT_EQ(Rules(), before);
+    EXPECT_EQ(Get(kFile), before);
 }
 
-TEST_F(Session, AFileOfTooManyRulesIsAnOverflowAndStatusOne) {
+TEST_F(RulesProgram, AFileOfTooManyRulesIsAnOverflowAndStatusOne) {
     std::string rules;
     for (int i = 0; i < 32768; ++i) {
         rules += "[RULE]\r\n";
     }
-    PutRules(rules);
+    Put(kFile, rules);
     Start({"@RULES"});
     ASSERT_TRUE(WaitForWindow("ZY Setup")) << Program().Output();
-    Press("Return");
+    PressKeys("Return");
     EXPECT_EQ(Program().WaitForEnd(), 1);
-    EXPECT_EQ(Rules(), rules);
+    EXPECT_EQ(Get(kFile), rules);
 }
 
 } // namespace
