@@ -7,7 +7,6 @@
 #include <wx/textctrl.h>
 #include <wx/utils.h>
 
-#include <chrono>
 #include <memory>
 #include <utility>
 
@@ -56,6 +55,32 @@ bool CanAskForBorders() {
                                                gdk_atom_intern("_NET_REQUEST_FRAME_EXTENTS", 0)) != 0;
 }
 
+/// How long a window manager has to answer: as long as the toolkit itself waits for it.
+class Deadline {
+  public:
+    Deadline() : timer_(g_timeout_add(kMilliseconds, &Pass, this)) {}
+    Deadline(const Deadline&) = delete;
+    Deadline& operator=(const Deadline&) = delete;
+    ~Deadline() {
+        if (!passed_) {
+            g_source_remove(timer_);
+        }
+    }
+
+    bool HasPassed() const { return passed_; }
+
+  private:
+    static constexpr guint kMilliseconds = 1000;
+
+    static gboolean Pass(gpointer deadline) {
+        static_cast<Deadline*>(deadline)->passed_ = true;
+        return G_SOURCE_REMOVE;
+    }
+
+    bool passed_ = false;
+    guint timer_;
+};
+
 } // namespace
 
 double DotsPerInch() {
@@ -75,15 +100,14 @@ void LearnBorders() {
     if (!CanAskForBorders()) {
         return;
     }
-    constexpr std::chrono::milliseconds kPatience{100};
-    const auto end = std::chrono::steady_clock::now() + kPatience;
     auto* probe = new wxFrame(nullptr, wxID_ANY, "");
     // The toolkit asks, and shows the window only when the answer has come. By then nobody wants to see it
     // any more.
     probe->Show();
     probe->Hide();
-    while (probe->m_decorSize.top == 0 && std::chrono::steady_clock::now() < end) {
-        g_main_context_iteration(nullptr, 0);
+    const Deadline end;
+    while (probe->m_decorSize.top == 0 && !end.HasPassed()) {
+        g_main_context_iteration(nullptr, TRUE);
     }
     delete probe;
 }
