@@ -60,7 +60,8 @@ void DesktopWindowMsw::SetPosition(const PixelRect& place, std::uint32_t flags) 
 }
 
 void DesktopWindowMsw::Show(int command) {
-    // The editor that opens shows the window, in the way that whoever started the program wants its first one.
+    // The editor that opens shows the window, in the way that whoever started the program wants its first
+    // one.
     if (window_ != nullptr && ::IsWindowVisible(window_) != FALSE) {
         ::ShowWindow(window_, command);
     }

@@ -33,7 +33,7 @@ class DesktopWindowMsw final : public DesktopWindow {
 
     WindowProcedure procedure_ = [this](const WindowMessage& message) { return PassOn(message); };
     WNDPROC toolkits_ = nullptr;
-    HWND window_ = nullptr; ///< the real one, while there is one
+    HWND window_ = nullptr;   ///< the real one, while there is one
     std::uint32_t flags_ = 0; ///< those that the place was asked for with
 };
 

@@ -58,10 +58,13 @@ GridCursor::GridCursor(const ViewContext& context, Grid& model, GridWidget& grid
 void GridCursor::TakeCell(const wxGridEvent& event) {
     if (!showing_) {
         // The toolkit moves its cursor behind this event.
-        context_.gate.ActLater([this, row = event.GetRow() + 1, column = event.GetCol()] {
-            // The toolkit also tells of its own first cell in rows that have just come.
+        const bool isToolkits =
+            grid_.GetGridCursorCoords() == wxGridNoCellCoords && event.GetRow() == 0 && event.GetCol() == 0;
+        context_.gate.ActLater([this, isToolkits, row = event.GetRow() + 1, column = event.GetCol()] {
+            // The toolkit also tells of its own first cell in rows that have just come. Where the program has
+            // picked another one meanwhile, that counts.
             const bool isCurrent = row == model_.Row() && column == model_.Column();
-            if (!isCurrent && row < model_.Rows()) {
+            if (!isCurrent && !(isToolkits && HasCell()) && row < model_.Rows()) {
                 model_.Pick(row, column);
             }
             return model_.HasFocus();
@@ -98,7 +101,8 @@ bool GridCursor::TakeBlock() {
 }
 
 bool GridCursor::Show() {
-    if (!std::exchange(changed_, false)) {
+    // The toolkit tells of a block when the person lets go of the mouse. Until then it is the person's alone.
+    if (grid_.GetGridWindow()->HasCapture() || !std::exchange(changed_, false)) {
         return false;
     }
     showing_ = true;
