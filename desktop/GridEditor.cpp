@@ -26,6 +26,12 @@ wxTextCtrl* MakeText(const GridWidget& grid) {
     return text;
 }
 
+/// No text, whatever character a system makes of it.
+bool IsCharacterWithControl(const wxKeyEvent& event) {
+    const wxUniChar character = event.GetUnicodeKey();
+    return event.GetModifiers() == wxMOD_CONTROL && character >= ' ' && character != WXK_DELETE;
+}
+
 } // namespace
 
 GridEditor::GridEditor(const ViewContext& context, Grid& model, GridWidget& grid)
@@ -37,6 +43,7 @@ GridEditor::GridEditor(const ViewContext& context, Grid& model, GridWidget& grid
 }
 
 void GridEditor::BindText() {
+    TakeLineEnds(*text_);
     const auto remember = [this](wxEvent& event) {
         RememberSelection();
         event.Skip();
@@ -45,8 +52,9 @@ void GridEditor::BindText() {
     text_->Bind(wxEVT_MIDDLE_DOWN, remember);
     text_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { TakeText(); });
     text_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { PressKey(event); });
-    text_->Bind(wxEVT_CHAR,
-                [this](wxKeyEvent& event) { event.Skip(!button_.PickByLetter(TypedCharacter(event))); });
+    text_->Bind(wxEVT_CHAR, [this](wxKeyEvent& event) {
+        event.Skip(!IsCharacterWithControl(event) && !button_.PickByLetter(TypedCharacter(event)));
+    });
 }
 
 void GridEditor::CommitWhenLeft() {

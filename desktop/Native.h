@@ -55,6 +55,9 @@ void KeepFocusAway(wxButton& button);
 /// The style of a line of text that gets Tab and Enter itself, in place of the window around it.
 long EveryKeyStyle();
 
+/// Lets a line of text take the whole of what is pasted, on one line.
+void TakeLineEnds(wxTextCtrl& box);
+
 /// Closes the list that has dropped down; nothing when none has.
 void CloseDropDown(const wxChoice& choice);
 

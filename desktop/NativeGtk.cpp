@@ -166,6 +166,10 @@ long EveryKeyStyle() {
     return 0; // it gets every key anyhow
 }
 
+void TakeLineEnds(wxTextCtrl& /*box*/) {
+    // It takes them by itself.
+}
+
 void CloseDropDown(const wxChoice& choice) {
     gtk_combo_box_popdown(reinterpret_cast<_GtkComboBox*>(choice.m_widget));
 }

@@ -1,5 +1,7 @@
 #include <wx/button.h>
 #include <wx/choice.h>
+#include <wx/clipbrd.h>
+#include <wx/dataobj.h>
 #include <wx/dataview.h>
 #include <wx/msw/wrapwin.h>
 #include <wx/statbox.h>
@@ -9,6 +11,7 @@
 
 #include "desktop/AccessibleMsw.h"
 #include "desktop/Native.h"
+#include "desktop/ShownText.h"
 
 namespace zy {
 namespace {
@@ -29,7 +32,8 @@ class ScreenContext {
 /// The toolkit's own list answers screen readers itself, and calls itself by its window's name.
 class NamedList : public wxDataViewCtrlAccessible {
   public:
-    NamedList(wxDataViewCtrl& list, wxString name) : wxDataViewCtrlAccessible(&list), name_(std::move(name)) {}
+    NamedList(wxDataViewCtrl& list, wxString name)
+        : wxDataViewCtrlAccessible(&list), name_(std::move(name)) {}
 
     wxAccStatus GetName(int child, wxString* name) override {
         if (child != wxACC_SELF) {
@@ -42,6 +46,12 @@ class NamedList : public wxDataViewCtrlAccessible {
   private:
     wxString name_;
 };
+
+wxString TextOnClipboard() {
+    wxTextDataObject text;
+    const wxClipboardLocker open;
+    return !!open && wxTheClipboard->GetData(text) ? text.GetText() : wxString();
+}
 
 void ShowPushed(const wxButton& button, bool pushed) {
     ::SendMessageW(button.GetHandle(), BM_SETSTATE, pushed ? TRUE : FALSE, 0);
@@ -121,6 +131,18 @@ void KeepFocusAway(wxButton& button) {
 
 long EveryKeyStyle() {
     return wxTE_PROCESS_TAB | wxTE_PROCESS_ENTER;
+}
+
+void TakeLineEnds(wxTextCtrl& box) {
+    // The system's line of text would end what is pasted at its first line end.
+    box.Bind(wxEVT_TEXT_PASTE, [&box](wxClipboardTextEvent& event) {
+        const wxString text = TextOnClipboard();
+        if (text.find_first_of("\r\n") == wxString::npos) {
+            event.Skip();
+        } else {
+            box.WriteText(OnOneLine(text));
+        }
+    });
 }
 
 void CloseDropDown(const wxChoice& choice) {

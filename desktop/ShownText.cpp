@@ -16,15 +16,6 @@ std::optional<char> TakeCharacter(const CodePage& codePage, wxUniChar shown) {
     return character == kSymbolForNul ? '\0' : codePage.FromUnicode(character);
 }
 
-/// A person's new text on one line.
-wxString OnOneLine(wxString text) {
-    text.Replace("\r\n", " ");
-    text.Replace("\r", " ");
-    text.Replace("\n", " ");
-    text.Replace("\t", " ");
-    return text;
-}
-
 std::optional<std::string> TakeText(const CodePage& codePage, const wxString& shown) {
     std::string text;
     for (const wxUniChar each : shown) {
@@ -69,6 +60,14 @@ std::optional<EditedText> TakeEdit(const CodePage& codePage, std::string_view be
     const auto changeEnd = text.size();
     text += before.substr(before.size() - back);
     return EditedText{std::move(text), changeEnd};
+}
+
+wxString OnOneLine(wxString text) {
+    text.Replace("\r\n", " ");
+    text.Replace("\r", " ");
+    text.Replace("\n", " ");
+    text.Replace("\t", " ");
+    return text;
 }
 
 wxString WithMnemonic(const CodePage& codePage, std::string_view caption, char accessKey) {

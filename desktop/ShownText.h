@@ -28,6 +28,9 @@ struct EditedText {
 /// page lacks.
 std::optional<EditedText> TakeEdit(const CodePage& codePage, std::string_view before, const wxString& shown);
 
+/// A person's new text with a blank for each line end and TAB.
+wxString OnOneLine(wxString text);
+
 /// A caption with "&" before its access key, as the toolkit wants it; every "&" of the caption itself is
 /// shown.
 wxString WithMnemonic(const CodePage& codePage, std::string_view caption, char accessKey);

@@ -12,6 +12,7 @@ TextBoxBinding::TextBoxBinding(const ViewContext& context, const Inside& inside,
     if (model.PasswordChar() != '\0') {
         SetPasswordCharacter(*box_, model.PasswordChar());
     }
+    TakeLineEnds(*box_);
     const auto remember = [this](wxEvent& event) {
         RememberSelection();
         event.Skip();

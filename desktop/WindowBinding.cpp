@@ -45,6 +45,11 @@ void WindowBinding::ConnectFrame(std::function<void()> close) {
         event.Skip();
         TellSize();
     });
+    // On its way back from the taskbar a window may keep the size of its inside.
+    frame_->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+        event.Skip();
+        TellState();
+    });
     frame_->Bind(wxEVT_ICONIZE, [this](wxIconizeEvent& event) {
         event.Skip();
         TellState();
