@@ -1,22 +1,28 @@
+include(GoogleTest)
 if(WIN32)
   # Debian has it as source only for this target.
   set(INSTALL_GTEST OFF)
   add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
 else()
-  include(GoogleTest)
   find_package(GTest REQUIRED)
 endif()
+if(CMAKE_CROSSCOMPILING)
+  # The emulator is for the tests: a build alone does not start it.
+  set(CMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE PRE_TEST)
+endif()
 
-# zy_test(NAME target  [USES rooms...]  SOURCES files...  [PROPERTIES test properties...])
+# zy_test(NAME target [CASES_APART] [USES rooms...]  SOURCES files...  [PROPERTIES test properties...])
 #
 # A test program whose every case is a test of its own for CTest, so that a name in the summary is a sentence about
 # behaviour and no case can lean on another. Where programs run in an emulator that takes its time to start, the
-# program is one test as a whole.
+# program is one test as a whole, unless CASES_APART tells that a process can run no more than one case.
 function(zy_test)
-  cmake_parse_arguments(TEST "" "NAME" "USES;SOURCES;PROPERTIES" ${ARGN})
+  cmake_parse_arguments(TEST "CASES_APART" "NAME" "USES;SOURCES;PROPERTIES" ${ARGN})
   add_executable(${TEST_NAME} ${TEST_SOURCES})
   target_link_libraries(${TEST_NAME} PRIVATE ${TEST_USES} zy_warnings GTest::gmock GTest::gtest_main)
-  if(CMAKE_CROSSCOMPILING)
+  # Compiling the tests takes much longer than running them: what they test is optimised, they are not.
+  target_compile_options(${TEST_NAME} PRIVATE -O0 -g1)
+  if(CMAKE_CROSSCOMPILING AND NOT TEST_CASES_APART)
     add_test(NAME ${TEST_NAME} COMMAND ${TEST_NAME})
     set_tests_properties(${TEST_NAME} PROPERTIES TIMEOUT 600 ${TEST_PROPERTIES})
   else()

@@ -21,8 +21,8 @@ TEST_F(GridOnTheClipboard, CtrlCCopiesTheBlockAsASpreadsheetDoes) {
     Play([&] {
         SelectAllCells();
         Press('C', wxMOD_CONTROL);
-        WaitUntil("it is copied", [] { return true; });
-        EXPECT_EQ(OnClipboard(), "m²\tSquare metres\r\ns\tSeconds\r\n");
+        const auto copied = wxString::FromUTF8("m²\tSquare metres\r\ns\tSeconds\r\n");
+        WaitUntil("it is copied", [&] { return TextOnClipboard() == copied; });
     });
 }
 

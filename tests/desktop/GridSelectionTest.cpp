@@ -127,9 +127,7 @@ TEST_F(GridSelection, AClickWithShiftStretchesTheBlock) {
     PutUnits(ThreeUnits());
     Play([&] {
         ClickCell(1, 0);
-        hands->HoldKey(WXK_SHIFT);
-        hands->Click(PlaceOfCell(3, 1));
-        hands->LetGoOfKey(WXK_SHIFT);
+        hands->ClickWith(WXK_SHIFT, PlaceOfCell(3, 1));
         WaitForBlockEnd(3, 1);
         WaitForCell(1, 0);
     });

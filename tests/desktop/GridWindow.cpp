@@ -4,11 +4,7 @@
 #include <wx/grid.h>
 #include <wx/textctrl.h>
 
-#include "desktop/GtkFunctions.h"
-
-extern "C" {
-GtkWidget* gtk_grab_get_current();
-}
+#include "NativeLook.h"
 
 namespace zy::test {
 
@@ -23,7 +19,8 @@ void GridWindow::DoubleClickCell(int row, int column) {
 }
 
 void GridWindow::DragOverCells(const Cell& from, const Cell& to) {
-    hands->Drag(PlaceOfCell(from.row, from.column), PlaceOfCell(to.row, to.column));
+    constexpr std::chrono::milliseconds kSoThatEachStepIsSeen{20};
+    hands->Drag(PlaceOfCell(from.row, from.column), PlaceOfCell(to.row, to.column), kSoThatEachStepIsSeen);
 }
 
 void GridWindow::OpenEditor(int row, int column) {
@@ -49,13 +46,20 @@ void GridWindow::Fill(int row, int column, const std::string& text) {
 
 void GridWindow::OpenMenuAt(const wxPoint& place) {
     hands->RightClick(place);
-    WaitUntil("the menu is open", [] { return gtk_grab_get_current() != nullptr; });
+    WaitUntil("the menu is open", [] { return IsMenuOpen(); });
 }
 
 void GridWindow::ChooseFromMenu(int key) {
     Press(key);
     Press(WXK_RETURN);
-    WaitUntil("the menu is closed", [] { return gtk_grab_get_current() == nullptr; });
+    WaitUntil("the menu is closed", [] { return !IsMenuOpen(); });
+}
+
+void GridWindow::ChooseAboveDisabledEntry() {
+    if (InWindow([] { return KeysStopAtDisabledEntries(); })) {
+        Press(WXK_UP);
+    }
+    ChooseFromMenu(WXK_UP);
 }
 
 std::string GridWindow::Shown(int row, int column) {

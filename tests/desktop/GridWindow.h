@@ -31,6 +31,9 @@ class GridWindow : public WindowTest {
     void OpenMenuAt(const wxPoint& place);
     /// Picks the entry of the open menu to which this key goes.
     void ChooseFromMenu(int key);
+    /// From below, goes to the first entry that can be chosen, above a single one that cannot, and chooses
+    /// it.
+    void ChooseAboveDisabledEntry();
 
     // What the person sees.
     /// A cell as the grid draws it.

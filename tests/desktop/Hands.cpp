@@ -52,8 +52,17 @@ void Hands::Drag(const wxPoint& from, const wxPoint& to, std::chrono::millisecon
 }
 
 void Hands::DragWindow(const wxPoint& from, const wxPoint& to) {
-    constexpr std::chrono::milliseconds kUnhurried{60};
-    Drag(from, to, kUnhurried);
+    DragBorder(*this, from, to);
+}
+
+void Hands::ClickWith(int key, const wxPoint& place) {
+    // A mouse that comes from another window brings the state of the real keyboard with it, after a while.
+    constexpr std::chrono::milliseconds kUntilItHasCome{200};
+    InWindow([&] { simulator_->MouseMove(place); });
+    std::this_thread::sleep_for(kUntilItHasCome);
+    HoldKey(key);
+    Click(place);
+    LetGoOfKey(key);
 }
 
 void Hands::HoldKey(int key) {

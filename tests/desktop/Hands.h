@@ -27,8 +27,10 @@ class Hands {
     void LetGoOfMouse();
     /// Waits that long between the steps of the way.
     void Drag(const wxPoint& from, const wxPoint& to, std::chrono::milliseconds pause = {});
-    /// Drags a window's title or border, in a way that a window manager with much to do can follow.
+    /// Drags a window's title or border.
     void DragWindow(const wxPoint& from, const wxPoint& to);
+    /// Clicks while a key such as WXK_SHIFT is held down.
+    void ClickWith(int key, const wxPoint& place);
     /// Holds a key such as WXK_CONTROL down.
     void HoldKey(int key);
     void LetGoOfKey(int key);

@@ -1,6 +1,7 @@
 #include <wx/dataview.h>
 
 #include <algorithm>
+#include <cstddef>
 
 #include "RulesWindow.h"
 
@@ -14,7 +15,7 @@ class RulesListWindow : public RulesWindow {
     RulesListWindow() { world.traceServers.SetRunning(true); }
 
     /// How often rules were put into the detail form so far.
-    long EditRuleCount() {
+    std::ptrdiff_t EditRuleCount() {
         return InWindow([&] {
             const auto& records = world.traceServers.Records();
             return std::count_if(records.begin(), records.end(),

@@ -1,12 +1,7 @@
 #include <wx/textctrl.h>
 
+#include "NativeLook.h"
 #include "UsersWindow.h"
-#include "desktop/GtkFunctions.h"
-
-extern "C" {
-unsigned gtk_entry_get_invisible_char(_GtkEntry* entry);
-int gtk_entry_get_visibility(_GtkEntry* entry);
-}
 
 namespace zy::test {
 namespace {
@@ -70,11 +65,7 @@ TEST_F(LoginWindow, TheAdministratorLogsInByMouse) {
 TEST_F(LoginWindow, ThePasswordIsShownAsStars) {
     PlayFromTheStart([&] {
         TypeLogin("ADMIN", "secret");
-        InWindow([] {
-            auto* entry = reinterpret_cast<_GtkEntry*>(RealPassword().GetHandle());
-            EXPECT_EQ(gtk_entry_get_visibility(entry), 0);
-            EXPECT_EQ(gtk_entry_get_invisible_char(entry), static_cast<unsigned>('*'));
-        });
+        EXPECT_EQ(InWindow([] { return PasswordCharacterOf(RealPassword()); }), wxUniChar('*'));
         Press(WXK_RETURN);
         WaitForWindow();
     });

@@ -28,13 +28,4 @@ class MessageBoxes : private wxModalDialogHook {
     std::vector<std::string> seen_;
 };
 
-/// The title in the box's title bar.
-std::string TitleOf(const wxMessageDialog& box);
-/// The middle, on the screen, of the button that gives this answer: wxID_YES, wxID_NO or wxID_OK.
-wxPoint ButtonOf(const wxMessageDialog& box, int answer);
-/// Whether Enter gives this answer.
-bool IsDefault(const wxMessageDialog& box, int answer);
-/// Whether the box shows a picture beside its text.
-bool HasPicture(const wxMessageDialog& box);
-
 } // namespace zy::test

@@ -203,7 +203,7 @@ TEST_F(RulesGrid, WithoutRulesItsContextMenuCanOnlyAdd) {
         ShowGrid();
         OpenMenuAt(PlaceOfHeader());
         EXPECT_FALSE(InWindow([&] { return program->window.menu.mnuDeleteRule.Enabled(); }));
-        ChooseFromMenu(WXK_UP); // from below, to the first entry that can be chosen
+        ChooseAboveDisabledEntry();
         WaitForText(1, kCodeColumn, "NEW");
         WaitForCell(1, kCodeColumn);
     });

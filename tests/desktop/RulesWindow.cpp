@@ -1,19 +1,13 @@
 #include "RulesWindow.h"
 
-#include <glib-object.h>
 #include <wx/choice.h>
 #include <wx/dataview.h>
 #include <wx/textctrl.h>
 
+#include "NativeLook.h"
+
 namespace zy::test {
 namespace {
-
-/// Keys that come before go to nobody.
-bool HasDroppedDown(const wxChoice& choice) {
-    gboolean shown = 0;
-    g_object_get(G_OBJECT(choice.m_widget), "popup-shown", &shown, nullptr);
-    return shown != 0;
-}
 
 std::vector<std::string> Split(const std::string& text) {
     std::vector<std::string> fields(1);

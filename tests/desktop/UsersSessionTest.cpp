@@ -131,7 +131,7 @@ TEST_F(UsersSession, OnTheHeaderTheContextMenuDeletesNobody) {
         ClickCell(1, kUserName);
         OpenMenuAt(PlaceOfHeader());
         EXPECT_FALSE(InWindow([&] { return program->window.menu.mnuDeleteUser.Enabled(); }));
-        ChooseFromMenu(WXK_UP); // from below, to the first entry that can be chosen
+        ChooseAboveDisabledEntry();
         WaitForText(3, kUserName, "NewUser");
         EXPECT_EQ(Shown(1, kUserName), "Ann");
     });
@@ -161,9 +161,7 @@ TEST_F(UsersSession, ShiftTabAtTheFirstCellGoesToTheHelpButton) {
 TEST_F(UsersSession, AClickWithShiftStretchesTheBlock) {
     Play([&] {
         ClickCell(1, kUserName);
-        hands->HoldKey(WXK_SHIFT);
-        hands->Click(PlaceOfCell(2, kStatus));
-        hands->LetGoOfKey(WXK_SHIFT);
+        hands->ClickWith(WXK_SHIFT, PlaceOfCell(2, kStatus));
         WaitUntil("the block is stretched", [&] { return grid().BlockEnd() == Cell{2, kStatus}; });
         WaitForCell(1, kUserName);
     });

@@ -1,5 +1,6 @@
 #include "WindowTest.h"
 
+#include <wx/app.h>
 #include <wx/clipbrd.h>
 #include <wx/dataobj.h>
 #include <wx/dialog.h>
@@ -9,6 +10,7 @@
 #include <cstdlib>
 #include <thread>
 
+#include "NativeLook.h"
 #include "desktop/MainWindowView.h"
 #include "desktop/Native.h"
 #include "desktop/ShownText.h"
@@ -64,6 +66,7 @@ int WindowTest::Play(const std::function<void()>& script) {
 
 int WindowTest::PlayFromTheStart(const std::function<void()>& script) {
     desktop.StartToolkit();
+    AwaitWork();
     std::thread person([&] { RunScript(script); });
     const int status = desktop.Run([&] { return RunProgram(); });
     person.join();
@@ -89,7 +92,7 @@ void WindowTest::RunScript(const std::function<void()>& script) {
 
 void WindowTest::LeaveWindow() {
     // From here on the window's thread may be gone at any moment, so nothing is asked of it and waited for.
-    wxTheApp->CallAfter([this] {
+    HandToWindow([this] {
         if (program->window.IsLoaded()) {
             program->rulesPage.controls.grdRules.CancelEdit();
             program->unitsPage.controls.grdUnits.CancelEdit();
@@ -128,6 +131,12 @@ void WindowTest::ChooseExit() {
     Press('X');
 }
 
+void WindowTest::LeaveMenu() {
+    Press(WXK_ESCAPE);
+    Press(WXK_ESCAPE);
+    WaitUntil("no menu is open", [] { return !IsMenuOpen(); });
+}
+
 void WindowTest::CloseWindow() {
     Press(WXK_F4, wxMOD_ALT);
 }
@@ -143,6 +152,13 @@ void WindowTest::PressInBox(int key, int modifiers) {
     const auto closed = InWindow([&] { return boxes.ClosedCount(); });
     Press(key, modifiers);
     WaitUntil("the box is gone", [&] { return boxes.ClosedCount() > closed; });
+}
+
+void WindowTest::PressWhereItDoesNothing(int key, int modifiers) {
+    constexpr std::chrono::milliseconds kLongEnough{300};
+    Press(key, modifiers);
+    std::this_thread::sleep_for(kLongEnough);
+    EXPECT_NE(InWindow([&] { return boxes.Active(); }), nullptr);
 }
 
 void WindowTest::ClickInLastBox(int answer) {
@@ -190,12 +206,7 @@ std::string WindowTest::Status() {
 }
 
 std::string WindowTest::OnClipboard() {
-    return InWindow([&] {
-        wxTextDataObject text;
-        const wxClipboardLocker open;
-        wxTheClipboard->GetData(text);
-        return text.GetText().utf8_string();
-    });
+    return InWindow([] { return TextOnClipboard().utf8_string(); });
 }
 
 wxPoint WindowTest::PlaceOf(const Control& control) {

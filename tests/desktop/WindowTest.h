@@ -53,6 +53,8 @@ class WindowTest : public ::testing::Test {
     /// Chooses from the menu bar by the access keys.
     void ChooseSave();
     void ChooseExit();
+    /// Goes out of a menu, and where that takes a key of its own, out of the menu bar.
+    void LeaveMenu();
     /// Closes the window as its close box does, by way of the window manager.
     void CloseWindow();
 
@@ -61,6 +63,8 @@ class WindowTest : public ::testing::Test {
     void ExpectBox(const std::string& text, const std::string& title);
     /// Presses a key in the box and waits until it is gone.
     void PressInBox(int key, int modifiers = wxMOD_NONE);
+    /// Presses a key in a box that it does not close, and leaves the box the time to close in spite of that.
+    void PressWhereItDoesNothing(int key, int modifiers = wxMOD_NONE);
     void ClickInBox(int answer);
     /// Clicks in a box behind which the program ends.
     void ClickInLastBox(int answer);

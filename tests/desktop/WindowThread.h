@@ -1,13 +1,13 @@
 #pragma once
 
-#include <wx/app.h>
-
 #include <chrono>
 #include <functional>
 #include <future>
 #include <memory>
 #include <stdexcept>
 #include <string>
+
+#include "NativeLook.h"
 
 namespace zy::test {
 
@@ -28,7 +28,7 @@ auto InWindow(Work work) {
     using Result = decltype(work());
     const auto task = std::make_shared<std::packaged_task<Result()>>(std::move(work));
     auto result = task->get_future();
-    wxTheApp->CallAfter([task] { (*task)(); });
+    HandToWindow([task] { (*task)(); });
     if (result.wait_for(kPatience) != std::future_status::ready) {
         throw GaveUp("The window does not answer any more");
     }

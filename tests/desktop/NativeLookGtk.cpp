@@ -1,0 +1,148 @@
+#include <glib-object.h>
+#include <wx/app.h>
+#include <wx/choice.h>
+#include <wx/clipbrd.h>
+#include <wx/dataobj.h>
+#include <wx/msgdlg.h>
+#include <wx/textctrl.h>
+#include <wx/uiaction.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <stdexcept>
+#include <utility>
+
+#include "Hands.h"
+#include "NativeLook.h"
+#include "desktop/GtkFunctions.h"
+
+struct _GtkDialog;
+struct _GtkMessageDialog;
+struct _GtkWindow;
+
+extern "C" {
+int gdk_window_get_origin(GdkWindow* window, int* x, int* y);
+GtkWidget* gtk_dialog_get_widget_for_response(_GtkDialog* dialog, int response);
+unsigned gtk_entry_get_invisible_char(_GtkEntry* entry);
+int gtk_entry_get_visibility(_GtkEntry* entry);
+GtkWidget* gtk_grab_get_current();
+GtkWidget* gtk_message_dialog_get_image(_GtkMessageDialog* dialog);
+int gtk_widget_get_visible(GtkWidget* widget);
+GdkWindow* gtk_widget_get_window(GtkWidget* widget);
+int gtk_widget_translate_coordinates(GtkWidget* from, GtkWidget* to, int x, int y, int* toX, int* toY);
+GtkWidget* gtk_window_get_default_widget(_GtkWindow* window);
+const char* gtk_window_get_title(_GtkWindow* window);
+int gtk_window_is_active(_GtkWindow* window);
+}
+
+namespace zy::test {
+namespace {
+
+_GtkWindow* WindowOf(const wxMessageDialog& box) {
+    return reinterpret_cast<_GtkWindow*>(box.m_widget);
+}
+
+GtkWidget* WidgetOf(const wxMessageDialog& box, int answer) {
+    constexpr int kResponseOk = -5;
+    constexpr int kResponseYes = -8;
+    constexpr int kResponseNo = -9;
+    const int response = answer == wxID_YES ? kResponseYes : answer == wxID_NO ? kResponseNo : kResponseOk;
+    return gtk_dialog_get_widget_for_response(reinterpret_cast<_GtkDialog*>(box.m_widget), response);
+}
+
+} // namespace
+
+void AwaitWork() {
+    // The toolkit's own way of handing work over needs nothing.
+}
+
+void HandToWindow(std::function<void()> work) {
+    wxTheApp->CallAfter(std::move(work));
+}
+
+bool HasKeyboard(const wxMessageDialog& box) {
+    return box.m_widget != nullptr && gtk_window_is_active(WindowOf(box)) != 0;
+}
+
+std::string TitleOf(const wxMessageDialog& box) {
+    return gtk_window_get_title(WindowOf(box));
+}
+
+wxPoint ButtonOf(const wxMessageDialog& box, int answer) {
+    GtkWidget* button = WidgetOf(box, answer);
+    GtkRectangle size{};
+    gtk_widget_get_allocation(button, &size);
+    wxPoint inBox;
+    gtk_widget_translate_coordinates(button, box.m_widget, size.width / 2, size.height / 2, &inBox.x,
+                                     &inBox.y);
+    wxPoint origin;
+    gdk_window_get_origin(gtk_widget_get_window(box.m_widget), &origin.x, &origin.y);
+    return origin + inBox;
+}
+
+bool IsDefault(const wxMessageDialog& box, int answer) {
+    return gtk_window_get_default_widget(WindowOf(box)) == WidgetOf(box, answer);
+}
+
+bool HasPicture(const wxMessageDialog& box) {
+    auto* picture = gtk_message_dialog_get_image(reinterpret_cast<_GtkMessageDialog*>(box.m_widget));
+    return picture != nullptr && gtk_widget_get_visible(picture) != 0;
+}
+
+bool CanBeCancelled(const wxMessageDialog& /*box*/) {
+    return true;
+}
+
+bool HasDroppedDown(const wxChoice& choice) {
+    gboolean shown = 0;
+    g_object_get(G_OBJECT(choice.m_widget), "popup-shown", &shown, nullptr);
+    return shown != 0;
+}
+
+bool IsMenuOpen() {
+    return gtk_grab_get_current() != nullptr;
+}
+
+bool KeysStopAtDisabledEntries() {
+    return false;
+}
+
+std::optional<wxUniChar> PasswordCharacterOf(const wxTextCtrl& box) {
+    auto* entry = reinterpret_cast<_GtkEntry*>(box.GetHandle());
+    if (gtk_entry_get_visibility(entry) != 0) {
+        return std::nullopt;
+    }
+    return wxUniChar(gtk_entry_get_invisible_char(entry));
+}
+
+std::size_t MostCharacters() {
+    return 65535;
+}
+
+wxString TextOnClipboard() {
+    wxTextDataObject text;
+    const wxClipboardLocker open;
+    wxTheClipboard->GetData(text);
+    return text.GetText();
+}
+
+void TypeForeign(wxUniChar character) {
+    const auto command = wxString::Format("xdotool key U%04X", character.GetValue());
+    if (std::system(command.utf8_str()) != 0) {
+        throw std::runtime_error("xdotool does not type");
+    }
+}
+
+void TypeComposed(wxUniChar character) {
+    wxUIActionSimulator keyboard;
+    keyboard.Char('U', wxMOD_CONTROL | wxMOD_SHIFT); // a character by its number
+    keyboard.Text(wxString::Format("%x", character.GetValue()).utf8_str());
+    keyboard.Char(WXK_RETURN);
+}
+
+void DragBorder(Hands& hands, const wxPoint& from, const wxPoint& to) {
+    constexpr std::chrono::milliseconds kUnhurried{60};
+    hands.Drag(from, to, kUnhurried);
+}
+
+} // namespace zy::test
