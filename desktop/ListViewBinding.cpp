@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "desktop/Keys.h"
+#include "desktop/ListText.h"
 #include "desktop/Native.h"
 
 namespace zy {
@@ -30,7 +31,7 @@ ListViewBinding::ListViewBinding(const ViewContext& context, const Inside& insid
 
 void ListViewBinding::MakeColumns() {
     for (std::size_t i = 0; i < model_.Columns().size(); ++i) {
-        auto* renderer = new wxDataViewTextRenderer;
+        auto* renderer = MakeListText();
         renderer->EnableEllipsize(wxELLIPSIZE_END);
         const auto& column = model_.Columns()[i];
         const int width = Context().scale.ToPixels(column.width);
