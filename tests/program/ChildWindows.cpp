@@ -36,20 +36,8 @@ Child::Child(const std::vector<std::string>& command, const Environment& /*envir
     : output_(output), handles_(std::make_unique<Handles>()) {
     const auto file = OpenForOutput(output);
     KeepToOurselves(handles_->input.writer);
-    STARTUPINFOA start{};
-    start.cb = sizeof start;
-    start.dwFlags = STARTF_USESTDHANDLES;
-    start.hStdInput = handles_->input.reader.Get();
-    start.hStdOutput = file.Get();
-    start.hStdError = file.Get();
-    PROCESS_INFORMATION started{};
-    auto line = CommandLine(command);
-    if (::CreateProcessA(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start,
-                         &started) == FALSE) {
-        ThrowLastError("CreateProcess");
-    }
-    ::CloseHandle(started.hThread);
-    handles_->process = WindowsHandle(started.hProcess);
+    handles_->process =
+        StartProgram(CommandLine(command), handles_->input.reader.Get(), file.Get(), file.Get());
     handles_->input.reader.Close();
 }
 

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <string>
 #include <system_error>
 #include <utility>
 
@@ -34,6 +35,23 @@ class WindowsHandle {
 /// Throws the last error of the system, for a call that has failed.
 [[noreturn]] inline void ThrowLastError(const char* call) {
     throw std::system_error(static_cast<int>(::GetLastError()), std::system_category(), call);
+}
+
+/// Starts a program with these streams, which it inherits.
+inline WindowsHandle StartProgram(std::string commandLine, HANDLE input, HANDLE output, HANDLE errors) {
+    STARTUPINFOA start{};
+    start.cb = sizeof start;
+    start.dwFlags = STARTF_USESTDHANDLES;
+    start.hStdInput = input;
+    start.hStdOutput = output;
+    start.hStdError = errors;
+    PROCESS_INFORMATION started{};
+    if (::CreateProcessA(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start,
+                         &started) == FALSE) {
+        ThrowLastError("CreateProcess");
+    }
+    ::CloseHandle(started.hThread);
+    return WindowsHandle(started.hProcess);
 }
 
 /// A pipe whose both ends can be handed to a child, with room for what a child writes before anybody reads.

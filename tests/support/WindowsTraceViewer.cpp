@@ -12,22 +12,6 @@ namespace {
 constexpr std::chrono::milliseconds kPatience{20000};
 constexpr std::chrono::milliseconds kPause{5};
 
-WindowsHandle StartProgram(std::string commandLine, HANDLE input, HANDLE output) {
-    STARTUPINFOA start{};
-    start.cb = sizeof start;
-    start.dwFlags = STARTF_USESTDHANDLES;
-    start.hStdInput = input;
-    start.hStdOutput = output;
-    start.hStdError = ::GetStdHandle(STD_ERROR_HANDLE);
-    PROCESS_INFORMATION started{};
-    if (::CreateProcessA(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start,
-                         &started) == FALSE) {
-        ThrowLastError("CreateProcess");
-    }
-    ::CloseHandle(started.hThread);
-    return WindowsHandle(started.hProcess);
-}
-
 /// What stands in a pipe, without waiting; nothing when its other end has gone.
 std::optional<std::string> ReadAvailable(HANDLE pipe) {
     DWORD available = 0;
@@ -49,7 +33,8 @@ WindowsTraceViewer::WindowsTraceViewer() {
     KeepToOurselves(input_.writer);
     KeepToOurselves(output_.reader);
     const auto program = WindowsSystemInfo().ExecutableFolder() + "\\" ZY_TRACE_VIEWER;
-    process_ = StartProgram('"' + program + '"', input_.reader.Get(), output_.writer.Get());
+    process_ = StartProgram('"' + program + '"', input_.reader.Get(), output_.writer.Get(),
+                            ::GetStdHandle(STD_ERROR_HANDLE));
     input_.reader.Close();
     output_.writer.Close();
     const auto greeting = NextLine();
