@@ -20,6 +20,7 @@ ErrorNumber NumberOf(FileError error, ErrorNumber ifNotFound, ErrorNumber ifDeni
     case FileError::DiskFull:
         return kDiskFull;
     case FileError::IsFolder:
+    case FileError::Ambiguous:
         return kCannotOpen;
     case FileError::None:
     case FileError::Other:

@@ -20,6 +20,8 @@ std::string_view Describe(FileError error) {
         return "the disk is full";
     case FileError::IsFolder:
         return "a folder of that name is in the way";
+    case FileError::Ambiguous:
+        return "names that differ by case alone stand side by side";
     case FileError::Other:
         break;
     }

@@ -14,6 +14,7 @@ enum class FileError {
     InUse,        ///< another program holds it
     DiskFull,     ///< no space left, or a quota reached
     IsFolder,     ///< the name is a folder's
+    Ambiguous,    ///< names that differ by case alone: the path could mean either
     Other,
 };
 

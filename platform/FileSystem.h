@@ -36,11 +36,34 @@ struct OpenedFile {
     FileError error = FileError::None;
 };
 
+/// A folder that is held for a save. Destroying it lets the next save in.
+class FolderLock {
+  public:
+    virtual ~FolderLock() = default;
+};
+
+/// A held folder, or the reason why it is not held. A folder whose file system knows no locks gives neither:
+/// that is no reason not to save.
+struct LockedFolder {
+    std::unique_ptr<FolderLock> lock;
+    FileError error = FileError::None;
+};
+
 /// The files of the computer. Paths are absolute, in the ANSI code page, with "\" between their parts; names
 /// are found without regard to case.
 class FileSystem {
   public:
     virtual ~FileSystem() = default;
+
+    /// Whether it is certain which place a path means, be there a file or not. Ambiguous when a name on the
+    /// way could be one of several that differ by case alone, though one of them may match exactly;
+    /// AccessDenied when a folder on the way hides its names, so that nobody can tell. The folders that the
+    /// program was started with are certain as they are.
+    virtual FileError Locate(std::string_view path) = 0;
+    /// Holds the folder that the file of this path stands in, against other programs that ask for the same;
+    /// waits up to two seconds for one that holds it already, and then gives InUse. It keeps nobody from
+    /// working with the files who does not ask.
+    virtual LockedFolder LockFolderOf(std::string_view path) = 0;
 
     /// A directory search for a normal file of exactly that name; a folder of the name is not found.
     virtual bool Exists(std::string_view path) = 0;

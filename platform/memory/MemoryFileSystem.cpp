@@ -108,6 +108,48 @@ class MemoryFileSystem::Handle final : public FileHandle {
     std::size_t position_ = 0;
 };
 
+class MemoryFileSystem::Lock final : public FolderLock {
+  public:
+    Lock(std::multiset<std::string>& locked, std::string folder)
+        : locked_(locked), place_(locked.insert(std::move(folder))) {}
+    ~Lock() override { locked_.erase(place_); }
+    Lock(const Lock&) = delete;
+    Lock& operator=(const Lock&) = delete;
+
+  private:
+    std::multiset<std::string>& locked_;
+    std::multiset<std::string>::iterator place_;
+};
+
+FileError MemoryFileSystem::Locate(std::string_view path) {
+    for (std::optional<std::string> part = Key(path); part; part = FolderPart(*part)) {
+        if (const auto found = uncertain_.find(*part); found != uncertain_.end()) {
+            return found->second;
+        }
+    }
+    return FileError::None;
+}
+
+LockedFolder MemoryFileSystem::LockFolderOf(std::string_view path) {
+    auto folder = FolderPart(Key(path)).value_or("");
+    if (lockedByOthers_.contains(folder)) {
+        return {.lock = nullptr, .error = FileError::InUse};
+    }
+    return {.lock = std::make_unique<Lock>(locked_, std::move(folder)), .error = FileError::None};
+}
+
+void MemoryFileSystem::SetUncertain(std::string_view path, FileError error) {
+    if (error == FileError::None) {
+        uncertain_.erase(Key(path));
+    } else {
+        uncertain_[Key(path)] = error;
+    }
+}
+
+void MemoryFileSystem::SetFolderLocked(std::string_view folder, bool locked) {
+    Switch(lockedByOthers_, Key(folder), locked);
+}
+
 bool MemoryFileSystem::Exists(std::string_view path) {
     bool found = false;
     operations_.Perform(Line("Exists", path), [&] {

@@ -20,10 +20,10 @@ namespace zy {
 /// Names are found without regard to case, as the code page defines it, and keep the case they were created
 /// with. "/" counts as "\", several in a row as one. A file can be created only in a folder that exists.
 ///
-/// Each operation of FileSystem and of its handles, Size apart, is counted, recorded and subject to the fault
-/// plan: a failing Exists says false, a failing Read reads nothing, all others return the plan's error and
-/// change nothing, but that a Write may be cut short and a Close closes all the same. Destroying a handle is
-/// no operation, and neither are the verbs for tests below.
+/// Each operation of FileSystem and of its handles, Size, Locate and LockFolderOf apart, is counted, recorded
+/// and subject to the fault plan: a failing Exists says false, a failing Read reads nothing, all others
+/// return the plan's error and change nothing, but that a Write may be cut short and a Close closes all the
+/// same. Destroying a handle is no operation, and neither are the verbs for tests below.
 ///
 /// Handles must not outlive the file system. One whose file is deleted keeps its bytes for itself.
 class MemoryFileSystem final : public FileSystem {
@@ -33,6 +33,8 @@ class MemoryFileSystem final : public FileSystem {
 
     explicit MemoryFileSystem(const CodePage& codePage) : codePage_(codePage) {}
 
+    FileError Locate(std::string_view path) override;
+    LockedFolder LockFolderOf(std::string_view path) override;
     bool Exists(std::string_view path) override;
     OpenedFile OpenForReading(std::string_view path) override;
     OpenedFile Create(std::string_view path) override;
@@ -69,6 +71,13 @@ class MemoryFileSystem final : public FileSystem {
     /// An unreadable file cannot be opened for reading (AccessDenied).
     void SetUnreadable(std::string_view path, bool unreadable = true);
 
+    /// What Locate says of every path below this folder, or of this path itself; None takes it back.
+    void SetUncertain(std::string_view path, FileError error);
+    /// Another program holds the folder for a save of its own: LockFolderOf gives InUse at once.
+    void SetFolderLocked(std::string_view folder, bool locked = true);
+    /// The folders that are held by this program now, in capitals.
+    const std::multiset<std::string>& LockedFolders() const { return locked_; }
+
     /// The bytes that all files together may have; a Write that does not fit writes the part that does and
     /// returns DiskFull. Nothing: no limit. Put is not limited.
     void SetCapacity(std::optional<std::uint64_t> bytes) { capacity_ = bytes; }
@@ -87,6 +96,7 @@ class MemoryFileSystem final : public FileSystem {
     };
     using Files = std::map<std::string, std::shared_ptr<File>>;
     class Handle;
+    class Lock;
 
     std::string Key(std::string_view path) const;
     bool IsFolder(const std::string& key) const;
@@ -111,6 +121,9 @@ class MemoryFileSystem final : public FileSystem {
     std::set<std::string> readOnlyFolders_;
     std::set<std::string> held_;
     std::set<std::string> unreadable_;
+    std::map<std::string, FileError> uncertain_;
+    std::set<std::string> lockedByOthers_;
+    std::multiset<std::string> locked_;
     std::optional<std::uint64_t> capacity_;
     OperationLog operations_;
 };

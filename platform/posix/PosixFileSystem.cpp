@@ -36,6 +36,14 @@ FileError RenameResolved(const std::string& from, const std::string& to) {
 
 } // namespace
 
+FileError PosixFileSystem::Locate(std::string_view /*path*/) {
+    return FileError::None;
+}
+
+LockedFolder PosixFileSystem::LockFolderOf(std::string_view /*path*/) {
+    return {};
+}
+
 bool PosixFileSystem::Exists(std::string_view path) {
     const auto resolved = paths_.Resolve(path);
     struct stat status {};

@@ -13,6 +13,8 @@ class PosixFileSystem final : public FileSystem {
   public:
     explicit PosixFileSystem(const CodePage& codePage) : paths_(codePage) {}
 
+    FileError Locate(std::string_view path) override;
+    LockedFolder LockFolderOf(std::string_view path) override;
     bool Exists(std::string_view path) override;
     OpenedFile OpenForReading(std::string_view path) override;
     OpenedFile Create(std::string_view path) override;

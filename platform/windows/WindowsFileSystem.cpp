@@ -52,6 +52,14 @@ FileError RenameRooted(const std::string& from, const std::string& to) {
 
 } // namespace
 
+FileError WindowsFileSystem::Locate(std::string_view /*path*/) {
+    return FileError::None;
+}
+
+LockedFolder WindowsFileSystem::LockFolderOf(std::string_view /*path*/) {
+    return {};
+}
+
 bool WindowsFileSystem::Exists(std::string_view path) {
     const auto rooted = RootedPath(path);
     return rooted && !HasWildcard(*rooted) && FindsNormalFile(*rooted);

@@ -7,6 +7,8 @@ namespace zy {
 /// The files of the system. Paths are its own: from a drive, a root or a server on.
 class WindowsFileSystem final : public FileSystem {
   public:
+    FileError Locate(std::string_view path) override;
+    LockedFolder LockFolderOf(std::string_view path) override;
     /// A file that is hidden or the system's is no normal one.
     bool Exists(std::string_view path) override;
     OpenedFile OpenForReading(std::string_view path) override;

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <memory>
+#include <string_view>
+
+#include "platform/FileSystem.h"
+
+namespace zy {
+
+/// The right to save a file, from the first step of a save to its last: while one program has it, no other
+/// one's save can cut in between its steps.
+class SaveTurn {
+  public:
+    /// Waits up to two seconds for somebody else's save in the file's folder.
+    SaveTurn(FileSystem& files, std::string_view path);
+
+    /// False when somebody else is saving there still: then nothing may be written.
+    bool IsMine() const { return isMine_; }
+
+    /// What a person is told who has to wait.
+    static constexpr std::string_view kRefusal =
+        "Not saved: somebody else is saving in this folder at this moment; save again";
+
+  private:
+    LockedFolder folder_;
+    bool isMine_;
+};
+
+} // namespace zy
