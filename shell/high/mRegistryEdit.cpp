@@ -32,8 +32,9 @@ Int16 ReadNumber(const RegistryKey& key, std::string_view name) {
     return text ? LeadingNumber(StripAtNull(*text)) : Int16();
 }
 
+/// Halves go to the even number, here as on the way back.
 std::int32_t ToPixels(int twips, double twipsPerPixel) {
-    return static_cast<std::int32_t>(std::lround(twips / twipsPerPixel));
+    return static_cast<std::int32_t>(std::lrint(twips / twipsPerPixel));
 }
 
 Int16 ToTwips(std::int32_t pixels, double twipsPerPixel) {

@@ -197,6 +197,24 @@ TEST_F(WindowPlacementTest, RoundsToTheNearestPixel) {
     EXPECT_EQ(Place(), "201 99 700 601");
 }
 
+TEST_F(WindowPlacementTest, RestoresHalvesOfPixelsAsTheEvenOne) {
+    world.window.SetTwipsPerPixel(12, 12);
+    StorePlace("7206", "7218", "6", "18"); // 600.5 by 601.5 at 1.5, 0.5
+    Start("@RULES");
+    EXPECT_EQ(Place(), "2 0 602 600");
+}
+
+TEST_F(WindowPlacementTest, StoresHalvesOfTwipsAsTheEvenOne) {
+    world.window.SetTwipsPerPixel(7.5, 7.5);
+    Start("@RULES");
+    PutAt({1, 3, 802, 806});
+    Close();
+    EXPECT_EQ(Stored()["LEFT"], "8");      // 7.5
+    EXPECT_EQ(Stored()["TOP"], "22");      // 22.5
+    EXPECT_EQ(Stored()["WIDTH"], "6008");  // 6007.5
+    EXPECT_EQ(Stored()["HEIGHT"], "6022"); // 6022.5
+}
+
 TEST_F(WindowPlacementTest, ReadsVerticalValuesByTheVerticalFactor) {
     world.window.SetTwipsPerPixel(15, 12);
     StorePlace("9000", "10500", "1500", "3000");
