@@ -33,6 +33,11 @@ TEST(DateTest, ADayThatTheCalendarLacksIsNoDate) {
     }
 }
 
+TEST(DateTest, YearsOfFourDigitsBeginWithTheHundredth) {
+    EXPECT_EQ(ParseDate("0100-01-01"), 100y / 1 / 1);
+    EXPECT_EQ(ParseDate("0099-12-31"), std::nullopt);
+}
+
 TEST(DateTest, OtherTextsAreNoDates) {
     for (const auto* text :
          {"",         "YY-MM-DD", "26",       "26-11",    "26-11-",   "-11-20",    "26-11/20",

@@ -75,6 +75,31 @@ TEST(CellTexts, StayAsTheyAreWhenATextCannotBeTakenApart) {
     EXPECT_THAT(All(texts), ElementsAre("a"));
 }
 
+TEST(CellTexts, TakenOverWholeAreNotCopiedWhenACellGoes) {
+    CellTexts texts;
+    texts.AppendPartsOf(std::string(300000, 'x'), [](std::string_view text, auto& parts) {
+        for (std::size_t part = 0; part < 3; ++part) {
+            parts.push_back(text.substr(part * 100000, 100000));
+        }
+    });
+    const auto* const place = texts[0].data();
+    texts.Erase(2, 1);
+    EXPECT_EQ(texts[0].data(), place);
+}
+
+TEST(CellTexts, ThatNoCellHoldsAnyMoreAreDroppedWhenACellGoes) {
+    CellTexts texts;
+    texts.Append("kept");
+    texts.Append("going");
+    for (int edit = 0; edit < 10; ++edit) {
+        texts.Set(0, std::string(100000, static_cast<char>('a' + edit)));
+    }
+    const auto* const place = texts[0].data();
+    texts.Erase(1, 1);
+    EXPECT_NE(texts[0].data(), place) << "nothing was cleared away";
+    EXPECT_EQ(texts[0], std::string(100000, 'j'));
+}
+
 TEST(CellTexts, AreThoseOfAPlainListAfterManyChanges) {
     CellTexts texts;
     std::vector<std::string> list;

@@ -47,6 +47,17 @@ TEST_F(ControlsTest, AControlTellsOnlyRealChangesOfItsAppearance) {
     EXPECT_EQ(control.Bounds().Bottom(), 6);
 }
 
+TEST_F(ControlsTest, ATextBoxForgetsWhatWasSelectedWhenItGetsAnotherText) {
+    TextBox box(&form, "txt", "");
+    box.SetText("abcdef");
+    box.Select(4, 2);
+    box.SetText("xy");
+    EXPECT_EQ(box.SelStart(), 0U);
+    EXPECT_EQ(box.SelLength(), 0U);
+    box.Type("1");
+    EXPECT_EQ(box.Text(), "1xy");
+}
+
 TEST_F(ControlsTest, AFormRaisesResizeForEverySizeItIsGiven) {
     form.resize.Connect(Note("resize"));
     form.SetInnerSize({100, 50});

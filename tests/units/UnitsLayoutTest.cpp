@@ -78,6 +78,7 @@ TEST_F(UnitsLayout, PutsTheArrowsAtTheLeftAboutTheMiddleAQuarterOfTheFrameHigh) 
     ForAllSizes([this](const Fonts& fonts) {
         EXPECT_EQ(Arrows().left, 50);
         EXPECT_EQ(Arrows().height, std::max(Frame().height / 4, fonts.arrows.height));
+        EXPECT_EQ(Arrows().width, std::max(375, fonts.arrows.width));
         EXPECT_NEAR(Arrows().top + Arrows().height / 2, Frame().height / 2, 1);
     });
 }
@@ -87,7 +88,7 @@ TEST_F(UnitsLayout, PutsTheStripWhollyInsideTheFrameNearItsBottom) {
         EXPECT_EQ(Strip().left, 300);
         EXPECT_EQ(Strip().width, Frame().width - 500);
         ExpectInside(Strip(), {Frame().width, Frame().height});
-        EXPECT_LE(Frame().height - Strip().Bottom(), 300);
+        EXPECT_EQ(Frame().height - Strip().Bottom(), 100);
     });
 }
 
@@ -128,7 +129,8 @@ TEST_F(UnitsLayout, GivesTheButtonsTheRoomThatTheirTextsNeed) {
 TEST_F(UnitsLayout, GivesTheGridWhatIsLeftBetweenArrowsAndStrip) {
     ForAllSizes([this](const Fonts& fonts) {
         ExpectInside(Cells(), {Frame().width, Frame().height});
-        EXPECT_GT(Cells().left, Arrows().Right());
+        EXPECT_EQ(Cells().left, Arrows().Right() + 100);
+        EXPECT_EQ(Cells().Right(), Frame().width - 100);
         EXPECT_LE(Cells().Bottom(), Strip().top);
         EXPECT_GE(Cells().top, fonts.frameCaption);
         EXPECT_GT(Cells().width, Frame().width / 2);
