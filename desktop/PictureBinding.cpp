@@ -11,9 +11,13 @@ namespace zy {
 PictureBinding::PictureBinding(const ViewContext& context, const Inside& inside, Picture& model)
     : ControlBinding(context, inside, model) {
     auto* picture = new wxStaticBitmap(Parent(), wxID_ANY, wxBitmapBundle());
-    picture->Bind(wxEVT_SIZE, [picture](wxSizeEvent& event) {
+    picture->Bind(wxEVT_SIZE, [picture, drawn = 0](wxSizeEvent& event) mutable {
         event.Skip();
-        if (const int size = std::min(event.GetSize().x, event.GetSize().y); size > 0) {
+        // A picture's own size is told in pixels of an ordinary screen; the control takes the size that this
+        // comes to here, and tells of it once more.
+        const int size = picture->ToDIP(std::min(event.GetSize().x, event.GetSize().y));
+        if (size > 0 && size != drawn) {
+            drawn = size;
             picture->SetBitmap(ProgramPicture(size));
         }
     });
