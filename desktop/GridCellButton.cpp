@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "desktop/GridNative.h"
 #include "desktop/Native.h"
 #include "desktop/Pictures.h"
 #include "desktop/ShownText.h"
@@ -15,6 +16,12 @@ namespace zy {
 namespace {
 
 constexpr std::string_view kDialog = "...";
+
+void HideButton(wxButton* button) {
+    if (button != nullptr) {
+        HideOverCells(*button);
+    }
+}
 
 } // namespace
 
@@ -29,14 +36,13 @@ wxRect GridCellButton::PlaceIn(const wxRect& cell) {
     }
     auto& button = Button();
     const int width = std::min(cell.width, std::max(button.GetBestSize().x, cell.height));
-    button.SetSize({cell.GetRight() + 1 - width, cell.y, width, cell.height});
-    button.Show();
+    ShowOverCells(button, {cell.GetRight() + 1 - width, cell.y, width, cell.height});
     return {cell.x, cell.y, cell.width - width, cell.height};
 }
 
 wxButton& GridCellButton::Button() {
-    Hide();
     auto& button = HasList() ? list_ : dialog_;
+    HideButton(HasList() ? dialog_ : list_);
     if (button == nullptr) {
         button = HasList() ? MakeListButton() : MakeDialogButton();
         // The editor's text keeps the keyboard.
@@ -62,11 +68,8 @@ bool GridCellButton::IsShown() const {
 }
 
 void GridCellButton::Hide() {
-    for (auto* button : {list_, dialog_}) {
-        if (button != nullptr) {
-            button->Hide();
-        }
-    }
+    HideButton(list_);
+    HideButton(dialog_);
 }
 
 void GridCellButton::Press() {

@@ -35,7 +35,7 @@ class GridCellButton {
   private:
     using ItemList = std::vector<std::string>;
 
-    /// The button for the open cell, not shown yet.
+    /// The button for the open cell; the other one is hidden.
     wxButton& Button();
     wxButton* MakeListButton();
     wxButton* MakeDialogButton();

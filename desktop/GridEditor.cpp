@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "desktop/GridKeys.h"
+#include "desktop/GridNative.h"
 #include "desktop/Native.h"
 #include "desktop/ShownText.h"
 #include "shell/StatusTexts.h"
@@ -20,7 +21,7 @@ constexpr std::size_t kMostShown = 65534 / 3;
 wxTextCtrl* MakeText(const GridWidget& grid) {
     auto* text = new wxTextCtrl(grid.GetGridWindow(), wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
                                 wxBORDER_NONE | EveryKeyStyle());
-    text->Hide();
+    HideOverCells(*text);
     // The first name a control gets is told nobody, the later ones are.
     SetAccessibleName(*text, "Cell");
     return text;
@@ -96,7 +97,6 @@ void GridEditor::Show() {
 void GridEditor::Open() {
     grid_.MakeCellVisible(model_.Row() - 1, model_.Column());
     Place();
-    text_->Show();
     SetAccessibleName(*text_, grid_.GetColLabelValue(model_.Column()));
     if (model_.HasFocus()) {
         text_->SetFocus();
@@ -109,7 +109,7 @@ void GridEditor::Close() {
         if (HoldsFocus(*text_)) {
             grid_.GetGridWindow()->SetFocus();
         }
-        text_->Hide();
+        HideOverCells(*text_);
         button_.Hide();
     }
 }
@@ -124,7 +124,7 @@ void GridEditor::Place() {
     // The text stays where it stood in the cell.
     text.x += grid_.CellMargin();
     text.width -= grid_.CellMargin();
-    text_->SetSize(text);
+    ShowOverCells(*text_, text);
 }
 
 bool GridEditor::ShowText() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <wx/gdicmn.h>
 #include <wx/string.h>
 
 class wxWindow;
@@ -8,6 +9,11 @@ namespace zy {
 
 /// The window around a grid, whose background is the grid's border. It takes no focus itself.
 wxWindow* MakeSurround(wxWindow* parent);
+
+/// Shows a control over the cells, at a place. Shown already, it moves there.
+void ShowOverCells(wxWindow& control, const wxRect& place);
+/// Hides one that lies over the cells.
+void HideOverCells(wxWindow& control);
 
 /// Tells assistive technology what the current cell of a grid is. The toolkit paints its grid, so that its
 /// cells are nothing to a screen reader: the window that has the keyboard stands for the current one, and

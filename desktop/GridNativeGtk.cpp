@@ -19,6 +19,25 @@ wxWindow* MakeSurround(wxWindow* parent) {
     return surround;
 }
 
+void ShowOverCells(wxWindow& control, const wxRect& place) {
+    if (gtk_widget_get_parent(control.m_widget) == nullptr) {
+        gtk_container_add(reinterpret_cast<_GtkContainer*>(control.GetParent()->m_wxwindow),
+                          control.m_widget);
+    }
+    control.SetSize(place);
+    control.Show();
+}
+
+void HideOverCells(wxWindow& control) {
+    // Scrolling moves whatever lies over the cells, and GTK complains where that is hidden. So it is taken
+    // out, and comes back without a size.
+    if (auto* cells = gtk_widget_get_parent(control.m_widget)) {
+        control.Hide();
+        control.SetSize(wxRect());
+        gtk_container_remove(reinterpret_cast<_GtkContainer*>(cells), control.m_widget);
+    }
+}
+
 void PresentCell(wxWindow& gridWindow, const wxString& text, bool announce) {
     auto* accessible = gtk_widget_get_accessible(gridWindow.GetHandle());
     atk_object_set_role(accessible, atk_role_for_name("table cell"));

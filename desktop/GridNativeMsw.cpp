@@ -14,6 +14,15 @@ wxWindow* MakeSurround(wxWindow* parent) {
     return MakeInnerPanel(*parent);
 }
 
+void ShowOverCells(wxWindow& control, const wxRect& place) {
+    control.SetSize(place);
+    control.Show();
+}
+
+void HideOverCells(wxWindow& control) {
+    control.Hide();
+}
+
 void PresentCell(wxWindow& gridWindow, const wxString& text, bool announce) {
     AnnotateRole(gridWindow, ROLE_SYSTEM_CELL);
     AnnotateName(gridWindow, text);
