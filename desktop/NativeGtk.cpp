@@ -3,6 +3,7 @@
 #include <wx/choice.h>
 #include <wx/dataview.h>
 #include <wx/frame.h>
+#include <wx/notebook.h>
 #include <wx/statbox.h>
 #include <wx/textctrl.h>
 #include <wx/utils.h>
@@ -46,6 +47,17 @@ void ForgetMoved(gpointer moved, GClosure* /*closure*/) {
 
 void UnmakeButton(_GtkTreeViewColumn* column, GParamSpec* /*property*/, gpointer /*unused*/) {
     gtk_tree_view_column_set_clickable(column, 0);
+}
+
+/// A notebook's pages get their size when GTK lays the notebook out. By then it has laid out what stands on
+/// them, and complains of scroll bars that have no room.
+void GiveSizeToPages(const wxWindow& window) {
+    for (auto* child : window.GetChildren()) {
+        if (dynamic_cast<wxNotebook*>(child->GetParent()) != nullptr) {
+            child->SetSize(window.GetClientSize());
+        }
+        GiveSizeToPages(*child);
+    }
 }
 
 /// Otherwise the toolkit would show a window at once.
@@ -125,6 +137,7 @@ void LayOutUnseen(wxWindow& window) {
     // A window that first appears without a size has GTK complain of menus that do not fit in. One that got
     // its size before it is real waits in vain to be told of it, and gives room to nothing that is shown
     // later.
+    GiveSizeToPages(window);
     gtk_widget_realize(window.m_widget);
     GtkSizeNeeded needed{};
     gtk_widget_get_preferred_size(window.m_widget, nullptr, &needed);
