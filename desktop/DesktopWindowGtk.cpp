@@ -54,8 +54,8 @@ void DesktopWindowGtk::Attach(wxFrame& frame) {
     SetBounds();
     wxRect wanted = Place();
     wxSize size = wanted.GetSize();
-    size.IncTo(frame.GetMinSize());
     size.DecTo(SizeOfScreens());
+    size.IncTo(frame.GetMinSize());
     wanted.SetSize(size);
     SetPlace(Reachable(wanted, RoomOnScreens()));
     frame.SetSize(Place());
@@ -79,7 +79,13 @@ void DesktopWindowGtk::SetBounds() {
         const auto toSize = [](const PixelPoint& size) {
             return size == PixelPoint() ? wxDefaultSize : wxSize(size.x, size.y);
         };
-        frame_->SetSizeHints(toSize(bounds.minTrackSize), toSize(bounds.maxTrackSize));
+        const wxSize least = toSize(bounds.minTrackSize);
+        wxSize most = toSize(bounds.maxTrackSize);
+        if (most != wxDefaultSize) {
+            // On a screen that is smaller than the least size, that counts, as it does on Windows.
+            most.IncTo(least);
+        }
+        frame_->SetSizeHints(least, most);
     }
 }
 

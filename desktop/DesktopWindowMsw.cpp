@@ -90,8 +90,8 @@ void DesktopWindowMsw::Attach(wxFrame& frame) {
 wxSize DesktopWindowMsw::WithinBounds(wxSize size) const {
     MINMAXINFO bounds{};
     ::SendMessageW(window_, WM_GETMINMAXINFO, 0, std::bit_cast<LPARAM>(&bounds));
-    size.IncTo(wxSize(bounds.ptMinTrackSize.x, bounds.ptMinTrackSize.y));
     size.DecTo(wxSize(bounds.ptMaxTrackSize.x, bounds.ptMaxTrackSize.y));
+    size.IncTo(wxSize(bounds.ptMinTrackSize.x, bounds.ptMinTrackSize.y));
     return size;
 }
 

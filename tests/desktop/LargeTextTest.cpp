@@ -1,3 +1,5 @@
+#include <wx/frame.h>
+
 #include "LayoutWindow.h"
 #include "support/EnvironmentVariable.h"
 
@@ -19,6 +21,18 @@ TEST_F(LayoutWindow, IsTidyWhereEverythingIsTwiceAsLarge) {
         ExpectTidy();
         Resize({586, 560});
         ExpectTidy();
+    });
+}
+
+TEST_F(LayoutWindow, KeepsItsLeastSizeOnAScreenThatIsSmaller) {
+    const EnvironmentVariable large("GDK_SCALE", "3");
+    Play([&] {
+        WaitUntil("it is larger than the screen", [] {
+            const wxSize size = RealFrame().GetSize();
+            const wxSize screen = wxGetDisplaySize();
+            return size.x > screen.x && size.y > screen.y;
+        });
+        EXPECT_GE(InWindow([] { return RealFrame().GetPosition().y; }), 0);
     });
 }
 
