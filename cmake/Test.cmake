@@ -11,21 +11,35 @@ if(CMAKE_CROSSCOMPILING)
   set(CMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE PRE_TEST)
 endif()
 
-# zy_test(NAME target [CASES_APART] [USES rooms...]  SOURCES files...  [PROPERTIES test properties...])
+# zy_test(NAME target [CASES_APART] [USES rooms...]  SOURCES files...  [PROPERTIES test properties...]
+#         [ENVIRONMENT variable=value...])
 #
 # A test program whose every case is a test of its own for CTest, so that a name in the summary is a sentence about
 # behaviour and no case can lean on another. Where programs run in an emulator that takes its time to start, the
 # program is one test as a whole, unless CASES_APART tells that a process can run no more than one case.
 function(zy_test)
-  cmake_parse_arguments(TEST "CASES_APART" "NAME" "USES;SOURCES;PROPERTIES" ${ARGN})
+  cmake_parse_arguments(TEST "CASES_APART" "NAME" "USES;SOURCES;PROPERTIES;ENVIRONMENT" ${ARGN})
   add_executable(${TEST_NAME} ${TEST_SOURCES})
   target_link_libraries(${TEST_NAME} PRIVATE ${TEST_USES} zy_warnings GTest::gmock GTest::gtest_main)
   # Compiling the tests takes much longer than running them: what they test is optimised, they are not.
   target_compile_options(${TEST_NAME} PRIVATE -O0 -g1)
   if(CMAKE_CROSSCOMPILING AND NOT TEST_CASES_APART)
     add_test(NAME ${TEST_NAME} COMMAND ${TEST_NAME})
-    set_tests_properties(${TEST_NAME} PROPERTIES TIMEOUT 600 ${TEST_PROPERTIES})
+    set_tests_properties(${TEST_NAME} PROPERTIES TIMEOUT 600 ${TEST_PROPERTIES} ENVIRONMENT "${TEST_ENVIRONMENT}")
   else()
     gtest_discover_tests(${TEST_NAME} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 ${TEST_PROPERTIES})
+    zy_set_environment(${TEST_NAME} "${TEST_ENVIRONMENT}")
   endif()
+endfunction()
+
+# Gives every discovered case of a test program its environment. As one of the properties that are handed to the
+# discovery, only the first of several variables would arrive.
+function(zy_set_environment program environment)
+  set(script ${CMAKE_CURRENT_BINARY_DIR}/${program}_environment.cmake)
+  # A program that is not built yet has no list of its cases.
+  file(WRITE ${script} "if(${program}_TESTS)
+  set_tests_properties(\${${program}_TESTS} PROPERTIES ENVIRONMENT \"${environment}\")
+endif()
+")
+  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${script})
 endfunction()
