@@ -17,12 +17,10 @@ class OnLinux : public Scene {
 
 TEST_F(OnLinux, AnUnknownArgumentNeedsNoDisplay) {
     EXPECT_EQ(StatusWithoutDisplay({"@OTHER"}), 0);
-    EXPECT_EQ(Program().Output(), "");
 }
 
 TEST_F(OnLinux, ABlankBehindTheKeywordMakesItUnknown) {
     EXPECT_EQ(StatusWithoutDisplay({"@RULES "}), 0);
-    EXPECT_EQ(Program().Output(), "");
 }
 
 TEST_F(OnLinux, AnUnknownArgumentNeedsNoDisplayAlthoughAPlaceIsStored) {
@@ -30,12 +28,12 @@ TEST_F(OnLinux, AnUnknownArgumentNeedsNoDisplayAlthoughAPlaceIsStored) {
     Close();
     EXPECT_NE(outside.Registry(), "");
     EXPECT_EQ(StatusWithoutDisplay({"@OTHER"}), 0);
-    EXPECT_EQ(Program().Output(), "");
 }
 
 TEST_F(OnLinux, AnEditorWithoutADisplaySaysSoAndEndsWithStatusOne) {
     EXPECT_EQ(StatusWithoutDisplay({"@RULES"}), 1);
-    EXPECT_NE(Program().Output().find("display"), std::string::npos) << Program().Output();
+    printed =
+        "ZY Setup: There is no display to open a window on: start it in a desktop session, or set DISPLAY\n";
 }
 
 TEST_F(OnLinux, AMissingSettingsFolderIsMadeInTheUsersDataFolder) {

@@ -29,6 +29,16 @@ Scene::~Scene() {
     viewers_.clear();
 }
 
+void Scene::TearDown() {
+    CheckPrinted();
+}
+
+void Scene::CheckPrinted() const {
+    if (program_) {
+        EXPECT_THAT(program_->Output(), printed);
+    }
+}
+
 void Scene::Put(const std::string& fileName, const std::string& bytes) const {
     std::ofstream(outside.Settings() / fileName, std::ios::binary) << bytes;
 }
@@ -75,6 +85,7 @@ bool Scene::WaitForTrace(const std::string& line) const {
 }
 
 void Scene::Start(const std::vector<std::string>& arguments) {
+    CheckPrinted();
     std::vector<std::string> command{ProgramPath()};
     command.insert(command.end(), arguments.begin(), arguments.end());
     program_ = std::make_unique<Child>(command, outside.environment, outside.Output("program.txt"));
@@ -93,7 +104,6 @@ bool Scene::WaitForWindow(const std::string& title) const {
 void Scene::Close() {
     PressKeys("alt+F4");
     EXPECT_EQ(Program().WaitForEnd(), 0);
-    EXPECT_EQ(Program().Output(), "");
 }
 
 void Scene::PressFor(const std::string& keys, const std::string& trace) const {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "Child.h"
@@ -39,15 +40,22 @@ class Scene : public ::testing::Test {
     Child& Program() { return *program_; }
     /// Waits until a window of that title has the keyboard. False when the program ended or none came.
     bool WaitForWindow(const std::string& title) const;
-    /// Closes the window that has the keyboard and waits for the program's orderly and silent end.
+    /// Closes the window that has the keyboard and waits for the program's orderly end.
     void Close();
     /// Presses keys and waits until the viewer has got this record. A button that is pressed by the keyboard
     /// takes its time, and swallows what is typed meanwhile.
     void PressFor(const std::string& keys, const std::string& trace) const;
 
+    /// What a program has printed by the end of its part in the test. Most have nothing to say there.
+    ::testing::Matcher<std::string> printed = ::testing::IsEmpty();
+
     Surroundings outside;
 
   private:
+    void TearDown() override;
+    /// Looks at what the program of this test has printed.
+    void CheckPrinted() const;
+
     std::vector<std::unique_ptr<Child>> viewers_;
     std::unique_ptr<Child> program_;
 };
