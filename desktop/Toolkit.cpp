@@ -1,6 +1,7 @@
 #include "desktop/Toolkit.h"
 
 #include <wx/app.h>
+#include <wx/gdicmn.h>
 #include <wx/init.h>
 #include <wx/log.h>
 
@@ -24,6 +25,12 @@ class App : public wxApp {
     }
 };
 
+/// Frees what the toolkit keeps of a start that failed.
+void FreeStock() {
+    wxDeleteStockLists();
+    wxDELETE(wxTheColourDatabase);
+}
+
 } // namespace
 
 NoDisplay::NoDisplay()
@@ -39,6 +46,7 @@ Toolkit::Toolkit() {
         // That there is no display is told once, by the program itself.
         const wxLogNull silence;
         if (!wxEntryStart(count, arguments.data())) {
+            FreeStock();
             throw NoDisplay();
         }
     }
