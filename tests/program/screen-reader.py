@@ -38,10 +38,17 @@ class ScreenReader(unittest.TestCase):
         environment = dict(os.environ, ZYSETUP_SYSTEM_DIR=self.folder, XDG_DATA_HOME=self.folder + "/data",
                            XDG_CONFIG_HOME=self.folder + "/config", LC_ALL="C.UTF-8")
         environment.pop("NO_AT_BRIDGE", None)
-        child = subprocess.Popen([PROGRAM, argument], env=environment)
+        printed = tempfile.TemporaryFile("w+", dir=self.folder)
+        child = subprocess.Popen([PROGRAM, argument], env=environment, stdout=printed, stderr=printed)
+        self.addCleanup(self.check_silence, printed)
         self.addCleanup(child.wait)
         self.addCleanup(child.kill)
         return self.wait_for(lambda: self.find_window(child.pid, title), f"the window {title}")
+
+    def check_silence(self, printed):
+        with printed:
+            printed.seek(0)
+            self.assertEqual(printed.read(), "")
 
     @staticmethod
     def find_window(process, title):
