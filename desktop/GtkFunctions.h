@@ -34,6 +34,8 @@ void gtk_entry_set_invisible_char(_GtkEntry* entry, unsigned character);
 void gtk_combo_box_popdown(_GtkComboBox* comboBox);
 void gtk_container_add(_GtkContainer* container, GtkWidget* widget);
 void gtk_container_remove(_GtkContainer* container, GtkWidget* widget);
+GtkWidget* gtk_grab_get_current();
+GList* gtk_menu_get_for_attach_widget(GtkWidget* widget);
 void gtk_tree_path_free(_GtkTreePath* path);
 _GtkTreePath* gtk_tree_path_new_from_indices(int first, ...);
 void gtk_tree_view_column_set_clickable(_GtkTreeViewColumn* column, int clickable);
@@ -41,6 +43,7 @@ void gtk_tree_view_set_cursor(_GtkTreeView* view, _GtkTreePath* path, _GtkTreeVi
                               int edit);
 _AtkObject* gtk_widget_get_accessible(GtkWidget* widget);
 void gtk_widget_get_allocation(GtkWidget* widget, GtkRectangle* allocation);
+int gtk_widget_get_mapped(GtkWidget* widget);
 void gtk_widget_get_preferred_size(GtkWidget* widget, GtkSizeNeeded* least, GtkSizeNeeded* natural);
 GtkWidget* gtk_widget_get_parent(GtkWidget* widget);
 GtkWidget* gtk_widget_get_toplevel(GtkWidget* widget);

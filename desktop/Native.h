@@ -61,6 +61,10 @@ void TakeLineEnds(wxTextCtrl& box);
 /// Closes the list that has dropped down; nothing when none has.
 void CloseDropDown(const wxChoice& choice);
 
+/// Lets a list that cannot drop down, because somebody else has the mouse, leave the keys and clicks to the
+/// window. That happens in a double click, while the window manager looks at its second half.
+void CloseDropDownThatFailed(const wxChoice& choice);
+
 /// Shows one character in place of each one that a password box holds.
 void SetPasswordCharacter(wxTextCtrl& box, char character);
 

@@ -60,6 +60,25 @@ void GiveSizeToPages(const wxWindow& window) {
     }
 }
 
+/// The list of a combo box; none where the user's theme has it be no menu.
+GtkWidget* ListOf(GtkWidget* comboBox) {
+    const GList* menus = gtk_menu_get_for_attach_widget(comboBox);
+    return menus == nullptr ? nullptr : static_cast<GtkWidget*>(menus->data);
+}
+
+gboolean CloseList(gpointer comboBox) {
+    gtk_combo_box_popdown(static_cast<_GtkComboBox*>(comboBox));
+    return G_SOURCE_REMOVE;
+}
+
+void CloseUnseen(GtkWidget* comboBox, gboolean /*free*/, gpointer /*unused*/) {
+    GtkWidget* holder = gtk_grab_get_current();
+    if (holder != nullptr && holder == ListOf(comboBox) && gtk_widget_get_mapped(holder) == 0) {
+        // GTK is in the midst of it; the next key or click must not get lost, though.
+        g_idle_add_full(G_PRIORITY_HIGH, CloseList, g_object_ref(comboBox), g_object_unref);
+    }
+}
+
 /// Otherwise the toolkit would show a window at once.
 bool CanAskForBorders() {
     return wxGetDisplayInfo().type == wxDisplayX11 &&
@@ -185,6 +204,15 @@ void TakeLineEnds(wxTextCtrl& /*box*/) {
 
 void CloseDropDown(const wxChoice& choice) {
     gtk_combo_box_popdown(reinterpret_cast<_GtkComboBox*>(choice.m_widget));
+}
+
+void CloseDropDownThatFailed(const wxChoice& choice) {
+    if (GtkWidget* list = ListOf(choice.m_widget)) {
+        // GTK has it take all keys and clicks even so, and complains of one that is not real yet.
+        gtk_widget_realize(list);
+    }
+    g_signal_connect_data(choice.m_widget, "grab-notify", G_CALLBACK(CloseUnseen), nullptr, nullptr,
+                          GConnectFlags{});
 }
 
 void MakeHeaderPlain(wxDataViewColumn& column) {

@@ -25,7 +25,6 @@ int gdk_window_get_origin(GdkWindow* window, int* x, int* y);
 GtkWidget* gtk_dialog_get_widget_for_response(_GtkDialog* dialog, int response);
 unsigned gtk_entry_get_invisible_char(_GtkEntry* entry);
 int gtk_entry_get_visibility(_GtkEntry* entry);
-GtkWidget* gtk_grab_get_current();
 GtkWidget* gtk_message_dialog_get_image(_GtkMessageDialog* dialog);
 int gtk_widget_get_visible(GtkWidget* widget);
 GdkWindow* gtk_widget_get_window(GtkWidget* widget);
