@@ -4,7 +4,10 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <memory>
+
+#include "platform/posix/ErrorNumber.h"
 
 namespace zy {
 namespace {
@@ -20,36 +23,102 @@ bool NameExists(const std::string& path) {
     return ::lstat(path.c_str(), &status) == 0;
 }
 
+bool IsAbsolute(std::string_view path) {
+    return !path.empty() && kSeparators.find(path.front()) != std::string_view::npos;
+}
+
+/// Takes the next name off the front of a path; empty at its end.
+std::string_view TakeName(std::string_view& path) {
+    std::string_view name;
+    do {
+        path.remove_prefix(std::min(path.find_first_not_of(kSeparators), path.size()));
+        name = path.substr(0, path.find_first_of(kSeparators));
+        path.remove_prefix(name.size());
+    } while (name == ".");
+    return name;
+}
+
+const dirent* NextEntry(DIR& folder) {
+    errno = 0;
+    return ::readdir(&folder);
+}
+
+/// What is missing is certain; what cannot be looked at is not.
+FileError Uncertainty(int errorNumber) {
+    const auto error = ToFileError(errorNumber);
+    return error == FileError::NotFound ? FileError::None : error;
+}
+
 } // namespace
 
+PathResolver::PathResolver(const CodePage& codePage, std::vector<KnownFolder> known)
+    : codePage_(codePage), text_(codePage), known_(std::move(known)) {
+    // Every path leads through the root folder, which says nothing.
+    std::erase_if(known_, [](const KnownFolder& folder) { return folder.inside.empty(); });
+}
+
 std::optional<std::string> PathResolver::Resolve(std::string_view path) const {
-    if (path.empty() || kSeparators.find(path.front()) == std::string_view::npos) {
+    if (!IsAbsolute(path)) {
         return std::nullopt;
     }
+    const auto start = StartOf(path);
     // Nearly always the path is right as it stands: then one look is enough.
     const auto exact = ResolveEach(
-        path, [this](const std::string&, std::string_view name) { return text_.NameToOutside(name); });
+        start, [this](const std::string&, std::string_view name) { return text_.NameToOutside(name); });
     if (exact && NameExists(*exact)) {
         return exact;
     }
-    return ResolveEach(
-        path, [this](const std::string& folder, std::string_view name) { return ResolveName(folder, name); });
+    return ResolveEach(start, [this](const std::string& folder, std::string_view name) {
+        return ResolveName(folder, name);
+    });
+}
+
+FileError PathResolver::Locate(std::string_view path) const {
+    auto [place, rest] = IsAbsolute(path) ? StartOf(path) : Start{};
+    for (auto name = TakeName(rest); !name.empty(); name = TakeName(rest)) {
+        const auto names = NamesIgnoringCase(place + '/', name);
+        if (names.error != 0 || names.found.empty()) {
+            return Uncertainty(names.error);
+        }
+        if (names.found.size() > 1) {
+            return FileError::Ambiguous;
+        }
+        place += '/' + names.found.front();
+    }
+    struct stat status {};
+    return Uncertainty(::stat(place.c_str(), &status) == 0 ? 0 : errno);
+}
+
+PathResolver::Start PathResolver::StartOf(std::string_view path) const {
+    Start start{.folder = "", .rest = path};
+    for (const auto& folder : known_) {
+        const auto rest = Behind(folder.inside, path);
+        const bool isExact = path.starts_with(folder.inside);
+        if (rest && (rest->size() < start.rest.size() || (isExact && rest->size() == start.rest.size()))) {
+            start = {.folder = folder.outside, .rest = *rest};
+        }
+    }
+    return start;
+}
+
+std::optional<std::string_view> PathResolver::Behind(std::string_view folder, std::string_view path) const {
+    for (auto name = TakeName(folder); !name.empty(); name = TakeName(folder)) {
+        if (codePage_.UCase(TakeName(path)) != codePage_.UCase(name)) {
+            return std::nullopt;
+        }
+    }
+    return path;
 }
 
 template <typename NameInFolder>
-std::optional<std::string> PathResolver::ResolveEach(std::string_view path,
-                                                     const NameInFolder& nameInFolder) const {
-    std::string resolved;
-    while (!path.empty()) {
-        const auto name = path.substr(0, path.find_first_of(kSeparators));
-        if (!name.empty()) {
-            const auto found = nameInFolder(resolved + '/', name);
-            if (!found) {
-                return std::nullopt;
-            }
-            resolved += '/' + *found;
+std::optional<std::string> PathResolver::ResolveEach(Start start, const NameInFolder& nameInFolder) const {
+    auto& [resolved, rest] = start;
+    for (auto name = TakeName(rest); !name.empty(); name = TakeName(rest)) {
+        const auto found = nameInFolder(resolved + '/', name);
+        if (!found) {
+            return std::nullopt;
         }
-        path.remove_prefix(std::min(name.size() + 1, path.size()));
+        resolved += '/' + *found;
     }
     return resolved.empty() ? "/" : resolved;
 }
@@ -59,22 +128,25 @@ std::optional<std::string> PathResolver::ResolveName(const std::string& folder, 
     if (exact && NameExists(folder + *exact)) {
         return exact;
     }
-    auto other = FindIgnoringCase(folder, name);
-    return other ? other : exact;
+    const auto others = NamesIgnoringCase(folder, name).found;
+    const auto first = std::min_element(others.begin(), others.end());
+    return first != others.end() ? *first : exact;
 }
 
-std::optional<std::string> PathResolver::FindIgnoringCase(const std::string& folder,
-                                                          std::string_view name) const {
+PathResolver::Names PathResolver::NamesIgnoringCase(const std::string& folder, std::string_view name) const {
     const std::unique_ptr<DIR, CloseFolder> entries(::opendir(folder.c_str()));
+    if (!entries) {
+        return {.found = {}, .error = errno};
+    }
     const auto wanted = codePage_.UCase(name);
-    std::optional<std::string> found;
-    while (const dirent* entry = entries ? ::readdir(entries.get()) : nullptr) {
-        const std::string_view candidate = entry->d_name;
-        if (codePage_.UCase(text_.NameToInside(candidate)) == wanted && (!found || candidate < *found)) {
-            found = candidate;
+    Names names;
+    while (const dirent* entry = NextEntry(*entries)) {
+        if (codePage_.UCase(text_.NameToInside(entry->d_name)) == wanted) {
+            names.found.emplace_back(entry->d_name);
         }
     }
-    return found;
+    names.error = errno;
+    return names;
 }
 
 } // namespace zy

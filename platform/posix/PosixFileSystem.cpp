@@ -36,8 +36,8 @@ FileError RenameResolved(const std::string& from, const std::string& to) {
 
 } // namespace
 
-FileError PosixFileSystem::Locate(std::string_view /*path*/) {
-    return FileError::None;
+FileError PosixFileSystem::Locate(std::string_view path) {
+    return paths_.Locate(path);
 }
 
 LockedFolder PosixFileSystem::LockFolderOf(std::string_view /*path*/) {

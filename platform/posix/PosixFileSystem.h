@@ -1,5 +1,8 @@
 #pragma once
 
+#include <utility>
+#include <vector>
+
 #include "platform/FileSystem.h"
 #include "platform/posix/PathResolver.h"
 
@@ -11,7 +14,8 @@ namespace zy {
 /// Symbolic links are followed, but Delete and Rename act on the link itself.
 class PosixFileSystem final : public FileSystem {
   public:
-    explicit PosixFileSystem(const CodePage& codePage) : paths_(codePage) {}
+    explicit PosixFileSystem(const CodePage& codePage, std::vector<KnownFolder> known = {})
+        : paths_(codePage, std::move(known)) {}
 
     FileError Locate(std::string_view path) override;
     LockedFolder LockFolderOf(std::string_view path) override;

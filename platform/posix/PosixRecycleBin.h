@@ -1,5 +1,8 @@
 #pragma once
 
+#include <utility>
+#include <vector>
+
 #include "platform/RecycleBin.h"
 #include "platform/posix/PathResolver.h"
 
@@ -9,7 +12,8 @@ namespace zy {
 /// the folder "zysetup/Trash" in the folder for the user's data.
 class PosixRecycleBin final : public RecycleBin {
   public:
-    explicit PosixRecycleBin(const CodePage& codePage) : paths_(codePage) {}
+    explicit PosixRecycleBin(const CodePage& codePage, std::vector<KnownFolder> known = {})
+        : paths_(codePage, std::move(known)) {}
 
     /// Goes on behind a file that does not go, such as a missing one or a folder.
     int Delete(std::string_view nulSeparatedPaths) override;

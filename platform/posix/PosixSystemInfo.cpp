@@ -32,14 +32,17 @@ std::filesystem::path ExecutablePath(const std::vector<std::string>& arguments) 
     return error ? asStarted : path;
 }
 
-std::string MadeDataSystemFolder() {
-    const auto data = UserDataFolder();
-    if (data.empty()) {
-        return "";
+bool IsSystemFolderNamed() {
+    return !Environment("ZYSETUP_SYSTEM_DIR").empty();
+}
+
+/// Empty when the environment names none and the user has no place for data.
+std::string SystemFolder() {
+    if (IsSystemFolderNamed()) {
+        return AbsolutePath(Environment("ZYSETUP_SYSTEM_DIR"));
     }
-    auto folder = data + "/zysetup/system";
-    MakeFolders(folder);
-    return folder;
+    const auto data = UserDataFolder();
+    return data.empty() ? "" : data + "/zysetup/system";
 }
 
 } // namespace
@@ -47,11 +50,28 @@ std::string MadeDataSystemFolder() {
 PosixSystemInfo::PosixSystemInfo(int argumentCount, const char* const* arguments, const CodePage& codePage)
     : codePage_(codePage), text_(codePage), arguments_(arguments, arguments + argumentCount),
       executableName_(text_.TextToInside(ExecutablePath(arguments_).stem().string())),
-      executableFolder_(text_.PathToInside(ExecutablePath(arguments_).parent_path().string())) {}
+      executableFolder_(ExecutablePath(arguments_).parent_path().string()) {}
 
 std::string PosixSystemInfo::SystemDirectory() {
-    const auto named = Environment("ZYSETUP_SYSTEM_DIR");
-    return text_.PathToInside(named.empty() ? MadeDataSystemFolder() : AbsolutePath(named));
+    const auto folder = SystemFolder();
+    if (!IsSystemFolderNamed() && !folder.empty()) {
+        MakeFolders(folder);
+    }
+    return text_.PathToInside(folder);
+}
+
+std::string PosixSystemInfo::ExecutableFolder() const {
+    return text_.PathToInside(executableFolder_);
+}
+
+std::vector<KnownFolder> PosixSystemInfo::KnownFolders() const {
+    std::vector<KnownFolder> folders;
+    for (const auto& folder : {SystemFolder(), executableFolder_}) {
+        if (folder.starts_with('/')) {
+            folders.push_back({.inside = text_.PathToInside(folder), .outside = folder});
+        }
+    }
+    return folders;
 }
 
 std::string PosixSystemInfo::CommandLine() const {

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "platform/SystemInfo.h"
-#include "platform/posix/PathText.h"
+#include "platform/posix/PathResolver.h"
 
 namespace zy {
 
@@ -23,10 +23,13 @@ class PosixSystemInfo final : public SystemInfo {
     /// That of the file that ran at the start, even when it has been replaced or removed meanwhile.
     std::string ExecutableName() const override { return executableName_; }
     /// The one of that file.
-    std::string ExecutableFolder() const override { return executableFolder_; }
+    std::string ExecutableFolder() const override;
     /// "." when the locale is not installed or its separator is no character of the code page.
     char DecimalSeparator() const override;
     std::chrono::year_month_day Today() const override;
+
+    /// The folders that SystemDirectory and ExecutableFolder name, without making any.
+    std::vector<KnownFolder> KnownFolders() const;
 
   private:
     const CodePage& codePage_;

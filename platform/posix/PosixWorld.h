@@ -25,10 +25,10 @@ struct PosixWorld {
     World Get(const ScreenWorld& screen);
 
     const CodePage& codePage = Windows1252();
-    PosixFileSystem files{codePage};
     PosixSystemInfo system;
+    PosixFileSystem files{codePage, system.KnownFolders()};
     PosixTraceServers traceServers{codePage};
-    PosixRecycleBin recycleBin{codePage};
+    PosixRecycleBin recycleBin{codePage, system.KnownFolders()};
     PosixRegistry registry{codePage};
     PosixShellLinks links{codePage};
 };
