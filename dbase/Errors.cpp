@@ -21,6 +21,7 @@ ErrorNumber NumberOf(FileError error, ErrorNumber ifNotFound, ErrorNumber ifDeni
         return kDiskFull;
     case FileError::IsFolder:
     case FileError::Ambiguous:
+    case FileError::LinkLoop:
         return kCannotOpen;
     case FileError::None:
     case FileError::Other:

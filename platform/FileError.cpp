@@ -22,6 +22,8 @@ std::string_view Describe(FileError error) {
         return "a folder of that name is in the way";
     case FileError::Ambiguous:
         return "names that differ by case alone stand side by side";
+    case FileError::LinkLoop:
+        return "symbolic links lead in a circle";
     case FileError::Other:
         break;
     }

@@ -15,6 +15,7 @@ enum class FileError {
     DiskFull,     ///< no space left, or a quota reached
     IsFolder,     ///< the name is a folder's
     Ambiguous,    ///< names that differ by case alone: the path could mean either
+    LinkLoop,     ///< symbolic links that lead to one another, and to no file
     Other,
 };
 

@@ -27,6 +27,8 @@ FileError ToFileError(int errorNumber) {
         return FileError::DiskFull;
     case EISDIR:
         return FileError::IsFolder;
+    case ELOOP:
+        return FileError::LinkLoop;
     default:
         return FileError::Other;
     }

@@ -73,6 +73,11 @@ std::optional<std::string> PathResolver::Resolve(std::string_view path) const {
     });
 }
 
+LinkEnd PathResolver::ResolveLinks(std::string_view path) const {
+    auto resolved = Resolve(path);
+    return resolved ? FollowLinks(std::move(*resolved)) : LinkEnd{.path = "", .error = FileError::NotFound};
+}
+
 FileError PathResolver::Locate(std::string_view path) const {
     auto [place, rest] = IsAbsolute(path) ? StartOf(path) : Start{};
     for (auto name = TakeName(rest); !name.empty(); name = TakeName(rest)) {

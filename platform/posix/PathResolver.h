@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/FileError.h"
+#include "platform/posix/Links.h"
 #include "platform/posix/PathText.h"
 
 namespace zy {
@@ -33,6 +34,10 @@ class PathResolver {
     ///
     /// Nothing when no file can have the path: it is not absolute, or a part of it can be no file's name.
     std::optional<std::string> Resolve(std::string_view path) const;
+
+    /// The same, behind the symbolic links that the path ends in: NotFound when no file can have the path,
+    /// LinkLoop when they come to no end.
+    LinkEnd ResolveLinks(std::string_view path) const;
 
     /// Whether it is certain which place the path means, as FileSystem::Locate says.
     FileError Locate(std::string_view path) const;

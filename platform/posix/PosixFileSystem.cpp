@@ -1,12 +1,11 @@
 #include "platform/posix/PosixFileSystem.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "platform/posix/ErrorNumber.h"
+#include "platform/posix/Moving.h"
 #include "platform/posix/PosixFile.h"
-#include "platform/posix/Renaming.h"
 
 namespace zy {
 namespace {
@@ -16,21 +15,11 @@ bool IsFolder(const std::string& path) {
     return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
-/// Makes a new name last. When that fails the file has its new name all the same, so nothing is reported.
-void SyncFolderOf(const std::string& path) {
-    const auto folder = path.substr(0, path.rfind('/') + 1);
-    const FileDescriptor entries(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    Uninterrupted([&] { return ::fsync(entries.Number()); });
-}
-
 FileError RenameResolved(const std::string& from, const std::string& to) {
     if (IsFolder(from)) {
         return FileError::IsFolder;
     }
-    const auto error = ToFileError(RenameWithoutReplacing(from, to));
-    if (error == FileError::None) {
-        SyncFolderOf(to);
-    }
+    const auto error = MoveWithoutReplacing(from, to);
     return error == FileError::Exists && IsFolder(to) ? FileError::IsFolder : error;
 }
 
@@ -63,29 +52,34 @@ OpenedFile PosixFileSystem::Create(std::string_view path) {
 }
 
 OpenedFile PosixFileSystem::CreatePrivate(std::string_view path) {
-    const auto resolved = paths_.Resolve(path);
-    if (!resolved) {
-        return {.handle = nullptr, .error = FileError::NotFound};
+    const auto place = paths_.ResolveLinks(path);
+    if (place.error != FileError::None) {
+        return {.handle = nullptr, .error = place.error};
     }
-    auto created = CreatePosixFile(*resolved, IfExists::Fails, For::Owner);
-    if (created.error == FileError::Exists && IsFolder(*resolved)) {
+    auto created = CreatePosixFile(place.path, IfExists::Fails, For::Owner);
+    if (created.error == FileError::Exists && IsFolder(place.path)) {
         created.error = FileError::IsFolder;
     }
     return created;
 }
 
 FileError PosixFileSystem::Delete(std::string_view path) {
-    const auto resolved = paths_.Resolve(path);
-    if (!resolved) {
-        return FileError::NotFound;
+    const auto place = paths_.ResolveLinks(path);
+    if (place.error != FileError::None) {
+        return place.error;
     }
-    return ToFileError(::unlink(resolved->c_str()) == 0 ? 0 : errno);
+    return ToFileError(::unlink(place.path.c_str()) == 0 ? 0 : errno);
 }
 
 FileError PosixFileSystem::Rename(std::string_view from, std::string_view to) {
-    const auto resolvedFrom = paths_.Resolve(from);
-    const auto resolvedTo = paths_.Resolve(to);
-    return resolvedFrom && resolvedTo ? RenameResolved(*resolvedFrom, *resolvedTo) : FileError::NotFound;
+    const auto source = paths_.ResolveLinks(from);
+    const auto target = paths_.ResolveLinks(to);
+    for (const auto error : {source.error, target.error}) {
+        if (error != FileError::None) {
+            return error;
+        }
+    }
+    return RenameResolved(source.path, target.path);
 }
 
 FileError PosixFileSystem::CopyPermissions(std::string_view from, std::string_view to) {

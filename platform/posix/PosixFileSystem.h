@@ -11,7 +11,8 @@ namespace zy {
 /// The files of the system. A path such as "\home\u\ZYRules.sys" means the file of that name below "/", found
 /// as PathResolver says; names are created with the case given.
 ///
-/// Symbolic links are followed, but Delete and Rename act on the link itself.
+/// A symbolic link stands for the file that it leads to, which may have to be made there first: whatever is
+/// done by its path, the link itself stays as it is.
 class PosixFileSystem final : public FileSystem {
   public:
     explicit PosixFileSystem(const CodePage& codePage, std::vector<KnownFolder> known = {})
@@ -24,7 +25,8 @@ class PosixFileSystem final : public FileSystem {
     OpenedFile Create(std::string_view path) override;
     OpenedFile CreatePrivate(std::string_view path) override;
     FileError Delete(std::string_view path) override;
-    /// The new name stands on the disk when this returns.
+    /// The new name stands on the disk when this returns. Where a link leads to another disk, the file moves
+    /// there as a copy, which gets its name when it is whole.
     FileError Rename(std::string_view from, std::string_view to) override;
     /// The permission bits and, as far as the user may, owner and group.
     FileError CopyPermissions(std::string_view from, std::string_view to) override;

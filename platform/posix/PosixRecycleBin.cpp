@@ -14,7 +14,7 @@ enum class Trashed { Yes, No, NotSupported };
 
 bool IsFile(const std::string& path) {
     struct stat status {};
-    return ::lstat(path.c_str(), &status) == 0 && (S_ISREG(status.st_mode) || S_ISLNK(status.st_mode));
+    return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
 Trashed MoveToDesktopTrash(const std::string& path) {
@@ -46,12 +46,12 @@ int PosixRecycleBin::Delete(std::string_view nulSeparatedPaths) {
 }
 
 bool PosixRecycleBin::Recycle(std::string_view path) const {
-    const auto resolved = paths_.Resolve(path);
-    if (!resolved || !IsFile(*resolved)) {
+    const auto file = paths_.ResolveLinks(path).path;
+    if (!IsFile(file)) {
         return false;
     }
-    const auto trashed = MoveToDesktopTrash(*resolved);
-    return trashed == Trashed::Yes || (trashed == Trashed::NotSupported && MoveToOwnTrash(*resolved));
+    const auto trashed = MoveToDesktopTrash(file);
+    return trashed == Trashed::Yes || (trashed == Trashed::NotSupported && MoveToOwnTrash(file));
 }
 
 } // namespace zy

@@ -9,7 +9,8 @@
 namespace zy {
 
 /// The desktop's trash, from which a file manager can restore files. Files on a disk that has none go into
-/// the folder "zysetup/Trash" in the folder for the user's data.
+/// the folder "zysetup/Trash" in the folder for the user's data. Of a symbolic link the file goes that it
+/// leads to, and the link stays.
 class PosixRecycleBin final : public RecycleBin {
   public:
     explicit PosixRecycleBin(const CodePage& codePage, std::vector<KnownFolder> known = {})

@@ -45,6 +45,8 @@ FileError ToFileError(unsigned long errorCode) {
     case kQuotaExceeded:
     case ERROR_FILE_TOO_LARGE:
         return FileError::DiskFull;
+    case ERROR_CANT_RESOLVE_FILENAME:
+        return FileError::LinkLoop;
     default:
         return FileError::Other;
     }

@@ -23,6 +23,7 @@ TEST(ErrorCode, SaysWhatTheUserCanDoAboutIt) {
     EXPECT_EQ(ToFileError(ERROR_DISK_FULL), FileError::DiskFull);
     EXPECT_EQ(ToFileError(ERROR_HANDLE_DISK_FULL), FileError::DiskFull);
     EXPECT_EQ(ToFileError(1295), FileError::DiskFull) << "the user's quota is reached";
+    EXPECT_EQ(ToFileError(ERROR_CANT_RESOLVE_FILENAME), FileError::LinkLoop);
     EXPECT_EQ(ToFileError(ERROR_CRC), FileError::Other);
     EXPECT_EQ(ToFileError(ERROR_INVALID_HANDLE), FileError::Other);
 }

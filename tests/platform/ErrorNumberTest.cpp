@@ -15,7 +15,7 @@ TEST(ToFileErrorTest, SaysWhatEachErrorNumberMeansToTheUser) {
         {EROFS, FileError::ReadOnly},  {EBUSY, FileError::InUse},         {ETXTBSY, FileError::InUse},
         {ENOSPC, FileError::DiskFull}, {EDQUOT, FileError::DiskFull},     {EFBIG, FileError::DiskFull},
         {EISDIR, FileError::IsFolder}, {EIO, FileError::Other},           {ENAMETOOLONG, FileError::Other},
-        {ELOOP, FileError::Other}};
+        {ELOOP, FileError::LinkLoop}};
     for (const auto& [number, error] : kMeanings) {
         EXPECT_EQ(ToFileError(number), error) << number;
     }

@@ -131,19 +131,86 @@ TEST_F(PosixFileSystemTest, DoesNotFindALinkThatLeadsNowhere) {
     EXPECT_EQ(files.OpenForReading(Path("link.sys")).error, FileError::NotFound);
 }
 
-TEST_F(PosixFileSystemTest, DeletesALinkAndNotItsTarget) {
-    folder.Put("target.sys", "kept");
+TEST_F(PosixFileSystemTest, DeletesTheFileThatALinkLeadsToAndLeavesTheLink) {
+    folder.Put("target.sys", "");
     fs::create_symlink("target.sys", folder.Path("link.sys"));
-    EXPECT_EQ(files.Delete(Path("link.sys")), FileError::None);
-    EXPECT_FALSE(fs::is_symlink(folder.Path("link.sys")));
-    EXPECT_THAT(folder.Get("target.sys"), Optional("kept"s));
+    EXPECT_EQ(files.Delete(Path("LINK.SYS")), FileError::None);
+    EXPECT_TRUE(fs::is_symlink(folder.Path("link.sys")));
+    EXPECT_FALSE(fs::exists(folder.Path("target.sys")));
+    EXPECT_EQ(files.Delete(Path("link.sys")), FileError::NotFound);
+    EXPECT_TRUE(fs::is_symlink(folder.Path("link.sys")));
 }
 
-TEST_F(PosixFileSystemTest, DoesNotReplaceALinkByRenaming) {
-    folder.Put("a.sys", "");
-    fs::create_symlink("nowhere", folder.Path("link.sys"));
-    EXPECT_EQ(files.Rename(Path("a.sys"), Path("LINK.sys")), FileError::Exists);
+TEST_F(PosixFileSystemTest, PutsARenamedFileWhereALinkLeads) {
+    folder.Put("a.sys", "new");
+    folder.AddFolder("shared");
+    fs::create_symlink("shared/target.sys", folder.Path("link.sys"));
+    EXPECT_EQ(files.Rename(Path("a.sys"), Path("LINK.sys")), FileError::None);
     EXPECT_TRUE(fs::is_symlink(folder.Path("link.sys")));
+    EXPECT_THAT(folder.Get("shared/target.sys"), Optional("new"s));
+    EXPECT_FALSE(fs::exists(folder.Path("a.sys")));
+}
+
+TEST_F(PosixFileSystemTest, NeverReplacesTheFileThatALinkLeadsToByRenaming) {
+    folder.Put("a.sys", "new");
+    folder.Put("target.sys", "old");
+    fs::create_symlink("target.sys", folder.Path("link.sys"));
+    EXPECT_EQ(files.Rename(Path("a.sys"), Path("link.sys")), FileError::Exists);
+    EXPECT_THAT(folder.Get("a.sys"), Optional("new"s));
+    EXPECT_THAT(folder.Get("target.sys"), Optional("old"s));
+}
+
+TEST_F(PosixFileSystemTest, RenamesTheFileThatALinkLeadsTo) {
+    folder.Put("target.sys", "bytes");
+    fs::create_symlink("target.sys", folder.Path("link.sys"));
+    EXPECT_EQ(files.Rename(Path("link.sys"), Path("b.sys")), FileError::None);
+    EXPECT_THAT(folder.Names(), ElementsAre("b.sys"));
+    EXPECT_TRUE(fs::is_symlink(folder.Path("link.sys")));
+}
+
+TEST_F(PosixFileSystemTest, CreatesAFileForItsOwnerWhereALinkLeadsUnlessOneIsThere) {
+    fs::create_symlink("target.sys", folder.Path("link.sys"));
+    EXPECT_EQ(files.CreatePrivate(Path("link.sys")).error, FileError::None);
+    EXPECT_THAT(folder.Names(), ElementsAre("link.sys", "target.sys"));
+    EXPECT_EQ(Mode("target.sys"), 0600U);
+    EXPECT_EQ(files.CreatePrivate(Path("link.sys")).error, FileError::Exists);
+}
+
+TEST_F(PosixFileSystemTest, SaysThatLinksLeadInACircle) {
+    folder.Put("a.sys", "");
+    fs::create_symlink("link.sys", folder.Path("link.sys"));
+    EXPECT_FALSE(files.Exists(Path("link.sys")));
+    EXPECT_EQ(files.OpenForReading(Path("link.sys")).error, FileError::LinkLoop);
+    EXPECT_EQ(files.Create(Path("link.sys")).error, FileError::LinkLoop);
+    EXPECT_EQ(files.CreatePrivate(Path("link.sys")).error, FileError::LinkLoop);
+    EXPECT_EQ(files.Delete(Path("link.sys")), FileError::LinkLoop);
+    EXPECT_EQ(files.Rename(Path("link.sys"), Path("b.sys")), FileError::LinkLoop);
+    EXPECT_EQ(files.Rename(Path("a.sys"), Path("link.sys")), FileError::LinkLoop);
+    EXPECT_TRUE(fs::is_symlink(folder.Path("link.sys")));
+}
+
+/// Replaces a file through a temporary one beside it, in the steps of a save. Returns the last step's error.
+FileError ReplaceBySteps(FileSystem& files, const std::string& path, const std::string& temporary) {
+    EXPECT_EQ(WriteAndClose(*files.Create(temporary).handle, "new"), FileError::None);
+    EXPECT_EQ(files.CopyPermissions(path, temporary), FileError::None);
+    EXPECT_EQ(files.Delete(path), FileError::None);
+    return files.Rename(temporary, path);
+}
+
+TEST_F(PosixFileSystemTest, ReplacesTheFileThatALinkLeadsToInTheStepsOfASave) {
+    for (const char* disk : {"/tmp", "/dev/shm"}) {
+        const TemporaryFolder shared(disk);
+        shared.Put("shared.sys", "old");
+        ::chmod(shared.Path("shared.sys").c_str(), 0664);
+        fs::create_symlink(shared.Path("shared.sys"), folder.Path("ZYRules.sys"));
+        EXPECT_EQ(ReplaceBySteps(files, Path("ZYRules.sys"), Path("Rules.tmp")), FileError::None) << disk;
+        EXPECT_EQ(fs::read_symlink(folder.Path("ZYRules.sys")), shared.Path("shared.sys"));
+        EXPECT_THAT(shared.Get("shared.sys"), Optional("new"s));
+        EXPECT_THAT(shared.Names(), ElementsAre("shared.sys"));
+        EXPECT_THAT(folder.Names(), ElementsAre("ZYRules.sys"));
+        EXPECT_EQ(Mode("ZYRules.sys"), 0664U);
+        fs::remove(folder.Path("ZYRules.sys"));
+    }
 }
 
 TEST_F(PosixFileSystemTest, CreatesANameThatTheCodePageCannotExpress) {

@@ -44,13 +44,34 @@ TEST_F(PosixRecycleBinTest, KeepsFilesOfADiskWithoutATrashInAFolderOfItsOwn) {
     EXPECT_THAT(RecyclePlaces::BytesInDesktopTrash(), IsEmpty());
 }
 
-TEST_F(PosixRecycleBinTest, RecyclesALinkAndNotItsTarget) {
+TEST_F(PosixRecycleBinTest, RecyclesTheFileThatALinkLeadsToAndLeavesTheLink) {
     const TemporaryFolder folder(RecyclePlaces::Home());
-    folder.Put("target.dbf", "kept");
-    fs::create_symlink(folder.Path("target.dbf"), folder.Path("link.dbf"));
+    folder.Put("target.dbf", "users");
+    fs::create_symlink("target.dbf", folder.Path("link.dbf"));
     EXPECT_EQ(Recycle(folder, "link.dbf"), 0);
-    EXPECT_FALSE(fs::is_symlink(folder.Path("link.dbf")));
-    EXPECT_THAT(folder.Get("target.dbf"), Optional("kept"s));
+    EXPECT_TRUE(fs::is_symlink(folder.Path("link.dbf")));
+    EXPECT_THAT(folder.Names(), IsEmpty());
+    EXPECT_THAT(RecyclePlaces::BytesInDesktopTrash(), ElementsAre("users"));
+}
+
+TEST_F(PosixRecycleBinTest, RecyclesTheFileThatALinkLeadsToOnADiskWithoutATrash) {
+    const TemporaryFolder folder(RecyclePlaces::Home());
+    const TemporaryFolder shared("/dev/shm");
+    shared.Put("target.dbf", "users");
+    fs::create_symlink(shared.Path("target.dbf"), folder.Path("link.dbf"));
+    EXPECT_EQ(Recycle(folder, "link.dbf"), 0);
+    EXPECT_TRUE(fs::is_symlink(folder.Path("link.dbf")));
+    EXPECT_THAT(shared.Names(), IsEmpty());
+    EXPECT_THAT(RecyclePlaces::BytesInOwnTrash(), ElementsAre("users"));
+}
+
+TEST_F(PosixRecycleBinTest, RecyclesNothingByALinkThatLeadsToNoFile) {
+    const TemporaryFolder folder(RecyclePlaces::Home());
+    fs::create_symlink("nowhere", folder.Path("link.dbf"));
+    fs::create_symlink("circle.dbf", folder.Path("circle.dbf"));
+    EXPECT_NE(Recycle(folder, "link.dbf"), 0);
+    EXPECT_NE(Recycle(folder, "circle.dbf"), 0);
+    EXPECT_TRUE(fs::is_symlink(folder.Path("link.dbf")));
 }
 
 TEST_F(PosixRecycleBinTest, RecyclesNothingByAPathThatIsNone) {
