@@ -61,8 +61,8 @@ class FileSystem {
     /// program was started with are certain as they are.
     virtual FileError Locate(std::string_view path) = 0;
     /// Holds the folder that the file of this path stands in, against other programs that ask for the same;
-    /// waits up to two seconds for one that holds it already, and then gives InUse. It keeps nobody from
-    /// working with the files who does not ask.
+    /// waits up to two seconds for one that holds it already, this one included, and then gives InUse. It
+    /// keeps nobody from working with the files who does not ask.
     virtual LockedFolder LockFolderOf(std::string_view path) = 0;
 
     /// A directory search for a normal file of exactly that name; a folder of the name is not found.

@@ -110,15 +110,16 @@ class MemoryFileSystem::Handle final : public FileHandle {
 
 class MemoryFileSystem::Lock final : public FolderLock {
   public:
-    Lock(std::multiset<std::string>& locked, std::string folder)
-        : locked_(locked), place_(locked.insert(std::move(folder))) {}
-    ~Lock() override { locked_.erase(place_); }
+    Lock(std::set<std::string>& locked, std::string folder) : locked_(locked), folder_(std::move(folder)) {
+        locked_.insert(folder_);
+    }
+    ~Lock() override { locked_.erase(folder_); }
     Lock(const Lock&) = delete;
     Lock& operator=(const Lock&) = delete;
 
   private:
-    std::multiset<std::string>& locked_;
-    std::multiset<std::string>::iterator place_;
+    std::set<std::string>& locked_;
+    std::string folder_;
 };
 
 FileError MemoryFileSystem::Locate(std::string_view path) {
@@ -131,11 +132,14 @@ FileError MemoryFileSystem::Locate(std::string_view path) {
 }
 
 LockedFolder MemoryFileSystem::LockFolderOf(std::string_view path) {
-    auto folder = FolderPart(Key(path)).value_or("");
-    if (lockedByOthers_.contains(folder)) {
+    auto folder = FolderPart(Key(path));
+    if (!folder || !IsFolder(*folder) || path.find('\0') != std::string_view::npos) {
+        return {};
+    }
+    if (lockedByOthers_.contains(*folder) || locked_.contains(*folder)) {
         return {.lock = nullptr, .error = FileError::InUse};
     }
-    return {.lock = std::make_unique<Lock>(locked_, std::move(folder)), .error = FileError::None};
+    return {.lock = std::make_unique<Lock>(locked_, std::move(*folder)), .error = FileError::None};
 }
 
 void MemoryFileSystem::SetUncertain(std::string_view path, FileError error) {

@@ -73,10 +73,10 @@ class MemoryFileSystem final : public FileSystem {
 
     /// What Locate says of every path below this folder, or of this path itself; None takes it back.
     void SetUncertain(std::string_view path, FileError error);
-    /// Another program holds the folder for a save of its own: LockFolderOf gives InUse at once.
+    /// Another program holds the folder for a save of its own: LockFolderOf gives InUse, without waiting.
     void SetFolderLocked(std::string_view folder, bool locked = true);
     /// The folders that are held by this program now, in capitals.
-    const std::multiset<std::string>& LockedFolders() const { return locked_; }
+    const std::set<std::string>& LockedFolders() const { return locked_; }
 
     /// The bytes that all files together may have; a Write that does not fit writes the part that does and
     /// returns DiskFull. Nothing: no limit. Put is not limited.
@@ -123,7 +123,7 @@ class MemoryFileSystem final : public FileSystem {
     std::set<std::string> unreadable_;
     std::map<std::string, FileError> uncertain_;
     std::set<std::string> lockedByOthers_;
-    std::multiset<std::string> locked_;
+    std::set<std::string> locked_;
     std::optional<std::uint64_t> capacity_;
     OperationLog operations_;
 };

@@ -6,6 +6,7 @@
 #include "platform/posix/ErrorNumber.h"
 #include "platform/posix/Moving.h"
 #include "platform/posix/PosixFile.h"
+#include "platform/posix/PosixFolderLock.h"
 
 namespace zy {
 namespace {
@@ -29,8 +30,9 @@ FileError PosixFileSystem::Locate(std::string_view path) {
     return paths_.Locate(path);
 }
 
-LockedFolder PosixFileSystem::LockFolderOf(std::string_view /*path*/) {
-    return {};
+LockedFolder PosixFileSystem::LockFolderOf(std::string_view path) {
+    const auto place = paths_.ResolveLinks(path);
+    return place.error == FileError::None ? LockPosixFolder(FolderOfPath(place.path)) : LockedFolder{};
 }
 
 bool PosixFileSystem::Exists(std::string_view path) {

@@ -19,6 +19,7 @@ class PosixFileSystem final : public FileSystem {
         : paths_(codePage, std::move(known)) {}
 
     FileError Locate(std::string_view path) override;
+    /// Behind links the folder that the file really stands in, so that those who share it keep apart.
     LockedFolder LockFolderOf(std::string_view path) override;
     bool Exists(std::string_view path) override;
     OpenedFile OpenForReading(std::string_view path) override;

@@ -6,6 +6,7 @@
 #include "platform/windows/FilePermissions.h"
 #include "platform/windows/RootedPath.h"
 #include "platform/windows/WindowsFile.h"
+#include "platform/windows/WindowsFolderLock.h"
 
 namespace zy {
 namespace {
@@ -22,15 +23,32 @@ bool HasWildcard(std::string_view path) {
     return path.find_first_of("*?<>\"") != std::string_view::npos;
 }
 
+/// Looks for the one entry of that path; returns 0 or the error code.
+DWORD Find(const std::string& path, WIN32_FIND_DATAA& found) {
+    const HANDLE search = ::FindFirstFileA(path.c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) {
+        return ::GetLastError();
+    }
+    ::FindClose(search);
+    return ERROR_SUCCESS;
+}
+
 bool FindsNormalFile(const std::string& path) {
     constexpr DWORD kNotNormal = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
     WIN32_FIND_DATAA found{};
-    const HANDLE search = ::FindFirstFileA(path.c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) {
-        return false;
-    }
-    ::FindClose(search);
-    return (found.dwFileAttributes & kNotNormal) == 0;
+    return Find(path, found) == ERROR_SUCCESS && (found.dwFileAttributes & kNotNormal) == 0;
+}
+
+/// No two names differ by case alone here; but what cannot be looked for may be missing or not.
+FileError Uncertainty(const std::string& path) {
+    WIN32_FIND_DATAA found{};
+    const auto error = ToFileError(Find(path, found));
+    return error == FileError::NotFound ? FileError::None : error;
+}
+
+/// With its separator at the end.
+std::string FolderPart(const std::string& path) {
+    return path.substr(0, path.find_last_of("\\/") + 1);
 }
 
 FileError DeleteRooted(const std::string& path) {
@@ -52,12 +70,14 @@ FileError RenameRooted(const std::string& from, const std::string& to) {
 
 } // namespace
 
-FileError WindowsFileSystem::Locate(std::string_view /*path*/) {
-    return FileError::None;
+FileError WindowsFileSystem::Locate(std::string_view path) {
+    const auto rooted = RootedPath(path);
+    return rooted && !HasWildcard(*rooted) ? Uncertainty(*rooted) : FileError::None;
 }
 
-LockedFolder WindowsFileSystem::LockFolderOf(std::string_view /*path*/) {
-    return {};
+LockedFolder WindowsFileSystem::LockFolderOf(std::string_view path) {
+    const auto rooted = RootedPath(path);
+    return rooted ? LockWindowsFolder(FolderPart(*rooted)) : LockedFolder{};
 }
 
 bool WindowsFileSystem::Exists(std::string_view path) {

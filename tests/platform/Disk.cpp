@@ -30,6 +30,15 @@ class MemoryDisk final : public Disk {
         files_.SetFolderReadOnly(Folder());
         return true;
     }
+    void HoldFolder(bool held) override { files_.SetFolderLocked(Folder(), held); }
+    bool HideNames() override {
+        files_.SetUncertain(Folder(), FileError::AccessDenied);
+        return true;
+    }
+    bool PutTwins(std::string_view name) override {
+        files_.SetUncertain(Path(name), FileError::Ambiguous);
+        return true;
+    }
     bool LimitTo(unsigned bytes) override {
         files_.SetCapacity(bytes);
         return true;

@@ -34,12 +34,19 @@ class Disk {
     virtual void SetPermissions(std::string_view name, unsigned permissions) = 0;
     virtual std::optional<unsigned> Permissions(std::string_view name) const = 0;
 
+    /// Lets another program hold the folder for a save, or let go of it.
+    virtual void HoldFolder(bool held) = 0;
+
     // These say false, and change nothing, where the system of the tests does not let itself be set so.
 
     /// From here on the user may not read the file.
     [[nodiscard]] virtual bool ForbidReading(std::string_view name) = 0;
     /// From here on the user may not change the folder.
     [[nodiscard]] virtual bool ForbidChanges() = 0;
+    /// From here on the user may not look up which names the folder holds.
+    [[nodiscard]] virtual bool HideNames() = 0;
+    /// Makes a name mean two files that differ by case alone.
+    [[nodiscard]] virtual bool PutTwins(std::string_view name) = 0;
     /// From here on no file gets beyond that many bytes.
     [[nodiscard]] virtual bool LimitTo(unsigned bytes) = 0;
 };

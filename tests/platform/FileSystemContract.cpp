@@ -426,6 +426,88 @@ TEST_P(FileSystemContract, DeletesAndRenamesNothingInAFolderThatTheUserMayNotCha
     EXPECT_THAT(disk->Get("a.sys"), Optional("old"s));
 }
 
+// Certainty about a path
+
+TEST_P(FileSystemContract, IsCertainWhereAFileIsAndWhereNoneIs) {
+    disk->AddFolder("folder");
+    disk->Put("a.sys", "");
+    for (const auto& path : {disk->Path("A.SYS"), disk->Path("missing.sys"), disk->Path("FOLDER"),
+                             disk->Path(R"(missing\a.sys)"), disk->Path(R"(a.sys\b.sys)"), disk->Folder(),
+                             "a.sys"s, disk->Path("a\0.sys"s), ""s}) {
+        EXPECT_EQ(Files().Locate(path), FileError::None) << path;
+    }
+}
+
+TEST_P(FileSystemContract, DoubtsANameThatTwoFilesHaveButForCase) {
+    if (!disk->PutTwins("a.sys")) {
+        GTEST_SKIP() << "On this system names differ by more than case.";
+    }
+    disk->Put("b.sys", "");
+    EXPECT_EQ(Files().Locate(disk->Path("a.sys")), FileError::Ambiguous);
+    EXPECT_EQ(Files().Locate(disk->Path("A.SYS")), FileError::Ambiguous);
+    EXPECT_EQ(Files().Locate(disk->Path("b.sys")), FileError::None);
+}
+
+TEST_P(FileSystemContract, CannotTellWhatAFolderHoldsThatHidesItsNames) {
+    disk->Put("a.sys", "");
+    if (!disk->HideNames()) {
+        GTEST_SKIP() << kBound;
+    }
+    EXPECT_EQ(Files().Locate(disk->Path("a.sys")), FileError::AccessDenied);
+    EXPECT_EQ(Files().Locate(disk->Path("missing.sys")), FileError::AccessDenied);
+}
+
+// Holding a folder
+
+TEST_P(FileSystemContract, HoldsAFolderForAllItsFilesUntilTheLockGoes) {
+    auto held = Files().LockFolderOf(disk->Path("a.sys"));
+    EXPECT_TRUE(held.lock);
+    EXPECT_EQ(held.error, FileError::None);
+    const auto second = Files().LockFolderOf(disk->Path("B.SYS"));
+    EXPECT_FALSE(second.lock);
+    EXPECT_EQ(second.error, FileError::InUse);
+    held.lock.reset();
+    EXPECT_TRUE(Files().LockFolderOf(disk->Path("B.SYS")).lock);
+}
+
+TEST_P(FileSystemContract, DoesNotHoldAFolderThatAnotherProgramHolds) {
+    disk->HoldFolder(true);
+    const auto refused = Files().LockFolderOf(disk->Path("a.sys"));
+    EXPECT_FALSE(refused.lock);
+    EXPECT_EQ(refused.error, FileError::InUse);
+    disk->HoldFolder(false);
+    EXPECT_TRUE(Files().LockFolderOf(disk->Path("a.sys")).lock);
+}
+
+TEST_P(FileSystemContract, HoldsTheFilesOwnFolderAndNoOther) {
+    disk->AddFolder("folder");
+    const auto outer = Files().LockFolderOf(disk->Path("folder"));
+    const auto inner = Files().LockFolderOf(disk->Path(R"(FOLDER\a.sys)"));
+    EXPECT_TRUE(outer.lock);
+    EXPECT_TRUE(inner.lock);
+}
+
+TEST_P(FileSystemContract, LetsTheFilesOfAHeldFolderBeWorkedWith) {
+    disk->Put("a.sys", "12345");
+    disk->HoldFolder(true);
+    EXPECT_EQ(ReadAll("a.sys"), "12345");
+    EXPECT_EQ(Created("b.sys")->Write("x"), FileError::None);
+    EXPECT_EQ(Files().Rename(disk->Path("b.sys"), disk->Path("c.sys")), FileError::None);
+    EXPECT_EQ(Files().Delete(disk->Path("a.sys")), FileError::None);
+    disk->HoldFolder(false);
+    EXPECT_THAT(disk->Names(), ElementsAre("c.sys"));
+}
+
+TEST_P(FileSystemContract, NeitherHoldsNorComplainsOfAFolderThatIsNone) {
+    disk->Put("a.sys", "");
+    for (const auto& path : {disk->Path(R"(missing\a.sys)"), disk->Path(R"(a.sys\b.sys)"), "a.sys"s,
+                             disk->Path("a\0.sys"s), ""s}) {
+        const auto held = Files().LockFolderOf(path);
+        EXPECT_FALSE(held.lock) << path;
+        EXPECT_EQ(held.error, FileError::None) << path;
+    }
+}
+
 // The steps of a save
 
 TEST_P(FileSystemContract, PutsANewFileInPlaceOfAnOldOneWithItsPermissions) {

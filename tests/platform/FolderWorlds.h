@@ -29,12 +29,16 @@ class FolderDisk : public Disk {
         }
         return names;
     }
+    void HoldFolder(bool held) override {
+        held_ = held ? SystemFiles()->LockFolderOf(Path("another's")).lock : nullptr;
+    }
 
   protected:
     const TemporaryFolder& RealFolder() const { return folder_; }
 
   private:
     TemporaryFolder folder_;
+    std::unique_ptr<FolderLock> held_;
 };
 
 class FolderBin : public Bin {

@@ -117,6 +117,50 @@ TEST_F(MemoryFileSystemTest, MakesAFolderWritableAgain) {
     EXPECT_EQ(disk.Create(R"(\SYS\a.sys)").error, FileError::None);
 }
 
+TEST_F(MemoryFileSystemTest, IsUncertainOfAllThatIsBelowAFolderUntilThatIsTakenBack) {
+    disk.SetUncertain(R"(C:\Sys)", FileError::AccessDenied);
+    EXPECT_EQ(disk.Locate(R"(C:\SYS\deep\a.sys)"), FileError::AccessDenied);
+    EXPECT_EQ(disk.Locate(R"(c:/sys)"), FileError::AccessDenied);
+    EXPECT_EQ(disk.Locate(R"(C:\SYSTEM\a.sys)"), FileError::None);
+    disk.SetUncertain(R"(c:\sys)", FileError::None);
+    EXPECT_EQ(disk.Locate(R"(C:\SYS\deep\a.sys)"), FileError::None);
+}
+
+TEST_F(MemoryFileSystemTest, IsUncertainInTheWayThatIsSaidOfThePlaceFurthestDown) {
+    disk.SetUncertain(R"(C:\SYS)", FileError::AccessDenied);
+    disk.SetUncertain(R"(C:\SYS\a.sys)", FileError::Ambiguous);
+    EXPECT_EQ(disk.Locate(R"(C:\SYS\A.SYS)"), FileError::Ambiguous);
+    EXPECT_EQ(disk.Locate(R"(C:\SYS\B.SYS)"), FileError::AccessDenied);
+}
+
+TEST_F(MemoryFileSystemTest, RefusesAFolderThatAnotherProgramHolds) {
+    disk.AddFolder(R"(C:\Sys)");
+    disk.SetFolderLocked(R"(c:\sys\)");
+    EXPECT_EQ(disk.LockFolderOf(R"(C:\SYS\a.sys)").error, FileError::InUse);
+    EXPECT_THAT(disk.LockedFolders(), IsEmpty());
+    disk.SetFolderLocked(R"(C:\SYS)", false);
+    EXPECT_TRUE(disk.LockFolderOf(R"(C:\SYS\a.sys)").lock);
+}
+
+TEST_F(MemoryFileSystemTest, TellsWhichFoldersAreHeldNow) {
+    disk.AddFolder(R"(C:\Sys)");
+    disk.AddFolder(R"(D:\Data)");
+    {
+        const auto first = disk.LockFolderOf(R"(C:\Sys\a.sys)");
+        const auto second = disk.LockFolderOf(R"(D:\Data\a.sys)");
+        EXPECT_THAT(disk.LockedFolders(), ElementsAre(R"(C:\SYS)", R"(D:\DATA)"));
+    }
+    EXPECT_THAT(disk.LockedFolders(), IsEmpty());
+}
+
+TEST_F(MemoryFileSystemTest, CountsNeitherLocatingNorLockingAsAnOperation) {
+    disk.AddFolder(R"(C:\Sys)");
+    disk.Locate(R"(C:\Sys\a.sys)");
+    disk.LockFolderOf(R"(C:\Sys\a.sys)");
+    EXPECT_EQ(disk.Operations().Count(), 0U);
+    EXPECT_THAT(disk.Operations().Lines(), IsEmpty());
+}
+
 TEST_F(MemoryFileSystemTest, CountsTheBytesOfAllFilesAgainstTheCapacity) {
     disk.Put(R"(\a.sys)", "12345");
     disk.SetCapacity(7);

@@ -42,6 +42,16 @@ class PosixDisk final : public FolderDisk {
         user_.emplace(RealFolder().Path());
         return true;
     }
+    bool HideNames() override {
+        ::chmod(RealFolder().Path().c_str(), 0311);
+        user_.emplace(RealFolder().Path());
+        return true;
+    }
+    bool PutTwins(std::string_view name) override {
+        Put(name, "");
+        Put(Windows1252().UCase(name), "");
+        return true;
+    }
     bool LimitTo(unsigned bytes) override {
         limit_.emplace(bytes);
         return true;

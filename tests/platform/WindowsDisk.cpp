@@ -54,6 +54,17 @@ class WindowsDisk final : public FolderDisk {
         EXPECT_TRUE(SetAccess(Folder(), "FRFX", ""));
         return !CanOpen(Path("probe"), GENERIC_WRITE | DELETE, CREATE_NEW, FILE_FLAG_DELETE_ON_CLOSE);
     }
+    bool HideNames() override {
+        EXPECT_TRUE(SetAccess(Folder(), "FWFX", ""));
+        WIN32_FIND_DATAA found{};
+        const HANDLE search = ::FindFirstFileA(Path("*").c_str(), &found);
+        const bool isSeen = search != INVALID_HANDLE_VALUE;
+        if (isSeen) {
+            ::FindClose(search);
+        }
+        return !isSeen;
+    }
+    bool PutTwins(std::string_view /*name*/) override { return false; }
     bool LimitTo(unsigned /*bytes*/) override { return false; }
 
   private:
