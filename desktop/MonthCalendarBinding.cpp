@@ -28,6 +28,7 @@ MonthCalendarBinding::MonthCalendarBinding(const ViewContext& context, const Ins
                                               wxCAL_SHOW_SURROUNDING_WEEKS | wxBORDER_THEME)) {
     calendar_->Bind(wxEVT_LEFT_UP, [this](wxMouseEvent& event) { PressMouse(event); });
     calendar_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { PressKey(event); });
+    calendar_->SetDateRange(ShownDay(model.First()), ShownDay(model.Last()));
     Keep(model_.valueChanged.Observe([this] { ShowValue(); }));
     calendar_->SetHeaderColours(wxSystemSettings::GetColour(wxSYS_COLOUR_GRAYTEXT),
                                 wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW));

@@ -7,7 +7,8 @@
 namespace zy {
 
 frmDatePicker::frmDatePicker(TraceChannel& trace, const World& world)
-    : Form("frmDatePicker"), dpZYSecurity(this, "dpZYSecurity", "Expiry Date"),
+    : Form("frmDatePicker"),
+      dpZYSecurity(this, "dpZYSecurity", "Expiry Date", kFirstShortDate, kLastShortDate),
       cmdClear(this, "cmdClear", "Clear", 'C'), cmdcancel(this, "cmdcancel", "Cancel"), trace_(trace),
       world_(world) {
     SetCaption("Expiry Date");

@@ -11,7 +11,8 @@
 
 namespace zy {
 
-/// The calendar from which the expiry date of a user is picked.
+/// The calendar from which the expiry date of a user is picked. It offers the dates that a year of two digits
+/// can mean.
 class frmDatePicker : public Form {
   public:
     frmDatePicker(TraceChannel& trace, const World& world);

@@ -17,12 +17,17 @@ constexpr auto kDialog = "frmDatePicker";
 class CalendarWindow : public UsersWindow {
   protected:
     CalendarWindow() {
-        auto users = TwoUsers();
-        users[1].EXPDATE = "26-02-28";
-        PutUsers(users);
+        PutDate("26-02-28");
         world.system.SetToday(2027y / 3 / 9);
     }
 
+    /// Makes this the expiry date of the second user.
+    void PutDate(const std::string& date) {
+        auto users = TwoUsers();
+        users[1].EXPDATE = date;
+        world.files.Take(R"(C:\SYS\ZYSECURE.DBF)");
+        PutUsers(users);
+    }
     /// Opens the calendar by the button of a cell.
     void OpenCalendar(int row) {
         OpenEditor(row, kExpiryDate);
@@ -103,6 +108,28 @@ TEST_F(CalendarWindow, ADayIsPickedByKeyboardAlone) {
         Press(WXK_DOWN);
         Press(WXK_RETURN);
         ExpectClosedWith("26-03-08");
+    });
+}
+
+TEST_F(CalendarWindow, KeysEndAtTheLastYearThatTwoDigitsCanMean) {
+    PutDate("49-12-30");
+    Play([&] {
+        OpenCalendar(2);
+        for (const int key : {WXK_RIGHT, WXK_RIGHT, WXK_DOWN, WXK_PAGEDOWN, WXK_RETURN}) {
+            Press(key);
+        }
+        ExpectClosedWith("49-12-31");
+    });
+}
+
+TEST_F(CalendarWindow, KeysEndAtTheFirstYearThatTwoDigitsCanMean) {
+    PutDate("50-01-02");
+    Play([&] {
+        OpenCalendar(2);
+        for (const int key : {WXK_LEFT, WXK_LEFT, WXK_UP, WXK_PAGEUP, WXK_RETURN}) {
+            Press(key);
+        }
+        ExpectClosedWith("50-01-01");
     });
 }
 

@@ -43,6 +43,31 @@ TEST_F(DatePicker, ShowsTodayWhenTheCellHoldsNoDateOfItsShape) {
     }
 }
 
+TEST_F(DatePicker, OffersTheDatesThatTwoDigitsOfAYearCanMean) {
+    grid().SetText(2, kExpiryDate, "26-02-28");
+    OpenCalendar([&](frmDatePicker& picker) {
+        auto& calendar = picker.dpZYSecurity;
+        EXPECT_EQ(calendar.First(), 1950y / 1 / 1);
+        EXPECT_EQ(calendar.Last(), 2049y / 12 / 31);
+        calendar.Pick(2050y / 1 / 1);
+        calendar.Pick(1949y / 12 / 31);
+        EXPECT_TRUE(picker.Visible());
+        EXPECT_EQ(grid().Text(2, kExpiryDate), "26-02-28");
+        calendar.Pick(2049y / 12 / 31);
+        EXPECT_FALSE(picker.Visible());
+    });
+    EXPECT_EQ(grid().Text(2, kExpiryDate), "49-12-31");
+    OpenCalendar([&](frmDatePicker& picker) { picker.dpZYSecurity.Pick(1950y / 1 / 1); });
+    EXPECT_EQ(grid().Text(2, kExpiryDate), "50-01-01");
+}
+
+TEST_F(DatePicker, ShowsTheNearestDateThatItOffersWhenTodayIsNone) {
+    world.system.SetToday(2075y / 3 / 9);
+    EXPECT_EQ(ShownFor(""), 2049y / 12 / 31);
+    world.system.SetToday(1949y / 3 / 9);
+    EXPECT_EQ(ShownFor(""), 1950y / 1 / 1);
+}
+
 TEST_F(DatePicker, ADayThatIsClickedStandsInTheCell) {
     OpenCalendar([&](frmDatePicker& picker) {
         picker.dpZYSecurity.Pick(2031y / 4 / 5);
