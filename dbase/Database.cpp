@@ -180,6 +180,9 @@ std::string Database::PathOf(std::string_view name, std::string_view extension) 
     if (!IsFileName(name)) {
         Raise(kBadName, {"'", name, "' isn't a valid name for a table or an index."});
     }
+    if (name.ends_with('.')) {
+        return folder_ + std::string(name.substr(0, name.size() - 1));
+    }
     const bool hasExtension = name.find('.') != std::string_view::npos;
     return folder_ + std::string(name) + std::string(hasExtension ? "" : extension);
 }

@@ -19,7 +19,7 @@ enum class ExecuteOptions {
 };
 
 /// A folder whose files are tables. A table goes by its file's name, found without regard to case; a name
-/// without an extension means ".DBF".
+/// without an extension means ".DBF", and one with a dot at its end the file of the name before that dot.
 ///
 /// Destroying it without Close gives up an open transaction and drops every row that waits in memory.
 class Database {

@@ -63,13 +63,14 @@ std::string mSecurity::SecurityFolder() const {
 }
 
 std::string mSecurity::TableName() const {
-    return std::string(FileNameOf(TablePath()));
+    const std::string name(FileNameOf(TablePath()));
+    return !Contains(name, '.') || name.ends_with('.') ? name + '.' : name;
 }
 
 Bool16 mSecurity::LoadSecurityData() {
     constexpr std::string_view kProcedure = "LoadSecurityData";
     Start(kProcedure);
-    if (!world_.files.Exists(state_.gsSecurityFile)) {
+    if (!world_.files.Exists(TablePath())) {
         StartNewList();
         Trace(kProcedure, "Load New Sec FIle Complete"); // spelled so
         return true;

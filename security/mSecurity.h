@@ -66,6 +66,7 @@ class mSecurity {
     void Trace(std::string_view procedure, std::string_view message);
     /// Where the table is, as the look-up gave it. A path that a person typed may have "/" for "\".
     std::string TablePath() const;
+    /// The table's name for the engine: exactly that of the file, also when it has no extension.
     std::string TableName() const;
     void StartNewList();
     /// Reads the users, and the administrator's password; false when the table names no administrator.

@@ -119,14 +119,21 @@ TEST_F(BadLocationFile, ThatNamesTheTemporaryTableHasItReadAndNeverOverwritten) 
     EXPECT_EQ(world.files.Get(kUsersTemporary), before);
 }
 
-TEST_F(BadLocationFile, ThatNamesATableWithoutAnExtensionMeansTheOneWithIt) {
+TEST_F(BadLocationFile, ThatNamesATableWithoutAnExtensionMeansThatVeryFile) {
     PutTable({User("Ann")}, R"(C:\ELSE\)");
     ASSERT_EQ(world.files.Rename(R"(C:\ELSE\ZYSECURE.DBF)", R"(C:\ELSE\PEOPLE)"), FileError::None);
-    world.files.Put(kLocation, "ZYSECURE.SECURITYFILE=C:\\ELSE\\PEOPLE\r\n");
-    const auto error = RaisedBy([&] { Start("@SECURITY"); });
-    EXPECT_EQ(error.Number(), 3011);
-    EXPECT_EQ(error.Description(),
-              R"('C:\ELSE\PEOPLE.DBF' cannot be opened: the file or folder does not exist.)");
+    world.files.Put(R"(C:\ELSE\PEOPLE.DBF)", "another table, which is not asked for");
+    StartAt(R"(C:\ELSE\PEOPLE)");
+    EXPECT_THAT(Rows(), ElementsAre("Ann|secret|A||id of Ann"));
+    ASSERT_EQ(world.files.Rename(R"(C:\ELSE\PEOPLE)", R"(C:\ELSE\PEOPLE.)"), FileError::None);
+    StartAt(R"(C:\ELSE\PEOPLE.)");
+    EXPECT_THAT(Rows(), ElementsAre("Ann|secret|A||id of Ann"));
+}
+
+TEST_F(BadLocationFile, ThatNamesATableWithoutAnExtensionDoesNotMeanTheOneWithIt) {
+    PutTable({User("Ann")}, R"(C:\ELSE\)");
+    StartAt(R"(C:\ELSE\ZYSECURE)");
+    ExpectNewList();
 }
 
 TEST_F(BadLocationFile, WithOneQuoteOnlyNamesNoFolderAndTheSaveSaysSo) {
