@@ -48,12 +48,22 @@ OemPage OemPageOf(unsigned char languageByte) {
     }
 }
 
-void OemToAnsi(OemPage page, char* begin, char* end) {
-    if (page != OemPage::None) {
-        std::transform(begin, end, begin, [high = HighCharacters(page)](char c) {
-            return IsHigh(c) ? high[static_cast<unsigned char>(c) - kFirstHigh] : c;
-        });
+bool IsKnownPage(unsigned char languageByte) {
+    return languageByte == kLanguageNotStated || languageByte == kLanguageWindows1252 ||
+           languageByte == kLanguageWindowsAnsi || OemPageOf(languageByte) != OemPage::None;
+}
+
+std::size_t OemToAnsi(OemPage page, char* begin, char* end) {
+    if (page == OemPage::None) {
+        return 0;
     }
+    std::size_t replaced = 0;
+    std::transform(begin, end, begin, [&replaced, high = HighCharacters(page)](char c) {
+        const char ansi = IsHigh(c) ? high[static_cast<unsigned char>(c) - kFirstHigh] : c;
+        replaced += IsHigh(c) && !IsHigh(ansi) ? 1U : 0U;
+        return ansi;
+    });
+    return replaced;
 }
 
 bool AnsiToOem(OemPage page, std::string& text) {

@@ -56,14 +56,6 @@ void Recordset::Close() {
     table_.reset();
 }
 
-std::uint32_t Recordset::MissingRecords() const {
-    return Table().MissingRecords();
-}
-
-std::uint32_t Recordset::DamagedRecords() const {
-    return Table().DamagedRecords();
-}
-
 void Recordset::SkipHidden() {
     while (record_ != table_->Records() && !table_->IsShown(record_)) {
         ++record_;

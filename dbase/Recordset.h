@@ -48,8 +48,8 @@ class Fields {
     const Recordset& records_;
 };
 
-/// The records of a table, from the first to the last, as they stood when it was opened. Deleted and damaged
-/// ones are not among them. Once closed, every call but Close is error 3420.
+/// The records of a table, from the first to the last, as they stood when it was opened. Deleted ones are not
+/// among them. Once closed, every call but Close is error 3420.
 class Recordset {
   public:
     /// Stands on the first record.
@@ -66,21 +66,17 @@ class Recordset {
     const dbase::Fields& Fields() const { return fields_; }
     void Close();
 
-    /// The number of records that the table's header promises but its file does not hold.
-    std::uint32_t MissingRecords() const;
-    /// The number of records that are damaged, so that nobody can tell whether they are deleted.
-    std::uint32_t DamagedRecords() const;
-
-  private:
-    friend class Field;
-    friend class Fields;
-
+    /// The table, for what its records do not tell of it.
     const TableImage& Table() const {
         if (!table_) {
             RaiseRecordsetClosed();
         }
         return *table_;
     }
+
+  private:
+    friend class Field;
+
     void SkipHidden();
 
     std::optional<TableImage> table_;

@@ -60,6 +60,15 @@ void CheckSizes(std::string_view file, std::string_view path) {
     }
 }
 
+/// Some programs put NULs behind the mark. Anything else there is a record that the header would hide.
+void CheckHeaderSize(std::string_view header, std::size_t columns, std::string_view path) {
+    const auto size = kFirstField + kDescriptorSize * columns + 1;
+    if (header.find_first_not_of('\0', size) != std::string_view::npos) {
+        RaiseBadFormat(path, "byte 8 says that its header has " + Digits(header.size()) +
+                                 " bytes, but its columns make " + Digits(size));
+    }
+}
+
 bool IsFieldName(std::string_view name) {
     constexpr std::string_view kLetters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
     constexpr std::string_view kOthers = "0123456789_";
@@ -110,6 +119,7 @@ TableHeader ParseTableHeader(std::string_view file, std::string_view path) {
     if (header.fields.empty()) {
         RaiseBadFormat(path, "it has no columns");
     }
+    CheckHeaderSize(file.substr(0, header.size), header.fields.size(), path);
     const auto& last = header.fields.back();
     if (const auto sum = last.offset + last.width; sum != header.recordSize) {
         RaiseBadFormat(path, "byte 10 says that its records have " + Digits(header.recordSize) +

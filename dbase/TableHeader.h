@@ -32,9 +32,9 @@ inline constexpr int kMostNewFields = 255;
 inline constexpr int kWidestText = 254;
 
 /// Takes the header of a file apart. Error 3274, with the reason, when it is not that of a dBase III table:
-/// the version is not 03, the header does not fit into the file or is shorter than its descriptors, there is
-/// no column, no end of the descriptors, or the records are not as long as the columns together. The path is
-/// for the error's text.
+/// the version is not 03, the header does not fit into the file, is shorter than its descriptors or holds
+/// more than NULs behind them, there is no column, no end of the descriptors, or the records are not as long
+/// as the columns together. The path is for the error's text.
 TableHeader ParseTableHeader(std::string_view file, std::string_view path);
 
 /// The bytes of the header of a new table without records, its date not set. Error 3125 for a name that is

@@ -13,9 +13,8 @@ namespace zy::dbase {
 namespace {
 
 constexpr char kEndOfFile = '\x1A';
+constexpr char kLive = ' ';
 constexpr char kDeleted = '*';
-constexpr unsigned kLanguageNotStated = 0x00;
-constexpr unsigned kLanguageWindows1252 = 0x03;
 
 /// Looks at 32 characters at a time.
 bool IsAscii(std::string_view text) {
@@ -38,13 +37,63 @@ bool IsAscii(std::string_view text) {
                            Digits(field.width), " characters."});
 }
 
+/// The records that a file holds whole.
+std::size_t WholeRecords(std::string_view file, const TableHeader& header) {
+    return (file.size() - header.size) / header.recordSize;
+}
+
+std::string_view RecordOf(std::string_view file, const TableHeader& header, std::size_t record) {
+    return file.substr(header.size + record * header.recordSize, header.recordSize);
+}
+
+bool HasFlag(std::string_view record) {
+    return record.front() == kLive || record.front() == kDeleted;
+}
+
+TableContent ContentOf(std::string_view file, const TableHeader& header) {
+    const auto whole = WholeRecords(file, header);
+    TableContent content;
+    for (std::size_t i = 0; i != std::min<std::size_t>(header.records, whole); ++i) {
+        const auto record = RecordOf(file, header, i);
+        if (!HasFlag(record)) {
+            content.damage = "its record " + Digits(i + 1) + " begins with " + Digits(ByteAt(record, 0)) +
+                             ", which is neither a blank (32) nor the mark of a deleted one (42)";
+            return content;
+        }
+        content.live += record.front() == kLive ? 1U : 0U;
+    }
+    if (header.records > whole) {
+        content.damage = "byte 4 says that it has " + Digits(header.records) +
+                         " records, but the file holds " + Digits(whole);
+    }
+    return content;
+}
+
+std::uint32_t CountUncounted(std::string_view file, const TableHeader& header) {
+    const auto whole = WholeRecords(file, header);
+    std::size_t end = header.records;
+    const auto isRecord = [](std::string_view record) {
+        return HasFlag(record) && !WithoutFiller(record).empty();
+    };
+    while (end < whole && isRecord(RecordOf(file, header, end))) {
+        ++end;
+    }
+    return static_cast<std::uint32_t>(end - header.records);
+}
+
 } // namespace
 
+TableContent ContentOfTable(std::string_view file, std::string_view path) {
+    return ContentOf(file, ParseTableHeader(file, path));
+}
+
 TableImage::TableImage(std::string file, std::string_view path)
-    : bytes_(std::move(file)), header_(ParseTableHeader(bytes_, path)),
-      records_(static_cast<std::uint32_t>(
-          std::min<std::size_t>(header_.records, (bytes_.size() - header_.size) / header_.recordSize))),
-      missing_(header_.records - records_), language_(ByteAt(bytes_, kLanguageAt)) {
+    : bytes_(std::move(file)), header_(ParseTableHeader(bytes_, path)), records_(header_.records),
+      uncounted_(0), language_(ByteAt(bytes_, kLanguageAt)) {
+    if (const auto content = ContentOf(bytes_, header_); !content.damage.empty()) {
+        RaiseBadFormat(path, content.damage);
+    }
+    uncounted_ = CountUncounted(bytes_, header_);
     bytes_.resize(SizeOf(records_));
 }
 
@@ -58,16 +107,20 @@ std::optional<std::size_t> TableImage::FindField(std::string_view name) const {
     return std::nullopt;
 }
 
-std::uint32_t TableImage::DamagedRecords() const {
-    std::uint32_t damaged = 0;
+std::uint32_t TableImage::DeletedRecords() const {
+    std::uint32_t deleted = 0;
     for (std::uint32_t record = 0; record != records_; ++record) {
-        damaged += IsShown(record) || *At(record) == kDeleted ? 0U : 1U;
+        deleted += IsShown(record) ? 0U : 1U;
     }
-    return damaged;
+    return deleted;
+}
+
+std::optional<unsigned> TableImage::UnknownPage() const {
+    return IsKnownPage(language_) ? std::nullopt : std::optional<unsigned>(language_);
 }
 
 void TableImage::ConvertToAnsi() {
-    OemToAnsi(OemPageOf(language_), bytes_.data() + header_.size, bytes_.data() + bytes_.size());
+    replaced_ = OemToAnsi(OemPageOf(language_), bytes_.data() + header_.size, bytes_.data() + bytes_.size());
 }
 
 void TableImage::Append(std::span<const std::string_view> values) {

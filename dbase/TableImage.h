@@ -27,26 +27,43 @@ inline std::string_view WithoutFiller(std::string_view text) {
     return text.substr(0, size);
 }
 
+/// What can be told of a table also when its records are not all there.
+struct TableContent {
+    std::uint32_t live = 0; ///< the records that are not deleted, before the first that is missing or damaged
+    std::string damage;     ///< what is wrong with that one; empty when none is
+};
+
+/// Looks at the records of a file, as far as its header counts them. Error 3274 as ParseTableHeader says.
+TableContent ContentOfTable(std::string_view file, std::string_view path);
+
 /// A table in memory: the bytes of its file. Records are counted from 0.
 class TableImage {
   public:
-    /// Takes the bytes of a file. Error 3274 as ParseTableHeader says. What stands behind the last record is
-    /// not kept; the last one is the last that the header counts and the file holds whole.
+    /// Takes the bytes of a file. Error 3274 as ParseTableHeader says, and when the file does not hold all
+    /// the records that the header counts, each of them live or deleted. What stands behind the last one is
+    /// not kept.
     TableImage(std::string file, std::string_view path);
 
     const std::vector<TableField>& Fields() const { return header_.fields; }
     /// The column of that name, without regard to case; the first of several.
     std::optional<std::size_t> FindField(std::string_view name) const;
 
-    /// The number of records, with those that are deleted or damaged.
+    /// The number of records, with those that are deleted.
     std::uint32_t Records() const { return records_; }
-    /// The number of records that the header counts but the file does not hold.
-    std::uint32_t MissingRecords() const { return missing_; }
-
-    /// False when the record is deleted, or damaged so that its flag is none.
+    /// False when the record is deleted.
     bool IsShown(std::uint32_t record) const { return *At(record) == ' '; }
-    /// The number of records whose flag is none.
-    std::uint32_t DamagedRecords() const;
+
+    // What the shown records do not tell of the file.
+
+    std::uint32_t DeletedRecords() const;
+    /// The number of whole records that stand right behind the last one that the header counts. What fills a
+    /// file up, blanks among it, is none.
+    std::uint32_t UncountedRecords() const { return uncounted_; }
+    /// The language byte, when it names a code page that is not known here.
+    std::optional<unsigned> UnknownPage() const;
+    /// The number of characters that ConvertToAnsi could make a likeness of only.
+    std::size_t ReplacedCharacters() const { return replaced_; }
+
     /// The bytes of a column, all of them.
     std::string_view Bytes(std::uint32_t record, std::size_t field) const {
         const auto& column = header_.fields[field];
@@ -89,7 +106,8 @@ class TableImage {
     std::string cut_;   ///< the same with fewer records
     TableHeader header_;
     std::uint32_t records_;
-    std::uint32_t missing_;
+    std::uint32_t uncounted_;
+    std::size_t replaced_ = 0;
     std::uint8_t language_; ///< byte 29 of the header as it was read
 };
 

@@ -137,6 +137,7 @@ void SecurityPage::cmdSaveUsers_Click() {
 }
 
 void SecurityPage::ShowSaved() {
+    report_.clear();
     controls.cmdSaveUsers.SetEnabled(false);
     form_.zyStatusBar.SetText("Saved");
 }

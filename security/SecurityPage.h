@@ -61,7 +61,7 @@ class SecurityPage : public SecurityEditor {
     SharedState& state_;
     TraceChannel& trace_;
     World world_;
-    std::string report_; ///< what loading told
+    std::string report_; ///< what loading told; empty once the users are saved
 };
 
 } // namespace zy

@@ -15,6 +15,9 @@ struct UserRecord {
     friend bool operator==(const UserRecord&, const UserRecord&) = default;
 };
 
+/// The fields of a user.
+inline constexpr int kUserFields = 5;
+
 /// What a new user has in place of an expiry date until the checks empty it.
 inline constexpr auto kNoDateYet = "YY-MM-DD";
 

@@ -6,6 +6,7 @@
 #include "basics/RuntimeError.h"
 #include "basics/Text.h"
 #include "dbase/ErrorNumbers.h"
+#include "security/TableLosses.h"
 #include "security/UserChecks.h"
 #include "security/frmLogin.h"
 #include "shell/Utilities.h"
@@ -15,14 +16,13 @@ namespace {
 
 constexpr std::string_view kModule = "mSecurity";
 constexpr std::string_view kConnect = "dBase III";
-constexpr int kFields = 5;
 
 /// The engine would raise the same error, without a word about the table.
 void RequireFields(const dbase::Fields& fields, const std::string& table) {
-    if (fields.Count() < kFields) {
+    if (fields.Count() < kUserFields) {
         throw RuntimeError(dbase::kNoSuchItem, "Item not found in this collection: the table of users '" +
                                                    table + "' has " + std::to_string(fields.Count()) +
-                                                   " of the " + std::to_string(kFields) +
+                                                   " of the " + std::to_string(kUserFields) +
                                                    " fields of a user.");
     }
 }
@@ -119,24 +119,9 @@ bool mSecurity::ReadTable() {
         }
         records->MoveNext();
     }
-    ReportLosses(*records);
+    reported.Raise(TableLosses(*records));
     records->Close();
     return hasAdmin;
-}
-
-void mSecurity::ReportLosses(const dbase::Recordset& records) {
-    const std::string table = TableName();
-    std::string report;
-    if (const auto missing = records.MissingRecords(); missing != 0) {
-        report = table + " is cut short: " + std::to_string(missing) + " of its users are missing";
-    }
-    if (const auto damaged = records.DamagedRecords(); damaged != 0) {
-        report += report.empty() ? "" : "; ";
-        report += table + " is damaged: " + std::to_string(damaged) + " of its users cannot be shown";
-    }
-    if (!report.empty()) {
-        reported.Raise(report);
-    }
 }
 
 Bool16 mSecurity::LogIn() {

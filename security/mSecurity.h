@@ -30,8 +30,8 @@ class mSecurity {
     /// Reads the table, or starts with one new user when there is none, and asks the administrator to log in
     /// where the table names one. True when the editor may open.
     ///
-    /// A table that cannot be read is a run-time error of the table engine. More than 32,767 users are
-    /// run-time error 6.
+    /// A table that is damaged or cannot be read is a run-time error of the table engine. More than 32,767
+    /// users are run-time error 6.
     Bool16 LoadSecurityData();
     /// Copies the grid's rows into the list, which has an element for each of them.
     void Save_Security();
@@ -55,7 +55,7 @@ class mSecurity {
 
     /// The person at the login pressed Cancel: the program is to end.
     Event<> loginCancelled;
-    /// A short text about the table, for the status bar.
+    /// What a person has to know of the table that was loaded, before it is saved; for the status bar.
     Event<const std::string&> reported;
 
     std::vector<UserRecord> zySecure; ///< counted from 0; never empty once it was loaded
@@ -71,8 +71,6 @@ class mSecurity {
     void StartNewList();
     /// Reads the users, and the administrator's password; false when the table names no administrator.
     bool ReadTable();
-    /// Says which users of the table are not among those that were read.
-    void ReportLosses(const dbase::Recordset& records);
     Bool16 LogIn();
 
     void OpenDatabase();

@@ -77,41 +77,32 @@ TEST_F(ReadTable, LeavesOutDeletedRecords) {
     EXPECT_THAT(Read(TableBytes({{"NAME", 6}}).Add('*', {"Gone"}).Bytes()), IsEmpty());
 }
 
-TEST_F(ReadTable, LeavesOutRecordsWhoseFlagIsDamaged) {
-    for (int flag = 0; flag < 256; ++flag) {
-        const auto c = static_cast<char>(flag);
-        EXPECT_EQ(Read(TableBytes({{"N", 1}}).Add(c, {"x"}).Bytes()).size(), c == ' ' ? 1U : 0U) << flag;
-    }
-}
-
-TEST_F(ReadTable, CountsTheDamagedRecordsAndNotTheDeletedOnes) {
-    Put("T.DBF", TwoColumns().Add('*', {"Gone", ""}).Add('\xFF', {"Cy", ""}).Add('\0', {"Di", ""}).Bytes());
+TEST_F(ReadTable, CountsTheDeletedRecords) {
+    Put("T.DBF", TwoColumns().Add('*', {"Gone", ""}).Add('*', {"Too", ""}).Bytes());
     const auto records = database->OpenRecordset("T", RecordsetType::Dynaset);
-    EXPECT_EQ(records->DamagedRecords(), 2U);
-    EXPECT_EQ(records->MissingRecords(), 0U);
+    EXPECT_EQ(records->Table().DeletedRecords(), 2U);
 }
 
-TEST_F(ReadTable, UsesWhatTheFileHoldsWhenTheHeaderCountsMore) {
-    auto table = TwoColumns();
-    table.count = 0xFFFFFFFF;
-    EXPECT_EQ(Read(table.Bytes()), kBoth);
-    const auto records = database->OpenRecordset("T", RecordsetType::Dynaset);
-    EXPECT_EQ(records->MissingRecords(), 0xFFFFFFFFU - 2);
-}
-
-TEST_F(ReadTable, UsesWholeRecordsOnly) {
-    const auto bytes = TwoColumns().Bytes();
-    for (std::size_t cut = 2; cut <= 12; ++cut) {
-        EXPECT_EQ(Read(bytes.substr(0, bytes.size() - cut)), (Rows{{"Ada", "Rome"}})) << cut;
-    }
-}
-
-TEST_F(ReadTable, UsesTheCountWhenTheFileHoldsMore) {
-    auto table = TwoColumns();
+TEST_F(ReadTable, UsesTheCountWhenTheFileHoldsMoreAndTellsHowManyMore) {
+    auto table = TwoColumns().Add('*', {"Gone", ""}).Add(' ', {"Cy", ""});
     table.count = 1;
     EXPECT_EQ(Read(table.Bytes()), (Rows{{"Ada", "Rome"}}));
     const auto records = database->OpenRecordset("T", RecordsetType::Dynaset);
-    EXPECT_EQ(records->MissingRecords(), 0U);
+    EXPECT_EQ(records->Table().UncountedRecords(), 3U);
+    EXPECT_EQ(records->Table().DeletedRecords(), 0U);
+}
+
+TEST_F(ReadTable, TakesNothingThatFillsTheFileUpForARecord) {
+    auto table = TwoColumns();
+    const std::string mark = "\x1A";
+    for (const auto& end :
+         {mark + std::string(500, '\0'), mark + TwoColumns().records, std::string(500, '\0'),
+          std::string(500, ' '), std::string(500, '\x1A'), " Cyril Rom"s}) {
+        table.endOfFile = end;
+        Put("T.DBF", table.Bytes());
+        const auto records = database->OpenRecordset("T", RecordsetType::Dynaset);
+        EXPECT_EQ(records->Table().UncountedRecords(), 0U) << ::testing::PrintToString(end);
+    }
 }
 
 TEST_F(ReadTable, TakesBlanksAndNulsOffTheEndOfAValueOnly) {
@@ -182,11 +173,24 @@ TEST_F(ReadTable, ConvertsCharactersOfDos) {
     EXPECT_EQ(Read(table.Bytes()), Rows{{"M\xFCller \xF8 \xDF \xD2 A~"}});
 }
 
-TEST_F(ReadTable, ConvertsEveryLineToAscii) {
-    TableBytes table({{"C", 8}});
+TEST_F(ReadTable, ConvertsEveryLineToAsciiAndCountsWhatIsALikenessOnly) {
+    TableBytes table({{"C", 10}});
     table.language = "\x01";
-    table.Add(' ', {"\xC4\xCD\xB3\xBA\xDA\xC5\xDB"});
-    EXPECT_EQ(Read(table.Bytes()), Rows{{"-=||++#"}});
+    table.Add(' ', {"\xC4\xCD\xB3\xBA\xDA\xC5\xDB\x81u"});
+    EXPECT_EQ(Read(table.Bytes()), Rows{{"-=||++#\xFCu"}});
+    const auto records = database->OpenRecordset("T", RecordsetType::Dynaset);
+    EXPECT_EQ(records->Table().ReplacedCharacters(), 7U);
+}
+
+TEST_F(ReadTable, TellsOfACodePageThatItDoesNotKnow) {
+    for (unsigned language = 0; language < 256; ++language) {
+        const bool isKnown = language <= 3 || language == 0x57;
+        auto table = TwoColumns();
+        table.language = std::string(1, static_cast<char>(language));
+        Put("T.DBF", table.Bytes());
+        const auto records = database->OpenRecordset("T", RecordsetType::Dynaset);
+        EXPECT_EQ(records->Table().UnknownPage(), isKnown ? std::nullopt : std::optional(language));
+    }
 }
 
 } // namespace

@@ -73,6 +73,55 @@ TEST_F(RefusedTables, HaveAHeaderShorterThanTheirColumns) {
     }
 }
 
+TEST_F(RefusedTables, HaveAHeaderThatReachesIntoTheirRecords) {
+    auto table = Table().Add(' ', {"Bo", ""});
+    for (std::size_t more = 1; more <= 22; ++more) {
+        table.headerSize = 97 + more;
+        table.count = 0;
+        EXPECT_EQ(Refusal(table.Bytes()), "byte 8 says that its header has " + std::to_string(97 + more) +
+                                              " bytes, but its columns make 97.");
+    }
+}
+
+TEST_F(RefusedTables, HoldFewerRecordsThanTheirHeaderCounts) {
+    auto table = Table();
+    for (const std::size_t count : {2UL, 3UL, 0xFFFFFFFFUL}) {
+        table.count = count;
+        EXPECT_EQ(Refusal(table.Bytes()),
+                  "byte 4 says that it has " + std::to_string(count) + " records, but the file holds 1.");
+    }
+    const auto bytes = Table().Bytes();
+    for (std::size_t cut = 2; cut <= 12; ++cut) {
+        EXPECT_EQ(Refusal(bytes.substr(0, bytes.size() - cut)),
+                  "byte 4 says that it has 1 records, but the file holds 0.")
+            << cut;
+    }
+}
+
+TEST_F(RefusedTables, HaveARecordThatIsNeitherLiveNorDeleted) {
+    for (int flag = 0; flag < 256; ++flag) {
+        const auto c = static_cast<char>(flag);
+        if (c != ' ' && c != '*') {
+            EXPECT_EQ(Refusal(Table().Add(c, {"Bo", ""}).Bytes()),
+                      "its record 2 begins with " + std::to_string(flag) +
+                          ", which is neither a blank (32) nor the mark of a deleted one (42).");
+        }
+    }
+}
+
+TEST_F(RefusedTables, TellHowManyOfTheirRecordsAreThere) {
+    auto table = Table().Add('*', {"Gone", ""}).Add(' ', {"Bo", ""}).Add('x', {"", ""}).Add(' ', {"Cy", ""});
+    const auto damaged = ContentOfTable(table.Bytes(), "T");
+    EXPECT_EQ(damaged.live, 2U);
+    EXPECT_THAT(damaged.damage, StartsWith("its record 4 begins with 120"));
+    const auto cut = ContentOfTable(Table().Add(' ', {"Bo", ""}).Bytes().substr(0, 97 + 11 + 5), "T");
+    EXPECT_EQ(cut.live, 1U);
+    EXPECT_THAT(cut.damage, StartsWith("byte 4 says"));
+    const auto sound = ContentOfTable(Table().Bytes(), "T");
+    EXPECT_EQ(sound.live, 1U);
+    EXPECT_EQ(sound.damage, "");
+}
+
 TEST_F(RefusedTables, HaveNoEndOfTheirColumns) {
     auto table = Table();
     table.endOfFields = "\0"s;

@@ -105,61 +105,108 @@ TEST_F(BadUsersFiles, ThatAreFoldersCountAsNoTableAndTheSaveSaysSo) {
     EXPECT_TRUE(world.files.Exists(kUsersTemporary)) << "the users are in here";
 }
 
-// Tables that are read as far as they go
+// Damaged tables: an administrator who cannot be read would turn the login off.
 
-TEST_F(BadUsersFiles, ThatAreCutAtAnyRecordShowTheUsersThatAreWholeAndSayHowManyAreMissing) {
+TEST_F(BadUsersFiles, ThatAreCutAtAnyRecordAreRefused) {
     const auto bytes = AnnAndBob().Bytes();
-    for (const std::size_t size : {193U, 193U + 59U}) {
-        world.files.Put(kUsersTable, bytes.substr(0, size));
-        Start("@SECURITY");
-        EXPECT_THAT(Rows(), ElementsAre("||||"));
-        EXPECT_EQ(Status(), "1 user; ZYSECURE.DBF is cut short: 2 of its users are missing");
+    for (const std::size_t size : {193U, 193U + 59U, 193U + 60U, 193U + 119U}) {
+        SCOPED_TRACE(size);
+        ExpectRefused(bytes.substr(0, size), 3274,
+                      R"('C:\SYS\ZYSECURE.DBF' cannot be read: byte 4 says that it has 2 records, but the )"
+                      "file holds " +
+                          std::to_string((size - 193) / 60) + ".");
     }
-    world.files.Put(kUsersTable, bytes.substr(0, 193 + 60));
-    Start("@SECURITY");
-    EXPECT_THAT(Rows(), ElementsAre("Ann|pw|A||id of Ann"));
-    EXPECT_EQ(Status(), "1 user; ZYSECURE.DBF is cut short: 1 of its users are missing");
 }
 
-TEST_F(BadUsersFiles, WhoseHeaderCountsMoreUsersThanThereAreShowThoseThatThereAre) {
+TEST_F(BadUsersFiles, WhoseHeaderCountsMoreUsersThanThereAreAreRefused) {
     auto table = AnnAndBob();
-    table.count = 0xFFFFFFFF;
-    Open(table);
-    EXPECT_EQ(Rows(), AnnAndBobRows());
-    EXPECT_EQ(Status(), "2 users; ZYSECURE.DBF is cut short: 4294967293 of its users are missing");
+    table.count = 3;
+    ExpectRefused(table.Bytes(), 3274,
+                  R"('C:\SYS\ZYSECURE.DBF' cannot be read: byte 4 says that it has 3 records, but the file )"
+                  "holds 2.");
 }
 
-TEST_F(BadUsersFiles, WithoutTheMarkAtTheEndAreWhole) {
+TEST_F(BadUsersFiles, WhoseHeaderIsLongerThanItsColumnsAreRefused) {
+    auto table =
+        dbase::test::UserTable().Add(' ', {"ADMIN", "pw", "id", "", "A"}).Add(' ', {"Ann", "", "", "", ""});
+    table.headerSize = 193 + 60;
+    table.count = 1;
+    ExpectRefused(table.Bytes(), 3274,
+                  R"('C:\SYS\ZYSECURE.DBF' cannot be read: byte 8 says that its header has 253 bytes, but )"
+                  "its columns make 193.");
+}
+
+TEST_F(BadUsersFiles, WithARecordThatIsNeitherAUserNorADeletedOneAreRefused) {
+    for (const char flag : {'\0', 'A', '\x1A'}) {
+        ExpectRefused(AnnAndBob().Add(flag, {"ADMIN", "pw", "id", "", "A"}).Bytes(), 3274,
+                      R"('C:\SYS\ZYSECURE.DBF' cannot be read: its record 3 begins with )" +
+                          std::to_string(static_cast<unsigned char>(flag)) +
+                          ", which is neither a blank (32) nor the mark of a deleted one (42).");
+    }
+}
+
+// Tables that hold more than the editor shows
+
+TEST_F(BadUsersFiles, AreWholeWithoutTheMarkAtTheEndAndWithAnyBytesBehindIt) {
     auto table = AnnAndBob();
-    table.endOfFile = "";
+    for (const auto* end :
+         {"", "\x1A some bytes that fill the sector up, and which are more than a record has"}) {
+        table.endOfFile = end;
+        Open(table);
+        EXPECT_EQ(Rows(), AnnAndBobRows());
+        EXPECT_EQ(Status(), "2 users");
+    }
+}
+
+TEST_F(BadUsersFiles, WithUsersThatTheHeaderDoesNotCountSaySoUntilASaveHasDroppedThem) {
+    auto table = AnnAndBob().Add(' ', {"Cid", "pw", "id", "", "A"});
+    table.count = 2;
     Open(table);
     EXPECT_EQ(Rows(), AnnAndBobRows());
+    const std::string report = "2 users; a save will drop 1 user that the table does not count";
+    EXPECT_EQ(Status(), report);
+    Edit(1, kPassword, "new");
+    EXPECT_EQ(Status(), report);
+    Edit(1, kPassword, "");
+    world.dialogs.ExpectMessage("Invalid Password. Password Cannot be blank", "ZY Setup");
+    Save();
+    EXPECT_EQ(Status(), report) << "nothing was saved";
+    Edit(1, kPassword, "new");
+    Save();
+    EXPECT_EQ(Status(), "Saved");
+    Edit(1, kPassword, "newer");
     EXPECT_EQ(Status(), "2 users");
+    EXPECT_EQ(TableUsers()->size(), 2U);
+}
+
+TEST_F(BadUsersFiles, SayAllThatASaveWillDrop) {
+    auto table = TableBytes(
+        {{"USERID", 10}, {"PASSWORD", 20}, {"IDENTIFIER", 20}, {"EXPDATE", 8}, {"STATUS", 1}, {"SHIFT", 2}});
+    table.language = "\x01";
+    table.Add(' ', {"\xC4nn\xC4", "pw", "id", "", "A", "1"});
+    table.Add('*', {"Gone", "pw", "id", "", "A", "1"}).Add('*', {"Too", "pw", "id", "", "A", "1"});
+    Open(table);
+    EXPECT_EQ(Status(), "1 user; a save will drop 1 more column, 2 characters that the code page lacks, "
+                        "2 deleted users");
+    table.language = "\xC9";
+    table.records.clear();
+    table.count = 0;
+    Open(table.Add(' ', {"Ann", "pw", "id", "", "A", "1"}));
+    EXPECT_EQ(Status(), "1 user; a save will drop 1 more column, the mark of the unknown code page 201");
+    Edit(1, kPassword, "new");
+    ChooseSave();
+    Edit(1, kPassword, "newer");
+    EXPECT_EQ(Status(), "1 user");
 }
 
 TEST_F(BadUsersFiles, ShowNoDeletedUserAlsoWhenItIsTheAdministrator) {
     Open(AnnAndBob().Add('*', {"ADMIN", "pw", "id", "", "A"}));
     EXPECT_EQ(Rows(), AnnAndBobRows());
-    EXPECT_EQ(Status(), "2 users");
+    EXPECT_EQ(Status(), "2 users; a save will drop 1 deleted user");
     Edit(1, kPassword, "new");
     Save();
     EXPECT_EQ(TableUsers()->size(), 2U);
     EXPECT_EQ(world.files.Get(kUsersTable)->size(), 194U + 2 * 60U) << "the deleted one is gone for good";
-}
-
-TEST_F(BadUsersFiles, ShowNoDamagedUserAndSayHowManyThereAre) {
-    Open(AnnAndBob().Add('\0', {"Cid", "", "", "", ""}).Add('A', {"Dan", "", "", "", ""}));
-    EXPECT_EQ(Rows(), AnnAndBobRows());
-    EXPECT_EQ(Status(), "2 users; ZYSECURE.DBF is damaged: 2 of its users cannot be shown");
-}
-
-TEST_F(BadUsersFiles, ThatAreCutShortAndDamagedSayBoth) {
-    auto table = AnnAndBob().Add('?', {"Cid", "", "", "", ""});
-    table.count = 5;
-    Open(table);
-    EXPECT_EQ(Rows(), AnnAndBobRows());
-    EXPECT_EQ(Status(), "2 users; ZYSECURE.DBF is cut short: 2 of its users are missing; "
-                        "ZYSECURE.DBF is damaged: 1 of its users cannot be shown");
 }
 
 TEST_F(BadUsersFiles, Of255ColumnsGiveTheFirstFive) {
@@ -171,6 +218,7 @@ TEST_F(BadUsersFiles, Of255ColumnsGiveTheFirstFive) {
     }
     Open(TableBytes(columns).Add(' ', values));
     EXPECT_THAT(Rows(), ElementsAre("Ann|pw|A||id of Ann"));
+    EXPECT_EQ(Status(), "1 user; a save will drop 250 more columns");
     Edit(1, kPassword, "new");
     Save();
     EXPECT_EQ(world.files.Get(kUsersTable)->size(), 194U + 60U) << "a table of five columns is written";

@@ -69,16 +69,6 @@ TEST_F(LoadUsers, AFileThatIsNoTableIsARunTimeErrorAndStays) {
     }
 }
 
-TEST_F(LoadUsers, ATableThatIsCutShortSaysHowManyUsersAreMissing) {
-    PutTable({User("Ann"), User("Bob"), User("Cid")});
-    auto bytes = *world.files.Get(kUsersTable);
-    bytes.resize(193 + 60 + 30);
-    world.files.Put(kUsersTable, bytes);
-    Start("@SECURITY");
-    EXPECT_THAT(Rows(), ElementsAre("Ann|secret|A||id of Ann"));
-    EXPECT_EQ(Status(), "1 user; ZYSECURE.DBF is cut short: 2 of its users are missing");
-}
-
 TEST_F(LoadUsers, TheTableIsTheOneThatTheLocationFileNames) {
     PutTable({User("Far")}, R"(C:\ELSE\)");
     world.files.Put(R"(C:\SYS\ZYSECURE.ZYX)", "ZYSECURE.SECURITYFILE = \"c:\\else\\zysecure.dbf\"\r\n");
