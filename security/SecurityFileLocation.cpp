@@ -5,6 +5,7 @@
 #include "basics/Int16.h"
 #include "basics/Text.h"
 #include "ini/INIfile.h"
+#include "security/UserFiles.h"
 #include "shell/Utilities.h"
 
 namespace zy {
@@ -23,7 +24,7 @@ std::string_view WithoutQuotes(std::string_view value) {
 std::string SecurityFileLocation(const World& world, TraceChannel& trace) {
     trace.DebugTrace("mSecurity", "SecurityFileLocation", "Start");
     const std::string systemDir = GetSystemDir(world.system);
-    std::string location = systemDir + "ZYSECURE.DBF";
+    std::string location = UserFiles(systemDir).table;
 
     INIfile settings(world.files, world.codePage, trace);
     settings.LoadFile(systemDir + "ZYSECURE.ZYX");

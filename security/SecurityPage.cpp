@@ -3,8 +3,9 @@
 #include <string>
 
 #include "security/SecurityLayout.h"
+#include "security/UserFiles.h"
 #include "security/frmDatePicker.h"
-#include "shell/mRecycleBin.h"
+#include "shell/SaveTurn.h"
 
 namespace zy {
 namespace {
@@ -126,27 +127,33 @@ void SecurityPage::cmdSaveUsers_Click() {
         return;
     }
     users.Save_Security();
+    // Unlike File > Save, without users in the folder of the table.
+    if (WriteUsers(users.SecurityFolder())) {
+        form_.ChangeFlag = false;
+        ShowSaved();
+    }
+}
+
+bool SecurityPage::WriteUsers(std::string_view folderWithoutUsers) {
+    const std::string folder = HasUsers() ? users.SecurityFolder() : std::string(folderWithoutUsers);
+    const SaveTurn turn(world_.files, UserFiles(folder).table);
+    if (!turn.IsMine()) {
+        form_.zyStatusBar.SetText(SaveTurn::kRefusal);
+        return false;
+    }
     if (HasUsers()) {
         users.Write_Security();
         users.WriteDBIndex();
     } else {
-        RecycleTable();
+        users.RecycleTable(folder);
     }
-    form_.ChangeFlag = false;
-    ShowSaved();
+    return true;
 }
 
 void SecurityPage::ShowSaved() {
     report_.clear();
     controls.cmdSaveUsers.SetEnabled(false);
     form_.zyStatusBar.SetText("Saved");
-}
-
-/// Unlike File > Save, in the folder of the table.
-void SecurityPage::RecycleTable() {
-    for (const auto* name : {"ZYSECURE.DBF", "ZYSECURE.ndx"}) {
-        RecycleIfThere(world_.files, world_.recycleBin, users.SecurityFolder() + name);
-    }
 }
 
 void SecurityPage::grdSecurity_AfterEdit() {

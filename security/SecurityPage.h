@@ -35,9 +35,7 @@ class SecurityPage : public SecurityEditor {
     void CommitCellEdit() override { controls.grdSecurity.CommitEdit(); }
     bool Validate_Security() override { return users.Validate_Security(); }
     void Save_Security() override { users.Save_Security(); }
-    void Write_Security() override { users.Write_Security(); }
-    void WriteDBIndex() override { users.WriteDBIndex(); }
-    int GridRows() const override { return controls.grdSecurity.Rows(); }
+    bool WriteUsers(std::string_view folderWithoutUsers) override;
     void DisableSaveButton() override { ShowSaved(); }
 
     SecurityControls controls;
@@ -53,7 +51,6 @@ class SecurityPage : public SecurityEditor {
     void MarkChangedAndEnableSave();
     void DeleteCurrentUser();
     void SetDate(int row, const std::string& text);
-    void RecycleTable();
     void ShowSaved();
     void ReportCount();
 

@@ -41,6 +41,9 @@ class mSecurity {
     void Write_Security();
     /// Builds the table's index anew.
     void WriteDBIndex();
+    /// Moves the table and its index from a folder to the recycle bin, in place of writing a table without
+    /// users.
+    void RecycleTable(std::string_view folder);
 
     /// Appends a user to the list and the grid, and makes its row current. More than 32,767 users are
     /// run-time error 6.

@@ -1,16 +1,9 @@
 #include "basics/RuntimeError.h"
+#include "security/UserFiles.h"
 #include "security/mSecurity.h"
 #include "shell/mRecycleBin.h"
 
 namespace zy {
-namespace {
-
-// The table is always written under this name, whatever it was called when it was read, which is meant.
-constexpr std::string_view kTable = "ZYSECURE.DBF";
-constexpr std::string_view kTemporary = "ZYSECURE.TMP";
-constexpr std::string_view kIndex = "ZYSECURE.NDX";
-
-} // namespace
 
 void mSecurity::Save_Security() {
     Start("Save_Security");
@@ -46,30 +39,30 @@ void mSecurity::Write_Security() {
 /// The file that is left behind makes the next attempt fail, which is meant: a person has to look at it. When
 /// the old table has gone already, nobody may be told to remove it.
 void mSecurity::RaiseWithHint(const RuntimeError& error) {
-    const std::string temporary = SecurityFolder() + std::string(kTemporary);
-    const std::string table = SecurityFolder() + std::string(kTable);
-    if (!world_.files.Exists(temporary)) {
+    const UserFiles files(SecurityFolder());
+    if (!world_.files.Exists(files.temporary)) {
         throw RuntimeError(error);
     }
-    throw RuntimeError(
-        error.Number(),
-        error.Description() + "\n\nThe file " + temporary + " stands in the way of the next save. " +
-            (world_.files.Exists(table)
-                 ? "It may be removed."
-                 : "There is no " + table + ", so it may be all that holds the users: give it that name."));
+    throw RuntimeError(error.Number(), error.Description() + "\n\nThe file " + files.temporary +
+                                           " stands in the way of the next save. " +
+                                           (world_.files.Exists(files.table)
+                                                ? "It may be removed."
+                                                : "There is no " + files.table +
+                                                      ", so it may be all that holds the users: give it "
+                                                      "that name."));
 }
 
 void mSecurity::CreateTemporary() {
     database_->Execute("CREATE TABLE [ZYSECURE.TMP] (USERID TEXT (10), PASSWORD TEXT (20), "
                        "IDENTIFIER TEXT(20),EXPDATE TEXT (8), STATUS TEXT(1));");
-    const std::string table = SecurityFolder() + std::string(kTable);
-    if (world_.files.Exists(table)) {
-        world_.files.CopyPermissions(table, SecurityFolder() + std::string(kTemporary));
+    const UserFiles files(SecurityFolder());
+    if (world_.files.Exists(files.table)) {
+        world_.files.CopyPermissions(files.table, files.temporary);
     }
 }
 
 std::string mSecurity::ColumnList() {
-    const auto records = database_->OpenRecordset(kTemporary, dbase::RecordsetType::Dynaset);
+    const auto records = database_->OpenRecordset(kUsersTemporaryName, dbase::RecordsetType::Dynaset);
     const auto& fields = records->Fields();
     std::string list;
     for (int column = 0; column < fields.Count(); ++column) {
@@ -96,11 +89,11 @@ void mSecurity::InsertUsers(const std::string& columns) {
 }
 
 void mSecurity::ReplaceTable() {
-    const std::string table = SecurityFolder() + std::string(kTable);
-    RecycleIfThere(world_.files, world_.recycleBin, table);
-    const auto error = world_.files.Rename(SecurityFolder() + std::string(kTemporary), table);
+    const UserFiles files(SecurityFolder());
+    RecycleIfThere(world_.files, world_.recycleBin, files.table);
+    const auto error = world_.files.Rename(files.temporary, files.table);
     if (error != FileError::None) {
-        throw RuntimeError(75, "Path/File access error: " + table + " could not be replaced, " +
+        throw RuntimeError(75, "Path/File access error: " + files.table + " could not be replaced, " +
                                    std::string(Describe(error)));
     }
 }
@@ -108,11 +101,18 @@ void mSecurity::ReplaceTable() {
 void mSecurity::WriteDBIndex() {
     Start("WriteDBIndex");
     OpenDatabase();
-    const auto records = database_->OpenRecordset(kTable, dbase::RecordsetType::Dynaset);
+    const auto records = database_->OpenRecordset(kUsersTableName, dbase::RecordsetType::Dynaset);
     const std::string field(records->Fields().Item(0).Name());
     records->Close();
-    RecycleIfThere(world_.files, world_.recycleBin, SecurityFolder() + std::string(kIndex));
+    RecycleIfThere(world_.files, world_.recycleBin, UserFiles(SecurityFolder()).index);
     database_->Execute("CREATE INDEX [ZYSECURE] ON [ZYSECURE.DBF] (" + field + ");");
+}
+
+void mSecurity::RecycleTable(std::string_view folder) {
+    const std::string index = std::string(folder) + "ZYSECURE.ndx"; // spelled so
+    const UserFiles files(folder);
+    RecycleIfThere(world_.files, world_.recycleBin, files.table);
+    RecycleIfThere(world_.files, world_.recycleBin, index);
 }
 
 } // namespace zy

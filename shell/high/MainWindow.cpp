@@ -1,11 +1,9 @@
 #include "shell/MainWindow.h"
 
-#include <array>
 #include <string>
 
 #include "rules/RulesPage.h"
 #include "rules/mRules.h"
-#include "shell/mRecycleBin.h"
 
 namespace zy {
 namespace {
@@ -148,7 +146,9 @@ void MainWindow::SaveSecurity() {
         return;
     }
     parts_.security.Save_Security();
-    WriteUserTable();
+    if (!WriteUserTable()) {
+        return;
+    }
     parts_.state.gbChanged = false;
     parts_.security.DisableSaveButton();
 }
@@ -201,7 +201,7 @@ bool MainWindow::UnloadSecurity() {
             return false;
         }
         parts_.security.Save_Security();
-        WriteUserTable();
+        return WriteUserTable();
     }
     return true;
 }
@@ -218,21 +218,10 @@ bool MainWindow::UnloadUnits() {
     return true;
 }
 
-void MainWindow::WriteUserTable() {
-    if (parts_.security.GridRows() > 1) {
-        parts_.security.Write_Security();
-        parts_.security.WriteDBIndex();
-    } else {
-        RecycleUserTable();
-    }
-}
-
-/// The two files under the system directory go, even when the table that is edited lies in another folder:
-/// meant.
-void MainWindow::RecycleUserTable() {
-    for (const auto* name : {"ZYSECURE.DBF", "ZYSECURE.ndx"}) {
-        RecycleIfThere(parts_.world.files, parts_.world.recycleBin, parts_.state.gsSystemDir + name);
-    }
+/// Without users the two files under the system directory go, even when the table that is edited lies in
+/// another folder: meant.
+bool MainWindow::WriteUserTable() {
+    return parts_.security.WriteUsers(parts_.state.gsSystemDir);
 }
 
 } // namespace zy

@@ -47,7 +47,8 @@ class MainWindow {
 
     /// Asks before leaving without saving and unloads on Yes. No entry or button calls it.
     void ConfirmExit();
-    /// Closes the window after asking about unsaved changes. False when a failed check keeps it open.
+    /// Closes the window after asking about unsaved changes. False when a failed check, or a save of somebody
+    /// else's, keeps it open.
     bool Unload();
 
     void Form_Load();
@@ -74,8 +75,7 @@ class MainWindow {
     bool UnloadRules();
     bool UnloadSecurity();
     bool UnloadUnits();
-    void WriteUserTable();
-    void RecycleUserTable();
+    bool WriteUserTable();
 
     Parts parts_;
     bool loaded_ = false;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 namespace zy {
 
 // What the main window asks of the editors that it does not know more closely. They implement it.
@@ -19,10 +21,10 @@ class SecurityEditor {
     virtual bool Validate_Security() = 0;
     /// Copies the grid into the user list.
     virtual void Save_Security() = 0;
-    virtual void Write_Security() = 0;
-    virtual void WriteDBIndex() = 0;
-    /// The rows of the users grid, the header's included.
-    virtual int GridRows() const = 0;
+    /// Writes the user list to the table and its index; without users both go from this folder to the recycle
+    /// bin instead. False when somebody else is saving there: then nothing is written, and the person is
+    /// told.
+    virtual bool WriteUsers(std::string_view folderWithoutUsers) = 0;
     virtual void DisableSaveButton() = 0;
 };
 

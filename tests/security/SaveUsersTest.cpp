@@ -151,6 +151,44 @@ TEST_F(SaveUsers, WithoutUsersTheButtonRecyclesInTheTablesFolderAndTheMenuInTheS
     EXPECT_FALSE(world.files.Exists(R"(C:\ELSE\ZYSECURE.DBF)"));
 }
 
+TEST_F(SaveUsers, WithoutUsersEachOfTheTwoFilesGoesWhereItExists) {
+    StartOver({User("Ann")});
+    world.files.Put(kUsersIndex, "index");
+    grid().Pick(1, 0);
+    Delete(Answer::Yes);
+    world.files.Take(kUsersTable);
+    ChooseSave();
+    ASSERT_EQ(world.recycleBin.Recycled().size(), 1U);
+    EXPECT_EQ(world.recycleBin.Recycled()[0].path, R"(C:\SYS\ZYSECURE.ndx)");
+    ChooseSave();
+    EXPECT_EQ(world.recycleBin.Recycled().size(), 1U);
+    world.files.Put(kUsersTable, "again");
+    ChooseSave();
+    ASSERT_EQ(world.recycleBin.Recycled().size(), 2U);
+    EXPECT_EQ(world.recycleBin.Recycled()[1].path, kUsersTable);
+}
+
+TEST_F(SaveUsers, WithoutUsersTheSaveGoesOnWhenTheRecycleBinFails) {
+    StartOver({User("Ann")});
+    grid().Pick(1, 0);
+    Delete(Answer::Yes);
+    world.recycleBin.SetResult(5);
+    ChooseSave();
+    EXPECT_TRUE(world.files.Exists(kUsersTable));
+    ExpectSaveEnabled(false);
+    ExpectMarks(false, false);
+}
+
+TEST_F(SaveUsers, ClosingWithoutUsersMovesTheTableToTheRecycleBin) {
+    StartOver({User("Ann")});
+    grid().Pick(1, 0);
+    Delete(Answer::Yes);
+    ExpectWishToSave(Answer::Yes);
+    EXPECT_TRUE(window().Unload());
+    EXPECT_THAT(world.files.Names(R"(C:\SYS)"), IsEmpty());
+    EXPECT_EQ(world.recycleBin.Recycled().size(), 1U);
+}
+
 TEST_F(SaveUsers, ASingleQuoteBreaksTheStatementAndTheOldTableSurvives) {
     StartOver({User("Ann"), User("Bob")});
     const auto before = world.files.Get(kUsersTable);

@@ -35,17 +35,16 @@ class FakeSecurityEditor final : public SecurityEditor {
         return valid;
     }
     void Save_Security() override { calls_.emplace_back("Save_Security"); }
-    void Write_Security() override {
-        calls_.emplace_back("Write_Security");
+    bool WriteUsers(std::string_view folderWithoutUsers) override {
+        calls_.push_back("WriteUsers " + std::string(folderWithoutUsers));
         writing();
+        return hasTurn;
     }
-    void WriteDBIndex() override { calls_.emplace_back("WriteDBIndex"); }
-    int GridRows() const override { return rows; }
     void DisableSaveButton() override { calls_.emplace_back("DisableSaveButton"); }
 
     bool mayOpen = true;
     bool valid = true;
-    int rows = 2; ///< the header and one user
+    bool hasTurn = true;
     std::function<void()> loading = [] {};
     std::function<void()> resizing = [] {};
     std::function<void()> writing = [] {};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace zy {
+
+// The names of the users' files. The table is always written under this one, whatever it was called when it
+// was read, which is meant.
+inline constexpr std::string_view kUsersTableName = "ZYSECURE.DBF";
+inline constexpr std::string_view kUsersTemporaryName = "ZYSECURE.TMP";
+inline constexpr std::string_view kUsersIndexName = "ZYSECURE.NDX";
+
+/// The paths of the users' files in a folder, which ends with "\".
+struct UserFiles {
+    explicit UserFiles(std::string_view folder)
+        : table(std::string(folder).append(kUsersTableName)),
+          temporary(std::string(folder).append(kUsersTemporaryName)),
+          index(std::string(folder).append(kUsersIndexName)) {}
+
+    std::string table;
+    std::string temporary; ///< the new table until it takes the place of the old one
+    std::string index;
+};
+
+} // namespace zy
