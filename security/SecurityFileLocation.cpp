@@ -1,7 +1,5 @@
 #include "security/SecurityFileLocation.h"
 
-#include <string_view>
-
 #include "basics/Int16.h"
 #include "basics/Text.h"
 #include "ini/INIfile.h"
@@ -27,7 +25,7 @@ std::string SecurityFileLocation(const World& world, TraceChannel& trace) {
     std::string location = UserFiles(systemDir).table;
 
     INIfile settings(world.files, world.codePage, trace);
-    settings.LoadFile(systemDir + "ZYSECURE.ZYX");
+    settings.LoadFile(systemDir + std::string(kSecurityLocationFile));
     auto& lines = *settings.INIlines();
     const Int16 count = lines.Count();
     for (int i = 1; i <= count; ++i) {

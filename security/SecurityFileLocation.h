@@ -1,15 +1,18 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "platform/World.h"
 #include "shell/TraceChannel.h"
 
 namespace zy {
 
+/// The settings file in the system directory that may name the place of the user table.
+inline constexpr std::string_view kSecurityLocationFile = "ZYSECURE.ZYX";
+
 /// The full path of the user table, in capitals and trimmed: what the key "ZYSECURE.SECURITYFILE" of the
-/// settings file "ZYSECURE.ZYX" in the system directory says, under whatever header, else "ZYSECURE.DBF" in
-/// the system directory.
+/// settings file says, under whatever header, else "ZYSECURE.DBF" in the system directory.
 ///
 /// The last of several such keys counts. A value that starts with a double quote loses its first and its last
 /// character, whatever the last one is; a double quote alone is an empty path. More than 32,767 lines are

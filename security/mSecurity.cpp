@@ -6,8 +6,10 @@
 #include "basics/RuntimeError.h"
 #include "basics/Text.h"
 #include "dbase/ErrorNumbers.h"
+#include "security/SecurityFileLocation.h"
 #include "security/TableLosses.h"
 #include "security/UserChecks.h"
+#include "security/UserFiles.h"
 #include "security/frmLogin.h"
 #include "shell/Utilities.h"
 
@@ -70,6 +72,8 @@ std::string mSecurity::TableName() const {
 Bool16 mSecurity::LoadSecurityData() {
     constexpr std::string_view kProcedure = "LoadSecurityData";
     Start(kProcedure);
+    RequireCertain(world_.files, state_.gsSystemDir + std::string(kSecurityLocationFile));
+    RequireCertain(world_.files, TablePath());
     if (!world_.files.Exists(TablePath())) {
         StartNewList();
         Trace(kProcedure, "Load New Sec FIle Complete"); // spelled so
@@ -94,7 +98,8 @@ void mSecurity::OpenDatabase() {
         throw RuntimeError(dbase::kBadPath, "'" + state_.gsSecurityFile +
                                                 "' isn't a valid path for the table of users: it names no "
                                                 "folder. " +
-                                                state_.gsSystemDir + "ZYSECURE.ZYX names the table.");
+                                                state_.gsSystemDir + std::string(kSecurityLocationFile) +
+                                                " names the table.");
     }
     database_ = engine_.OpenDatabase(SecurityFolder(), false, false, kConnect);
 }

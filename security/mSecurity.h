@@ -31,18 +31,19 @@ class mSecurity {
     /// where the table names one. True when the editor may open.
     ///
     /// A table that is damaged or cannot be read is a run-time error of the table engine. More than 32,767
-    /// users are run-time error 6.
+    /// users are run-time error 6, a place that could mean several files 75.
     Bool16 LoadSecurityData();
     /// Copies the grid's rows into the list, which has an element for each of them.
     void Save_Security();
     /// Writes the list to a new table and puts it in place of the old one. The old table stays until the new
     /// one stands on the disk. Whatever fails is raised, and the new table's file is left behind; the next
-    /// attempt then fails until it has been removed.
+    /// attempt then fails until it has been removed. Run-time error 75, before anything is written, when one
+    /// of the files could be several.
     void Write_Security();
     /// Builds the table's index anew.
     void WriteDBIndex();
     /// Moves the table and its index from a folder to the recycle bin, in place of writing a table without
-    /// users.
+    /// users. Run-time error 75 as above.
     void RecycleTable(std::string_view folder);
 
     /// Appends a user to the list and the grid, and makes its row current. More than 32,767 users are

@@ -21,6 +21,10 @@ void mSecurity::Save_Security() {
 void mSecurity::Write_Security() {
     constexpr std::string_view kProcedure = "Write_Security";
     Start(kProcedure);
+    const UserFiles files(SecurityFolder());
+    for (const auto& path : {TablePath(), files.table, files.temporary, files.index}) {
+        RequireCertain(world_.files, path);
+    }
     try {
         OpenDatabase();
         CreateTemporary();
@@ -111,6 +115,8 @@ void mSecurity::WriteDBIndex() {
 void mSecurity::RecycleTable(std::string_view folder) {
     const std::string index = std::string(folder) + "ZYSECURE.ndx"; // spelled so
     const UserFiles files(folder);
+    RequireCertain(world_.files, files.table);
+    RequireCertain(world_.files, index);
     RecycleIfThere(world_.files, world_.recycleBin, files.table);
     RecycleIfThere(world_.files, world_.recycleBin, index);
 }
