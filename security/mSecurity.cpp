@@ -76,6 +76,7 @@ Bool16 mSecurity::LoadSecurityData() {
     RequireCertain(world_.files, TablePath());
     if (!world_.files.Exists(TablePath())) {
         StartNewList();
+        Report("");
         Trace(kProcedure, "Load New Sec FIle Complete"); // spelled so
         return true;
     }
@@ -124,9 +125,18 @@ bool mSecurity::ReadTable() {
         }
         records->MoveNext();
     }
-    reported.Raise(TableLosses(*records));
+    Report(TableLosses(*records));
     records->Close();
     return hasAdmin;
+}
+
+void mSecurity::Report(std::string losses) {
+    const auto folder = SecurityFolder();
+    auto report = folder.empty() ? "" : UnfinishedSave(world_.files, UserFiles(folder)).Notice();
+    if (!report.empty() && !losses.empty()) {
+        report += "; ";
+    }
+    reported.Raise(report += losses);
 }
 
 Bool16 mSecurity::LogIn() {

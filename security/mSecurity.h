@@ -10,6 +10,7 @@
 #include "dbase/DBEngine.h"
 #include "platform/World.h"
 #include "security/SecurityControls.h"
+#include "security/UnfinishedSave.h"
 #include "security/UserRecord.h"
 #include "shell/SettingsForm.h"
 #include "shell/SharedState.h"
@@ -75,14 +76,16 @@ class mSecurity {
     void StartNewList();
     /// Reads the users, and the administrator's password; false when the table names no administrator.
     bool ReadTable();
+    /// Says what a save would drop or find in its way.
+    void Report(std::string losses);
     Bool16 LogIn();
 
     void OpenDatabase();
     std::string ColumnList();
     void CreateTemporary();
     void InsertUsers(const std::string& columns);
-    void ReplaceTable();
-    [[noreturn]] void RaiseWithHint(const RuntimeError& error);
+    void ReplaceTable(FailedSave& save);
+    void WriteTable(FailedSave& save);
 
     SecurityControls& controls_;
     SettingsForm& form_;

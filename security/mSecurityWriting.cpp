@@ -1,4 +1,5 @@
 #include "basics/RuntimeError.h"
+#include "dbase/ErrorNumbers.h"
 #include "security/UserFiles.h"
 #include "security/mSecurity.h"
 #include "shell/mRecycleBin.h"
@@ -25,35 +26,28 @@ void mSecurity::Write_Security() {
     for (const auto& path : {TablePath(), files.table, files.temporary, files.index}) {
         RequireCertain(world_.files, path);
     }
+    FailedSave save{.users = zySecure.size()};
     try {
-        OpenDatabase();
-        CreateTemporary();
-        InsertUsers(ColumnList());
-        database_->Flush(); // before the old table goes
-        ReplaceTable();
-        database_->Close();
+        WriteTable(save);
     } catch (const RuntimeError& error) {
         database_.reset();
-        RaiseWithHint(error);
+        // The file that is left behind makes the next attempt fail, which is meant: a person has to look at
+        // it.
+        save.foundTemporary = error.Number() == dbase::kTableExists;
+        throw RuntimeError(error.Number(),
+                           error.Description() + UnfinishedSave(world_.files, files).Account(save));
     }
     database_.reset();
     Trace(kProcedure, "Security File Write Success");
 }
 
-/// The file that is left behind makes the next attempt fail, which is meant: a person has to look at it. When
-/// the old table has gone already, nobody may be told to remove it.
-void mSecurity::RaiseWithHint(const RuntimeError& error) {
-    const UserFiles files(SecurityFolder());
-    if (!world_.files.Exists(files.temporary)) {
-        throw RuntimeError(error);
-    }
-    throw RuntimeError(error.Number(), error.Description() + "\n\nThe file " + files.temporary +
-                                           " stands in the way of the next save. " +
-                                           (world_.files.Exists(files.table)
-                                                ? "It may be removed."
-                                                : "There is no " + files.table +
-                                                      ", so it may be all that holds the users: give it "
-                                                      "that name."));
+void mSecurity::WriteTable(FailedSave& save) {
+    OpenDatabase();
+    CreateTemporary();
+    InsertUsers(ColumnList());
+    database_->Flush(); // before the old table goes
+    ReplaceTable(save);
+    database_->Close();
 }
 
 void mSecurity::CreateTemporary() {
@@ -92,13 +86,16 @@ void mSecurity::InsertUsers(const std::string& columns) {
     }
 }
 
-void mSecurity::ReplaceTable() {
+void mSecurity::ReplaceTable(FailedSave& save) {
     const UserFiles files(SecurityFolder());
-    RecycleIfThere(world_.files, world_.recycleBin, files.table);
+    const auto recycling = RecycleIfThere(world_.files, world_.recycleBin, files.table);
+    save.tableIsRecycled = recycling == Recycling::Done;
     const auto error = world_.files.Rename(files.temporary, files.table);
     if (error != FileError::None) {
-        throw RuntimeError(75, "Path/File access error: " + files.table + " could not be replaced, " +
-                                   std::string(Describe(error)));
+        const std::string_view refused =
+            recycling == Recycling::Refused ? " could not be moved to the recycle bin and" : "";
+        throw RuntimeError(75, "Path/File access error: " + files.table + std::string(refused) +
+                                   " could not be replaced, " + std::string(Describe(error)));
     }
 }
 

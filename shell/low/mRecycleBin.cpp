@@ -19,14 +19,15 @@ bool RecycleFiles(RecycleBin& bin, std::span<const std::string> paths) {
     }
 }
 
-void RecycleFile(RecycleBin& bin, std::string_view path) {
-    RecycleFiles(bin, std::array{std::string(path)});
+bool RecycleFile(RecycleBin& bin, std::string_view path) {
+    return RecycleFiles(bin, std::array{std::string(path)});
 }
 
-void RecycleIfThere(FileSystem& files, RecycleBin& bin, std::string_view path) {
-    if (files.Exists(path)) {
-        RecycleFile(bin, path);
+Recycling RecycleIfThere(FileSystem& files, RecycleBin& bin, std::string_view path) {
+    if (!files.Exists(path)) {
+        return Recycling::NoFile;
     }
+    return RecycleFile(bin, path) ? Recycling::Done : Recycling::Refused;
 }
 
 } // namespace zy

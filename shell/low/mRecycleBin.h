@@ -12,10 +12,13 @@ namespace zy {
 /// Sends files to the recycle bin. True when the shell reports success; errors are not told any other way.
 bool RecycleFiles(RecycleBin& bin, std::span<const std::string> paths);
 
-/// Sends one file to the recycle bin, whether that succeeds or not.
-void RecycleFile(RecycleBin& bin, std::string_view path);
+/// Sends one file to the recycle bin. True when the shell reports success.
+bool RecycleFile(RecycleBin& bin, std::string_view path);
 
-/// The same for a file that may be missing: then the bin is not asked.
-void RecycleIfThere(FileSystem& files, RecycleBin& bin, std::string_view path);
+/// What became of a file that was to be recycled.
+enum class Recycling { NoFile, Done, Refused };
+
+/// Recycles a file that may be missing: then the bin is not asked.
+Recycling RecycleIfThere(FileSystem& files, RecycleBin& bin, std::string_view path);
 
 } // namespace zy

@@ -53,7 +53,8 @@ TEST_F(OddUsersTables, WithAStatusThatIsTooWideAreNotSavedForNoCheckLooksAtIt) {
     EXPECT_EQ(error.Number(), 3163);
     EXPECT_EQ(error.Description(),
               "The field is too small: the value for 'STATUS' is wider than its 1 characters.\n\n"
-              "The file C:\\SYS\\ZYSECURE.TMP stands in the way of the next save. It may be removed.");
+              "The file C:\\SYS\\ZYSECURE.TMP stands in the way of the next save. It holds no users. "
+              "C:\\SYS\\ZYSECURE.DBF is in place. Move the file to another folder before you save again.");
     EXPECT_EQ(world.files.Get(kUsersTable), before);
 }
 

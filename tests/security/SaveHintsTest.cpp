@@ -1,10 +1,14 @@
 // What a person is told about the files that a failed save leaves behind.
 
+#include <utility>
+
 #include "UsersTest.h"
+#include "support/TableBytes.h"
 
 namespace zy::test {
 namespace {
 
+using dbase::test::TableBytes;
 using ::testing::EndsWith;
 using ::testing::HasSubstr;
 
@@ -22,37 +26,105 @@ class SaveHints : public UsersTest {
         return error;
     }
 
+    /// What the box says when nothing fails but that a temporary table of these bytes is there.
+    std::string SaidOf(std::string_view temporary) {
+        world.files.Put(kUsersTemporary, temporary);
+        const auto error = RaisedBySave();
+        EXPECT_EQ(error.Number(), 3010);
+        constexpr std::string_view kFront =
+            "Table 'ZYSECURE.TMP' already exists: the file 'C:\\SYS\\ZYSECURE.TMP' stands in the way."
+            "\n\nAnother program may be saving at this moment."
+            "\n\nThe file C:\\SYS\\ZYSECURE.TMP stands in the way of the next save. ";
+        EXPECT_THAT(error.Description(), ::testing::StartsWith(kFront));
+        EXPECT_EQ(world.files.Get(kUsersTemporary), temporary);
+        return error.Description().substr(kFront.size());
+    }
+    static TableBytes TwoUsersAndADeletedOne() {
+        return dbase::test::UserTable()
+            .Add(' ', {"Ann", "pw", "id", "", "A"})
+            .Add('*', {"Cid", "pw", "id", "", "A"})
+            .Add(' ', {"Bob", "pw", "id", "", "A"});
+    }
+
+    static constexpr std::size_t kWriteUsers = 13;
+    static constexpr std::size_t kFlushUsers = 14;
     static constexpr std::size_t kRename = 17;
-    static constexpr auto kMayGo =
-        "\n\nThe file C:\\SYS\\ZYSECURE.TMP stands in the way of the next save. It may be removed.";
-    static constexpr auto kMustStay =
-        "\n\nThe file C:\\SYS\\ZYSECURE.TMP stands in the way of the next save. There is no "
-        "C:\\SYS\\ZYSECURE.DBF, so it may be all that holds the users: give it that name.";
+    static constexpr auto kStands = "\n\nThe file C:\\SYS\\ZYSECURE.TMP stands in the way of the next save. ";
+    static constexpr auto kTableStands = " C:\\SYS\\ZYSECURE.DBF is in place.";
+    static constexpr auto kMove = " Move the file to another folder before you save again.";
+    static constexpr auto kRestore = " Rename the file to ZYSECURE.DBF to have its users back.";
 };
 
-TEST_F(SaveHints, TheTemporaryTableMayBeRemovedWhileTheOldOneIsThere) {
-    world.files.Put(kUsersTemporary, "left over");
-    const auto error = RaisedBySave();
-    EXPECT_EQ(error.Number(), 3010);
-    EXPECT_EQ(error.Description(), "Table 'ZYSECURE.TMP' already exists: the file 'C:\\SYS\\ZYSECURE.TMP' "
-                                   "stands in the way." +
-                                       std::string(kMayGo));
+TEST_F(SaveHints, ATemporaryTableThatIsThereMayBeThatOfAnotherProgramAndItsUsersAreCounted) {
+    const std::string rest = std::string(kTableStands) + " If nobody is saving:" + kMove;
+    EXPECT_EQ(SaidOf(TwoUsersAndADeletedOne().Bytes()), "It holds 2 users." + rest);
+    EXPECT_EQ(SaidOf(dbase::test::UserTable().Bytes()), "It holds no users." + rest);
+    auto cut = TwoUsersAndADeletedOne();
+    cut.count = 9;
+    EXPECT_EQ(SaidOf(cut.Bytes()), "It holds 2 users and is damaged." + rest);
+    EXPECT_EQ(SaidOf("left over"), "'C:\\SYS\\ZYSECURE.TMP' cannot be read: it has 9 bytes, a table at least "
+                                   "33." +
+                                       rest);
+    world.files.SetUnreadable(kUsersTemporary);
+    EXPECT_EQ(SaidOf("left over"), "'C:\\SYS\\ZYSECURE.TMP' cannot be opened: access is denied." + rest);
 }
 
-TEST_F(SaveHints, NobodyIsToldToRemoveTheOnlyFileThatHoldsTheUsers) {
+TEST_F(SaveHints, WithoutATableTheUsersOfATemporaryOneAreToBeBroughtBackAndOthersAreMovedAway) {
+    world.files.Take(kUsersTable);
+    const std::string none = " There is no C:\\SYS\\ZYSECURE.DBF. If nobody is saving:";
+    EXPECT_EQ(SaidOf(TwoUsersAndADeletedOne().Bytes()), "It holds 2 users." + none + kRestore);
+    EXPECT_EQ(SaidOf(dbase::test::UserTable().Bytes()), "It holds no users." + none + kMove);
+    EXPECT_EQ(SaidOf(TwoUsersAndADeletedOne().Add('x', {"", "", "", "", ""}).Bytes()),
+              "It holds 2 users and is damaged." + none + kMove)
+        << "the program would refuse it";
+}
+
+TEST_F(SaveHints, ATableThatWasNotWrittenToItsEndSaysHowManyOfItsUsersItHolds) {
+    world.files.Take(kUsersTable);
+    StartOver(Users(10, User("Ann")));
+    for (int row = 1; row <= 10; ++row) {
+        Edit(row, kUserName, "u" + std::to_string(row));
+    }
+    for (const auto& [cut, holds] :
+         {std::pair(true, "It holds 3 of 10 users and is damaged."),
+          std::pair(false, "'C:\\SYS\\ZYSECURE.TMP' cannot be read: it has 0 bytes, a table at least 33.")}) {
+        world.files.Take(kUsersTemporary);
+        world.files.Plan({.operation = kWriteUsers, .cutShort = cut});
+        const auto error = RaisedBy([&] { Save(); });
+        world.files.Plan({});
+        EXPECT_EQ(error.Number(), 3043);
+        EXPECT_EQ(error.Description(),
+                  "'C:\\SYS\\ZYSECURE.TMP' cannot be written: the disk reported an error." +
+                      std::string(kStands) + holds + kTableStands + kMove);
+    }
+}
+
+TEST_F(SaveHints, AWholeTableBesideTheOldOneIsNoneToBeRenamed) {
+    const auto error = RaisedBySave(kFlushUsers);
+    EXPECT_EQ(error.Number(), 3043);
+    EXPECT_EQ(error.Description(), "'C:\\SYS\\ZYSECURE.TMP' cannot be written: the disk reported an error." +
+                                       std::string(kStands) + "It holds 1 of 1 user." + kTableStands + kMove);
+}
+
+TEST_F(SaveHints, AStatementThatFailsLeavesATableWithoutUsersAndTheOldOneInPlace) {
+    Edit(1, kPassword, "'");
+    const auto error = RaisedBySave();
+    EXPECT_EQ(error.Number(), 3134);
+    EXPECT_THAT(error.Description(),
+                EndsWith(std::string(kStands) + "It holds no users." + kTableStands + kMove));
+}
+
+TEST_F(SaveHints, TheOnlyFileThatHoldsTheUsersIsToGetItsNameAndTheOldTableLiesInTheRecycleBin) {
     const auto error = RaisedBySave(kRename);
     EXPECT_EQ(error.Number(), 75);
     EXPECT_EQ(error.Description(), "Path/File access error: C:\\SYS\\ZYSECURE.DBF could not be replaced, "
                                    "the disk reported an error" +
-                                       std::string(kMustStay));
+                                       std::string(kStands) +
+                                       "It holds 1 of 1 user. There is no C:\\SYS\\ZYSECURE.DBF: the old one "
+                                       "is in the recycle bin." +
+                                       kRestore);
     EXPECT_FALSE(world.files.Exists(kUsersTable));
-
-    Start("@SECURITY"); // without a table as for the first time
-    Edit(1, kPassword, "p");
-    Edit(1, kIdentification, "i");
-    const auto next = RaisedBySave();
-    EXPECT_EQ(next.Number(), 3010);
-    EXPECT_THAT(next.Description(), EndsWith(kMustStay));
+    EXPECT_EQ(world.recycleBin.Recycled().back().path, kUsersTable);
 }
 
 TEST_F(SaveHints, UsersWhoStandInTheTemporaryTableAreBackWhenItGetsItsName) {
@@ -62,13 +134,15 @@ TEST_F(SaveHints, UsersWhoStandInTheTemporaryTableAreBackWhenItGetsItsName) {
     EXPECT_THAT(Rows(), ::testing::ElementsAre("Ann|new|A||id of Ann"));
 }
 
-TEST_F(SaveHints, ATableThatAnotherProgramHoldsStaysAndTheNewOneIsNamed) {
-    world.files.SetHeldOpen(kUsersTable);
+TEST_F(SaveHints, ATableThatCannotBeRecycledStaysAndThatIsNamed) {
     world.recycleBin.SetResult(1);
     const auto before = world.files.Get(kUsersTable);
     const auto error = RaisedBySave();
     EXPECT_EQ(error.Number(), 75);
-    EXPECT_THAT(error.Description(), EndsWith(kMayGo));
+    EXPECT_EQ(error.Description(),
+              "Path/File access error: C:\\SYS\\ZYSECURE.DBF could not be moved to the "
+              "recycle bin and could not be replaced, a file of that name is in the way" +
+                  std::string(kStands) + "It holds 1 of 1 user." + kTableStands + kMove);
     EXPECT_EQ(world.files.Get(kUsersTable), before);
 }
 

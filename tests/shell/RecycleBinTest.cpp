@@ -51,9 +51,21 @@ TEST(RecycleFiles, IsFalseAndSilentWhenTheShellRaisesAnError) {
 
 TEST(RecycleFile, RecyclesAListOfOne) {
     RecordingBin bin;
-    bin.result = 1; // not even the shell's result is told
-    RecycleFile(bin, R"(C:\a)");
+    EXPECT_TRUE(RecycleFile(bin, R"(C:\a)"));
     EXPECT_EQ(bin.list, std::string("C:\\a\0\0", 6));
+    bin.result = 1;
+    EXPECT_FALSE(RecycleFile(bin, R"(C:\a)"));
+}
+
+TEST(RecycleIfThere, TellsWhatBecameOfTheFile) {
+    RecordingBin bin;
+    MemoryFileSystem files(Windows1252());
+    EXPECT_EQ(RecycleIfThere(files, bin, R"(C:\a)"), Recycling::NoFile);
+    EXPECT_EQ(bin.list, "") << "the bin was not asked";
+    files.Put(R"(C:\a)", "");
+    EXPECT_EQ(RecycleIfThere(files, bin, R"(C:\a)"), Recycling::Done);
+    bin.raises = true;
+    EXPECT_EQ(RecycleIfThere(files, bin, R"(C:\a)"), Recycling::Refused);
 }
 
 } // namespace
