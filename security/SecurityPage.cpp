@@ -1,9 +1,12 @@
 #include "security/SecurityPage.h"
 
+#include <algorithm>
 #include <string>
 
+#include "basics/Text.h"
 #include "security/SecurityLayout.h"
 #include "security/UserFiles.h"
+#include "security/UserStatement.h"
 #include "security/frmDatePicker.h"
 #include "shell/SaveTurn.h"
 
@@ -12,6 +15,20 @@ namespace {
 
 constexpr std::string_view kForm = "frmGlobalSettings";
 constexpr std::string_view kDialogButton = "...";
+
+/// What the status bar says of a row with single quotes.
+std::string_view Describe(QuotesEffect effect) {
+    switch (effect) {
+    case QuotesEffect::HalfStored:
+        return "two single quotes are stored as one";
+    case QuotesEffect::Shifted:
+        return "single quotes shift its fields in the table";
+    case QuotesEffect::NotSaved:
+    case QuotesEffect::None:
+        break;
+    }
+    return "a single quote makes the save fail";
+}
 
 } // namespace
 
@@ -29,7 +46,7 @@ void SecurityPage::Connect() {
     form_.menu.mnuAddUser.click.Connect([this] { mnuAddUser_Click(); });
     form_.menu.mnuDeleteUser.click.Connect([this] { mnuDeleteUser_Click(); });
     grid.beforeEdit.Connect([this](int, int column) { grdSecurity_BeforeEdit(column); });
-    grid.afterEdit.Connect([this](int, int) { grdSecurity_AfterEdit(); });
+    grid.afterEdit.Connect([this](int row, int) { grdSecurity_AfterEdit(row); });
     grid.cellButtonClick.Connect([this](int row, int column) { grdSecurity_CellButtonClick(row, column); });
     grid.keyDown.Connect(
         [this](const KeyPress& press, bool& handled) { grdSecurity_KeyDown(press, handled); });
@@ -57,13 +74,31 @@ void SecurityPage::LoadSecurity() {
     Trace("LoadSecurity", "Finished");
 }
 
-void SecurityPage::ReportCount() {
+void SecurityPage::ReportCount(int row) {
     const int count = controls.grdSecurity.Rows() - 1;
     std::string text = std::to_string(count) + (count == 1 ? " user" : " users");
-    if (!report_.empty()) {
-        text += "; " + report_;
+    for (const auto& report : {QuotesReport(row), report_}) {
+        text += report.empty() ? "" : "; " + report;
     }
     form_.zyStatusBar.SetText(text);
+}
+
+bool SecurityPage::HasQuotes(int row) const {
+    const auto texts = controls.grdSecurity.RowTexts(row);
+    return std::any_of(texts.begin(), texts.end(), [](auto text) { return Contains(text, '\''); });
+}
+
+std::string SecurityPage::QuotesReport(int row) const {
+    const int end = controls.grdSecurity.Rows();
+    if (row < 1 || row >= end || !HasQuotes(row)) {
+        for (row = 1; row < end && !HasQuotes(row);) {
+            ++row;
+        }
+    }
+    if (row == end) {
+        return "";
+    }
+    return "row " + std::to_string(row) + ": " + std::string(Describe(EffectOfQuotes(users.UserInRow(row))));
 }
 
 void SecurityPage::EnableDelete(bool enabled) {
@@ -71,13 +106,13 @@ void SecurityPage::EnableDelete(bool enabled) {
     form_.menu.mnuDeleteUser.SetEnabled(enabled);
 }
 
-void SecurityPage::MarkChanged() {
+void SecurityPage::MarkChanged(int row) {
     state_.gbChanged = true;
-    ReportCount();
+    ReportCount(row);
 }
 
-void SecurityPage::MarkChangedAndEnableSave() {
-    MarkChanged();
+void SecurityPage::MarkChangedAndEnableSave(int row) {
+    MarkChanged(row);
     controls.cmdSaveUsers.SetEnabled(true);
 }
 
@@ -156,9 +191,9 @@ void SecurityPage::ShowSaved() {
     form_.zyStatusBar.SetText("Saved");
 }
 
-void SecurityPage::grdSecurity_AfterEdit() {
+void SecurityPage::grdSecurity_AfterEdit(int row) {
     Trace("grdSecurity_AfterEdit", "Start");
-    MarkChangedAndEnableSave();
+    MarkChangedAndEnableSave(row);
 }
 
 void SecurityPage::grdSecurity_BeforeEdit(int column) {
@@ -193,7 +228,7 @@ void SecurityPage::grdSecurity_CellButtonClick(int row, int column) {
 
 void SecurityPage::SetDate(int row, const std::string& text) {
     controls.grdSecurity.SetText(row, kExpiryDate, text);
-    MarkChangedAndEnableSave();
+    MarkChangedAndEnableSave(row);
 }
 
 void SecurityPage::grdSecurity_KeyDown(const KeyPress& press, bool& handled) {

@@ -18,7 +18,7 @@ class SecurityPage : public SecurityEditor {
     void mnuAddUser_Click();
     /// Deletes at once and leaves the buttons alone, unlike the button, which is meant.
     void mnuDeleteUser_Click();
-    void grdSecurity_AfterEdit();
+    void grdSecurity_AfterEdit(int row);
     /// Gives the cells of dates their button.
     void grdSecurity_BeforeEdit(int column);
     /// Opens the calendar beside the cell.
@@ -47,12 +47,17 @@ class SecurityPage : public SecurityEditor {
     bool HasUsers() const { return controls.grdSecurity.Rows() >= 2; }
     bool HasCurrentUser() const { return controls.grdSecurity.Row() >= 1; }
     void EnableDelete(bool enabled);
-    void MarkChanged();
-    void MarkChangedAndEnableSave();
+    /// `row` is the one that was edited, if one was.
+    void MarkChanged(int row = 0);
+    void MarkChangedAndEnableSave(int row = 0);
     void DeleteCurrentUser();
     void SetDate(int row, const std::string& text);
     void ShowSaved();
-    void ReportCount();
+    /// Tells the number of users, what becomes of the single quotes in one, the row's before others, and what
+    /// loading told.
+    void ReportCount(int row = 0);
+    bool HasQuotes(int row) const;
+    std::string QuotesReport(int row) const;
 
     SettingsForm& form_;
     SharedState& state_;

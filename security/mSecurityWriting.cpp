@@ -1,6 +1,7 @@
 #include "basics/RuntimeError.h"
 #include "dbase/ErrorNumbers.h"
 #include "security/UserFiles.h"
+#include "security/UserStatement.h"
 #include "security/mSecurity.h"
 #include "shell/mRecycleBin.h"
 
@@ -8,15 +9,18 @@ namespace zy {
 
 void mSecurity::Save_Security() {
     Start("Save_Security");
-    const auto& grid = controls_.grdSecurity;
-    for (int row = 1; row < grid.Rows(); ++row) {
-        auto& user = zySecure.at(static_cast<std::size_t>(row) - 1);
-        user.USERID = grid.Text(row, kUserName);
-        user.PASSWORD = grid.Text(row, kPassword);
-        user.STATUS = grid.Text(row, kStatus);
-        user.EXPDATE = grid.Text(row, kExpiryDate);
-        user.IDENTIFIER = grid.Text(row, kIdentification);
+    for (int row = 1; row < controls_.grdSecurity.Rows(); ++row) {
+        zySecure.at(static_cast<std::size_t>(row) - 1) = UserInRow(row);
     }
+}
+
+UserRecord mSecurity::UserInRow(int row) const {
+    const auto text = [&](int column) { return std::string(controls_.grdSecurity.Text(row, column)); };
+    return {.USERID = text(kUserName),
+            .PASSWORD = text(kPassword),
+            .IDENTIFIER = text(kIdentification),
+            .EXPDATE = text(kExpiryDate),
+            .STATUS = text(kStatus)};
 }
 
 void mSecurity::Write_Security() {
@@ -76,10 +80,7 @@ void mSecurity::InsertUsers(const std::string& columns) {
     std::string statement;
     for (const auto& user : zySecure) {
         statement = front;
-        // Values are put in as they are: a single quote in one breaks the statement, which is meant.
-        statement.append(user.USERID).append("', '").append(user.PASSWORD).append("', '");
-        statement.append(user.IDENTIFIER).append("', '").append(user.EXPDATE).append("', '");
-        statement.append(user.STATUS).append("');");
+        AppendValues(statement, user);
         engine_.BeginTrans();
         database_->Execute(statement, dbase::ExecuteOptions::FailOnError);
         engine_.CommitTrans();

@@ -13,7 +13,7 @@ STATEMENTS = {
     "CREATE INDEX [ZYSECURE] ON [ZYSECURE.DBF] (",
     "CREATE TABLE [ZYSECURE.TMP] (USERID TEXT (10), PASSWORD TEXT (20), IDENTIFIER TEXT(20),EXPDATE TEXT (8), "
     "STATUS TEXT(1));",
-    "INSERT INTO [ZYSECURE.TMP] ", ") VALUES ('",
+    "INSERT INTO [ZYSECURE.TMP] ", ") VALUES ('", "INSERT INTO U (A, B, C, D, E) VALUES ('",
 }
 
 # The rules grid and the question before leaving without saving are there, but no menu, button or key leads to them.

@@ -92,6 +92,50 @@ TEST_F(BadUserValues, WithTwoSingleQuotesAreStoredWithOne) {
     EXPECT_EQ(TableUsers()->back().USERID, "O'Neil") << "meant: values go into the statement as they are";
 }
 
+TEST_F(BadUserValues, WithSingleQuotesAreToldWithTheirRowWhenTheCellIsCommitted) {
+    const std::string fails = "2 users; row 2: a single quote makes the save fail";
+    for (const int column : {kUserName, kPassword, kIdentification, kStatus, kExpiryDate}) {
+        Edit(2, column, "O'B");
+        EXPECT_EQ(Status(), fails) << column;
+        Edit(2, column, "O''B");
+        EXPECT_EQ(Status(), "2 users; row 2: two single quotes are stored as one") << column;
+        Edit(2, column, "OB");
+        EXPECT_EQ(Status(), "2 users") << column;
+    }
+    Edit(1, kUserName, "a'");
+    EXPECT_EQ(Status(), "2 users; row 1: a single quote makes the save fail");
+    Edit(2, kUserName, "'");
+    EXPECT_EQ(Status(), fails) << "the row that was edited goes before others";
+    Edit(2, kUserName, "b");
+    EXPECT_EQ(Status(), "2 users; row 1: a single quote makes the save fail") << "it has them still";
+}
+
+TEST_F(BadUserValues, WithAQuoteAtTheEndOfANameBesideOneInFrontOfThePasswordBreakTheSave) {
+    Edit(2, kUserName, "b'");
+    Edit(2, kPassword, "'c");
+    EXPECT_EQ(Status(), "2 users; row 2: a single quote makes the save fail");
+    EXPECT_EQ(RaisedBy([&] { Save(); }).Number(), 3346) << "the two have become one value";
+    EXPECT_EQ(TableUsers()->size(), 2U);
+}
+
+TEST_F(BadUserValues, WhoseQuotesMakeAsManyFieldsAsThereAreGetPartsOfOthers) {
+    Edit(2, kUserName, "b'");
+    Edit(2, kPassword, "'c");
+    Edit(2, kIdentification, "i', 'j");
+    EXPECT_EQ(Status(), "2 users; row 2: single quotes shift its fields in the table");
+    Save();
+    EXPECT_EQ(
+        TableUsers()->back(),
+        (UserRecord{.USERID = "b', 'c", .PASSWORD = "i", .IDENTIFIER = "j", .EXPDATE = "", .STATUS = "A"}));
+}
+
+TEST_F(BadUserValues, WithASingleQuoteInTheTableAreToldWhenItIsOpened) {
+    world.files.Take(kUsersTable);
+    StartOver({User("Ann"), User("O''Brien")});
+    EXPECT_EQ(grid().Text(2, kUserName), "O'Brien");
+    EXPECT_EQ(Status(), "2 users; row 2: a single quote makes the save fail");
+}
+
 TEST_F(BadUserValues, LoseTheBlanksBehindThemAndKeepThoseBeforeThem) {
     Edit(2, kUserName, " Bob  ");
     Save();
