@@ -118,15 +118,26 @@ void SecurityPage::MarkChangedAndEnableSave(int row) {
 
 void SecurityPage::cmdAddUser_Click() {
     Trace("cmdAddUser_Click", "Start");
-    users.Add_User();
+    if (!AddUser()) {
+        return;
+    }
     controls.grdSecurity.SetFocus(); // what is typed next is the user's name
     EnableDelete(true);
     MarkChangedAndEnableSave();
 }
 
 void SecurityPage::mnuAddUser_Click() {
-    users.Add_User();
-    MarkChanged();
+    if (AddUser()) {
+        MarkChanged();
+    }
+}
+
+bool SecurityPage::AddUser() {
+    const bool added = users.Add_User();
+    if (!added) {
+        form_.zyStatusBar.SetText("Not added: " + std::to_string(kMostUsers) + " users are the most");
+    }
+    return added;
 }
 
 void SecurityPage::cmdDeleteUser_Click() {

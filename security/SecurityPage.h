@@ -50,6 +50,8 @@ class SecurityPage : public SecurityEditor {
     /// `row` is the one that was edited, if one was.
     void MarkChanged(int row = 0);
     void MarkChangedAndEnableSave(int row = 0);
+    /// False, and the person is told, when there is no room for one more.
+    bool AddUser();
     void DeleteCurrentUser();
     void SetDate(int row, const std::string& text);
     void ShowSaved();

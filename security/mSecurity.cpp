@@ -155,14 +155,18 @@ Bool16 mSecurity::LogIn() {
     return login.LoginSucceeded;
 }
 
-void mSecurity::Add_User() {
+bool mSecurity::Add_User() {
     Start("Add_User");
     auto& grid = controls_.grdSecurity;
-    const Int16 row = grid.Rows(); // one row more than a counter holds is refused here
+    if (grid.Rows() > kMostUsers) {
+        return false;
+    }
+    const int row = grid.Rows();
     zySecure.resize(static_cast<std::size_t>(row));
     zySecure.back() = NewUser();
     grid.AddItem(GridRow(zySecure.back()));
     grid.Select(row, kUserName);
+    return true;
 }
 
 void mSecurity::DeleteUser(int row) {

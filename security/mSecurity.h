@@ -47,9 +47,9 @@ class mSecurity {
     /// users. Run-time error 75 as above.
     void RecycleTable(std::string_view folder);
 
-    /// Appends a user to the list and the grid, and makes its row current. More than 32,767 users are
-    /// run-time error 6.
-    void Add_User();
+    /// Appends a user to the list and the grid, and makes its row current. False, and nothing is added, when
+    /// a counter would not hold one more: 32,767 are the most.
+    bool Add_User();
     /// Removes a row of the grid and its user. The list keeps one element, which the next user takes.
     void DeleteUser(int row);
     /// Checks every row and shows the first failure, whose cell becomes current.

@@ -192,11 +192,20 @@ TEST_F(EditUsers, ShiftTabElsewhereGoesOneCellBack) {
     EXPECT_TRUE(grid().HasFocus());
 }
 
-TEST_F(EditUsers, OneUserMoreThanACounterHoldsIsRefusedBeforeAnythingChanges) {
-    StartOver(Users(32767, User("x")));
-    EXPECT_EQ(RaisedBy([&] { controls().cmdAddUser.Click(); }).Number(), 6);
+TEST_F(EditUsers, OneUserMoreThanACounterHoldsIsNotAddedByTheButtonNorByTheMenu) {
+    StartOver(Users(32766, User("x")));
+    controls().cmdAddUser.Click();
+    EXPECT_EQ(Status(), "32767 users");
+    grid().Pick(5, kPassword);
+    controls().cmdAddUser.Click();
+    EXPECT_EQ(Status(), "Not added: 32767 users are the most");
+    state().gbChanged = false;
+    ChooseAdd();
+    EXPECT_EQ(Status(), "Not added: 32767 users are the most");
     EXPECT_EQ(grid().Rows(), 32768);
     EXPECT_EQ(page().users.zySecure.size(), 32767U);
+    ExpectCurrent(5, kPassword);
+    ExpectMarks(false, false);
 }
 
 } // namespace
