@@ -156,6 +156,16 @@ TEST_F(OtherReaders, ReadOurCharactersBeyondAscii) {
     ExpectIndexWalkedAndSearched(users);
 }
 
+TEST_F(OtherReaders, ReadTheUsersOfTheSampleSettings) {
+    for (const auto* name : {"ZYSECURE.DBF", "ZYSECURE.NDX"}) {
+        std::filesystem::copy_file(ZY_SAMPLES + std::string("/") + name, Path(name));
+    }
+    const auto users = Read("ZYSECURE");
+    EXPECT_EQ(users.size(), 5U);
+    ExpectReadByAll(users);
+    ExpectIndexWalkedAndSearched(users);
+}
+
 TEST_F(OtherReaders, ReadAnEmptyTableOfOurs) {
     Write({});
     EXPECT_THAT(LinesOf({"/usr/bin/python3", Script("read_dbfread.py"), Table()}), ::testing::IsEmpty());
