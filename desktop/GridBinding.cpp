@@ -99,10 +99,18 @@ void GridBinding::PressKey(wxKeyEvent& event) {
     if (press) {
         Gate().Act([&] { taken = model_.Press(*press); });
     }
-    if (!taken && press && press->key == Key::Tab && !press->ctrl && !press->alt) {
+    if (!taken) {
+        HandOn(event);
+    }
+}
+
+void GridBinding::HandOn(wxKeyEvent& event) {
+    const int key = event.GetKeyCode();
+    if ((key == WXK_TAB || key == WXK_NUMPAD_TAB) && !event.AltDown()) {
         // The toolkit's grid would move its own cursor.
-        grid_->Navigate(press->shift ? wxNavigationKeyEvent::IsBackward : wxNavigationKeyEvent::IsForward);
-    } else if (!taken) {
+        grid_->Navigate(event.ShiftDown() ? wxNavigationKeyEvent::IsBackward
+                                          : wxNavigationKeyEvent::IsForward);
+    } else {
         event.Skip();
     }
 }

@@ -30,6 +30,8 @@ class GridBinding : public ControlBinding {
     void BindKeys();
     void PressMouse(int button, const wxGridEvent& event);
     void PressKey(wxKeyEvent& event);
+    /// A key that the model has no use for: most are the toolkit's.
+    void HandOn(wxKeyEvent& event);
     bool UseClipboard(const wxKeyEvent& event);
     void TypeKey(wxKeyEvent& event);
 

@@ -244,6 +244,21 @@ TEST_F(GridSelection, ShiftTabAtTheFirstCellGoesOnToTheHelpButton) {
     });
 }
 
+TEST_F(GridSelection, CtrlTabLeavesTheGridFromAnyCellBothWays) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        ClickCell(2, 0);
+        Press(WXK_TAB, wxMOD_CONTROL);
+        WaitForFocus(page().cmdAddUNit);
+        WaitForCell(2, 0);
+        Press(WXK_TAB, wxMOD_SHIFT);
+        WaitForFocus(grid());
+        Press(WXK_TAB, wxMOD_CONTROL | wxMOD_SHIFT);
+        WaitForFocus(page().UpDownUnits);
+        WaitForCell(2, 0);
+    });
+}
+
 TEST_F(GridSelection, TabLeavesAnEmptyGridBothWays) {
     Play([&] {
         Press(WXK_TAB);
