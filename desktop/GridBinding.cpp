@@ -110,6 +110,9 @@ void GridBinding::HandOn(wxKeyEvent& event) {
         // The toolkit's grid would move its own cursor.
         grid_->Navigate(event.ShiftDown() ? wxNavigationKeyEvent::IsBackward
                                           : wxNavigationKeyEvent::IsForward);
+    } else if (key == WXK_SPACE && !event.HasAnyModifiers()) {
+        // It would take this one for an arrow.
+        TypeKey(event);
     } else {
         event.Skip();
     }

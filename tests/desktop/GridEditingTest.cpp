@@ -41,6 +41,14 @@ TEST_F(GridEditing, TypingOverACellStartsWithTheCharacterTyped) {
     });
 }
 
+TEST_F(GridEditing, ASpaceIsTypedLikeAnyCharacter) {
+    Play([&] {
+        ClickCell(2, 0);
+        Type(" x");
+        WaitForEditor(" x");
+    });
+}
+
 TEST_F(GridEditing, BackspaceOpensAnEmptyEditor) {
     Play([&] {
         ClickCell(2, 1);
