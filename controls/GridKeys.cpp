@@ -85,14 +85,17 @@ bool Grid::MoveByKey(const KeyPress& press) {
     }
     const Key key = press.key == Key::Enter && !press.shift ? Key::Down : press.key;
     // With Shift the block's far end moves, without it the current cell.
-    const bool stretches = press.shift && current_.row >= 1;
-    const auto beside = Beside(stretches ? blockEnd_ : current_, key);
+    const auto beside = Beside(press.shift ? blockEnd_ : current_, key);
     if (!beside) {
         return false;
     }
+    if (current_.row < 1) {
+        Select(1, 0);
+        return true;
+    }
     const int row = std::clamp(beside->row, 1, rows_ - 1);
     const int column = std::clamp(beside->column, 0, columns_ - 1);
-    if (stretches) {
+    if (press.shift) {
         SelectTo(row, column);
     } else {
         Select(row, column);

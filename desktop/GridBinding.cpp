@@ -113,7 +113,7 @@ void GridBinding::HandOn(wxKeyEvent& event) {
     } else if (key == WXK_SPACE && !event.HasAnyModifiers()) {
         // It would take this one for an arrow.
         TypeKey(event);
-    } else {
+    } else if (!cursor_.BeginBy(event)) {
         event.Skip();
     }
 }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/GridKeys.h"
+
 namespace zy {
 namespace {
 
@@ -70,6 +72,14 @@ void GridCursor::TakeCell(const wxGridEvent& event) {
             return model_.HasFocus();
         });
     }
+}
+
+bool GridCursor::BeginBy(const wxKeyEvent& event) {
+    const bool begins = !HasCell() && IsCursorKey(event);
+    if (begins) {
+        context_.gate.Act([this] { TakeFirstCell(); });
+    }
+    return begins;
 }
 
 bool GridCursor::TakeFirstCell() {

@@ -17,6 +17,9 @@ class GridCursor {
     bool Show();
     /// Lets the next Show show them in any case: rows have come or gone.
     void Touch() { changed_ = true; }
+    /// Takes a key by which the toolkit would go on from its own cursor, where the model has no current cell:
+    /// that leads to the first one. False for other keys, and where there is a cell to go on from.
+    bool BeginBy(const wxKeyEvent& event);
 
   private:
     void TakeCell(const wxGridEvent& event);

@@ -1,5 +1,6 @@
 #include "desktop/GridKeys.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -38,6 +39,14 @@ std::optional<KeyPress> GridKeyPressOf(const wxKeyEvent& event) {
         }
     }
     return KeyPressOf(event);
+}
+
+bool IsCursorKey(const wxKeyEvent& event) {
+    constexpr std::array kMoving{Key::Up,   Key::Down, Key::Left,   Key::Right,
+                                 Key::Home, Key::End,  Key::PageUp, Key::PageDown};
+    const auto press = GridKeyPressOf(event);
+    return event.GetKeyCode() == WXK_SPACE ||
+           (press && std::find(kMoving.begin(), kMoving.end(), press->key) != kMoving.end());
 }
 
 ClipboardKey ClipboardKeyOf(const wxKeyEvent& event) {

@@ -11,6 +11,9 @@ namespace zy {
 /// A key of the toolkit as a grid knows it; nothing for one that it does not react to.
 std::optional<KeyPress> GridKeyPressOf(const wxKeyEvent& event);
 
+/// Whether the toolkit's grid moves its cursor by this key, or selects from it on.
+bool IsCursorKey(const wxKeyEvent& event);
+
 /// What the keys of the clipboard ask for.
 enum class ClipboardKey { None, Copy, Cut, Paste };
 ClipboardKey ClipboardKeyOf(const wxKeyEvent& event);

@@ -140,6 +140,17 @@ TEST_F(GridTest, StartsAtItsFirstCellWhenNoneWasCurrent) {
     EXPECT_EQ(grid.BlockEnd(), (Cell{1, 0}));
 }
 
+TEST_F(GridTest, StartsAtItsFirstCellByEveryKeyThatMoves) {
+    const int rows = grid.Rows();
+    for (const Key key : {Key::Up, Key::Down, Key::Left, Key::Right, Key::Home, Key::End, Key::Enter}) {
+        grid.Select(1, 1);
+        grid.SetRows(1);
+        grid.SetRows(rows);
+        EXPECT_TRUE(grid.Press({key}));
+        ExpectCurrent(1, 0);
+    }
+}
+
 TEST_F(GridTest, MovesNowhereWithoutARow) {
     grid.SetRows(1);
     EXPECT_FALSE(grid.Press({Key::Down}));
