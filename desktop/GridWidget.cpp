@@ -23,21 +23,30 @@ class OneLine : public wxGridCellStringRenderer {
   public:
     void Draw(wxGrid& grid, wxGridCellAttr& attr, wxDC& dc, const wxRect& place, int row, int column,
               bool isSelected) override {
-        // In a block that is selected, the current cell stands out.
-        const bool strong = isSelected && grid.GetGridCursorCoords() != wxGridCellCoords(row, column);
-        if (static_cast<GridWidget&>(grid).IsCurrentRow(row) && !strong) {
+        if (static_cast<GridWidget&>(grid).IsCurrentRow(row) && !isSelected) {
             dc.SetPen(*wxTRANSPARENT_PEN);
             dc.SetBrush(TintOf(grid));
             dc.DrawRectangle(place);
         } else {
-            wxGridCellRenderer::Draw(grid, attr, dc, place, row, column, strong);
+            wxGridCellRenderer::Draw(grid, attr, dc, place, row, column, isSelected);
         }
         // Without the keyboard a block is grey, on which the selection's own colour of text is hard to read.
-        SetTextColoursAndFont(grid, attr, dc, strong && grid.HasFocus());
+        SetTextColoursAndFont(grid, attr, dc, isSelected && grid.HasFocus());
+        if (isSelected && grid.GetGridCursorCoords() == wxGridCellCoords(row, column)) {
+            DrawFrame(grid, dc, place);
+        }
         DrawText(static_cast<GridWidget&>(grid), dc, place, grid.GetCellValue(row, column));
     }
 
   private:
+    /// The current cell's frame has the colour of the selection. In a block, where it cannot be seen, this
+    /// one has the colour of the text.
+    static void DrawFrame(const wxGrid& grid, wxDC& dc, const wxRect& place) {
+        constexpr int kInside = 2;
+        dc.SetPen(wxPen(dc.GetTextForeground(), grid.FromDIP(1)));
+        dc.SetBrush(*wxTRANSPARENT_BRUSH);
+        dc.DrawRectangle(wxRect(place).Deflate(grid.FromDIP(kInside)));
+    }
     static void DrawText(GridWidget& grid, wxDC& dc, wxRect place, const wxString& text) {
         place.Deflate(grid.CellMargin(), 0);
         const auto fitting =

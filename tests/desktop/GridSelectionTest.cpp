@@ -1,4 +1,7 @@
+#include <wx/bitmap.h>
+#include <wx/dcmemory.h>
 #include <wx/grid.h>
+#include <wx/image.h>
 #include <wx/uiaction.h>
 
 #include "UnitsWindow.h"
@@ -21,6 +24,25 @@ class GridSelection : public UnitsWindow {
             }
             return edges;
         });
+    }
+    /// A cell as it is drawn, without its text.
+    wxImage Picture(int row, int column) {
+        return InWindow([&] {
+            constexpr int kWidth = 100;
+            constexpr int kHeight = 20;
+            grid().SetText(row, column, "");
+            wxBitmap picture(kWidth, kHeight);
+            wxMemoryDC canvas(picture);
+            const wxGridCellCoords cell(row - 1, column);
+            RealGrid().Render(canvas, {0, 0}, {kWidth, kHeight}, cell, cell, wxGRID_DRAW_SELECTION);
+            canvas.SelectObject(wxNullBitmap);
+            return picture.ConvertToImage();
+        });
+    }
+    static std::vector<int> ColourInside(const wxImage& picture) {
+        const int x = picture.GetWidth() / 2;
+        const int y = picture.GetHeight() / 2;
+        return {picture.GetRed(x, y), picture.GetGreen(x, y), picture.GetBlue(x, y)};
     }
     void WaitForBlockEnd(int row, int column) {
         WaitUntil("the block reaches to " + std::to_string(row) + "," + std::to_string(column), [&] {
@@ -96,6 +118,21 @@ TEST_F(GridSelection, ShiftWithArrowsSelectsABlock) {
         Press(WXK_DOWN);
         WaitForCell(2, 0);
         EXPECT_THAT(ShownBlock(), ElementsAre());
+    });
+}
+
+TEST_F(GridSelection, EveryCellOfABlockIsDrawnAsSelectedAndTheCurrentOneFramed) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        ClickCell(1, 0);
+        Press(WXK_DOWN, wxMOD_SHIFT);
+        WaitForBlockEnd(2, 0);
+        EXPECT_THAT(ShownBlock(), ElementsAre(1, 0, 2, 0));
+        const auto current = Picture(1, 0);
+        const auto other = Picture(2, 0);
+        EXPECT_EQ(ColourInside(current), ColourInside(other));
+        EXPECT_NE(ColourInside(current), ColourInside(Picture(3, 0)));
+        EXPECT_GT(current.CountColours(), other.CountColours());
     });
 }
 
