@@ -52,8 +52,9 @@ void UnmakeButton(_GtkTreeViewColumn* column, GParamSpec* /*property*/, gpointer
 /// A notebook's pages get their size when GTK lays the notebook out. By then it has laid out what stands on
 /// them, and complains of scroll bars that have no room.
 void GiveSizeToPages(const wxWindow& window) {
+    const bool isNotebook = dynamic_cast<const wxNotebook*>(&window) != nullptr;
     for (auto* child : window.GetChildren()) {
-        if (dynamic_cast<wxNotebook*>(child->GetParent()) != nullptr) {
+        if (isNotebook) {
             child->SetSize(window.GetClientSize());
         }
         GiveSizeToPages(*child);
