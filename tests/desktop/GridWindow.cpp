@@ -46,13 +46,13 @@ void GridWindow::Fill(int row, int column, const std::string& text) {
 
 void GridWindow::OpenMenuAt(const wxPoint& place) {
     hands->RightClick(place);
-    WaitUntil("the menu is open", [] { return IsMenuOpen(); });
+    WaitForMenu();
 }
 
 void GridWindow::ChooseFromMenu(int key) {
     Press(key);
     Press(WXK_RETURN);
-    WaitUntil("the menu is closed", [] { return !IsMenuOpen(); });
+    WaitForNoMenu();
 }
 
 void GridWindow::ChooseAboveDisabledEntry() {

@@ -77,7 +77,9 @@ int WindowTest::RunProgram() {
     program = std::make_unique<Program>(OutsideWorld());
     const MainWindowView view(desktop, program->window);
     prepare();
-    return mMain(*program) == StartUp::WindowShown ? desktop.RunUntilClosed() : 0;
+    const int status = mMain(*program) == StartUp::WindowShown ? desktop.RunUntilClosed() : 0;
+    ended_.set_value();
+    return status;
 }
 
 void WindowTest::RunScript(const std::function<void()>& script) {
@@ -121,20 +123,38 @@ void WindowTest::Enter(const Control& control) {
     WaitForFocus(control);
 }
 
-void WindowTest::ChooseSave() {
+void WindowTest::OpenFileMenu() {
     Press('F', wxMOD_ALT);
+    WaitForMenu();
+}
+
+void WindowTest::ChooseSave() {
+    OpenFileMenu();
     Press('S');
+    WaitForNoMenu();
 }
 
 void WindowTest::ChooseExit() {
-    Press('F', wxMOD_ALT);
+    OpenFileMenu();
     Press('X');
+    // The window is nobody's to ask any more.
+    if (ended_.get_future().wait_for(kPatience) != std::future_status::ready) {
+        throw GaveUp("Waited in vain until the program ends");
+    }
+}
+
+void WindowTest::WaitForMenu() {
+    WaitUntil("a menu is open", [] { return IsMenuOpen(); });
+}
+
+void WindowTest::WaitForNoMenu() {
+    WaitUntil("no menu is open", [] { return !IsMenuOpen(); });
 }
 
 void WindowTest::LeaveMenu() {
     Press(WXK_ESCAPE);
     Press(WXK_ESCAPE);
-    WaitUntil("no menu is open", [] { return !IsMenuOpen(); });
+    WaitForNoMenu();
 }
 
 void WindowTest::CloseWindow() {

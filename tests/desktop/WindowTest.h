@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <future>
 #include <memory>
 #include <string>
 #include <vector>
@@ -50,9 +51,11 @@ class WindowTest : public ::testing::Test {
     /// Clicks the upper of two arrows, or the lower.
     void ClickUp(const UpDown& arrows) { hands->Click(PlaceOfArrow(arrows, 0)); }
     void ClickDown(const UpDown& arrows) { hands->Click(PlaceOfArrow(arrows, 1)); }
-    /// Chooses from the menu bar by the access keys.
+    /// Chooses from the menu bar by the access keys. Exit has to end the program, without a question.
     void ChooseSave();
     void ChooseExit();
+    void WaitForMenu();
+    void WaitForNoMenu();
     /// Goes out of a menu, and where that takes a key of its own, out of the menu bar.
     void LeaveMenu();
     /// Closes the window as its close box does, by way of the window manager.
@@ -102,10 +105,13 @@ class WindowTest : public ::testing::Test {
   private:
     World OutsideWorld();
     int RunProgram();
+    void OpenFileMenu();
     void RunScript(const std::function<void()>& script);
     /// Closes the window without saving.
     void LeaveWindow();
     wxPoint PlaceOfArrow(const UpDown& arrows, std::size_t arrow);
+
+    std::promise<void> ended_;
 };
 
 } // namespace zy::test
