@@ -45,6 +45,7 @@ GridEditor::GridEditor(const ViewContext& context, Grid& model, GridWidget& grid
 
 void GridEditor::BindText() {
     TakeLineEnds(*text_);
+    MoveQuickly(*text_);
     const auto remember = [this](wxEvent& event) {
         RememberSelection();
         event.Skip();

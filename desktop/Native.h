@@ -58,6 +58,9 @@ long EveryKeyStyle();
 /// Lets a line of text take the whole of what is pasted, on one line.
 void TakeLineEnds(wxTextCtrl& box);
 
+/// Lets the arrow keys move through a long text as quickly as through a short one.
+void MoveQuickly(wxTextCtrl& box);
+
 /// Closes the list that has dropped down; nothing when none has.
 void CloseDropDown(const wxChoice& choice);
 

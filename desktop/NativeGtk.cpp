@@ -80,6 +80,15 @@ void CloseUnseen(GtkWidget* comboBox, gboolean /*free*/, gpointer /*unused*/) {
     }
 }
 
+void MoveInOrder(_GtkEntry* entry, int step, int count, gboolean select, gpointer /*unused*/) {
+    constexpr int kInOrder = 0;
+    constexpr int kAsSeen = 1;
+    if (step == kAsSeen) {
+        g_signal_stop_emission_by_name(entry, "move-cursor");
+        g_signal_emit_by_name(entry, "move-cursor", kInOrder, count, select);
+    }
+}
+
 /// Otherwise the toolkit would show a window at once.
 bool CanAskForBorders() {
     return wxGetDisplayInfo().type == wxDisplayX11 &&
@@ -201,6 +210,14 @@ long EveryKeyStyle() {
 
 void TakeLineEnds(wxTextCtrl& /*box*/) {
     // It takes them by itself.
+}
+
+void MoveQuickly(wxTextCtrl& box) {
+    // GTK looks for the character that is seen to the left or right, which may be another one than the last
+    // or the next only where a writing runs from right to left, and takes the square of the text's length for
+    // it.
+    g_signal_connect_data(box.GetHandle(), "move-cursor", G_CALLBACK(MoveInOrder), nullptr, nullptr,
+                          GConnectFlags{});
 }
 
 void CloseDropDown(const wxChoice& choice) {

@@ -13,6 +13,7 @@ TextBoxBinding::TextBoxBinding(const ViewContext& context, const Inside& inside,
         SetPasswordCharacter(*box_, model.PasswordChar());
     }
     TakeLineEnds(*box_);
+    MoveQuickly(*box_);
     const auto remember = [this](wxEvent& event) {
         RememberSelection();
         event.Skip();

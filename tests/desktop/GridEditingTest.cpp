@@ -214,6 +214,20 @@ TEST_F(GridEditing, CharactersOfTheCodePageAreTaken) {
     });
 }
 
+TEST_F(GridEditing, ArrowKeysMoveThroughAVeryLongTextAtOnce) {
+    PutUnits({std::string(20000, 'z') + ",kg"});
+    Play([&] {
+        ClickCell(1, 1);
+        Press(WXK_F2);
+        WaitUntil("the editor is open", [&] { return RealEditor().HasFocus(); });
+        Press(WXK_END);
+        for (int press = 0; press < 10; ++press) {
+            Press(WXK_LEFT);
+        }
+        WaitUntil("the caret has moved", [&] { return RealEditor().GetInsertionPoint() == 19990; });
+    });
+}
+
 TEST_F(GridEditing, TextBeyondWhatTheEditorCanShowIsKept) {
     const std::string beyond(70000, 'z');
     PutUnits({beyond + ",kg"});

@@ -149,5 +149,22 @@ TEST_F(TextEntryWindow, ATextBeyondTheBoxIsNotCut) {
     });
 }
 
+TEST_F(TextEntryWindow, ArrowKeysMoveThroughAVeryLongTextAtOnce) {
+    const long length = 20000;
+    PutRules({"R1|1|2|>|UCL|" + std::string(length, 'z')});
+    Play([&] {
+        EnterDescription();
+        const auto end = SelectionIn(page().txtDescription).second;
+        EXPECT_GT(end, length);
+        for (int press = 0; press < 10; ++press) {
+            Press(WXK_LEFT);
+        }
+        Press(WXK_LEFT, wxMOD_SHIFT);
+        WaitUntil("the caret has moved",
+                  [&] { return RealBox(page().txtDescription).GetStringSelection().length() == 1; });
+        EXPECT_EQ(SelectionIn(page().txtDescription), std::pair(end - 11, end - 10));
+    });
+}
+
 } // namespace
 } // namespace zy::test
