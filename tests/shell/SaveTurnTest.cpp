@@ -1,0 +1,80 @@
+#include <gmock/gmock.h>
+
+#include <optional>
+
+#include "shell/SaveTurn.h"
+#include "support/WorldTest.h"
+
+namespace zy::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+constexpr auto kPath = R"(C:\SYS\ZYUNITS.SYS)";
+
+/// Files of which nothing is known but how they answer to being held.
+class FilesThatLock : public FileSystem {
+  public:
+    MOCK_METHOD(FileError, Locate, (std::string_view), (override));
+    MOCK_METHOD(LockedFolder, LockFolderOf, (std::string_view), (override));
+    MOCK_METHOD(bool, Exists, (std::string_view), (override));
+    MOCK_METHOD(OpenedFile, OpenForReading, (std::string_view), (override));
+    MOCK_METHOD(OpenedFile, Create, (std::string_view), (override));
+    MOCK_METHOD(OpenedFile, CreatePrivate, (std::string_view), (override));
+    MOCK_METHOD(FileError, Delete, (std::string_view), (override));
+    MOCK_METHOD(FileError, Rename, (std::string_view, std::string_view), (override));
+    MOCK_METHOD(FileError, CopyPermissions, (std::string_view, std::string_view), (override));
+};
+
+class SaveTurns : public WorldTest {};
+
+TEST_F(SaveTurns, AreTakenWhileNobodyElseSavesInTheFolder) {
+    const SaveTurn turn(world.files, kPath);
+    EXPECT_TRUE(turn.IsMine());
+    EXPECT_THAT(world.files.LockedFolders(), ElementsAre(R"(C:\SYS)"));
+}
+
+TEST_F(SaveTurns, LastUntilTheyAreGivenBack) {
+    std::optional<SaveTurn> turn(std::in_place, world.files, kPath);
+    world.files.Put(kPath, "written meanwhile");
+    EXPECT_THAT(world.files.LockedFolders(), ElementsAre(R"(C:\SYS)"));
+    turn.reset();
+    EXPECT_THAT(world.files.LockedFolders(), IsEmpty());
+}
+
+TEST_F(SaveTurns, AreRefusedWhileSomebodyElseSavesInTheFolder) {
+    world.files.SetFolderLocked(R"(C:\SYS)");
+    EXPECT_FALSE(SaveTurn(world.files, kPath).IsMine());
+    EXPECT_THAT(world.files.LockedFolders(), IsEmpty());
+    world.files.SetFolderLocked(R"(C:\SYS)", false);
+    EXPECT_TRUE(SaveTurn(world.files, kPath).IsMine());
+}
+
+TEST_F(SaveTurns, AreTakenWhileSomebodyElseSavesInAnotherFolder) {
+    world.files.AddFolder(R"(C:\SYS\OTHER)");
+    world.files.SetFolderLocked(R"(C:\SYS\OTHER)");
+    EXPECT_TRUE(SaveTurn(world.files, kPath).IsMine());
+}
+
+TEST_F(SaveTurns, WriteNothing) {
+    world.files.Plan({});
+    { const SaveTurn turn(world.files, kPath); }
+    EXPECT_EQ(world.files.Operations().Count(), 0U);
+    EXPECT_THAT(world.files.Names(R"(C:\SYS)"), IsEmpty());
+}
+
+/// A folder that cannot be held is no reason not to save there: only somebody else's save is one.
+TEST_F(SaveTurns, AreTakenWhereTheFolderCannotBeHeld) {
+    for (const auto error : {FileError::None, FileError::NotFound, FileError::AccessDenied,
+                             FileError::ReadOnly, FileError::Ambiguous, FileError::Other}) {
+        ::testing::StrictMock<FilesThatLock> files;
+        EXPECT_CALL(files, LockFolderOf(std::string_view(kPath))).WillOnce([&] {
+            return LockedFolder{.lock = nullptr, .error = error};
+        });
+        EXPECT_TRUE(SaveTurn(files, kPath).IsMine()) << Describe(error);
+    }
+}
+
+} // namespace
+} // namespace zy::test
