@@ -140,8 +140,7 @@ void RulesPage::DeleteSelected() {
 void RulesPage::cmdSaveRules_Click() {
     Trace(kForm, "cmdSaveRules_Click", "Start");
     // Neither checks nor takes over the detail form: the rules are written as they are held. Meant.
-    if (form_.ChangeFlag) {
-        rules_.Write_Rules_File();
+    if (form_.ChangeFlag && rules_.Write_Rules_File()) {
         form_.ChangeFlag = false;
         ShowStatus(report_);
     }

@@ -85,14 +85,34 @@ bool mRules::WriteTemporary(const std::string& temporary, const std::string& tex
     return true;
 }
 
-void mRules::Write_Rules_File() {
+std::string mRules::TemporaryFile() {
+    return std::string(FolderOf(Settings().RulesFile())) + "Rules.tmp";
+}
+
+std::string mRules::WhyNotToSaveRules(const SaveTurn& turn) {
+    const auto refusal = WhyNotToSave(world_.files, Settings().RulesFile(), turn);
+    return refusal.empty() ? WhyNotToSave(world_.files, TemporaryFile(), turn) : refusal;
+}
+
+bool mRules::Write_Rules_File() {
+    const SaveTurn turn(world_.files, Settings().RulesFile());
+    if (const auto refusal = WhyNotToSaveRules(turn); !refusal.empty()) {
+        reported.Raise(refusal);
+        return false;
+    }
+    ReplaceFile();
+    return true;
+}
+
+void mRules::ReplaceFile() {
     trace_.DebugTrace(kModule, "Write_Rules_File", "Start");
     auto& files = world_.files;
-    const std::string temporary = std::string(FolderOf(Settings().RulesFile())) + "Rules.tmp";
+    const std::string temporary = TemporaryFile();
     if (files.Exists(temporary)) {
         files.Delete(temporary);
     }
-    if (!WriteTemporary(temporary, RulesFileText(gaRules))) {
+    const std::string text = RulesFileText(gaRules);
+    if (!WriteTemporary(temporary, text)) {
         return;
     }
     const std::string rulesFile = Settings().RulesFile();
@@ -101,14 +121,23 @@ void mRules::Write_Rules_File() {
         files.Delete(rulesFile);
     }
     const auto renamed = files.Rename(temporary, rulesFile);
-    trace_.DebugTrace(kModule, "Write_Rules_File", "Finished");
-    gbRulesChanged = false;
     if (renamed == FileError::None) {
         skippedLines_ = 0;
         reported.Raise("Saved");
     } else {
-        Report("The rules stand in Rules.tmp, ZYRules.sys could not be replaced", renamed);
+        ReportNotReplaced(temporary, text, renamed);
     }
+    trace_.DebugTrace(kModule, "Write_Rules_File", "Finished");
+    gbRulesChanged = false;
+}
+
+/// Another program may have taken the temporary file, or the disk may have gone away with it, so that it is
+/// looked up.
+void mRules::ReportNotReplaced(const std::string& temporary, const std::string& text, FileError error) {
+    Report(HoldsText(world_.files, temporary, text)
+               ? "The rules stand in Rules.tmp, ZYRules.sys could not be replaced"
+               : "Not saved, ZYRules.sys could not be replaced, and the rules were not found in Rules.tmp",
+           error);
 }
 
 std::string FormatRuleLine(std::string_view key, std::string_view value) {

@@ -10,6 +10,7 @@
 #include "platform/World.h"
 #include "rules/RuleList.h"
 #include "rules/SettingsLibrary.h"
+#include "shell/SaveTurn.h"
 #include "shell/TraceChannel.h"
 
 // The rules editor: the rule list and its file (mRules), the checks (RuleChecks), the page with its list,
@@ -30,7 +31,10 @@ class mRules {
     ///
     /// Whatever fails is told by `reported` alone. Until the new text stands whole on the disk the old file
     /// is not touched; when only the last step fails, the rules stand in "Rules.tmp".
-    void Write_Rules_File();
+    ///
+    /// False when the save is refused before its first step, which `reported` tells: somebody else is saving
+    /// in the folder, or it is not certain which file one of the two is.
+    bool Write_Rules_File();
 
     /// Appends a rule with the values of a new one. Run-time error 6 when the list is full.
     void Add_New_Rule();
@@ -52,8 +56,12 @@ class mRules {
 
   private:
     SettingsLibrary& Settings();
+    std::string TemporaryFile();
+    std::string WhyNotToSaveRules(const SaveTurn& turn);
     void Report(std::string_view what, FileError error);
+    void ReplaceFile();
     bool WriteTemporary(const std::string& temporary, const std::string& text);
+    void ReportNotReplaced(const std::string& temporary, const std::string& text, FileError error);
 
     World world_;
     TraceChannel& trace_;

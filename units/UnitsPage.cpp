@@ -90,8 +90,7 @@ void UnitsPage::DeleteCurrentRow() {
 
 void UnitsPage::cmdSaveUnits_Click() {
     Trace("cmdSaveUnits_Click", "Start");
-    if (units_.ValidateUnits()) {
-        units_.Write_Units();
+    if (units_.ValidateUnits() && units_.Write_Units()) {
         form_.ChangeFlag = false;
         controls.cmdSaveUnits.SetEnabled(false);
     }

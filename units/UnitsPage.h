@@ -31,7 +31,7 @@ class UnitsPage : public UnitsEditor {
     void ResizeUnits() override;
     void CommitCellEdit() override { controls.grdUnits.CommitEdit(); }
     bool ValidateUnits() override { return units_.ValidateUnits(); }
-    void Write_Units() override { units_.Write_Units(); }
+    bool Write_Units() override { return units_.Write_Units(); }
     void DisableSaveButton() override { controls.cmdSaveUnits.SetEnabled(false); }
 
     UnitsControls controls;

@@ -5,6 +5,7 @@
 
 #include "basics/Int16.h"
 #include "basics/Text.h"
+#include "shell/SaveTurn.h"
 #include "shell/Utilities.h"
 #include "units/UnitsFileText.h"
 
@@ -58,7 +59,17 @@ void mUnits::ReadUnits() {
     }
 }
 
-void mUnits::Write_Units() {
+bool mUnits::Write_Units() {
+    const SaveTurn turn(world_.files, state_.gsUnitsFile);
+    if (const auto refusal = WhyNotToSave(world_.files, state_.gsUnitsFile, turn); !refusal.empty()) {
+        reported.Raise(refusal);
+        return false;
+    }
+    ReplaceFile();
+    return true;
+}
+
+void mUnits::ReplaceFile() {
     Start("Write_Units");
     const UnitsFileText text(controls_.grdUnits); // an error here leaves the file as it is
     const auto& path = state_.gsUnitsFile;

@@ -31,7 +31,10 @@ class mUnits {
     /// Puts a file with the rows of the grid in place of the units file. The old file goes first; whatever
     /// fails then is told by `reported` alone. More than 32,767 rows are run-time error 6, and the file
     /// stays.
-    void Write_Units();
+    ///
+    /// False when the save is refused before its first step, which `reported` tells: somebody else is saving
+    /// in the folder, or it is not certain which file the units file is.
+    bool Write_Units();
 
     /// Checks every row and shows the first failure. The current cell does not move to it.
     bool ValidateUnits();
@@ -47,6 +50,7 @@ class mUnits {
   private:
     void ResetGrid();
     void ReadUnits();
+    void ReplaceFile();
     bool Refuse(std::string_view message);
     void Start(std::string_view procedure);
     std::string FileName() const;

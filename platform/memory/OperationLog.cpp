@@ -11,6 +11,7 @@ void OperationLog::Plan(const FaultPlan& plan) {
 
 FileError OperationLog::Record(const std::string& line, FileError error) {
     lines_.push_back(error == FileError::None ? line : line + ": " + std::string(Describe(error)));
+    recorded(lines_.back());
     return error;
 }
 

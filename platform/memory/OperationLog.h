@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -47,6 +48,9 @@ class OperationLog {
 
     /// Records a line without counting it as an operation. Returns the error given.
     FileError Record(const std::string& line, FileError error);
+
+    /// Called with each line that is recorded.
+    std::function<void(const std::string& line)> recorded = [](const std::string&) {};
 
   private:
     bool NextFails();

@@ -134,9 +134,8 @@ void MainWindow::SaveRules() {
         changeFlag = true;
     }
     if (changeFlag) {
-        parts_.rules.Write_Rules_File();
+        changeFlag = !parts_.rules.Write_Rules_File();
     }
-    changeFlag = false;
 }
 
 void MainWindow::SaveSecurity() {
@@ -156,12 +155,10 @@ void MainWindow::SaveSecurity() {
 void MainWindow::SaveUnits() {
     parts_.units.CommitCellEdit();
     Trace(kSaveProcedure, "Units");
-    if (!parts_.units.ValidateUnits()) {
-        return;
+    if (parts_.units.ValidateUnits() && parts_.units.Write_Units()) {
+        parts_.form.ChangeFlag = false;
+        parts_.units.DisableSaveButton();
     }
-    parts_.units.Write_Units();
-    parts_.form.ChangeFlag = false;
-    parts_.units.DisableSaveButton();
 }
 
 bool MainWindow::Form_Unload() {
@@ -188,7 +185,7 @@ bool MainWindow::UnloadRules() {
     Trace("Form_Unload", "Rules");
     if (parts_.form.ChangeFlag && WantsToSave()) {
         // Unlike the other two editors, nothing is checked here, which is meant.
-        parts_.rules.Write_Rules_File();
+        return parts_.rules.Write_Rules_File();
     }
     return true;
 }
@@ -210,10 +207,7 @@ bool MainWindow::UnloadUnits() {
     parts_.units.CommitCellEdit();
     Trace("Form_Unload", "Units");
     if (parts_.form.ChangeFlag && WantsToSave()) {
-        if (!parts_.units.ValidateUnits()) {
-            return false;
-        }
-        parts_.units.Write_Units();
+        return parts_.units.ValidateUnits() && parts_.units.Write_Units();
     }
     return true;
 }

@@ -47,8 +47,8 @@ class MainWindow {
 
     /// Asks before leaving without saving and unloads on Yes. No entry or button calls it.
     void ConfirmExit();
-    /// Closes the window after asking about unsaved changes. False when a failed check, or a save of somebody
-    /// else's, keeps it open.
+    /// Closes the window after asking about unsaved changes. False when a failed check or a refused save
+    /// keeps it open.
     bool Unload();
 
     void Form_Load();

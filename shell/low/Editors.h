@@ -39,7 +39,9 @@ class UnitsEditor {
     /// Takes over the text of a cell that is being edited; nothing when none is.
     virtual void CommitCellEdit() = 0;
     virtual bool ValidateUnits() = 0;
-    virtual void Write_Units() = 0;
+    /// False when the save is refused before its first step: then nothing is changed, and the window stays
+    /// open.
+    virtual bool Write_Units() = 0;
     virtual void DisableSaveButton() = 0;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "platform/FileSystem.h"
@@ -25,5 +26,11 @@ class SaveTurn {
     LockedFolder folder_;
     bool isMine_;
 };
+
+/// Says that nobody can tell which file of several a path means, and why; empty when it is certain.
+std::string Uncertainty(FileSystem& files, std::string_view path);
+
+/// Why the file of this path must not be saved now, for the status bar; empty when it may.
+std::string WhyNotToSave(FileSystem& files, std::string_view path, const SaveTurn& turn);
 
 } // namespace zy

@@ -33,6 +33,12 @@ std::string ReadFileText(FileHandle& file, std::uint32_t count) {
     return text;
 }
 
+bool HoldsText(FileSystem& files, std::string_view path, std::string_view text) {
+    const auto opened = files.OpenForReading(path);
+    return opened.handle && opened.handle->Size() == text.size() &&
+           ReadFileText(*opened.handle, static_cast<std::uint32_t>(text.size())) == text;
+}
+
 std::string_view Unquote(std::string_view field) {
     if (!field.empty() && field.front() == '"' && field.back() == '"') {
         field = field.size() < 2 ? std::string_view{} : field.substr(1, field.size() - 2);

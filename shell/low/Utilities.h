@@ -24,6 +24,9 @@ std::string_view FolderOf(std::string_view path);
 /// fails.
 std::string ReadFileText(FileHandle& file, std::uint32_t count);
 
+/// Whether a file is there, can be read, and holds this text and nothing else.
+bool HoldsText(FileSystem& files, std::string_view path, std::string_view text);
+
 /// Takes one pair of enclosing double quotes off, then trims blanks. A quote behind a blank encloses nothing,
 /// which is meant: the quotes are looked for first.
 std::string_view Unquote(std::string_view field);

@@ -40,6 +40,21 @@ TEST_F(UnitsEditorInCharge, IsNotWrittenWhenAUnitFails) {
     ExpectMarks(true, false);
 }
 
+TEST_F(UnitsEditorInCharge, KeepsItsMarksWhenTheSaveIsRefused) {
+    units.mayWrite = false;
+    ChooseSave();
+    EXPECT_THAT(calls, ElementsAre("CommitCellEdit", kSaveTrace, "ValidateUnits", "Write_Units"));
+    ExpectMarks(true, false);
+}
+
+TEST_F(UnitsEditorInCharge, StaysOpenWhenTheSaveIsRefused) {
+    units.mayWrite = false;
+    ExpectWishToSave(Answer::Yes);
+    EXPECT_FALSE(window().Unload());
+    EXPECT_THAT(calls, ElementsAre("CommitCellEdit", kUnloadTrace, "ValidateUnits", "Write_Units"));
+    EXPECT_EQ(unloaded, 0);
+}
+
 TEST_F(UnitsEditorInCharge, ClosesWithoutAQuestionWhenNothingChanged) {
     form().ChangeFlag = false;
     state().gbChanged = true;

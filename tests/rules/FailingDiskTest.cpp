@@ -31,6 +31,8 @@ constexpr auto kNotCreated = "Not saved, Rules.tmp could not be created: the dis
 constexpr auto kNotWritten = "Not saved, Rules.tmp could not be written: the disk reported an error";
 constexpr auto kRenameFailed =
     "The rules stand in Rules.tmp, ZYRules.sys could not be replaced: the disk reported an error";
+constexpr auto kNotFound = "Not saved, ZYRules.sys could not be replaced, and the rules were not found in "
+                           "Rules.tmp: the disk reported an error";
 constexpr auto kOldInTheWay =
     "The rules stand in Rules.tmp, ZYRules.sys could not be replaced: a file of that name is in the way";
 
@@ -104,7 +106,16 @@ class FailingDisk : public RulesTest {
         EXPECT_EQ(rules.gbRulesChanged, !outcome.finished);
         EXPECT_EQ(Log().back() == "Trace mRules Write_Rules_File Finished", outcome.finished);
         EXPECT_THAT(world.dialogs.Shown(), ::testing::IsEmpty());
+        ExpectTrue(outcome.report);
         ExpectNothingLost(start);
+    }
+
+    /// Where a report says that the rules stand, they do.
+    void ExpectTrue(std::string_view report) {
+        EXPECT_EQ(report.starts_with("Saved"), HeldIn(File()) == Held::New);
+        if (report.starts_with("The rules stand in Rules.tmp")) {
+            EXPECT_EQ(HeldIn(Temporary()), Held::New);
+        }
     }
 
     /// Whatever fails: under the real name stands a whole text, and when there is none any more, the new one
@@ -173,10 +184,10 @@ TEST_F(FailingDisk, ThatGoesAwayLeavesTheOldFileUntilItIsDeleted) {
                     {kWrite, Old, Nothing, kNotWritten, false},
                     {kFlush, Old, New, kNotWritten, false},
                     {kClose, Old, New, kNotWritten, false},
-                    {kExistsRules, Old, New, kRenameFailed, true},
-                    {kPermissions, Old, New, kRenameFailed, true},
-                    {kDeleteRules, Old, New, kRenameFailed, true},
-                    {kRename, NoFile, New, kRenameFailed, true}});
+                    {kExistsRules, Old, New, kNotFound, true},
+                    {kPermissions, Old, New, kNotFound, true},
+                    {kDeleteRules, Old, New, kNotFound, true},
+                    {kRename, NoFile, New, kNotFound, true}});
 }
 
 TEST_F(FailingDisk, ThatGoesAwayInsideTheWriteLeavesHalfATextInTheTemporaryFileAlone) {
@@ -186,10 +197,10 @@ TEST_F(FailingDisk, ThatGoesAwayInsideTheWriteLeavesHalfATextInTheTemporaryFileA
                     {kWrite, Old, Half, kNotWritten, false},
                     {kFlush, Old, New, kNotWritten, false},
                     {kClose, Old, New, kNotWritten, false},
-                    {kExistsRules, Old, New, kRenameFailed, true},
-                    {kPermissions, Old, New, kRenameFailed, true},
-                    {kDeleteRules, Old, New, kRenameFailed, true},
-                    {kRename, NoFile, New, kRenameFailed, true}});
+                    {kExistsRules, Old, New, kNotFound, true},
+                    {kPermissions, Old, New, kNotFound, true},
+                    {kDeleteRules, Old, New, kNotFound, true},
+                    {kRename, NoFile, New, kNotFound, true}});
 }
 
 TEST_F(FailingDisk, ThatFailsOnceAtTheFirstSaveWritesNoFileOrAWholeOne) {
@@ -210,8 +221,8 @@ TEST_F(FailingDisk, ThatGoesAwayAtTheFirstSaveWritesNoFileUnderTheRealName) {
                     {kWrite, NoFile, Half, kNotWritten, false},
                     {kFlush, NoFile, New, kNotWritten, false},
                     {kClose, NoFile, New, kNotWritten, false},
-                    {kExistsRules, NoFile, New, kRenameFailed, true},
-                    {kRename, NoFile, New, kRenameFailed, true}});
+                    {kExistsRules, NoFile, New, kNotFound, true},
+                    {kRename, NoFile, New, kNotFound, true}});
 }
 
 TEST_F(FailingDisk, ThatFailsOnceWritesOverLeftoversThatItCouldNotDelete) {
@@ -236,10 +247,52 @@ TEST_F(FailingDisk, ThatGoesAwayLeavesTheLeftoversUntilTheyAreDeleted) {
                     {kWrite, Old, Half, kNotWritten, false},
                     {kFlush, Old, New, kNotWritten, false},
                     {kClose, Old, New, kNotWritten, false},
-                    {kExistsRules, Old, New, kRenameFailed, true},
-                    {kPermissions, Old, New, kRenameFailed, true},
-                    {kDeleteRules, Old, New, kRenameFailed, true},
-                    {kRename, NoFile, New, kRenameFailed, true}});
+                    {kExistsRules, Old, New, kNotFound, true},
+                    {kPermissions, Old, New, kNotFound, true},
+                    {kDeleteRules, Old, New, kNotFound, true},
+                    {kRename, NoFile, New, kNotFound, true}});
+}
+
+/// What another program does to the temporary file while the save is under way, whatever promise it breaks.
+class TakenTemporaryFile : public RulesTest {
+  protected:
+    TakenTemporaryFile() {
+        PutFile("old");
+        AddCode("R1");
+    }
+
+    /// Saves; as soon as the old file is gone, the temporary one is somebody else's.
+    template <typename Action>
+    void SaveWith(Action action) {
+        world.files.Operations().recorded = [action](const std::string& line) {
+            if (line == kDeleteRules) {
+                action();
+            }
+        };
+        rules.Write_Rules_File();
+    }
+};
+
+TEST_F(TakenTemporaryFile, IsNotSaidToHoldTheRulesWhenItIsGone) {
+    SaveWith([this] { world.files.Take(kTemporary); });
+    EXPECT_THAT(reports, ::testing::ElementsAre(
+                             "Not saved, ZYRules.sys could not be replaced, and the rules were not found in "
+                             "Rules.tmp: the file or folder does not exist"));
+}
+
+TEST_F(TakenTemporaryFile, IsNotSaidToHoldTheRulesWhenItHoldsOthers) {
+    for (const std::string& theirs : {std::string("theirs"), Section(rules.gaRules(1)) + "[RULE]\r\n",
+                                      std::string(Section(rules.gaRules(1)).size(), 'x')}) {
+        reports.clear();
+        SaveWith([&] {
+            world.files.Put(kTemporary, theirs);
+            PutFile("theirs");
+        });
+        EXPECT_THAT(reports, ::testing::ElementsAre(
+                                 "Not saved, ZYRules.sys could not be replaced, and the rules were not found "
+                                 "in Rules.tmp: a file of that name is in the way"));
+        EXPECT_EQ(Temporary(), theirs);
+    }
 }
 
 } // namespace

@@ -76,5 +76,27 @@ TEST_F(SaveTurns, AreTakenWhereTheFolderCannotBeHeld) {
     }
 }
 
+TEST_F(SaveTurns, AreNoReasonNotToSaveWhileTheyAreMineAndTheNameIsCertain) {
+    EXPECT_EQ(Uncertainty(world.files, kPath), "");
+    EXPECT_EQ(WhyNotToSave(world.files, kPath, SaveTurn(world.files, kPath)), "");
+}
+
+TEST_F(SaveTurns, TellWhoeverHasToWaitThatSomebodyElseIsSaving) {
+    world.files.SetFolderLocked(R"(C:\SYS)");
+    EXPECT_EQ(WhyNotToSave(world.files, kPath, SaveTurn(world.files, kPath)), SaveTurn::kRefusal);
+}
+
+TEST_F(SaveTurns, AreNoHelpWhereNobodyCanTellWhichFileIsMeant) {
+    world.files.SetUncertain(kPath, FileError::Ambiguous);
+    EXPECT_EQ(Uncertainty(world.files, kPath), "it is not certain which file ZYUNITS.SYS is: "
+                                               "names that differ by case alone stand side by side");
+    EXPECT_EQ(WhyNotToSave(world.files, kPath, SaveTurn(world.files, kPath)),
+              "Not saved, it is not certain which file ZYUNITS.SYS is: "
+              "names that differ by case alone stand side by side");
+    world.files.SetUncertain(kPath, FileError::AccessDenied);
+    EXPECT_EQ(Uncertainty(world.files, kPath),
+              "it is not certain which file ZYUNITS.SYS is: access is denied");
+}
+
 } // namespace
 } // namespace zy::test

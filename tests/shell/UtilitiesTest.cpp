@@ -167,5 +167,29 @@ TEST_F(ReadFileTextTest, IsEmptyWhenReadingFails) {
     EXPECT_EQ(ReadFileText(*file, 3), "");
 }
 
+class HoldsTextTest : public test::WorldTest {
+  protected:
+    bool Holds(std::string_view text) { return HoldsText(world.files, R"(C:\SYS\f)", text); }
+};
+
+TEST_F(HoldsTextTest, IsTrueForThatTextAndNoOther) {
+    EXPECT_FALSE(Holds("")) << "there is no file";
+    world.files.Put(R"(C:\SYS\f)", "abc");
+    EXPECT_TRUE(Holds("abc"));
+    for (const auto* other : {"", "ab", "abcd", "abx"}) {
+        EXPECT_FALSE(Holds(other)) << other;
+    }
+    world.files.Put(R"(C:\SYS\f)", "");
+    EXPECT_TRUE(Holds(""));
+}
+
+TEST_F(HoldsTextTest, IsFalseForWhatCannotBeReadWhole) {
+    world.files.Put(R"(C:\SYS\f)", "abc");
+    for (const std::size_t operation : {1U, 2U}) {
+        world.files.Plan({.operation = operation});
+        EXPECT_FALSE(Holds("abc"));
+    }
+}
+
 } // namespace
 } // namespace zy

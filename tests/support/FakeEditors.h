@@ -71,10 +71,14 @@ class FakeUnitsEditor final : public UnitsEditor {
         calls_.emplace_back("ValidateUnits");
         return valid;
     }
-    void Write_Units() override { calls_.emplace_back("Write_Units"); }
+    bool Write_Units() override {
+        calls_.emplace_back("Write_Units");
+        return mayWrite;
+    }
     void DisableSaveButton() override { calls_.emplace_back("DisableSaveButton"); }
 
     bool valid = true;
+    bool mayWrite = true;
     std::function<void()> loading = [] {};
     std::function<void()> resizing = [] {};
 
