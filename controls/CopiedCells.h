@@ -16,6 +16,8 @@ class CopiedCells {
     explicit CopiedCells(std::string_view text) : rest_(text) {}
 
     bool AtEnd() const { return rest_.empty(); }
+    /// The text of the cells that are not taken yet.
+    std::string_view Rest() const { return rest_; }
     /// The next cell on one line: a blank stands for each line end and TAB in it. Valid until the next one is
     /// taken.
     std::string_view Take();

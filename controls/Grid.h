@@ -23,6 +23,18 @@ struct Cell {
     friend bool operator==(const Cell&, const Cell&) = default;
 };
 
+/// What of a pasted text a grid did not take.
+struct PasteReport {
+    /// The list would get longer than it can be: nothing was pasted.
+    bool tooLong = false;
+    int rowsLeftOut = 0;
+    int columnsLeftOut = 0;
+    /// Texts that the list of their cell does not hold; these cells are as they were.
+    int cellsRefused = 0;
+    Cell firstRefused;
+    std::string textRefused; ///< for the first one
+};
+
 /// A table of editable texts with one fixed header row, row 0.
 ///
 /// The cells live here; a view draws those that are seen. One cell may be current and open for editing: the
@@ -122,8 +134,8 @@ class Grid : public Control {
     std::string Copy() const;
     /// Pastes such a text from the block's first cell on, into an empty grid from its first cell on, and
     /// selects what it pasted. Every cell counts as an edit; columns beyond the last are left out, rows
-    /// beyond the last are added where the grid may grow and left out elsewhere. More than 32,767 rows are
-    /// run-time error 6, and nothing is pasted.
+    /// beyond the last are added where the grid may grow and left out elsewhere. A cell with a drop-down list
+    /// takes an item of it or nothing. Of a text that would make more than 32,767 rows nothing is pasted.
     void Paste(std::string_view text);
     void SetGrowsByPaste(bool grows) { growsByPaste_ = grows; }
 
@@ -137,6 +149,8 @@ class Grid : public Control {
     Event<const KeyPress&> keyDownEdit;
     Event<int, int, int> mouseDown;
     Event<int, int> cellButtonClick;
+    /// A text was pasted, all its edits are told.
+    Event<const PasteReport&> pasted;
 
     // For the view alone.
     std::function<Rect(int row, int column)> cellPlace;
@@ -174,8 +188,11 @@ class Grid : public Control {
     bool MoveByTab(bool backwards);
     Block Selected() const;
     void ClearBlock();
-    void MakeRoom(int rows);
-    Cell PasteFrom(Cell first, std::string_view text);
+    int RowsAfterPaste(int rows) const;
+    void PasteInto(Cell first, std::string_view text);
+    void PasteRows(Cell first, std::string_view text, PasteReport& report);
+    bool PasteCell(Cell cell, std::string_view text, PasteReport& report);
+    bool MayHold(int column, std::string_view text) const;
     void EditTo(int row, int column, std::string_view text);
 
     int columns_;

@@ -16,6 +16,18 @@ int CountRows(std::string_view text) {
     return rows;
 }
 
+/// Whether a text is one of the items of a drop-down list, which "|" separates.
+bool IsItem(std::string_view items, std::string_view text) {
+    while (!items.empty()) {
+        const auto end = std::min(items.find('|'), items.size());
+        if (items.substr(0, end) == text) {
+            return true;
+        }
+        items.remove_prefix(std::min(end + 1, items.size()));
+    }
+    return false;
+}
+
 } // namespace
 
 Grid::Block Grid::Selected() const {
@@ -46,29 +58,38 @@ void Grid::ClearBlock() {
 }
 
 void Grid::Paste(std::string_view text) {
-    const bool anywhere = current_.row >= 1 || (growsByPaste_ && rows_ == 1);
-    if (!TakeFocus() || !anywhere || text.empty()) {
+    if (!TakeFocus() || text.empty()) {
         return;
     }
     CommitEdit();
-    const Cell first = current_.row >= 1 ? Selected().first : Cell{1, 0};
-    MakeRoom(first.row + CountRows(text));
-    const Cell last = PasteFrom(first, text);
-    Select(first.row, first.column);
-    SelectTo(last.row, last.column);
-}
-
-/// Adds what rows are missing, where the grid may grow.
-void Grid::MakeRoom(int rows) {
-    const int wanted = growsByPaste_ ? std::max(rows, rows_) : rows_;
-    if (wanted - 1 > kMaxItems) {
-        RaiseOverflow();
+    if (current_.row >= 1) {
+        PasteInto(Selected().first, text);
+    } else if (growsByPaste_ && rows_ == 1) {
+        PasteInto({1, 0}, text);
+    } else {
+        PasteReport nothing;
+        nothing.rowsLeftOut = CountRows(text);
+        pasted.Raise(nothing);
     }
-    SetRows(wanted);
 }
 
-/// Returns the far corner of what was pasted.
-Cell Grid::PasteFrom(Cell first, std::string_view text) {
+void Grid::PasteInto(Cell first, std::string_view text) {
+    const int wanted = RowsAfterPaste(first.row + CountRows(text));
+    PasteReport report;
+    report.tooLong = wanted - 1 > kMaxItems;
+    if (!report.tooLong) {
+        SetRows(wanted);
+        PasteRows(first, text, report);
+    }
+    pasted.Raise(report);
+}
+
+/// As many as are there and as are missing, where the grid may grow.
+int Grid::RowsAfterPaste(int rows) const {
+    return growsByPaste_ ? std::max(rows, rows_) : rows_;
+}
+
+void Grid::PasteRows(Cell first, std::string_view text, PasteReport& report) {
     Cell last = first;
     CopiedCells cells(text);
     for (int row = first.row; row < rows_ && !cells.AtEnd(); ++row) {
@@ -76,14 +97,36 @@ Cell Grid::PasteFrom(Cell first, std::string_view text) {
         int column = first.column;
         do {
             const auto cell = cells.Take();
-            if (column < columns_) {
-                EditTo(row, column, cell);
+            if (PasteCell({row, column}, cell, report)) {
                 last.column = std::max(last.column, column);
             }
             ++column;
         } while (!cells.EndedRow());
+        report.columnsLeftOut = std::max(report.columnsLeftOut, column - columns_);
     }
-    return last;
+    report.rowsLeftOut = CountRows(cells.Rest());
+    Select(first.row, first.column);
+    SelectTo(last.row, last.column);
+}
+
+/// False when the grid has no such column.
+bool Grid::PasteCell(Cell cell, std::string_view text, PasteReport& report) {
+    if (cell.column >= columns_) {
+        return false;
+    }
+    if (MayHold(cell.column, text)) {
+        EditTo(cell.row, cell.column, text);
+    } else if (report.cellsRefused++ == 0) {
+        report.firstRefused = cell;
+        report.textRefused = text;
+    }
+    return true;
+}
+
+/// A cell with a list may be emptied as well, like any other one.
+bool Grid::MayHold(int column, std::string_view text) const {
+    const std::string_view items = columnLists_[static_cast<std::size_t>(column)];
+    return text.empty() || items.empty() || IsItem(items, text);
 }
 
 } // namespace zy

@@ -19,7 +19,7 @@ void RuleList::Reset(Int16 count) {
 }
 
 void RuleList::Append(RunRule& rule) {
-    if (UBound() == kMaxItems) {
+    if (IsFull()) {
         RaiseOverflow();
     }
     rules_.push_back(&rule);

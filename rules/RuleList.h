@@ -16,6 +16,7 @@ class RuleList {
   public:
     /// The index of the last rule; 0 when there is none.
     Int16 UBound() const { return rules_.size() - 1; }
+    bool IsFull() const { return UBound() == kMaxItems; }
 
     RunRule& operator()(int index) { return *rules_[Checked(index)]; }
     const RunRule& operator()(int index) const { return *rules_[Checked(index)]; }

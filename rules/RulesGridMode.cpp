@@ -124,6 +124,10 @@ bool RulesGridMode::StoreIfChanged() {
 
 void RulesGridMode::mnuAddRule_Click() {
     Trace(kForm, "mnuAddRule_Click");
+    if (rules_.gaRules.IsFull()) {
+        addRefused.Raise();
+        return;
+    }
     rules_.Add_New_Rule();
     AddtoGrid();
     TellCountChanged();

@@ -40,6 +40,8 @@ class RulesGridMode {
 
     /// A rule came or went.
     Event<> countChanged;
+    /// No rule was added: the list is as long as it can be.
+    Event<> addRefused;
 
   private:
     void Connect();

@@ -6,6 +6,7 @@
 #include "rules/RulesDetails.h"
 #include "rules/RulesLayout.h"
 #include "rules/mRules.h"
+#include "shell/StatusTexts.h"
 
 namespace zy {
 namespace {
@@ -29,6 +30,11 @@ RulesPage::RulesPage(mRules& rules, SettingsForm& form, SharedState& state, Trac
     ConnectButtons();
     ConnectDetails();
     gridMode.countChanged.Connect([this] { ShowStatus(CountText()); });
+    gridMode.addRefused.Connect([this] { RefuseToAdd(); });
+    controls.grdRules.pasted.Connect([this](const PasteReport& paste) {
+        ShowStatus(CountText());
+        AddHint(form_.zyStatusBar, DescribeLeftOut(paste, controls.grdRules));
+    });
     rules_.reported.Connect([this](const std::string& report) { ShowStatus(report); });
 }
 

@@ -73,6 +73,7 @@ class RulesPage {
     void FillDetails(int index);
     void SelectAndEdit(int item);
     void Swap(Int16 item, int neighbour);
+    void RefuseToAdd();
     void DeleteSelected();
     bool StoreRuleInHand();
 

@@ -4,15 +4,12 @@
 #include "rules/RulesDetails.h"
 #include "rules/RulesPage.h"
 #include "rules/mRules.h"
+#include "shell/StatusTexts.h"
 
 namespace zy {
 namespace {
 
 constexpr std::string_view kForm = "frmGlobalSettings";
-
-std::string Counted(std::size_t count, std::string_view noun) {
-    return std::to_string(count) + " " + std::string(noun) + (count == 1 ? "" : "s");
-}
 
 } // namespace
 
@@ -108,10 +105,19 @@ bool RulesPage::ValidateSelection(const ComboBox& list, Control& focus) {
 
 void RulesPage::cmdAddList_Click() {
     Trace(kForm, "cmdAddList_Click", "Start");
+    if (rules_.gaRules.IsFull()) {
+        RefuseToAdd();
+        return;
+    }
     rules_.Add_New_Rule();
     form_.ChangeFlag = true;
     LoadRulesListMode();
     SelectAndEdit(controls.lstRulesList.Count());
+}
+
+void RulesPage::RefuseToAdd() {
+    ShowStatus(CountText());
+    AddHint(form_.zyStatusBar, kListFull);
 }
 
 void RulesPage::cmdDeleteList_Click() {
@@ -194,14 +200,14 @@ std::string RulesPage::CountText() {
 
 void RulesPage::ShowStatus(std::string_view report) {
     report_ = report;
-    std::string text = report_;
+    form_.zyStatusBar.SetText(report_);
     if (FormDiffers()) {
         // File > Save takes the form over only while there is a change to be saved.
-        text += "   -   " + rules_.gaRules(rules_.giCurRule).Code;
-        text += form_.ChangeFlag ? " edited; File > Save stores it"
-                                 : " differs from its fields; change one, then File > Save stores them";
+        AddHint(form_.zyStatusBar, rules_.gaRules(rules_.giCurRule).Code +
+                                       (form_.ChangeFlag ? " edited; File > Save stores it"
+                                                         : " differs from its fields; change one, then File "
+                                                           "> Save stores them"));
     }
-    form_.zyStatusBar.SetText(text);
 }
 
 } // namespace zy

@@ -9,6 +9,7 @@
 #include "security/UserStatement.h"
 #include "security/frmDatePicker.h"
 #include "shell/SaveTurn.h"
+#include "shell/StatusTexts.h"
 
 namespace zy {
 namespace {
@@ -47,6 +48,7 @@ void SecurityPage::Connect() {
     form_.menu.mnuDeleteUser.click.Connect([this] { mnuDeleteUser_Click(); });
     grid.beforeEdit.Connect([this](int, int column) { grdSecurity_BeforeEdit(column); });
     grid.afterEdit.Connect([this](int row, int) { grdSecurity_AfterEdit(row); });
+    grid.pasted.Connect([this](const PasteReport& paste) { grdSecurity_Pasted(paste); });
     grid.cellButtonClick.Connect([this](int row, int column) { grdSecurity_CellButtonClick(row, column); });
     grid.keyDown.Connect(
         [this](const KeyPress& press, bool& handled) { grdSecurity_KeyDown(press, handled); });
@@ -205,6 +207,11 @@ void SecurityPage::ShowSaved() {
 void SecurityPage::grdSecurity_AfterEdit(int row) {
     Trace("grdSecurity_AfterEdit", "Start");
     MarkChangedAndEnableSave(row);
+}
+
+void SecurityPage::grdSecurity_Pasted(const PasteReport& paste) {
+    ReportCount();
+    AddHint(form_.zyStatusBar, DescribeLeftOut(paste, controls.grdSecurity));
 }
 
 void SecurityPage::grdSecurity_BeforeEdit(int column) {

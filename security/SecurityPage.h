@@ -19,6 +19,8 @@ class SecurityPage : public SecurityEditor {
     /// Deletes at once and leaves the buttons alone, unlike the button, which is meant.
     void mnuDeleteUser_Click();
     void grdSecurity_AfterEdit(int row);
+    /// Tells what of a paste was left out.
+    void grdSecurity_Pasted(const PasteReport& paste);
     /// Gives the cells of dates their button.
     void grdSecurity_BeforeEdit(int column);
     /// Opens the calendar beside the cell.

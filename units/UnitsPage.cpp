@@ -3,6 +3,7 @@
 #include <string>
 
 #include "basics/Int16.h"
+#include "shell/StatusTexts.h"
 #include "units/UnitsLayout.h"
 
 namespace zy {
@@ -38,6 +39,7 @@ void UnitsPage::Connect() {
     controls.UpDownUnits.upClick.Connect([this] { UpDownUnits_UpClick(); });
     controls.UpDownUnits.downClick.Connect([this] { UpDownUnits_DownClick(); });
     grid.afterEdit.Connect([this](int, int) { MarkUnitsChanged(); });
+    grid.pasted.Connect([this](const PasteReport& paste) { grdUnits_Pasted(paste); });
     grid.currentCellChanged.Connect(
         [this] { controls.cmdDeleteUnit.SetEnabled(controls.grdUnits.Row() >= 1); });
     grid.keyDownEdit.Connect([this](const KeyPress& press) { grdUnits_KeyDownEdit(press); });
@@ -55,10 +57,20 @@ void UnitsPage::MarkUnitsChanged() {
     units_.ReportCount();
 }
 
+void UnitsPage::grdUnits_Pasted(const PasteReport& paste) {
+    units_.ReportCount();
+    AddHint(form_.zyStatusBar, DescribeLeftOut(paste, controls.grdUnits));
+}
+
 void UnitsPage::cmdAddUNit_Click() {
     Trace("cmdAddUnit_Click", "Start");
     auto& grid = controls.grdUnits;
-    const Int16 row = grid.Rows(); // one row more than a counter holds is refused here
+    const int row = grid.Rows();
+    if (row > kMaxItems) {
+        units_.ReportCount();
+        AddHint(form_.zyStatusBar, kListFull);
+        return;
+    }
     grid.SetRows(row + 1);
     grid.Select(row, kUnit);
     grid.SetFocus();

@@ -15,11 +15,14 @@ class UnitsPage : public UnitsEditor {
     /// Marks the list as changed and lets it be saved.
     void MarkUnitsChanged();
 
+    /// Adds a row and opens it; a list that is as long as it can be stays as it is.
     void cmdAddUNit_Click();
     void cmdDeleteUnit_Click();
     void cmdSaveUnits_Click();
     void UpDownUnits_UpClick();
     void UpDownUnits_DownClick();
+    /// Tells what of a paste was left out.
+    void grdUnits_Pasted(const PasteReport& paste);
     /// Ctrl with 0, 2 or 3 types a degree sign, a superscript two or three into a unit.
     void grdUnits_KeyDownEdit(const KeyPress& press);
     /// Tab at the grid's last cell goes on to the Add button, Shift+Tab at its first to the Help button. Alt

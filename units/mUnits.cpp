@@ -6,6 +6,7 @@
 #include "basics/Int16.h"
 #include "basics/Text.h"
 #include "shell/SaveTurn.h"
+#include "shell/StatusTexts.h"
 #include "shell/Utilities.h"
 #include "units/UnitsFileText.h"
 
@@ -98,8 +99,7 @@ void mUnits::Report(const std::string& what, FileError error) {
 }
 
 void mUnits::ReportCount() {
-    const int units = controls_.grdUnits.Rows() - 1;
-    reported.Raise(std::to_string(units) + (units == 1 ? " unit" : " units"));
+    reported.Raise(Counted(static_cast<std::size_t>(controls_.grdUnits.Rows() - 1), "unit"));
 }
 
 bool mUnits::ValidateUnits() {

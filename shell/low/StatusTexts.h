@@ -1,11 +1,34 @@
 #pragma once
 
+#include <cstddef>
+#include <string>
 #include <string_view>
+
+#include "controls/Grid.h"
+#include "controls/StatusBar.h"
 
 namespace zy {
 
 /// Told when a person types or pastes a character that the settings files cannot hold.
 inline constexpr std::string_view kCharacterRefused =
     "That character was not taken: the settings files cannot hold it";
+
+/// Told when a person adds to a list that is as long as it can be.
+inline constexpr std::string_view kListFull = "Not added: the list is as long as it can be";
+
+/// A number with what it counts: "1 rule", "2 rules".
+std::string Counted(std::size_t count, std::string_view noun);
+
+/// A text in double quotes, for a message. Of a long one the front alone.
+std::string Quoted(std::string_view text);
+
+/// Appends a part of a message, with what separates it from the parts before; nothing for an empty part.
+void Join(std::string& text, std::string_view separator, std::string_view part);
+
+/// What of a paste into the grid was not taken; empty when all was.
+std::string DescribeLeftOut(const PasteReport& paste, const Grid& grid);
+
+/// Shows a hint behind what the status bar shows; nothing for an empty one.
+void AddHint(StatusBar& bar, std::string_view hint);
 
 } // namespace zy

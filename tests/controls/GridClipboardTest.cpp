@@ -36,15 +36,86 @@ TEST_F(GridTest, AddsPastedRowsOnlyWhereItMayGrow) {
     EXPECT_EQ(grid.Text(3, 0), "2");
 }
 
-TEST_F(GridTest, RaisesOverflowForAPasteBeyondTheLastPossibleRowAndChangesNothing) {
+TEST_F(GridTest, RefusesAPasteBeyondTheLastPossibleRowAsAWhole) {
     grid.SetGrowsByPaste(true);
     grid.Select(2, 0);
+    notes.clear();
     const std::string rows(32767, '\n');
-    EXPECT_EQ(ErrorNumber([&] { grid.Paste(rows); }), 6);
+    grid.Paste(rows);
     EXPECT_EQ(grid.Rows(), 3);
+    EXPECT_THAT(notes, ElementsAre());
+    ASSERT_EQ(pasted.size(), 1U);
+    EXPECT_TRUE(pasted.back().tooLong);
     grid.Select(1, 0);
     grid.Paste(rows);
     EXPECT_EQ(grid.Rows(), 32768) << "the header and 32,767 rows";
+    ExpectLeftOut(0, 0);
+}
+
+TEST_F(GridTest, TellsHowManyRowsAndColumnsOfAPasteItHadNoRoomFor) {
+    grid.Select(1, 1);
+    grid.Paste("1\t2\r\n3\t4\r\n");
+    ExpectLeftOut(0, 0);
+    grid.Paste("1\t2\t3\r\n4\t5\t6\t7\r\n8\r\n9\r\n10\r\n");
+    ExpectLeftOut(3, 2);
+    EXPECT_THAT(Row(1), ElementsAre("a", "1", "2"));
+    EXPECT_THAT(Row(2), ElementsAre("d", "4", "5"));
+}
+
+TEST_F(GridTest, TellsOfAPasteOnceAllItsEditsAreTold) {
+    grid.pasted.Connect([this](const PasteReport&) { notes.emplace_back("pasted"); });
+    grid.Select(2, 2);
+    notes.clear();
+    grid.Paste("1");
+    EXPECT_THAT(notes, ElementsAre("changed 2,2", "after 2,2", "pasted"));
+}
+
+TEST_F(GridTest, TellsThatAPasteWithoutAPlaceWasLeftOut) {
+    grid.Paste("1\r\n2\r\n");
+    ExpectLeftOut(2, 0);
+    grid.SetRows(1);
+    grid.Paste("1");
+    ExpectLeftOut(1, 0);
+}
+
+TEST_F(GridTest, RefusesAPastedTextThatTheListOfItsCellLacksAndTakesTheRest) {
+    grid.SetColumnList(1, "A|I");
+    grid.Select(1, 0);
+    notes.clear();
+    grid.Paste("1\tZZ\t2\r\n3\tI\t4\r\n");
+    EXPECT_THAT(Row(1), ElementsAre("1", "b", "2"));
+    EXPECT_THAT(Row(2), ElementsAre("3", "I", "4"));
+    EXPECT_THAT(notes, ::testing::Not(::testing::Contains("after 1,1")));
+    ExpectLeftOut(0, 0, 1);
+    EXPECT_EQ(pasted.back().firstRefused, (Cell{1, 1}));
+    EXPECT_EQ(pasted.back().textRefused, "ZZ");
+    EXPECT_EQ(grid.BlockEnd(), (Cell{2, 2}));
+}
+
+TEST_F(GridTest, NamesTheFirstOfSeveralPastedTextsThatItRefused) {
+    grid.SetColumnList(1, "A|I");
+    grid.SetColumnList(2, "x");
+    grid.Select(1, 0);
+    grid.Paste("1\tA\ty\r\n2\tZ\tx\r\n");
+    ExpectLeftOut(0, 0, 2);
+    EXPECT_EQ(pasted.back().firstRefused, (Cell{1, 2}));
+    EXPECT_EQ(pasted.back().textRefused, "y");
+}
+
+TEST_F(GridTest, TakesOfAPasteIntoAListCellItsItemsAsTheyStandAndNothingAtAll) {
+    grid.SetColumnList(1, "A|In use||I");
+    grid.Select(1, 1);
+    for (const char* text : {"A", "In use", "I", "\t"}) {
+        grid.Paste(text);
+        ExpectLeftOut(0, 0);
+    }
+    EXPECT_EQ(grid.Text(1, 1), "");
+    grid.Paste("I");
+    for (const char* text : {"a", "A ", " A", "A|I", "|", "In", "use"}) {
+        grid.Paste(text);
+        ExpectLeftOut(0, 0, 1);
+        EXPECT_EQ(grid.Text(1, 1), "I") << text;
+    }
 }
 
 TEST_F(GridTest, CopiesNothingOfItsHeader) {

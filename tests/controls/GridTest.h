@@ -29,6 +29,7 @@ class GridTest : public ::testing::Test {
         grid.cellChanged.Connect(note("changed"));
         grid.beforeEdit.Connect(note("before"));
         grid.afterEdit.Connect(note("after"));
+        grid.pasted.Connect([this](const PasteReport& paste) { pasted.push_back(paste); });
         grid.currentCellChanged.Connect([this] { notes.emplace_back("current"); });
     }
 
@@ -42,6 +43,14 @@ class GridTest : public ::testing::Test {
         grid.OpenEditor();
         TypeInEditor(text);
     }
+    /// The last paste left out so much.
+    void ExpectLeftOut(int rows, int columns, int cells = 0) {
+        ASSERT_FALSE(pasted.empty());
+        EXPECT_EQ(pasted.back().rowsLeftOut, rows);
+        EXPECT_EQ(pasted.back().columnsLeftOut, columns);
+        EXPECT_EQ(pasted.back().cellsRefused, cells);
+        EXPECT_FALSE(pasted.back().tooLong);
+    }
     void ExpectCurrent(int row, int column) {
         EXPECT_EQ(grid.Row(), row);
         EXPECT_EQ(grid.Column(), column);
@@ -51,6 +60,7 @@ class GridTest : public ::testing::Test {
     Grid grid{&form, "grd", 3};
     CommandButton button{&form, "cmd", "Press"};
     std::vector<std::string> notes;
+    std::vector<PasteReport> pasted;
 };
 
 } // namespace zy::test

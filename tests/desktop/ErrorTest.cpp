@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "RulesWindow.h"
+#include "basics/RuntimeError.h"
 
 namespace zy::test {
 namespace {
@@ -21,14 +22,15 @@ TEST_F(ErrorWindow, ARunTimeErrorAtStartUpIsShownAndEndsTheProgramWithStatusOne)
 }
 
 TEST_F(ErrorWindow, ARunTimeErrorInAHandlerDoesTheSame) {
-    PutRules(ManyRules(32767));
+    PutRules(ThreeRules());
     const int status = Play([&] {
+        InWindow([&] { page().cmdAddList.click.Connect([] { RaiseOverflow(); }); });
         Click(page().cmdAddList);
         ExpectBox(kOverflow, "ZY Setup");
         Press(WXK_RETURN);
     });
     EXPECT_EQ(status, 1);
-    EXPECT_EQ(File(), FileOf(ManyRules(32767)));
+    EXPECT_EQ(File(), FileOf(ThreeRules()));
 }
 
 TEST_F(ErrorWindow, AnyOtherErrorIsShownByItsMessage) {

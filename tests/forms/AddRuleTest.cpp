@@ -97,13 +97,15 @@ TEST_F(AddRule, IsAWholeTurnFromButtonToBytes) {
                       "   DESC3        = \r\n");
 }
 
-TEST_F(AddRule, ToAFullListRaisesOverflowAndChangesNothing) {
+TEST_F(AddRule, ToAFullListIsRefusedAndChangesNothing) {
     std::string text;
     for (int i = 0; i < kMaxItems; ++i) {
         text += "[RULE]\r\n";
     }
     StartOver(text);
-    EXPECT_EQ(ErrorNumber([&] { page().cmdAddList.Click(); }), 6);
+    page().cmdAddList.Click();
+    EXPECT_THAT(Status(), ::testing::StartsWith("32767 rules"));
+    EXPECT_THAT(Status(), ::testing::EndsWith("   -   Not added: the list is as long as it can be"));
     EXPECT_EQ(rules().gaRules.UBound(), kMaxItems);
     EXPECT_EQ(list().Count(), kMaxItems);
     ExpectInHand(1);

@@ -91,9 +91,19 @@ TEST_F(GridEdits, AreTracedWhenTheyHaveEnded) {
 TEST_F(GridEdits, AreStoredCellByCellWithoutTrimming) {
     ShowGridOver({"A", "B"});
     grid().Pick(1, kCodeColumn);
-    grid().Paste(" X\t 3\t4 \t <\tNo Zone \t  two words  ");
+    grid().Paste(" X\t 3\t4 \t<\tTARG \t  two words  ");
     mode().Save_RulesGrid();
-    EXPECT_THAT(HeldRules(), ElementsAre(" X| 3|4 | <|No Zone |  two words  ", "B|1|2|>|UCL|text  "));
+    EXPECT_THAT(HeldRules(), ElementsAre(" X| 3|4 |<|TARG |  two words  ", "B|1|2|>|UCL|text  "));
+}
+
+TEST_F(GridEdits, ThatArePastedAreRefusedWhereTheListOfTheCellLacksThem) {
+    ShowGridOver({"A"});
+    grid().Pick(1, kCodeColumn);
+    grid().Paste("X\t3\t4\t=>\tNo Zone\ttext\tmore\r\n");
+    mode().Save_RulesGrid();
+    EXPECT_THAT(HeldRules(), ElementsAre("X|3|4|>|UCL|text"));
+    EXPECT_EQ(Status(),
+              "1 rule   -   1 column left out; 2 cells refused, the first: row 1, Cond. cannot be \"=>\"");
 }
 
 TEST_F(GridEdits, ReachTheFileOnTheOrdinaryWaysOfSaving) {

@@ -64,11 +64,26 @@ TEST_F(ManyUnits, CanBeMadeByAddingTheLastOne) {
     EXPECT_EQ(File(), most);
 }
 
-TEST_F(ManyUnits, BeyondTheLastOneAreAnOverflowAtAdding) {
+TEST_F(ManyUnits, BeyondTheLastOneAreNotAdded) {
     OpenOver(most);
-    ExpectOverflow([&] { Add(); });
+    grid.Pick(2, kUnit);
+    Add();
+    EXPECT_EQ(Status(), "32767 units   -   Not added: the list is as long as it can be");
     EXPECT_EQ(grid.Rows() - 1, kMost);
+    ExpectCurrent(2, kUnit);
+    EXPECT_FALSE(grid.IsEditing());
+    ExpectChanged(false);
     EXPECT_EQ(File(), most);
+}
+
+TEST_F(ManyUnits, KeepTheirEditsWhenOneMoreIsRefused) {
+    OpenOver(most);
+    Edit(1, kUnit, "edited");
+    Add();
+    EXPECT_EQ(grid.Text(1, kUnit), "edited");
+    ExpectChanged(true);
+    Save();
+    EXPECT_EQ(Status(), "Saved");
 }
 
 TEST_F(ManyUnits, CanBePastedUpToTheLastOne) {
@@ -83,10 +98,11 @@ TEST_F(ManyUnits, CanBePastedUpToTheLastOne) {
     EXPECT_EQ(File(), most);
 }
 
-TEST_F(ManyUnits, BeyondTheLastOneAreAnOverflowAtPasting) {
+TEST_F(ManyUnits, BeyondTheLastOneAreNotPasted) {
     OpenOver(most);
     grid.Pick(kMost, 0);
-    ExpectOverflow([&] { grid.Paste("x\r\ny\r\n"); });
+    grid.Paste("x\r\ny\r\n");
+    EXPECT_EQ(Status(), "32767 units   -   Not pasted: the list would get longer than it can be");
     EXPECT_EQ(grid.Rows() - 1, kMost);
     EXPECT_EQ(grid.Text(kMost, kUnit), "u32767");
     EXPECT_EQ(File(), most);

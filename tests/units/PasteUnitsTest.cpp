@@ -28,6 +28,22 @@ TEST_F(PasteUnits, LeavesOutColumnsThatTheListDoesNotHave) {
     grid.Pick(1, kUnitDescription);
     grid.Paste("x\ty\tz\r\n");
     EXPECT_THAT(Units(), ElementsAre("a|x", "b|B", "c|C"));
+    EXPECT_EQ(Status(), "3 units   -   2 columns left out");
+}
+
+TEST_F(PasteUnits, TellsThatNothingWasPastedWithoutAPlaceForIt) {
+    OpenThreeUnits();
+    grid.Paste("x\r\ny\r\n");
+    EXPECT_EQ(Status(), "3 units   -   2 rows left out");
+    ExpectChanged(false);
+}
+
+TEST_F(PasteUnits, TellsNothingMoreThanTheNumberWhenAllWasTaken) {
+    OpenThreeUnits();
+    grid.Pick(1, kUnitDescription);
+    grid.Paste("x\ty\r\n");
+    grid.Paste("x\r\n");
+    EXPECT_EQ(Status(), "3 units");
 }
 
 TEST_F(PasteUnits, FillsAnEmptyList) {
