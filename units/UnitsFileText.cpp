@@ -6,6 +6,8 @@
 
 #include "basics/Int16.h"
 #include "basics/RuntimeError.h"
+#include "basics/Text.h"
+#include "shell/StatusTexts.h"
 #include "shell/Utilities.h"
 #include "units/UnitsControls.h"
 
@@ -76,32 +78,94 @@ void ReserveFor(std::string_view text, std::vector<std::string_view>& cells) {
                               std::to_string(line) + ": no comma or TAB between description and unit");
 }
 
+/// Whether something stands there beside separators, as spreadsheets leave them behind short rows.
+bool IsText(const char* begin, const char* end) {
+    constexpr std::string_view kNoText = ",\t \"";
+    return std::any_of(begin, end, [](char c) { return !Contains(kNoText, c); });
+}
+
+/// Counts the lines that are not blank, whatever they end in.
+std::size_t CountLines(std::string_view text) {
+    constexpr std::string_view kLineEnds = "\r\n";
+    std::size_t lines = 0;
+    while (!text.empty()) {
+        const auto end = std::min(text.find_first_of(kLineEnds), text.size());
+        lines += Trim(text.substr(0, end)).empty() ? 0U : 1U;
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return lines;
+}
+
+std::string DescribeTail(const UnitsLeftOut& leftOut) {
+    const auto lines = CountLines(leftOut.tail);
+    if (lines == 0) {
+        return {};
+    }
+    if (leftOut.lines == 0) {
+        return "no line of the file ends in CR LF, saving drops its " + Counted(lines, "line");
+    }
+    return lines == 1 ? "text behind the last line end, saving drops it"
+                      : "text behind the last CR LF, saving drops its " + Counted(lines, "line");
+}
+
+std::string InLines(std::string_view what, int lines, std::string_view then) {
+    return lines == 0
+               ? std::string()
+               : std::string(what) + Counted(static_cast<std::size_t>(lines), "line") + std::string(then);
+}
+
 } // namespace
 
-void AppendUnitCells(std::string_view text, std::string_view path, std::vector<std::string_view>& cells) {
+UnitsLeftOut AppendUnitCells(std::string_view text, std::string_view path,
+                             std::vector<std::string_view>& cells) {
+    UnitsLeftOut leftOut;
     ReserveFor(text, cells);
     const char* begin = text.data();
     const char* const textEnd = begin + text.size();
     Places tabs('\t', begin, textEnd);
     Places commas(',', begin, textEnd);
-    for (int line = 1;; ++line) {
+    for (;; ++leftOut.lines) {
         const char* const end = FindLineEnd(begin, textEnd);
         if (end == textEnd) {
-            return;
+            leftOut.tail = {begin, static_cast<std::size_t>(textEnd - begin)};
+            return leftOut;
         }
-        if (line > kMaxItems) {
+        if (leftOut.lines == kMaxItems) {
             RaiseOverflow();
         }
-        auto& separators = tabs.From(begin) < end ? tabs : commas;
+        const bool byTab = tabs.From(begin) < end;
+        const bool anyComma = commas.From(begin) < end;
+        auto& separators = byTab ? tabs : commas;
         const char* const first = separators.From(begin);
         if (first >= end) {
-            RaiseUnitMissing(path, line);
+            RaiseUnitMissing(path, leftOut.lines + 1);
         }
-        const char* const second = separators.From(first + 1);
-        cells.push_back(FieldBetween(first + 1, second < end ? second : end));
+        const char* const second = std::min(separators.From(first + 1), end);
+        cells.push_back(FieldBetween(first + 1, second));
         cells.push_back(FieldBetween(begin, first));
+        leftOut.linesCut += IsText(second, end) ? 1 : 0;
+        leftOut.linesWithCommas += byTab && anyComma && std::find(begin, second, ',') != second ? 1 : 0;
         begin = end + 2;
     }
+}
+
+std::string Describe(const UnitsLeftOut& leftOut) {
+    std::string text = DescribeTail(leftOut);
+    Join(text, "; ", InLines("fields beyond the second in ", leftOut.linesCut, ", saving drops them"));
+    Join(text, "; ",
+         InLines("commas inside fields in ", leftOut.linesWithCommas, ", saving makes separators of them"));
+    return text;
+}
+
+std::string DescribeMisreading(const Grid& grid, int row) {
+    const auto cells = grid.RowTexts(row);
+    if (!Contains(cells[kUnit], ',') && !Contains(cells[kUnitDescription], ',')) {
+        return {};
+    }
+    const std::string line = std::string(cells[kUnitDescription]) + ',' + std::string(cells[kUnit]);
+    const auto fields = SplitFields(line);
+    return "row " + std::to_string(row) + ": with its comma it will be read back as unit " +
+           Quoted(fields[2]) + ", description " + Quoted(fields[1]);
 }
 
 UnitsFileText::UnitsFileText(const Grid& grid) {

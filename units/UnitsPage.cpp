@@ -4,6 +4,7 @@
 
 #include "basics/Int16.h"
 #include "shell/StatusTexts.h"
+#include "units/UnitsFileText.h"
 #include "units/UnitsLayout.h"
 
 namespace zy {
@@ -38,7 +39,7 @@ void UnitsPage::Connect() {
     controls.cmdSaveUnits.click.Connect([this] { cmdSaveUnits_Click(); });
     controls.UpDownUnits.upClick.Connect([this] { UpDownUnits_UpClick(); });
     controls.UpDownUnits.downClick.Connect([this] { UpDownUnits_DownClick(); });
-    grid.afterEdit.Connect([this](int, int) { MarkUnitsChanged(); });
+    grid.afterEdit.Connect([this](int row, int) { grdUnits_AfterEdit(row); });
     grid.pasted.Connect([this](const PasteReport& paste) { grdUnits_Pasted(paste); });
     grid.currentCellChanged.Connect(
         [this] { controls.cmdDeleteUnit.SetEnabled(controls.grdUnits.Row() >= 1); });
@@ -57,9 +58,30 @@ void UnitsPage::MarkUnitsChanged() {
     units_.ReportCount();
 }
 
+void UnitsPage::grdUnits_AfterEdit(int row) {
+    MarkUnitsChanged();
+    AddHint(form_.zyStatusBar, DescribeMisreading(controls.grdUnits, row));
+}
+
 void UnitsPage::grdUnits_Pasted(const PasteReport& paste) {
     units_.ReportCount();
     AddHint(form_.zyStatusBar, DescribeLeftOut(paste, controls.grdUnits));
+    if (!paste.tooLong && controls.grdUnits.Row() >= 1) {
+        AddHint(form_.zyStatusBar, DescribeMisreadings());
+    }
+}
+
+/// The first row of the block that will be read back otherwise, and how many more there are.
+std::string UnitsPage::DescribeMisreadings() const {
+    const auto& grid = controls.grdUnits;
+    std::string first;
+    std::size_t more = 0;
+    for (int row = grid.Row(); row <= grid.BlockEnd().row; ++row) {
+        const auto misreading = DescribeMisreading(grid, row);
+        more += !first.empty() && !misreading.empty() ? 1U : 0U;
+        first = first.empty() ? misreading : first;
+    }
+    return more == 0 ? first : first + "; commas in " + Counted(more, "more row");
 }
 
 void UnitsPage::cmdAddUNit_Click() {

@@ -21,7 +21,9 @@ class UnitsPage : public UnitsEditor {
     void cmdSaveUnits_Click();
     void UpDownUnits_UpClick();
     void UpDownUnits_DownClick();
-    /// Tells what of a paste was left out.
+    /// Tells beside the change how a row with a comma will be read back.
+    void grdUnits_AfterEdit(int row);
+    /// Tells what of a paste was left out, and how rows with commas will be read back.
     void grdUnits_Pasted(const PasteReport& paste);
     /// Ctrl with 0, 2 or 3 types a degree sign, a superscript two or three into a unit.
     void grdUnits_KeyDownEdit(const KeyPress& press);
@@ -42,6 +44,7 @@ class UnitsPage : public UnitsEditor {
   private:
     void Connect();
     void Trace(std::string_view procedure, std::string_view message);
+    std::string DescribeMisreadings() const;
     void DeleteCurrentRow();
     void SwapWith(int neighbour);
     bool LeaveForwards();

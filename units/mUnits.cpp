@@ -11,6 +11,12 @@
 #include "units/UnitsFileText.h"
 
 namespace zy {
+namespace {
+
+/// What the old file held is gone by then.
+constexpr auto kLastSaveFailed = "the last save failed, save again";
+
+} // namespace
 
 mUnits::mUnits(UnitsControls& controls, SharedState& state, TraceChannel& trace, const World& world)
     : controls_(controls), state_(state), trace_(trace), world_(world) {}
@@ -21,6 +27,8 @@ void mUnits::Start(std::string_view procedure) {
 
 void mUnits::LoadUnitsData() {
     Start("LoadUnitsData");
+    const SaveTurn turn(world_.files, state_.gsUnitsFile); // what somebody else saves is read whole
+    leftOut_.clear();
     auto& grid = controls_.grdUnits;
     grid.SetRedraw(false);
     ResetGrid();
@@ -30,8 +38,9 @@ void mUnits::LoadUnitsData() {
     } else {
         controls_.cmdSaveUnits.SetEnabled(true);
         controls_.cmdDeleteUnit.SetEnabled(false);
-        ReportCount();
     }
+    Join(leftOut_, "; ", DescribeUncertainty());
+    ReportCount();
     grid.SetRedraw(true);
     grid.FitColumns(0);
 }
@@ -44,20 +53,25 @@ void mUnits::ResetGrid() {
 void mUnits::ReadUnits() {
     const auto opened = world_.files.OpenForReading(state_.gsUnitsFile);
     if (!opened.handle) {
-        Report(FileName() + " could not be read", opened.error);
+        leftOut_ = FileName() + " could not be read: " + std::string(Describe(opened.error)) +
+                   "; saving replaces all that it holds";
         return;
     }
     const auto size = static_cast<std::uint32_t>(opened.handle->Size());
     auto text = ReadFileText(*opened.handle, size);
     const bool whole = text.size() == size;
     controls_.grdUnits.AddRowsOf(std::move(text), [this](auto lines, auto& cells) {
-        AppendUnitCells(lines, state_.gsUnitsFile, cells);
+        leftOut_ = Describe(AppendUnitCells(lines, state_.gsUnitsFile, cells));
     });
-    if (whole) {
-        ReportCount();
-    } else {
-        Report(FileName() + " could not be read to its end", FileError::Other);
+    if (!whole) {
+        leftOut_ = FileName() + " could not be read to its end: " + std::string(Describe(FileError::Other)) +
+                   "; saving drops the rest";
     }
+}
+
+std::string mUnits::DescribeUncertainty() {
+    const auto uncertainty = Uncertainty(world_.files, state_.gsUnitsFile);
+    return uncertainty.empty() ? uncertainty : uncertainty + "; saving is refused";
 }
 
 bool mUnits::Write_Units() {
@@ -74,15 +88,15 @@ void mUnits::ReplaceFile() {
     Start("Write_Units");
     const UnitsFileText text(controls_.grdUnits); // an error here leaves the file as it is
     const auto& path = state_.gsUnitsFile;
-    if (world_.files.Exists(path)) {
-        world_.files.Delete(path);
-    }
+    const bool deleted = world_.files.Exists(path) && world_.files.Delete(path) == FileError::None;
     const auto created = world_.files.Create(path);
     if (!created.handle) {
+        leftOut_ = deleted ? kLastSaveFailed : leftOut_;
         Report("Not saved, " + FileName() + " could not be created", created.error);
         return;
     }
     const auto error = WriteAndClose(*created.handle, text.Get());
+    leftOut_ = error == FileError::None ? "" : kLastSaveFailed;
     if (error == FileError::None) {
         reported.Raise("Saved");
     } else {
@@ -99,7 +113,9 @@ void mUnits::Report(const std::string& what, FileError error) {
 }
 
 void mUnits::ReportCount() {
-    reported.Raise(Counted(static_cast<std::size_t>(controls_.grdUnits.Rows() - 1), "unit"));
+    auto text = Counted(static_cast<std::size_t>(controls_.grdUnits.Rows() - 1), "unit");
+    Join(text, "; ", leftOut_);
+    reported.Raise(text);
 }
 
 bool mUnits::ValidateUnits() {

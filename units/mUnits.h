@@ -24,6 +24,8 @@ class mUnits {
     /// Empties the grid and fills it from the units file. Without a file the list is empty and can be saved
     /// at once; of a file that cannot be read, the part that could be is taken.
     ///
+    /// Whatever of the file a save would drop is told by ReportCount until a save went well.
+    ///
     /// A line without a second field is run-time error 9, more than 32,767 lines are run-time error 6. What
     /// stands behind the last line end is not read.
     void LoadUnitsData();
@@ -41,7 +43,7 @@ class mUnits {
     bool Validate_Unit(std::string_view unit);
     bool Validate_Desc(std::string_view description);
 
-    /// Reports how many units there are.
+    /// Reports how many units there are, and what a save would drop.
     void ReportCount();
 
     /// Short texts for the status bar: how many units there are, how a load or a save ended.
@@ -54,12 +56,14 @@ class mUnits {
     bool Refuse(std::string_view message);
     void Start(std::string_view procedure);
     std::string FileName() const;
+    std::string DescribeUncertainty();
     void Report(const std::string& what, FileError error);
 
     UnitsControls& controls_;
     SharedState& state_;
     TraceChannel& trace_;
     World world_;
+    std::string leftOut_; ///< what a save would drop
 };
 
 } // namespace zy

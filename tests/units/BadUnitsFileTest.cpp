@@ -117,7 +117,9 @@ TEST_F(BadUnitsFile, ThatMayNotBeReadIsAnEmptyListAndTheStatusBarTellsWhy) {
     EXPECT_THAT(Units(), IsEmpty());
     EXPECT_FALSE(controls.cmdSaveUnits.Enabled());
     EXPECT_FALSE(form.ChangeFlag);
-    EXPECT_EQ(Status(), "ZYUNITS.SYS could not be read: access is denied");
+    EXPECT_EQ(Status(),
+              "0 units; ZYUNITS.SYS could not be read: access is denied; saving replaces all that it "
+              "holds");
     EXPECT_EQ(File(), "A,a\r\n");
 }
 
@@ -127,7 +129,9 @@ TEST_F(BadUnitsFile, OnADiskThatCannotReadIsAnEmptyListAndTheStatusBarTells) {
     Open();
     EXPECT_THAT(Units(), IsEmpty());
     EXPECT_FALSE(controls.cmdSaveUnits.Enabled());
-    EXPECT_EQ(Status(), "ZYUNITS.SYS could not be read to its end: the disk reported an error");
+    EXPECT_EQ(Status(),
+              "0 units; ZYUNITS.SYS could not be read to its end: the disk reported an error; saving "
+              "drops the rest");
 }
 
 } // namespace
