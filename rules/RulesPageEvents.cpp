@@ -195,6 +195,7 @@ std::string RulesPage::CountText() {
     if (const auto skipped = rules_.SkippedLines(); skipped != 0) {
         text += "; " + Counted(skipped, "line") + " of the file not understood, saving drops them";
     }
+    Join(text, "; ", rules_.Dangers());
     return text;
 }
 

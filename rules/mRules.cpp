@@ -2,6 +2,8 @@
 
 #include "basics/Text.h"
 #include "rules/RulesFileText.h"
+#include "rules/UnfinishedSave.h"
+#include "shell/StatusTexts.h"
 #include "shell/Utilities.h"
 
 namespace zy {
@@ -46,6 +48,15 @@ void mRules::Build_Rules_Array() {
     skippedLines_ = goSettings_->Report().skippedLines;
 }
 
+void mRules::LookForDangers() {
+    const auto rulesFile = Settings().RulesFile();
+    dangers_ = DescribeUnfinishedSave(world_.files, TemporaryFile(), rulesFile);
+    for (const auto& path : {rulesFile, TemporaryFile()}) {
+        const auto uncertainty = Uncertainty(world_.files, path);
+        Join(dangers_, "; ", uncertainty.empty() ? uncertainty : uncertainty + "; saving is refused");
+    }
+}
+
 void mRules::Add_New_Rule() {
     trace_.DebugTrace(kModule, "Add_New_Rule", "Start");
     RunRule& rule = Settings().NewRule();
@@ -76,6 +87,7 @@ bool mRules::WriteTemporary(const std::string& temporary, const std::string& tex
         Report("Not saved, Rules.tmp could not be created", created.error);
         return false;
     }
+    dangers_.clear();
     const auto error = WriteAndClose(*created.handle, text);
     if (error != FileError::None) {
         world_.files.Delete(temporary);
@@ -108,8 +120,8 @@ void mRules::ReplaceFile() {
     trace_.DebugTrace(kModule, "Write_Rules_File", "Start");
     auto& files = world_.files;
     const std::string temporary = TemporaryFile();
-    if (files.Exists(temporary)) {
-        files.Delete(temporary);
+    if (files.Exists(temporary) && files.Delete(temporary) == FileError::None) {
+        dangers_.clear();
     }
     const std::string text = RulesFileText(gaRules);
     if (!WriteTemporary(temporary, text)) {

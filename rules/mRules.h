@@ -51,6 +51,13 @@ class mRules {
     /// Lines of the rules file that are no part of a rule; the next save will not write them back.
     std::size_t SkippedLines() const { return skippedLines_; }
 
+    /// Looks up what else a save would destroy, or why it would be refused: the temporary file of a save that
+    /// did not come to its end, names that differ by case alone. To be asked for in one's turn to save, or
+    /// the temporary file may be one that is just being written.
+    void LookForDangers();
+    /// What was found then, for the status bar. A save that takes the temporary file away ends it.
+    const std::string& Dangers() const { return dangers_; }
+
     /// Short texts for the status bar: how a save ended.
     Event<const std::string&> reported;
 
@@ -67,6 +74,7 @@ class mRules {
     TraceChannel& trace_;
     std::unique_ptr<SettingsLibrary> goSettings_;
     std::size_t skippedLines_ = 0;
+    std::string dangers_;
 };
 
 /// A key line of the rules file, without its line end: the key in a field of 13 characters behind three

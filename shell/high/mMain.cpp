@@ -4,6 +4,7 @@
 
 #include "security/SecurityFileLocation.h"
 #include "shell/Program.h"
+#include "shell/SaveTurn.h"
 #include "shell/Utilities.h"
 
 namespace zy {
@@ -22,9 +23,18 @@ void ComputePaths(Program& program) {
     state.gsSystemDir = systemDir;
 }
 
+/// In the turn to save, so that what somebody else is just saving is read whole.
+void LoadRules(Program& program) {
+    const SaveTurn turn(program.world.files, program.state.gsRulesFile);
+    program.rules.Build_Rules_Array();
+    if (turn.IsMine()) {
+        program.rules.LookForDangers();
+    }
+}
+
 StartUp StartRules(Program& program) {
     program.trace.DebugTrace(kModule, kProcedure, "Rules Mode Started");
-    program.rules.Build_Rules_Array();
+    LoadRules(program);
     program.window.ShowRules();
     program.state.gbRulesMode = true;
     program.state.gbSecurityMode = false;
