@@ -10,6 +10,7 @@ using ::testing::ElementsAre;
 
 constexpr auto kTable = "ZYSECURE.DBF";
 constexpr auto kTitle = "ZY Setup - Security";
+constexpr std::size_t kHeader = 193;
 constexpr auto kLogin = "ZY Setup Security Login";
 constexpr auto kSaveChanges = "Save Changes?";
 
@@ -40,9 +41,8 @@ class UsersProgram : public Scene {
         TypeCharacters(identification);
         PressKeys("Return");
     }
-    /// What the table holds behind its header, which has 193 bytes.
+    /// What the table holds behind its header.
     std::string Records() const {
-        constexpr std::size_t kHeader = 193;
         const auto table = Get(kTable);
         return table.size() < kHeader ? "" : table.substr(kHeader);
     }
@@ -86,6 +86,17 @@ TEST_F(UsersProgram, CancelAtTheLoginEndsTheProgram) {
     ASSERT_TRUE(WaitForWindow(kLogin)) << Program().Output();
     PressKeys("Escape");
     EXPECT_EQ(Program().WaitForEnd(), 0);
+}
+
+TEST_F(UsersProgram, ATableWhoseAdministratorIsCutOffDoesNotOpenAndStays) {
+    MakeAdministrator();
+    const auto cut = Get(kTable).substr(0, kHeader + 30);
+    Put(kTable, cut);
+    Start({"@SECURITY"});
+    ASSERT_TRUE(WaitForWindow("ZY Setup")) << Program().Output(); // the box of the error
+    PressKeys("Return");
+    EXPECT_NE(Program().WaitForEnd(), 0);
+    EXPECT_EQ(Get(kTable), cut);
 }
 
 TEST_F(UsersProgram, ClosingAsksAndYesSaves) {
