@@ -77,10 +77,9 @@ void SecurityPage::LoadSecurity() {
 }
 
 void SecurityPage::ReportCount(int row) {
-    const int count = controls.grdSecurity.Rows() - 1;
-    std::string text = std::to_string(count) + (count == 1 ? " user" : " users");
+    std::string text = Counted(static_cast<std::size_t>(controls.grdSecurity.Rows() - 1), "user");
     for (const auto& report : {QuotesReport(row), report_}) {
-        text += report.empty() ? "" : "; " + report;
+        Join(text, "; ", report);
     }
     form_.zyStatusBar.SetText(text);
 }
@@ -137,7 +136,8 @@ void SecurityPage::mnuAddUser_Click() {
 bool SecurityPage::AddUser() {
     const bool added = users.Add_User();
     if (!added) {
-        form_.zyStatusBar.SetText("Not added: " + std::to_string(kMostUsers) + " users are the most");
+        ReportCount();
+        AddHint(form_.zyStatusBar, kListFull);
     }
     return added;
 }

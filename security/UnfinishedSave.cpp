@@ -2,13 +2,10 @@
 
 #include "basics/RuntimeError.h"
 #include "dbase/FileBytes.h"
+#include "shell/StatusTexts.h"
 
 namespace zy {
 namespace {
-
-std::string Counted(std::size_t users) {
-    return std::to_string(users) + (users == 1 ? " user" : " users");
-}
 
 /// `of` is the number of those that it should hold.
 std::string Holds(const dbase::TableContent& content, std::optional<std::size_t> of) {
@@ -16,7 +13,8 @@ std::string Holds(const dbase::TableContent& content, std::optional<std::size_t>
     if (content.live == 0) {
         text += "no users";
     } else {
-        text += of ? std::to_string(content.live) + " of " + Counted(*of) : Counted(content.live);
+        text +=
+            of ? std::to_string(content.live) + " of " + Counted(*of, "user") : Counted(content.live, "user");
     }
     return text + (content.damage.empty() ? "" : " and is damaged");
 }

@@ -17,8 +17,6 @@ struct UserRecord {
 
 /// The fields of a user.
 inline constexpr int kUserFields = 5;
-/// The most users that the counters of the product hold.
-inline constexpr int kMostUsers = 32767;
 
 /// What a new user has in place of an expiry date until the checks empty it.
 inline constexpr auto kNoDateYet = "YY-MM-DD";

@@ -11,6 +11,7 @@
 #include "security/UserChecks.h"
 #include "security/UserFiles.h"
 #include "security/frmLogin.h"
+#include "shell/StatusTexts.h"
 #include "shell/Utilities.h"
 
 namespace zy {
@@ -130,13 +131,11 @@ bool mSecurity::ReadTable() {
     return hasAdmin;
 }
 
-void mSecurity::Report(std::string losses) {
+void mSecurity::Report(std::string_view losses) {
     const auto folder = SecurityFolder();
     auto report = folder.empty() ? "" : UnfinishedSave(world_.files, UserFiles(folder)).Notice();
-    if (!report.empty() && !losses.empty()) {
-        report += "; ";
-    }
-    reported.Raise(report += losses);
+    Join(report, "; ", losses);
+    reported.Raise(report);
 }
 
 Bool16 mSecurity::LogIn() {
@@ -158,7 +157,7 @@ Bool16 mSecurity::LogIn() {
 bool mSecurity::Add_User() {
     Start("Add_User");
     auto& grid = controls_.grdSecurity;
-    if (grid.Rows() > kMostUsers) {
+    if (grid.Rows() > kMaxItems) {
         return false;
     }
     const int row = grid.Rows();

@@ -80,7 +80,7 @@ class mSecurity {
     /// Reads the users, and the administrator's password; false when the table names no administrator.
     bool ReadTable();
     /// Says what a save would drop or find in its way.
-    void Report(std::string losses);
+    void Report(std::string_view losses);
     Bool16 LogIn();
 
     void OpenDatabase();

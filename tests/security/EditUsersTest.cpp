@@ -198,10 +198,10 @@ TEST_F(EditUsers, OneUserMoreThanACounterHoldsIsNotAddedByTheButtonNorByTheMenu)
     EXPECT_EQ(Status(), "32767 users");
     grid().Pick(5, kPassword);
     controls().cmdAddUser.Click();
-    EXPECT_EQ(Status(), "Not added: 32767 users are the most");
+    EXPECT_EQ(Status(), "32767 users   -   Not added: the list is as long as it can be");
     state().gbChanged = false;
     ChooseAdd();
-    EXPECT_EQ(Status(), "Not added: 32767 users are the most");
+    EXPECT_EQ(Status(), "32767 users   -   Not added: the list is as long as it can be");
     EXPECT_EQ(grid().Rows(), 32768);
     EXPECT_EQ(page().users.zySecure.size(), 32767U);
     ExpectCurrent(5, kPassword);
