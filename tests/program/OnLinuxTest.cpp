@@ -1,8 +1,25 @@
+#include <filesystem>
+
+#include <gmock/gmock.h>
+
 #include "Scene.h"
 #include "Screen.h"
+#include "support/TableBytes.h"
 
 namespace zy::test {
 namespace {
+
+namespace fs = std::filesystem;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::Optional;
+
+/// The bytes of a table of one user.
+std::string TableOf(const std::string& name) {
+    dbase::test::TableBytes table(
+        {{"USERID", 10}, {"PASSWORD", 20}, {"IDENTIFIER", 20}, {"EXPDATE", 8}, {"STATUS", 1}});
+    return table.Add(' ', {name, "secret", "id", "", "A"}).Bytes();
+}
 
 /// What only Linux has: a program without a display, the user's folders, a session bus that may be missing.
 class OnLinux : public Scene {
@@ -13,6 +30,11 @@ class OnLinux : public Scene {
         Start(arguments);
         return Program().WaitForEnd();
     }
+    /// Puts a link in place of one of the settings files.
+    void Link(const std::string& fileName, const std::string& target) const {
+        fs::create_symlink(target, outside.Settings() / fileName);
+    }
+    bool IsLink(const std::string& fileName) const { return fs::is_symlink(outside.Settings() / fileName); }
 };
 
 TEST_F(OnLinux, AnUnknownArgumentNeedsNoDisplay) {
@@ -52,6 +74,62 @@ TEST_F(OnLinux, AWindowTooFarAwayForItsPlaceToBeStoredIsAnOverflow) {
     PressKeys("Return");
     EXPECT_EQ(Program().WaitForEnd(), 1);
     EXPECT_EQ(outside.Registry(), "");
+}
+
+TEST_F(OnLinux, TheLoginStandsBeforeTheUsersWhateverFoldersAreBesideTheirs) {
+    Put("ZYSECURE.DBF", TableOf("ADMIN"));
+    for (const char* other : {"SYSTEM", "System"}) {
+        fs::create_directory(outside.Settings().parent_path() / other);
+    }
+    Start({"@SECURITY"});
+    ASSERT_TRUE(WaitForWindow("ZY Setup Security Login")) << Program().Output();
+    PressKeys("Escape");
+    EXPECT_EQ(Program().WaitForEnd(), 0);
+}
+
+TEST_F(OnLinux, RulesAreSavedWhereALinkLeads) {
+    const TemporaryFolder shared("/dev/shm");
+    shared.Put("shared.sys", "[RULE]\r\nCODE=R1\r\nMIN=1\r\nMAX=1\r\nCOND=>\r\nZONE=UCL\r\nDESC1=Old\r\n");
+    Link("ZYRules.sys", shared.Path("shared.sys"));
+    Open("@RULES", "ZY Setup - Rules");
+    PressKeys("alt+d ctrl+a"); // to the Description
+    TypeCharacters("Changed");
+    PressKeys("ctrl+s");
+    EXPECT_TRUE(WaitUntil([&] {
+        return shared.Get("shared.sys").value_or("").find("= Changed") != std::string::npos;
+    })) << shared.Get("shared.sys").value_or("no file");
+    EXPECT_TRUE(IsLink("ZYRules.sys"));
+    EXPECT_THAT(outside.FileNames(), ElementsAre("ZYRules.sys"));
+    EXPECT_THAT(shared.Names(), ElementsAre("shared.sys"));
+}
+
+TEST_F(OnLinux, UnitsAreSavedWhereALinkLeads) {
+    const TemporaryFolder shared;
+    shared.Put("shared.sys", "Kilograms,kg\r\n");
+    Link("ZYUNITS.SYS", shared.Path("shared.sys"));
+    Open("@UNITS", "ZY Setup - Units of Measure");
+    PressKeys("Tab Tab ctrl+Home"); // past the arrows to the first unit
+    TypeCharacters("g");
+    PressKeys("Return ctrl+s");
+    EXPECT_TRUE(WaitUntil([&] { return shared.Get("shared.sys") == "Kilograms,g\r\n"; }))
+        << shared.Get("shared.sys").value_or("no file");
+    EXPECT_TRUE(IsLink("ZYUNITS.SYS"));
+}
+
+TEST_F(OnLinux, UsersAreSavedWhereLinksLead) {
+    const TemporaryFolder shared("/dev/shm");
+    shared.Put("users.dbf", TableOf("Ann"));
+    Link("ZYSECURE.DBF", shared.Path("users.dbf"));
+    Link("ZYSECURE.NDX", shared.Path("users.ndx"));
+    Open("@SECURITY", "ZY Setup - Security");
+    PressKeys("ctrl+Home");
+    TypeCharacters("Bea");
+    PressKeys("Return ctrl+s");
+    EXPECT_TRUE(WaitUntil([&] { return shared.Get("users.ndx").has_value(); })) << Program().Output();
+    EXPECT_THAT(shared.Get("users.dbf"), Optional(HasSubstr(" Bea       secret ")));
+    EXPECT_TRUE(IsLink("ZYSECURE.DBF"));
+    EXPECT_TRUE(IsLink("ZYSECURE.NDX"));
+    EXPECT_THAT(outside.FileNames(), ElementsAre("ZYSECURE.DBF", "ZYSECURE.NDX"));
 }
 
 TEST_F(OnLinux, WithoutASessionBusNoneIsStarted) {
