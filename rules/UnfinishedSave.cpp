@@ -31,8 +31,8 @@ std::string DescribeRules(FileSystem& files, std::string_view path, std::deque<R
 /// The only copy there is, or one beside the rules file.
 std::string_view Advice(FileSystem& files, std::string_view rulesFile) {
     return files.OpenForReading(rulesFile).error == FileError::NotFound
-               ? ": close this window and rename it to ZYRules.sys; saving deletes it"
-               : ": copy it away if you need it; saving deletes it";
+               ? ", saving deletes it: close and rename it to ZYRules.sys"
+               : ", saving deletes it: copy it away if you need it";
 }
 
 } // namespace
@@ -42,7 +42,7 @@ std::string DescribeUnfinishedSave(FileSystem& files, std::string_view temporary
     if (!files.Exists(temporary)) {
         return {};
     }
-    const std::string subject = std::string(FileNameOf(temporary)) + " of an unfinished save ";
+    const std::string subject = std::string(FileNameOf(temporary)) + " ";
     const auto opened = files.OpenForReading(temporary);
     if (!opened.handle) {
         return subject + "could not be read: " + std::string(Describe(opened.error)) + "; saving deletes it";

@@ -53,7 +53,7 @@ void mRules::LookForDangers() {
     dangers_ = DescribeUnfinishedSave(world_.files, TemporaryFile(), rulesFile);
     for (const auto& path : {rulesFile, TemporaryFile()}) {
         const auto uncertainty = Uncertainty(world_.files, path);
-        Join(dangers_, "; ", uncertainty.empty() ? uncertainty : uncertainty + "; saving is refused");
+        Join(dangers_, "; ", uncertainty.empty() ? uncertainty : "saving is refused, " + uncertainty);
     }
 }
 

@@ -164,8 +164,8 @@ std::string DescribeMisreading(const Grid& grid, int row) {
     }
     const std::string line = std::string(cells[kUnitDescription]) + ',' + std::string(cells[kUnit]);
     const auto fields = SplitFields(line);
-    return "row " + std::to_string(row) + ": with its comma it will be read back as unit " +
-           Quoted(fields[2]) + ", description " + Quoted(fields[1]);
+    return "row " + std::to_string(row) + ": its comma makes it unit " + Quoted(fields[2]) + ", " +
+           Quoted(fields[1]) + " at the next start";
 }
 
 UnitsFileText::UnitsFileText(const Grid& grid) {

@@ -71,7 +71,7 @@ void mUnits::ReadUnits() {
 
 std::string mUnits::DescribeUncertainty() {
     const auto uncertainty = Uncertainty(world_.files, state_.gsUnitsFile);
-    return uncertainty.empty() ? uncertainty : uncertainty + "; saving is refused";
+    return uncertainty.empty() ? uncertainty : "saving is refused, " + uncertainty;
 }
 
 bool mUnits::Write_Units() {

@@ -5,8 +5,8 @@ namespace {
 
 using ::testing::IsEmpty;
 
-constexpr auto kOnlyCopy = ": close this window and rename it to ZYRules.sys; saving deletes it";
-constexpr auto kBesideTheFile = ": copy it away if you need it; saving deletes it";
+constexpr auto kOnlyCopy = ", saving deletes it: close and rename it to ZYRules.sys";
+constexpr auto kBesideTheFile = ", saving deletes it: copy it away if you need it";
 
 /// What a save leaves behind that was cut off between two of its steps, by a crash or a power failure.
 class UnfinishedSave : public RulesForm {
@@ -19,7 +19,7 @@ class UnfinishedSave : public RulesForm {
 TEST_F(UnfinishedSave, IsToldWithWhatToDoWhereItHoldsTheOnlyCopy) {
     Leave(Text({RuleOf("A"), RuleOf("B")}));
     StartWithoutAFile();
-    EXPECT_EQ(Status(), std::string("0 rules; Rules.tmp of an unfinished save holds 2 rules") + kOnlyCopy);
+    EXPECT_EQ(Status(), std::string("0 rules; Rules.tmp holds 2 rules") + kOnlyCopy);
     EXPECT_EQ(Temporary(), Text({RuleOf("A"), RuleOf("B")}));
 }
 
@@ -35,8 +35,7 @@ TEST_F(UnfinishedSave, IsMadeGoodByWhatIsAdvised) {
 TEST_F(UnfinishedSave, IsToldBesideTheFileThatItDidNotReplace) {
     Leave(Text({RuleOf("A")}));
     StartWithCodes({"A", "B"});
-    EXPECT_EQ(Status(),
-              std::string("2 rules; Rules.tmp of an unfinished save holds 1 rule") + kBesideTheFile);
+    EXPECT_EQ(Status(), std::string("2 rules; Rules.tmp holds 1 rule") + kBesideTheFile);
 }
 
 TEST_F(UnfinishedSave, ThatWasCutWithinARuleIsNotSaidToBeWhole) {
@@ -44,7 +43,7 @@ TEST_F(UnfinishedSave, ThatWasCutWithinARuleIsNotSaidToBeWhole) {
     for (const auto cut : {text.size() - 1, text.size() - 40, Text({RuleOf("A")}).size() + 8}) {
         Leave(text.substr(0, cut));
         StartWithoutAFile();
-        EXPECT_EQ(Status(), std::string("0 rules; Rules.tmp of an unfinished save holds 2 rules, perhaps not "
+        EXPECT_EQ(Status(), std::string("0 rules; Rules.tmp holds 2 rules, perhaps not "
                                         "whole") +
                                 kOnlyCopy)
             << cut;
@@ -58,7 +57,7 @@ TEST_F(UnfinishedSave, WithMoreRulesThanAListCanHoldIsToldAllTheSame) {
     }
     Leave(text);
     StartWithoutAFile();
-    EXPECT_EQ(Status(), std::string("0 rules; Rules.tmp of an unfinished save holds 32768 rules, perhaps not "
+    EXPECT_EQ(Status(), std::string("0 rules; Rules.tmp holds 32768 rules, perhaps not "
                                     "whole") +
                             kOnlyCopy);
 }
@@ -67,7 +66,7 @@ TEST_F(UnfinishedSave, ThatHoldsNothingIsToldWithoutAdvice) {
     for (const char* bytes : {"", "[RU", "no rules"}) {
         Leave(bytes);
         StartWithoutAFile();
-        EXPECT_EQ(Status(), "0 rules; Rules.tmp of an unfinished save holds no rules") << bytes;
+        EXPECT_EQ(Status(), "0 rules; Rules.tmp holds no rules") << bytes;
     }
 }
 
@@ -75,15 +74,13 @@ TEST_F(UnfinishedSave, ThatCannotBeReadIsToldWithTheReason) {
     Leave(Text({RuleOf("A")}));
     world.files.SetUnreadable(kTemporary);
     StartWithoutAFile();
-    EXPECT_EQ(
-        Status(),
-        "0 rules; Rules.tmp of an unfinished save could not be read: access is denied; saving deletes it");
+    EXPECT_EQ(Status(), "0 rules; Rules.tmp could not be read: access is denied; saving deletes it");
 }
 
 TEST_F(UnfinishedSave, IsToldUntilASaveHasDeletedIt) {
     Leave(Text({RuleOf("A")}));
     StartWithoutAFile();
-    const std::string told = std::string("; Rules.tmp of an unfinished save holds 1 rule") + kOnlyCopy;
+    const std::string told = std::string("; Rules.tmp holds 1 rule") + kOnlyCopy;
     page().cmdAddList.Click();
     EXPECT_EQ(Status(), "1 rule" + told);
     page().txtMax.Enter("3");
@@ -103,7 +100,7 @@ TEST_F(UnfinishedSave, StaysToldWhenASaveFailsThatCouldNotDeleteIt) {
     ChooseSave();
     EXPECT_EQ(Temporary(), Text({RuleOf("A")}));
     page().txtMax.Enter("3");
-    EXPECT_THAT(Status(), ::testing::StartsWith("1 rule; Rules.tmp of an unfinished save holds 1 rule"));
+    EXPECT_THAT(Status(), ::testing::StartsWith("1 rule; Rules.tmp holds 1 rule"));
 }
 
 TEST_F(UnfinishedSave, IsNotToldAnyMoreWhenASaveFailedThatHadDeletedIt) {
@@ -146,8 +143,8 @@ TEST_F(UnfinishedSave, IsNotAllThatIsToldAtTheStart) {
     for (const auto& [path, name] : {std::pair{kRulesFile, "ZYRules.sys"}, {kTemporary, "Rules.tmp"}}) {
         world.files.SetUncertain(path, FileError::Ambiguous);
         StartWithCodes({"A"});
-        const auto told = "; it is not certain which file " + std::string(name) +
-                          " is: names that differ by case alone stand side by side; saving is refused";
+        const auto told = "; saving is refused, it is not certain which file " + std::string(name) +
+                          " is: names that differ by case alone stand side by side";
         EXPECT_EQ(Status(), "1 rule" + told);
         page().cmdAddList.Click();
         EXPECT_EQ(Status(), "2 rules" + told);

@@ -11,9 +11,8 @@ class Commas : public UnitsTest {
 
     /// What was told of this row is what comes of it.
     void ExpectReadBackAs(int row, const std::string& unit, const std::string& description) {
-        EXPECT_EQ(Status(), "3 units   -   row " + std::to_string(row) +
-                                ": with its comma it will be read back as unit \"" + unit +
-                                "\", description \"" + description + "\"");
+        EXPECT_EQ(Status(), "3 units   -   row " + std::to_string(row) + ": its comma makes it unit \"" +
+                                unit + "\", \"" + description + "\" at the next start");
         Save();
         page.LoadUnitsData();
         EXPECT_EQ(grid.Text(row, kUnit), unit);
@@ -58,19 +57,18 @@ TEST_F(Commas, AreNotToldOnceTheyAreTakenOut) {
 
 TEST_F(Commas, InLongTextsAreToldShortly) {
     Edit(1, kUnitDescription, std::string(100, 'x') + ", y");
-    EXPECT_EQ(Status(), "3 units   -   row 1: with its comma it will be read back as unit \"y\", "
-                        "description \"" +
-                            std::string(40, 'x') + "...\"");
+    EXPECT_EQ(Status(), "3 units   -   row 1: its comma makes it unit \"y\", \"" + std::string(40, 'x') +
+                            "...\" at the next start");
 }
 
 TEST_F(Commas, ThatArePastedAreToldOfTheFirstRowAndCountedForTheOthers) {
     grid.Pick(1, kUnit);
     grid.Paste("u\tU\r\nv\tV, 1\r\nw\tW, 2\r\nx,x\tX\r\n");
-    EXPECT_EQ(Status(), "4 units   -   row 2: with its comma it will be read back as unit \"1\", "
-                        "description \"V\"; commas in 2 more rows");
+    EXPECT_EQ(
+        Status(),
+        "4 units   -   row 2: its comma makes it unit \"1\", \"V\" at the next start; commas in 2 more rows");
     grid.Paste("u\tU\r\nv\tV, 1\r\n");
-    EXPECT_EQ(Status(), "4 units   -   row 2: with its comma it will be read back as unit \"1\", "
-                        "description \"V\"");
+    EXPECT_EQ(Status(), "4 units   -   row 2: its comma makes it unit \"1\", \"V\" at the next start");
     grid.Paste("u\tU\r\nv\tV\r\n");
     EXPECT_EQ(Status(), "4 units");
 }
@@ -78,8 +76,8 @@ TEST_F(Commas, ThatArePastedAreToldOfTheFirstRowAndCountedForTheOthers) {
 TEST_F(Commas, AreToldBesideWhatASaveWouldDrop) {
     OpenOver("A,a\r\nB,b");
     Edit(1, kUnitDescription, "x,y");
-    EXPECT_EQ(Status(), "1 unit; text behind the last line end, saving drops it   -   row 1: with its comma "
-                        "it will be read back as unit \"y\", description \"x\"");
+    EXPECT_EQ(Status(), "1 unit; text behind the last line end, saving drops it   -   row 1: its comma makes "
+                        "it unit \"y\", \"x\" at the next start");
 }
 
 /// The other separator of the file can be neither typed nor pasted, so no row needs to be told for it.

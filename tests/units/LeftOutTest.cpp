@@ -157,8 +157,9 @@ TEST_F(LeftOut, TellsAlsoWhereNobodyCanTellWhichFileIsMeant) {
     world.files.Put(kUnitsFile, "A,a\r\n");
     world.files.SetUncertain(kUnitsFile, FileError::Ambiguous);
     Open();
-    const std::string uncertain = "; it is not certain which file ZYUNITS.SYS is: names that differ by case "
-                                  "alone stand side by side; saving is refused";
+    const std::string uncertain =
+        "; saving is refused, it is not certain which file ZYUNITS.SYS is: names that differ by case "
+        "alone stand side by side";
     EXPECT_EQ(Status(), "1 unit" + uncertain);
     AddUnit("n", "New");
     EXPECT_EQ(Status(), "2 units" + uncertain);
