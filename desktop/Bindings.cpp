@@ -53,6 +53,8 @@ Made MakeBinding(const ViewContext& context, const Inside& inside, Control& cont
     return made;
 }
 
+} // namespace
+
 Label* FindLabelOf(const Container& container, const Control& control) {
     for (auto* child : container.Children()) {
         auto* label = dynamic_cast<Label*>(child);
@@ -62,8 +64,6 @@ Label* FindLabelOf(const Container& container, const Control& control) {
     }
     return nullptr;
 }
-
-} // namespace
 
 Bindings BindChildren(const ViewContext& context, const Inside& inside, const Container& container) {
     Bindings bindings;

@@ -9,8 +9,8 @@
 #include "desktop/GridKeys.h"
 #include "desktop/GridNative.h"
 #include "desktop/Native.h"
+#include "desktop/Refusals.h"
 #include "desktop/ShownText.h"
-#include "shell/StatusTexts.h"
 
 namespace zy {
 namespace {
@@ -139,7 +139,7 @@ void GridBinding::TypeKey(wxKeyEvent& event) {
     } else if (const auto typed = TakeEdit(Context().codePage, "", wxString(character))) {
         Gate().Act([&] { model_.TypeOver(typed->text); });
     } else {
-        Context().statusBar.SetText(kCharacterRefused);
+        TellRefused(Context(), NameOf(model_, {model_.Row(), model_.Column()}), wxString(character));
     }
 }
 

@@ -3,11 +3,13 @@
 #include <wx/clipbrd.h>
 #include <wx/dataobj.h>
 
+#include <algorithm>
 #include <optional>
 #include <string>
 
+#include "controls/CopiedCells.h"
+#include "desktop/Refusals.h"
 #include "desktop/ShownText.h"
-#include "shell/StatusTexts.h"
 
 namespace zy {
 namespace {
@@ -19,6 +21,27 @@ std::optional<wxString> TextOnClipboard() {
         return std::nullopt;
     }
     return text.GetText();
+}
+
+/// The cell that the first pasted one goes into.
+Cell FirstOf(const Grid& model) {
+    return {std::max(1, std::min(model.Row(), model.BlockEnd().row)),
+            std::min(model.Column(), model.BlockEnd().column)};
+}
+
+void TellWhereLacking(const ViewContext& context, const Grid& model, const wxString& shown) {
+    const Cell first = FirstOf(model);
+    Cell cell = first;
+    const std::string pasted = shown.utf8_string();
+    for (CopiedCells cells(pasted); !cells.AtEnd();) {
+        const auto text = cells.Take();
+        const auto inCell = wxString::FromUTF8(text.data(), text.size());
+        if (FindLacking(context.codePage, inCell)) {
+            TellRefused(context, NameOf(model, cell), inCell);
+            return;
+        }
+        cell = cells.EndedRow() ? Cell{cell.row + 1, first.column} : Cell{cell.row, cell.column + 1};
+    }
 }
 
 } // namespace
@@ -39,7 +62,7 @@ void PasteCells(const ViewContext& context, Grid& model) {
     if (const auto text = context.codePage.FromUtf8(shown->utf8_string())) {
         context.gate.Act([&] { model.Paste(*text); });
     } else {
-        context.statusBar.SetText(kCharacterRefused);
+        TellWhereLacking(context, model, *shown);
     }
 }
 

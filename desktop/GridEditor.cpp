@@ -8,15 +8,11 @@
 #include "desktop/GridKeys.h"
 #include "desktop/GridNative.h"
 #include "desktop/Native.h"
+#include "desktop/Refusals.h"
 #include "desktop/ShownText.h"
-#include "shell/StatusTexts.h"
 
 namespace zy {
 namespace {
-
-/// The most characters that the toolkit's line of text holds for sure: 65,534 bytes of UTF-8, of which a
-/// character takes up to three. What a longer text has beyond is kept, out of reach.
-constexpr std::size_t kMostShown = 65534 / 3;
 
 wxTextCtrl* MakeText(const GridWidget& grid) {
     auto* text = new wxTextCtrl(grid.GetGridWindow(), wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
@@ -199,9 +195,9 @@ void GridEditor::TakeText() {
 }
 
 void GridEditor::Refuse() {
+    TellRefused(context_, NameOf(model_, {model_.Row(), model_.Column()}), text_->GetValue());
     ShowText();
     text_->SetSelection(selectionStart_, selectionEnd_);
-    context_.statusBar.SetText(kCharacterRefused);
 }
 
 } // namespace zy

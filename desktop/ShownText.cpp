@@ -45,6 +45,9 @@ wxString ToShown(const CodePage& codePage, std::string_view text) {
 }
 
 std::optional<EditedText> TakeEdit(const CodePage& codePage, std::string_view before, const wxString& shown) {
+    if (shown.length() > kMostShown) {
+        return std::nullopt;
+    }
     const std::wstring was = ToShown(codePage, before).ToStdWstring();
     const std::wstring is = shown.ToStdWstring();
     const auto front = CommonLength(was.begin(), was.end(), is.begin(), is.end());
@@ -60,6 +63,15 @@ std::optional<EditedText> TakeEdit(const CodePage& codePage, std::string_view be
     const auto changeEnd = text.size();
     text += before.substr(before.size() - back);
     return EditedText{std::move(text), changeEnd};
+}
+
+std::optional<wxUniChar> FindLacking(const CodePage& codePage, const wxString& shown) {
+    for (const wxUniChar each : shown) {
+        if (!TakeCharacter(codePage, each)) {
+            return each;
+        }
+    }
+    return std::nullopt;
 }
 
 wxString OnOneLine(wxString text) {

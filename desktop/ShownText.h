@@ -16,6 +16,10 @@ namespace zy {
 /// The text as the toolkit shows it. A NUL, which would end the text there, is shown as its symbol, U+2400.
 wxString ToShown(const CodePage& codePage, std::string_view text);
 
+/// The most characters that a line of text takes: the toolkit's holds 65,534 bytes of UTF-8, of which a
+/// character takes up to three. What a longer text of a file has beyond is kept, out of reach.
+inline constexpr std::size_t kMostShown = 65534 / 3;
+
 /// A text after a person's change.
 struct EditedText {
     std::string text;
@@ -25,8 +29,11 @@ struct EditedText {
 
 /// What a person made of `before`, as the toolkit shows it now. In the part that is new, a line end or a TAB
 /// becomes a blank, since a text box has one line. Nothing when the new part holds a character that the code
-/// page lacks.
+/// page lacks, and when the whole is longer than kMostShown.
 std::optional<EditedText> TakeEdit(const CodePage& codePage, std::string_view before, const wxString& shown);
+
+/// The first character that the code page lacks.
+std::optional<wxUniChar> FindLacking(const CodePage& codePage, const wxString& shown);
 
 /// A person's new text with a blank for each line end and TAB.
 wxString OnOneLine(wxString text);

@@ -1,8 +1,10 @@
 #include "desktop/TextBoxBinding.h"
 
+#include <algorithm>
+
 #include "desktop/Native.h"
+#include "desktop/Refusals.h"
 #include "desktop/ShownText.h"
-#include "shell/StatusTexts.h"
 
 namespace zy {
 
@@ -46,9 +48,9 @@ void TextBoxBinding::TakeText() {
             box_->SetInsertionPoint(static_cast<long>(edited->changeEnd));
         }
     } else {
+        TellRefused(Context(), NameOf(model_), entered);
         ShowText();
         box_->SetSelection(selectionStart_, selectionEnd_);
-        Context().statusBar.SetText(kCharacterRefused);
     }
 }
 
@@ -56,8 +58,8 @@ void TextBoxBinding::ShowText() {
     const std::string_view text = model_.Text();
     const bool isShown = text.ends_with(beyond_) && box_->GetValue() == Shown(Held());
     if (!isShown) {
-        box_->ChangeValue(Shown(text));
-        beyond_ = text.substr(box_->GetValue().length());
+        beyond_ = text.substr(std::min(text.size(), kMostShown));
+        box_->ChangeValue(Shown(Held()));
     }
 }
 

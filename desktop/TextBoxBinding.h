@@ -24,7 +24,7 @@ class TextBoxBinding : public ControlBinding {
 
     TextBox& model_;
     wxTextCtrl* box_;
-    /// The end of a text that is longer than the toolkit's box can hold. It is kept, out of reach.
+    /// The end of a text that is longer than the box takes. It is kept, out of reach.
     std::string beyond_;
     // The selection before a person's change, put back when the change is refused.
     long selectionStart_ = 0;

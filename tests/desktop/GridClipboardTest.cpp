@@ -1,5 +1,4 @@
 #include "UnitsWindow.h"
-#include "shell/StatusTexts.h"
 
 namespace zy::test {
 namespace {
@@ -54,16 +53,38 @@ TEST_F(GridOnTheClipboard, CtrlVPastesABlockAndAddsRowsForIt) {
                       "F\r\nKelvin,K\r\n");
 }
 
-TEST_F(GridOnTheClipboard, APasteWithACharacterThatTheCodePageLacksIsRefusedAsAWhole) {
+TEST_F(GridOnTheClipboard, ACharacterThatTheCodePageLacksIsNamedWithItsCellAndNothingIsPasted) {
     PutUnits(ThreeUnits());
     Play([&] {
         ClickCell(2, 0);
         PutOnClipboard(wxString::FromUTF8("A\tAmpere\nΩ\tOhm\n"));
         Press('V', wxMOD_CONTROL);
-        WaitForStatus(std::string(kCharacterRefused));
+        WaitForStatus("row 3, Unit: the character U+03A9 was not taken: the settings files cannot hold it");
         EXPECT_EQ(Shown(2, 0), "m");
         EXPECT_EQ(Shown(2, 1), "Metres");
         EXPECT_FALSE(program->form.ChangeFlag);
+    });
+}
+
+TEST_F(GridOnTheClipboard, ACharacterIsNamedByTheColumnItWouldHaveCome) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        ClickCell(2, 1);
+        PutOnClipboard(wxString::FromUTF8("Ampere\t→\nOhm\n"));
+        Press('V', wxMOD_CONTROL);
+        WaitForStatus(
+            "row 2, column 3: the character U+2192 was not taken: the settings files cannot hold it");
+    });
+}
+
+TEST_F(GridOnTheClipboard, ACharacterIsNamedFromTheBlocksFirstCellOn) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        SelectAllCells();
+        PutOnClipboard(wxString::FromUTF8("A\tAmpere\nO\tΩ\n"));
+        Press('V', wxMOD_CONTROL);
+        WaitForStatus(
+            "row 2, Unit Description: the character U+03A9 was not taken: the settings files cannot hold it");
     });
 }
 

@@ -4,10 +4,14 @@
 
 #include "NativeLook.h"
 #include "UnitsWindow.h"
+#include "desktop/ShownText.h"
 #include "shell/StatusTexts.h"
 
 namespace zy::test {
 namespace {
+
+constexpr auto kRefused =
+    "row 2, Unit Description: the character U+03A9 was not taken: the settings files cannot hold it";
 
 class GridEditing : public UnitsWindow {
   protected:
@@ -176,7 +180,7 @@ TEST_F(GridEditing, ACharacterThatTheCodePageLacksIsRefusedInTheEditor) {
         OpenEditor(2, 1);
         PutOnClipboard(wxString::FromUTF8("5 kΩ"));
         Press('V', wxMOD_CONTROL);
-        WaitForStatus(std::string(kCharacterRefused));
+        WaitForStatus(kRefused);
         WaitForEditor("Metres");
         Type("x");
         WaitForEditor("x"); // the selection is what it was
@@ -187,7 +191,7 @@ TEST_F(GridEditing, ACharacterThatTheCodePageLacksDoesNotOpenTheEditor) {
     Play([&] {
         ClickCell(2, 1);
         TypeForeign(0x03A9);
-        WaitForStatus(std::string(kCharacterRefused));
+        WaitForStatus(kRefused);
         EXPECT_FALSE(InWindow([&] { return grid().IsEditing(); }));
     });
 }
@@ -225,6 +229,18 @@ TEST_F(GridEditing, ArrowKeysMoveThroughAVeryLongTextAtOnce) {
             Press(WXK_LEFT);
         }
         WaitUntil("the caret has moved", [&] { return RealEditor().GetInsertionPoint() == 19990; });
+    });
+}
+
+TEST_F(GridEditing, WhatDoesNotFitIntoACellIsRefused) {
+    Play([&] {
+        OpenEditor(2, 1);
+        PutOnClipboard(wxString('z', 30000));
+        Press('V', wxMOD_CONTROL);
+        WaitForStatus(std::string(kFieldFull));
+        WaitForEditor("Metres");
+        Type("x");
+        WaitForEditor("x"); // the selection is what it was
     });
 }
 

@@ -3,7 +3,6 @@
 #include <wx/gdicmn.h>
 #include <wx/string.h>
 
-#include <cstddef>
 #include <functional>
 #include <optional>
 #include <string>
@@ -45,8 +44,6 @@ bool IsMenuOpen();
 bool KeysStopAtDisabledEntries();
 /// What a box shows in place of each of its characters; nothing when it shows the characters themselves.
 std::optional<wxUniChar> PasswordCharacterOf(const wxTextCtrl& box);
-/// The characters that a line of text takes at most; what is beyond is not shown.
-std::size_t MostCharacters();
 
 /// What another program would paste.
 wxString TextOnClipboard();

@@ -114,10 +114,6 @@ std::optional<wxUniChar> PasswordCharacterOf(const wxTextCtrl& box) {
     return wxUniChar(gtk_entry_get_invisible_char(entry));
 }
 
-std::size_t MostCharacters() {
-    return 65535;
-}
-
 wxString TextOnClipboard() {
     wxTextDataObject text;
     const wxClipboardLocker open;

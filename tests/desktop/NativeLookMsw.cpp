@@ -168,10 +168,6 @@ std::optional<wxUniChar> PasswordCharacterOf(const wxTextCtrl& box) {
     return character == 0 ? std::nullopt : std::optional(wxUniChar(static_cast<unsigned>(character)));
 }
 
-std::size_t MostCharacters() {
-    return std::numeric_limits<int>::max();
-}
-
 wxString TextOnClipboard() {
     // The toolkit would change the line ends.
     ::OpenClipboard(nullptr);

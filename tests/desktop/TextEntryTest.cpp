@@ -2,11 +2,14 @@
 
 #include "NativeLook.h"
 #include "RulesWindow.h"
+#include "desktop/ShownText.h"
+#include "shell/StatusTexts.h"
 
 namespace zy::test {
 namespace {
 
-constexpr auto kRefused = "That character was not taken: the settings files cannot hold it";
+constexpr auto kRefused =
+    "Description: the character U+03A9 was not taken: the settings files cannot hold it";
 
 class TextEntryWindow : public RulesWindow {
   protected:
@@ -137,8 +140,7 @@ TEST_F(TextEntryWindow, ATextBeyondTheBoxIsNotCut) {
     const std::string longText(70000, 'z');
     PutRules({"R1|1|2|>|UCL|" + longText});
     Play([&] {
-        EXPECT_LE(InWindow([&] { return RealBox(page().txtDescription).GetValue().length(); }),
-                  MostCharacters());
+        EXPECT_EQ(InWindow([&] { return RealBox(page().txtDescription).GetValue().length(); }), kMostShown);
         Enter(page().txtDescription);
         Press(WXK_HOME);
         Press(WXK_DELETE);
@@ -154,8 +156,9 @@ TEST_F(TextEntryWindow, ArrowKeysMoveThroughAVeryLongTextAtOnce) {
     PutRules({"R1|1|2|>|UCL|" + std::string(length, 'z')});
     Play([&] {
         EnterDescription();
-        const auto end = SelectionIn(page().txtDescription).second;
-        EXPECT_GT(end, length);
+        const long end = length + 2; // the two blanks that a rule's description ends with
+        WaitUntil("the caret is at the end",
+                  [&] { return RealBox(page().txtDescription).GetInsertionPoint() == end; });
         for (int press = 0; press < 10; ++press) {
             Press(WXK_LEFT);
         }
@@ -163,6 +166,21 @@ TEST_F(TextEntryWindow, ArrowKeysMoveThroughAVeryLongTextAtOnce) {
         WaitUntil("the caret has moved",
                   [&] { return RealBox(page().txtDescription).GetStringSelection().length() == 1; });
         EXPECT_EQ(SelectionIn(page().txtDescription), std::pair(end - 11, end - 10));
+    });
+}
+
+TEST_F(TextEntryWindow, WhatDoesNotFitIntoAFieldIsRefused) {
+    Play([&] {
+        Enter(page().txtDescription);
+        SelectIn(page().txtDescription, 0, 5);
+        Paste(wxString('z', 30000));
+        WaitForStatus(std::string(kFieldFull));
+        EXPECT_EQ(Description(), "First rule  ");
+        EXPECT_EQ(SelectionIn(page().txtDescription), std::pair(0L, 5L));
+        Paste(wxString('z', kMostShown - 7));
+        WaitUntil("as much as fits is taken", [&] {
+            return page().txtDescription.Text() == std::string(kMostShown - 7, 'z') + " rule  ";
+        });
     });
 }
 

@@ -1,0 +1,31 @@
+#include "desktop/Refusals.h"
+
+#include "desktop/Bindings.h"
+#include "desktop/ShownText.h"
+#include "shell/StatusTexts.h"
+
+namespace zy {
+
+std::string NameOf(const Grid& grid, const Cell& cell) {
+    const auto column = cell.column < grid.Columns() ? std::string(grid.Text(0, cell.column))
+                                                     : "column " + std::to_string(cell.column + 1);
+    return "row " + std::to_string(cell.row) + ", " + column;
+}
+
+std::string NameOf(const Control& field) {
+    const Label* label = FindLabelOf(*field.Parent(), field);
+    const std::string caption = label == nullptr ? field.Name() : label->Caption();
+    return caption.substr(0, caption.find(':'));
+}
+
+void TellRefused(const ViewContext& context, const std::string& place, const wxString& shown) {
+    if (shown.length() > kMostShown) {
+        context.statusBar.SetText(kFieldFull);
+    } else if (const auto lacking = FindLacking(context.codePage, shown)) {
+        const auto number = wxString::Format("U+%04X", static_cast<unsigned>(lacking->GetValue()));
+        context.statusBar.SetText(place + ": the character " + number.ToStdString() +
+                                  std::string(kCharacterRefused));
+    }
+}
+
+} // namespace zy
