@@ -180,8 +180,7 @@ void GridBinding::Rescale() {
 
 void GridBinding::ShowChanges() {
     if (std::exchange(rowsChanged_, false)) {
-        table_->MatchRows();
-        cursor_.Touch();
+        cursor_.MatchRows(*table_);
         cellsChanged_ = true;
     }
     if (std::exchange(cellsChanged_, false)) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/Grid.h"
+#include "desktop/GridTable.h"
 #include "desktop/GridWidget.h"
 #include "desktop/ViewContext.h"
 
@@ -15,8 +16,9 @@ class GridCursor {
     /// Shows the model's cell and block, scrolled into view, when they have changed since the last time. True
     /// when they had.
     bool Show();
-    /// Lets the next Show show them in any case: rows have come or gone.
-    void Touch() { changed_ = true; }
+    /// Gives the toolkit the rows that have come or gone. It then moves its own cursor into those that are
+    /// left, which is no person's move: the next Show shows the model's cell and block in any case.
+    void MatchRows(GridTable& table);
     /// Takes a key by which the toolkit would go on from its own cursor, where the model has no current cell:
     /// that leads to the first one. False for other keys, and where there is a cell to go on from.
     bool BeginBy(const wxKeyEvent& event);
@@ -26,6 +28,7 @@ class GridCursor {
     /// Whoever comes to the grid by keys needs a cell to go on from.
     bool TakeFirstCell();
     bool TakeBlock();
+    void Touch() { changed_ = true; }
     void ShowCell();
     void ShowBlock();
     bool HasCell() const { return model_.Row() >= 1 && model_.Row() <= grid_.GetNumberRows(); }

@@ -3,6 +3,9 @@
 namespace zy::test {
 namespace {
 
+constexpr auto kSure = "Are you sure you wish to delete this Unit of Measure?";
+constexpr auto kConfirm = "Confirm Delete";
+
 class UnitsSession : public UnitsWindow {
   protected:
     UnitsSession() { PutUnits(ThreeUnits()); }
@@ -33,7 +36,7 @@ TEST_F(UnitsSession, UnitsAreAddedEditedMovedDeletedAndSaved) {
                   EXPECT_EQ(Shown(3, 0), "m²");
                   ClickCell(1, 0);
                   Click(page().cmdDeleteUnit);
-                  ExpectBox("Are you sure you wish to delete this Unit of Measure?", "Confirm Delete");
+                  ExpectBox(kSure, kConfirm);
                   PressInBox(WXK_RETURN);
                   WaitForText(1, 0, "m");
                   Click(page().cmdSaveUnits);
@@ -164,6 +167,22 @@ TEST_F(UnitsSession, AltWithUpAndDownMovesTheUnit) {
         WaitForCell(3, 1);
         WaitForText(3, 1, "Metres");
         WaitForFocus(grid());
+    });
+}
+
+TEST_F(UnitsSession, DeletingTheLastUnitMakesTheFirstCurrentAndLeavesTheKeyboardOnTheButton) {
+    Play([&] {
+        ClickCell(3, 1);
+        Click(page().cmdDeleteUnit);
+        ExpectBox(kSure, kConfirm);
+        PressInBox(WXK_RETURN);
+        WaitUntil("the unit is gone", [&] { return grid().Rows() == 3; });
+        Press(WXK_SPACE); // presses the button once more
+        ExpectBox(kSure, kConfirm);
+        PressInBox(WXK_RETURN);
+        WaitForText(1, 1, "Metres");
+        WaitForCell(1, 1);
+        WaitForFocus(page().cmdDeleteUnit);
     });
 }
 

@@ -12,6 +12,13 @@ class UsersSession : public UsersWindow {
   protected:
     UsersSession() { PutUsers(TwoUsers()); }
 
+    /// Puts other users on the disk.
+    void StartWith(const Users& users) {
+        world.files.Take(R"(C:\SYS\ZYSECURE.DBF)");
+        if (!users.empty()) {
+            PutUsers(users);
+        }
+    }
     static std::vector<std::string> NamesOf(const std::optional<Users>& users) {
         std::vector<std::string> names;
         for (const auto& user : users.value_or(Users())) {
@@ -164,6 +171,23 @@ TEST_F(UsersSession, AClickWithShiftStretchesTheBlock) {
         hands->ClickWith(WXK_SHIFT, PlaceOfCell(2, kStatus));
         WaitUntil("the block is stretched", [&] { return grid().BlockEnd() == Cell{2, kStatus}; });
         WaitForCell(1, kUserName);
+    });
+}
+
+TEST_F(UsersSession, DeletingTheLastUserMakesTheFirstCurrentAndLeavesTheKeyboardOnTheButton) {
+    StartWith({User("Ann"), User("Bob"), User("Cy")});
+    Play([&] {
+        ClickCell(3, kStatus);
+        Click(page().cmdDeleteUser);
+        ExpectBox(kSure, kConfirm);
+        PressInBox(WXK_RETURN);
+        WaitUntil("the user is gone", [&] { return grid().Rows() == 3; });
+        Press(WXK_SPACE); // presses the button once more
+        ExpectBox(kSure, kConfirm);
+        PressInBox(WXK_RETURN);
+        WaitForText(1, kUserName, "Bob");
+        WaitForCell(1, kStatus);
+        WaitForFocus(page().cmdDeleteUser);
     });
 }
 
