@@ -68,6 +68,9 @@ void CloseDropDown(const wxChoice& choice);
 /// window. That happens in a double click, while the window manager looks at its second half.
 void CloseDropDownThatFailed(const wxChoice& choice);
 
+/// Lets the mouse wheel over a list that is not dropped down leave the chosen item alone.
+void IgnoreWheelWhileClosed(wxChoice& choice);
+
 /// Shows one character in place of each one that a password box holds.
 void SetPasswordCharacter(wxTextCtrl& box, char character);
 

@@ -157,6 +157,11 @@ void SetAccessibleName(wxWindow& window, const wxString& name) {
     atk_object_set_name(gtk_widget_get_accessible(FocusWidgetOf(window)), name.utf8_str());
 }
 
+void IgnoreWheelWhileClosed(wxChoice& choice) {
+    // A list that has dropped down is a window of its own.
+    choice.Bind(wxEVT_MOUSEWHEEL, [](wxMouseEvent&) {});
+}
+
 void SetPasswordCharacter(wxTextCtrl& box, char character) {
     gtk_entry_set_invisible_char(reinterpret_cast<_GtkEntry*>(box.GetHandle()),
                                  static_cast<unsigned char>(character));

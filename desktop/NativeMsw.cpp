@@ -86,6 +86,12 @@ void SetAccessibleName(wxWindow& window, const wxString& name) {
     }
 }
 
+void IgnoreWheelWhileClosed(wxChoice& choice) {
+    choice.Bind(wxEVT_MOUSEWHEEL, [&choice](wxMouseEvent& event) {
+        event.Skip(::SendMessageW(choice.GetHandle(), CB_GETDROPPEDSTATE, 0, 0) != FALSE);
+    });
+}
+
 void SetPasswordCharacter(wxTextCtrl& box, char character) {
     ::SendMessageW(box.GetHandle(), EM_SETPASSWORDCHAR, static_cast<unsigned char>(character), 0);
 }

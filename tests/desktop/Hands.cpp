@@ -4,6 +4,7 @@
 
 #include <thread>
 
+#include "NativeLook.h"
 #include "WindowThread.h"
 
 namespace zy::test {
@@ -29,6 +30,11 @@ void Hands::RightClick(const wxPoint& place) {
     InWindow([&] { simulator_->MouseMove(place); });
     InWindow([&] { simulator_->MouseDown(wxMOUSE_BTN_RIGHT); });
     InWindow([&] { simulator_->MouseUp(wxMOUSE_BTN_RIGHT); });
+}
+
+void Hands::TurnWheelOver(const wxPoint& place) {
+    InWindow([&] { simulator_->MouseMove(place); });
+    TurnWheel();
 }
 
 void Hands::PushMouse(const wxPoint& place) {

@@ -22,6 +22,8 @@ class Hands {
     void Type(const std::string& text);
     void Click(const wxPoint& place);
     void RightClick(const wxPoint& place);
+    /// Turns the mouse wheel towards the person.
+    void TurnWheelOver(const wxPoint& place);
     /// Presses the button of the mouse and keeps it down.
     void PushMouse(const wxPoint& place);
     void LetGoOfMouse();

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "NativeLook.h"
 #include "RulesWindow.h"
 
 namespace zy::test {
@@ -130,6 +131,20 @@ TEST_F(RulesListWindow, PageDownShowsRulesFarDownAListOf32767) {
         EXPECT_EQ(TextIn(page().txtDescription), "Rule number 32767  ");
         Press(WXK_PAGEUP);
         WaitUntil("a page has gone by", [&] { return page().lstRulesList.Selected() < 32767 - 3; });
+    });
+}
+
+TEST_F(RulesListWindow, TheMouseWheelOverAClosedDropDownListChangesNothing) {
+    PutRules(ThreeRules());
+    Play([&] {
+        Press('C', wxMOD_ALT);
+        WaitForFocus(page().cboCondition);
+        const auto before = ItemIn(page().cboCondition);
+        hands->TurnWheelOver(PlaceOf(page().cboCondition));
+        Press(WXK_TAB); // comes behind the wheel
+        WaitForFocus(page().cboZone);
+        EXPECT_EQ(ItemIn(page().cboCondition), before);
+        EXPECT_FALSE(program->form.ChangeFlag);
     });
 }
 

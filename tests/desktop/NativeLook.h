@@ -53,6 +53,11 @@ void TypeForeign(wxUniChar character);
 /// Types a character as a person does whose keyboard lacks it.
 void TypeComposed(wxUniChar character);
 
+/// Presses the key that asks for a context menu. For the script's thread.
+void PressMenuKey();
+/// Turns the mouse wheel towards the person, over whatever lies under the mouse. For the script's thread.
+void TurnWheel();
+
 /// Drags a window's title or border, in a way that a window manager with much to do can follow. For the
 /// script's thread.
 void DragBorder(Hands& hands, const wxPoint& from, const wxPoint& to);

@@ -37,6 +37,12 @@ int gtk_window_is_active(_GtkWindow* window);
 namespace zy::test {
 namespace {
 
+void Run(const std::string& command) {
+    if (std::system(command.c_str()) != 0) {
+        throw std::runtime_error("failed: " + command);
+    }
+}
+
 _GtkWindow* WindowOf(const wxMessageDialog& box) {
     return reinterpret_cast<_GtkWindow*>(box.m_widget);
 }
@@ -122,10 +128,15 @@ wxString TextOnClipboard() {
 }
 
 void TypeForeign(wxUniChar character) {
-    const auto command = wxString::Format("xdotool key U%04X", character.GetValue());
-    if (std::system(command.utf8_str()) != 0) {
-        throw std::runtime_error("xdotool does not type");
-    }
+    Run(wxString::Format("xdotool key U%04X", character.GetValue()).utf8_string());
+}
+
+void PressMenuKey() {
+    Run("xdotool key Menu");
+}
+
+void TurnWheel() {
+    Run("xdotool click 5");
 }
 
 void TypeComposed(wxUniChar character) {

@@ -183,6 +183,19 @@ void TypeForeign(wxUniChar character) {
     SendKey(static_cast<WORD>(character.GetValue()), KEYEVENTF_KEYUP);
 }
 
+void PressMenuKey() {
+    ::keybd_event(VK_APPS, 0, 0, 0);
+    ::keybd_event(VK_APPS, 0, KEYEVENTF_KEYUP, 0);
+}
+
+void TurnWheel() {
+    INPUT turn{};
+    turn.type = INPUT_MOUSE;
+    turn.mi.dwFlags = MOUSEEVENTF_WHEEL;
+    turn.mi.mouseData = static_cast<DWORD>(-WHEEL_DELTA);
+    ::SendInput(1, &turn, sizeof turn);
+}
+
 void TypeComposed(wxUniChar character) {
     // A composed character comes as one that the keyboard has.
     TypeForeign(character);
