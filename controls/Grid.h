@@ -126,7 +126,8 @@ class Grid : public Control {
     void EnterEditText(std::string_view text, std::size_t selStart, std::size_t selLength);
     /// Presses a key, on the grid or in its open editor. False when the grid has no use for it.
     bool Press(const KeyPress& press);
-    /// Presses a mouse button over a row: 1 left, 2 right.
+    /// Presses a mouse button over a cell, or beside all of them, where row and column are -1: 1 left, 2
+    /// right.
     void PressMouse(int button, int row, int column);
     /// Presses the button of a cell that is edited with one.
     void PressCellButton();

@@ -28,7 +28,7 @@ class MenuItem {
     /// A person chooses the entry; a disabled one does nothing.
     void Click();
 
-    /// Opens a context menu where the mouse is.
+    /// Opens a context menu where the mouse is, or at the control whose key asks for it.
     void PopUp() { popUp.Raise(); }
 
     Event<> click;

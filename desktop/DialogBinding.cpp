@@ -39,7 +39,8 @@ DialogBinding::DialogBinding(const CodePage& codePage, EventGate& gate, Form& fo
                                          .gate = gate,
                                          .controls = controls_,
                                          .statusBar = notes_,
-                                         .scale = Scale(DotsPerInch(dialog_))},
+                                         .scale = Scale(DotsPerInch(dialog_)),
+                                         .menuPlace = menuPlace_},
       inside_{.window = MakeOuterPanel(dialog_), .origin = {}},
       children_(BindChildren(context_, inside_, form)), focus_(context_, form, dialog_),
       appearanceChanged_(form.appearanceChanged.Observe([this] {

@@ -36,6 +36,7 @@ class DialogBinding {
     wxDialog dialog_;
     BoundControls controls_;
     StatusBar notes_; ///< a dialog has no room for them: a sound tells that a character was refused
+    MenuPlace menuPlace_;
     ViewContext context_;
     Inside inside_;
     Bindings children_;

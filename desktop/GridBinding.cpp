@@ -15,8 +15,10 @@
 namespace zy {
 namespace {
 
+constexpr int kHeader = 0;
 constexpr int kLeftButton = 1;
 constexpr int kRightButton = 2;
+constexpr int kNowhere = -1; ///< the row and column where there is no cell
 
 /// A thin line around the grid, of which the toolkit draws none.
 wxWindow* MakeBorder(wxWindow* parent) {
@@ -56,29 +58,59 @@ void GridBinding::BindMouse() {
     const auto down = [this](int button) {
         return [this, button](wxGridEvent& event) {
             event.Skip();
-            PressMouse(button, event);
+            // A left click with Shift stretches the block, whose first cell stays the current one.
+            if (button != kLeftButton || !event.ShiftDown()) {
+                PressMouse(button, event.GetRow() + 1, event.GetCol());
+            }
         };
     };
     grid_->Bind(wxEVT_GRID_CELL_LEFT_CLICK, down(kLeftButton));
     grid_->Bind(wxEVT_GRID_CELL_RIGHT_CLICK, down(kRightButton));
     grid_->Bind(wxEVT_GRID_LABEL_RIGHT_CLICK, down(kRightButton));
+    grid_->GetGridWindow()->Bind(wxEVT_RIGHT_DOWN, [this](wxMouseEvent& event) {
+        event.Skip();
+        // The toolkit's grid tells of cells alone.
+        if (grid_->XYToCell(grid_->CalcUnscrolledPosition(event.GetPosition())) == wxGridNoCellCoords) {
+            PressMouse(kRightButton, kNowhere, kNowhere);
+        }
+    });
+    grid_->Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent& event) { PressMenuKey(event); });
     // The header is no way to select a column.
-    grid_->Bind(wxEVT_GRID_LABEL_LEFT_CLICK, [this](wxGridEvent& event) { PressMouse(kLeftButton, event); });
+    grid_->Bind(wxEVT_GRID_LABEL_LEFT_CLICK,
+                [this](wxGridEvent& event) { PressMouse(kLeftButton, kHeader, event.GetCol()); });
     grid_->Bind(wxEVT_GRID_CELL_LEFT_DCLICK,
                 [this](wxGridEvent&) { Gate().Act([this] { model_.OpenEditor(); }); });
 }
 
-void GridBinding::PressMouse(int button, const wxGridEvent& event) {
-    if (button == kLeftButton && event.ShiftDown()) {
-        // That stretches the block, whose first cell stays the current one.
-        return;
-    }
-    Gate().ActLater([this, button, row = event.GetRow() + 1, column = event.GetCol()] {
+void GridBinding::PressMouse(int button, int row, int column) {
+    Gate().ActLater([this, button, row, column] {
         if (row < model_.Rows()) {
             model_.PressMouse(button, row, column);
         }
         return model_.HasFocus();
     });
+}
+
+void GridBinding::PressMenuKey(wxContextMenuEvent& event) {
+    const bool isKey = event.GetPosition() == wxDefaultPosition;
+    if (!isKey || event.GetEventObject() != grid_->GetGridWindow()) {
+        // The mouse has been told of, and an open cell has a menu of its own.
+        event.Skip();
+        return;
+    }
+    Context().menuPlace = PlaceOfMenu();
+    Gate().Act([this] { model_.PressMouse(kRightButton, model_.Row(), model_.Column()); });
+    Context().menuPlace.reset();
+}
+
+wxPoint GridBinding::PlaceOfMenu() {
+    wxPoint place;
+    if (model_.Row() > kHeader) {
+        grid_->MakeCellVisible(model_.Row() - 1, model_.Column());
+        const wxRect cell = grid_->CellToRect(model_.Row() - 1, model_.Column());
+        place = grid_->CalcScrolledPosition(cell.GetBottomLeft());
+    }
+    return grid_->GetGridWindow()->ClientToScreen(place);
 }
 
 void GridBinding::BindKeys() {

@@ -28,7 +28,10 @@ class GridBinding : public ControlBinding {
     void ObserveModel();
     void BindMouse();
     void BindKeys();
-    void PressMouse(int button, const wxGridEvent& event);
+    void PressMouse(int button, int row, int column);
+    void PressMenuKey(wxContextMenuEvent& event);
+    /// Where the menu of the current cell opens, on the screen.
+    wxPoint PlaceOfMenu();
     void PressKey(wxKeyEvent& event);
     /// A key that the model has no use for: most are the toolkit's.
     void HandOn(wxKeyEvent& event);

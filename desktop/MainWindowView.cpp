@@ -25,7 +25,8 @@ void MainWindowView::Open() {
                                  .gate = desktop_.Gate(),
                                  .controls = controls_,
                                  .statusBar = window_.Form().zyStatusBar,
-                                 .scale = Scale(DotsPerInch())});
+                                 .scale = Scale(DotsPerInch()),
+                                 .menuPlace = menuPlace_});
     binding_.emplace(*context_, window_.Form(), [this] { window_.Unload(); });
     auto& menu = window_.menu;
     menuBar_.emplace(*context_, binding_->Frame(), std::vector{&menu.mnuFile, &menu.mnuHelp},

@@ -23,6 +23,7 @@ class MainWindowView {
     Desktop& desktop_;
     MainWindow& window_;
     BoundControls controls_;
+    MenuPlace menuPlace_;
     std::optional<ViewContext> context_;
     std::optional<WindowBinding> binding_;
     std::optional<MenuBarBinding> menuBar_;

@@ -25,11 +25,13 @@ MenuBarBinding::~MenuBarBinding() = default;
 void MenuBarBinding::AddContextMenu(MenuItem& menu) {
     contextMenus_.emplace_back(MakeMenu(menu));
     subscriptions_.push_back(menu.popUp.Observe([this, made = contextMenus_.back().get()] {
+        const auto& asked = context_.menuPlace;
+        const wxPoint place = asked ? frame_.ScreenToClient(*asked) : wxDefaultPosition;
         // Behind the handler that asks for it, for what is chosen is an action of its own.
-        frame_.CallAfter([this, made] {
+        frame_.CallAfter([this, made, place] {
             // The end of the click that asks for the menu would close it.
             wxTheApp->Yield(true);
-            frame_.PopupMenu(made);
+            frame_.PopupMenu(made, place);
         });
     }));
 }

@@ -26,7 +26,7 @@ class MenuBarBinding {
                    std::vector<Shortcut> shortcuts);
     ~MenuBarBinding();
 
-    /// A menu that opens where the mouse is when its model asks for it.
+    /// A menu that opens when its model asks for it: where the mouse is, or where a key wants it.
     void AddContextMenu(MenuItem& menu);
 
   private:

@@ -2,6 +2,8 @@
 
 #include <wx/gdicmn.h>
 
+#include <optional>
+
 #include "controls/StatusBar.h"
 #include "desktop/BoundControls.h"
 #include "desktop/EventGate.h"
@@ -12,6 +14,10 @@ class wxWindow;
 
 namespace zy {
 
+/// Where a context menu opens that a key asks for, on the screen, while that key is at work. One that the
+/// mouse asks for opens at the mouse.
+using MenuPlace = std::optional<wxPoint>;
+
 /// What all bindings of one window work with.
 struct ViewContext {
     const CodePage& codePage;
@@ -19,6 +25,7 @@ struct ViewContext {
     BoundControls& controls;
     StatusBar& statusBar; ///< tells why a character was refused
     Scale scale;
+    MenuPlace& menuPlace;
 };
 
 /// Where the real controls of a container are made.

@@ -263,7 +263,9 @@ void SecurityPage::grdSecurity_KeyDown(const KeyPress& press, bool& handled) {
 void SecurityPage::grdSecurity_MouseDown(int button, int row) {
     constexpr int kRightButton = 2;
     Trace("grdSecurity_MouseDown", "Start");
-    controls.grdSecurity.Select(row, controls.grdSecurity.Column());
+    if (row >= 0) {
+        controls.grdSecurity.Select(row, controls.grdSecurity.Column());
+    }
     if (button == kRightButton) {
         form_.menu.mnuDeleteUser.SetEnabled(row >= 1 && HasUsers());
         form_.menu.mnuSecuritypopMenu.PopUp();

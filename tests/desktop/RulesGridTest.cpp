@@ -259,5 +259,18 @@ TEST_F(RulesGrid, HoldsAFullListOfRules) {
     });
 }
 
+TEST_F(RulesGrid, TheContextMenuOpensBesideTheRowsAndByKeyToo) {
+    Play([&] {
+        ShowGrid();
+        OpenMenuAt(PlaceOf(grid()));
+        ChooseAboveDisabledEntry();
+        WaitForText(4, 0, "NEW");
+        Press(WXK_F10, wxMOD_SHIFT);
+        WaitForMenu();
+        ChooseFromMenu(WXK_UP);
+        WaitUntil("the rule is gone", [&] { return grid().Rows() == 4; });
+    });
+}
+
 } // namespace
 } // namespace zy::test

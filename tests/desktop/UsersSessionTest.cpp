@@ -191,5 +191,48 @@ TEST_F(UsersSession, DeletingTheLastUserMakesTheFirstCurrentAndLeavesTheKeyboard
     });
 }
 
+TEST_F(UsersSession, BesideTheRowsTheContextMenuAddsAndDeletesNobody) {
+    Play([&] {
+        ClickCell(1, kStatus);
+        OpenMenuAt(PlaceOf(grid()));
+        EXPECT_FALSE(InWindow([&] { return program->window.menu.mnuDeleteUser.Enabled(); }));
+        ChooseAboveDisabledEntry();
+        WaitForText(3, kUserName, "NewUser");
+        EXPECT_EQ(Shown(1, kUserName), "Ann");
+    });
+}
+
+TEST_F(UsersSession, TheContextMenuOpensInAnEmptyGridToo) {
+    StartWith({});
+    Play([&] {
+        OpenMenuAt(PlaceOf(grid()));
+        EXPECT_FALSE(InWindow([&] { return program->window.menu.mnuDeleteUser.Enabled(); }));
+        ChooseAboveDisabledEntry();
+        WaitForText(1, kUserName, "NewUser");
+    });
+}
+
+TEST_F(UsersSession, ShiftF10OpensTheContextMenuOfTheCurrentRow) {
+    Play([&] {
+        ClickCell(2, kStatus);
+        Press(WXK_F10, wxMOD_SHIFT);
+        WaitForMenu();
+        ChooseFromMenu(WXK_UP);
+        WaitUntil("the user is gone", [&] { return grid().Rows() == 2; });
+        EXPECT_EQ(Shown(1, kUserName), "Ann");
+    });
+}
+
+TEST_F(UsersSession, TheMenuKeyOpensTheContextMenuOfTheCurrentRow) {
+    Play([&] {
+        ClickCell(2, kStatus);
+        PressMenuKey();
+        WaitForMenu();
+        ChooseFromMenu(WXK_UP);
+        WaitUntil("the user is gone", [&] { return grid().Rows() == 2; });
+        EXPECT_EQ(Shown(1, kUserName), "Ann");
+    });
+}
+
 } // namespace
 } // namespace zy::test

@@ -157,6 +157,17 @@ TEST_F(EditUsers, TheRightButtonOpensTheMenuWhoseDeleteNeedsAUserRow) {
     EXPECT_FALSE(deleteEntry().Enabled());
 }
 
+TEST_F(EditUsers, BesideTheRowsTheMenuOpensWithoutDeleteAndTheCurrentRowStays) {
+    StartOver({User("Ann"), User("Bob")});
+    grid().Pick(2, 0);
+    int opened = 0;
+    form().menu.mnuSecuritypopMenu.popUp.Connect([&] { ++opened; });
+    RightClick(-1);
+    EXPECT_EQ(opened, 1);
+    EXPECT_FALSE(deleteEntry().Enabled());
+    EXPECT_EQ(grid().Row(), 2);
+}
+
 TEST_F(EditUsers, ACommittedEditCanBeSaved) {
     StartOver({User("Ann")});
     Edit(1, kPassword, "other");
