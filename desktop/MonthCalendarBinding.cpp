@@ -26,7 +26,8 @@ MonthCalendarBinding::MonthCalendarBinding(const ViewContext& context, const Ins
       calendar_(new wxGenericCalendarCtrl(Parent(), wxID_ANY, ShownDay(model.Value()), {}, {},
                                           wxCAL_SHOW_HOLIDAYS | wxCAL_MONDAY_FIRST |
                                               wxCAL_SHOW_SURROUNDING_WEEKS | wxBORDER_THEME)) {
-    calendar_->Bind(wxEVT_LEFT_UP, [this](wxMouseEvent& event) { PressMouse(event); });
+    calendar_->Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent& event) { PressMouse(event); });
+    calendar_->Bind(wxEVT_LEFT_UP, [this](wxMouseEvent& event) { LetGoOfMouse(event); });
     calendar_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { PressKey(event); });
     calendar_->SetDateRange(ShownDay(model.First()), ShownDay(model.Last()));
     Keep(model_.valueChanged.Observe([this] { ShowValue(); }));
@@ -37,13 +38,25 @@ MonthCalendarBinding::MonthCalendarBinding(const ViewContext& context, const Ins
 }
 
 void MonthCalendarBinding::PressMouse(wxMouseEvent& event) {
-    wxDateTime day;
-    if (calendar_->HitTest(event.GetPosition(), &day) == wxCAL_HITTEST_DAY && day == calendar_->GetDate()) {
-        // The press has made the day under the mouse the chosen one.
+    pressed_ = DayAt(event);
+    // A day of a neighbouring month would turn the calendar to that month, where another day lies under the
+    // mouse.
+    event.Skip(!pressed_.IsValid() || pressed_.GetMonth() == calendar_->GetDate().GetMonth());
+}
+
+void MonthCalendarBinding::LetGoOfMouse(wxMouseEvent& event) {
+    const wxDateTime day = DayAt(event);
+    if (day.IsValid() && pressed_.IsValid() && day == pressed_) {
         Pick(day);
     } else {
         event.Skip();
     }
+}
+
+wxDateTime MonthCalendarBinding::DayAt(const wxMouseEvent& event) const {
+    wxDateTime day;
+    const auto hit = calendar_->HitTest(event.GetPosition(), &day);
+    return hit == wxCAL_HITTEST_DAY || hit == wxCAL_HITTEST_SURROUNDING_WEEK ? day : wxDateTime();
 }
 
 void MonthCalendarBinding::PressKey(wxKeyEvent& event) {

@@ -16,6 +16,9 @@ class MonthCalendarBinding : public ControlBinding {
 
   private:
     void PressMouse(wxMouseEvent& event);
+    void LetGoOfMouse(wxMouseEvent& event);
+    /// The day under the mouse, also one of a neighbouring month; no valid one beside the days.
+    wxDateTime DayAt(const wxMouseEvent& event) const;
     void PressKey(wxKeyEvent& event);
     void Pick(const wxDateTime& day);
     void ShowValue();
@@ -23,6 +26,7 @@ class MonthCalendarBinding : public ControlBinding {
     MonthCalendar& model_;
     // The toolkit's own calendar tells where the mouse stands, which the window system's does not.
     wxGenericCalendarCtrl* calendar_;
+    wxDateTime pressed_; ///< the day that the mouse was pressed on
 };
 
 } // namespace zy

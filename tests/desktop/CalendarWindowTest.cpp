@@ -44,6 +44,11 @@ class CalendarWindow : public UsersWindow {
     }
     /// Clicks a day of the month that is shown.
     void ClickDay(int day) {
+        ClickDayOf(
+            InWindow([] { return RealCalendar().GetDate(); }).SetDay(static_cast<unsigned short>(day)));
+    }
+    /// Clicks a day of that month or of a neighbouring one.
+    void ClickDayOf(const wxDateTime& day) {
         hands->Click(InWindow([&] { return PlaceOfDay(day); }));
     }
     void ExpectClosedWith(const std::string& date) {
@@ -58,15 +63,16 @@ class CalendarWindow : public UsersWindow {
     }
 
   private:
-    static wxPoint PlaceOfDay(int day) {
+    static wxPoint PlaceOfDay(const wxDateTime& day) {
         constexpr int kStep = 5;
         auto& calendar = RealCalendar();
         const wxSize size = calendar.GetClientSize();
         for (wxPoint place; place.y < size.y; place.y += kStep) {
             for (place.x = 0; place.x < size.x; place.x += kStep) {
                 wxDateTime hit;
-                if (calendar.HitTest(place, &hit) == wxCAL_HITTEST_DAY && hit.GetDay() == day &&
-                    hit.GetMonth() == calendar.GetDate().GetMonth()) {
+                const auto what = calendar.HitTest(place, &hit);
+                if ((what == wxCAL_HITTEST_DAY || what == wxCAL_HITTEST_SURROUNDING_WEEK) &&
+                    hit.IsSameDate(day)) {
                     return calendar.ClientToScreen(place);
                 }
             }
@@ -95,6 +101,17 @@ TEST_F(CalendarWindow, AClickOnTheDayThatIsShownPicksItToo) {
         ClickDay(28);
         ExpectClosedWith("26-02-28");
         EXPECT_TRUE(IsEnabled(page().cmdSaveUsers));
+    });
+}
+
+TEST_F(CalendarWindow, AClickPicksADayOfANeighbouringMonthToo) {
+    Play([&] {
+        OpenCalendar(2);
+        ClickDayOf({30, wxDateTime::Jan, 2026});
+        ExpectClosedWith("26-01-30");
+        OpenCalendar(2);
+        ClickDayOf({1, wxDateTime::Feb, 2026});
+        ExpectClosedWith("26-02-01");
     });
 }
 
