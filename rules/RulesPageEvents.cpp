@@ -122,6 +122,9 @@ void RulesPage::RefuseToAdd() {
 
 void RulesPage::cmdDeleteList_Click() {
     Trace(kForm, "cmdDeleteList_Click", "Start");
+    if (controls.lstRulesList.Selected() == 0) {
+        return;
+    }
     if (world_.dialogs.AskYesNo("Are you Sure you want to Delete this Rule", "Confirm Delete",
                                 Escape::AnswersNo)) {
         DeleteSelected();
@@ -154,12 +157,16 @@ void RulesPage::cmdSaveRules_Click() {
 
 void RulesPage::cmdUpDown_UpClick() {
     Trace(kForm, "cmdUpDown_UpClick", "Start");
-    Move_Rule_Up(controls.lstRulesList.Selected());
+    if (controls.lstRulesList.Selected() != 0) {
+        Move_Rule_Up(controls.lstRulesList.Selected());
+    }
 }
 
 void RulesPage::cmdUpDown_DownClick() {
     Trace(kForm, "cmdUpDown_DownClick", "Start");
-    Move_Rule_Down(controls.lstRulesList.Selected());
+    if (controls.lstRulesList.Selected() != 0) {
+        Move_Rule_Down(controls.lstRulesList.Selected());
+    }
 }
 
 void RulesPage::lstRulesList_ItemClick(int item) {

@@ -119,5 +119,14 @@ TEST_F(EmptyList, IsReloadedAsAnEmptyList) {
     ExpectEmptyPage();
 }
 
+TEST_F(EmptyList, HasNothingForItsHandlersToDo) {
+    StartOver("");
+    handlers().cmdDeleteList_Click(); // asks nothing either
+    handlers().cmdUpDown_UpClick();
+    handlers().cmdUpDown_DownClick();
+    ExpectEmptyPage();
+    ExpectMarks(false, false);
+}
+
 } // namespace
 } // namespace zy::test
