@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "desktop/Keys.h"
+#include "desktop/Native.h"
 
 namespace zy {
 namespace {
@@ -32,8 +33,10 @@ bool IsOnlyWith(const wxKeyEvent& event, int modifier) {
 } // namespace
 
 std::optional<KeyPress> GridKeyPressOf(const wxKeyEvent& event) {
+    // Keyboards that type a digit with Shift bear it on the same key.
+    const int digit = event.ControlDown() ? DigitOn(event) : '\0';
     for (const auto& [code, key] : kKeys) {
-        if (code == event.GetKeyCode()) {
+        if (code == event.GetKeyCode() || code == digit) {
             return KeyPress{
                 .key = key, .ctrl = event.ControlDown(), .alt = event.AltDown(), .shift = event.ShiftDown()};
         }

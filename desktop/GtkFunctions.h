@@ -7,6 +7,8 @@
 
 struct _AtkObject;
 struct _GdkAtom;
+struct _GdkDisplay;
+struct _GdkKeymap;
 struct _GdkScreen;
 struct _GtkComboBox;
 struct _GtkContainer;
@@ -27,6 +29,11 @@ struct GtkSizeNeeded {
 
 void atk_object_set_name(_AtkObject* accessible, const char* name);
 _GdkAtom* gdk_atom_intern(const char* name, int onlyIfItExists);
+_GdkDisplay* gdk_display_get_default();
+int gdk_keymap_get_entries_for_keycode(_GdkKeymap* keymap, guint keyCode, void** keys, guint** symbols,
+                                       int* count);
+_GdkKeymap* gdk_keymap_get_for_display(_GdkDisplay* display);
+guint gdk_keyval_to_lower(guint symbol);
 _GdkScreen* gdk_screen_get_default();
 double gdk_screen_get_resolution(_GdkScreen* screen);
 int gdk_x11_screen_supports_net_wm_hint(_GdkScreen* screen, _GdkAtom* property);

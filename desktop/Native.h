@@ -9,6 +9,7 @@ class wxButton;
 class wxChoice;
 class wxDataViewColumn;
 class wxDataViewCtrl;
+class wxKeyEvent;
 class wxStaticBox;
 class wxTextCtrl;
 class wxWindow;
@@ -70,6 +71,10 @@ void CloseDropDownThatFailed(const wxChoice& choice);
 
 /// Lets the mouse wheel over a list that is not dropped down leave the chosen item alone.
 void IgnoreWheelWhileClosed(wxChoice& choice);
+
+/// The digit that a key bears whatever layout the keyboard has and whether or not it takes Shift to type it;
+/// NUL for other keys.
+char DigitOn(const wxKeyEvent& event);
 
 /// Shows one character in place of each one that a password box holds.
 void SetPasswordCharacter(wxTextCtrl& box, char character);

@@ -8,6 +8,7 @@
 #include <wx/textctrl.h>
 #include <wx/utils.h>
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -160,6 +161,18 @@ void SetAccessibleName(wxWindow& window, const wxString& name) {
 void IgnoreWheelWhileClosed(wxChoice& choice) {
     // A list that has dropped down is a window of its own.
     choice.Bind(wxEVT_MOUSEWHEEL, [](wxMouseEvent&) {});
+}
+
+char DigitOn(const wxKeyEvent& event) {
+    guint* symbols = nullptr;
+    int count = 0;
+    gdk_keymap_get_entries_for_keycode(gdk_keymap_get_for_display(gdk_display_get_default()),
+                                       event.GetRawKeyFlags(), nullptr, &symbols, &count);
+    const std::unique_ptr<guint, decltype(&g_free)> kept(symbols, g_free);
+    const auto* end = symbols + count;
+    const auto* digit = std::find_if(const_cast<const guint*>(symbols), end,
+                                     [](guint symbol) { return symbol >= '0' && symbol <= '9'; });
+    return digit == end ? '\0' : static_cast<char>(*digit);
 }
 
 void SetPasswordCharacter(wxTextCtrl& box, char character) {

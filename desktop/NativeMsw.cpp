@@ -92,6 +92,10 @@ void IgnoreWheelWhileClosed(wxChoice& choice) {
     });
 }
 
+char DigitOn(const wxKeyEvent& /*event*/) {
+    return '\0'; // the system knows these keys by their digits on every layout
+}
+
 void SetPasswordCharacter(wxTextCtrl& box, char character) {
     ::SendMessageW(box.GetHandle(), EM_SETPASSWORDCHAR, static_cast<unsigned char>(character), 0);
 }
