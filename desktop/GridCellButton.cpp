@@ -30,14 +30,18 @@ bool GridCellButton::HasList() const {
 }
 
 wxRect GridCellButton::PlaceIn(const wxRect& cell) {
-    if (model_.EditList().empty()) {
+    const int width = WidthIn(cell);
+    if (width == 0) {
         Hide();
         return cell;
     }
-    auto& button = Button();
-    const int width = std::min(cell.width, std::max(button.GetBestSize().x, cell.height));
-    ShowOverCells(button, {cell.GetRight() + 1 - width, cell.y, width, cell.height});
+    ShowOverCells(Button(), {cell.GetRight() + 1 - width, cell.y, width, cell.height});
     return {cell.x, cell.y, cell.width - width, cell.height};
+}
+
+int GridCellButton::WidthIn(const wxRect& cell) {
+    return model_.EditList().empty() ? 0
+                                     : std::min(cell.width, std::max(Button().GetBestSize().x, cell.height));
 }
 
 wxButton& GridCellButton::Button() {

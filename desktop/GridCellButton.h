@@ -23,6 +23,10 @@ class GridCellButton {
     wxRect PlaceIn(const wxRect& cell);
     void Hide();
     bool IsShown() const;
+    /// Whether the mouse, at this place on the screen, is over it.
+    bool IsAt(const wxPoint& mouse) const;
+    /// The width that it takes off a cell.
+    int WidthIn(const wxRect& cell);
     void Press();
 
     /// Whether the open cell has a list.

@@ -88,6 +88,7 @@ void GridEditor::Show() {
     }
     if (changed) {
         ShowTextAndCaret();
+        Place();
     }
 }
 
@@ -116,12 +117,27 @@ void GridEditor::Place() {
     place.SetPosition(grid_.CalcScrolledPosition(place.GetPosition()));
     // The lines between the cells stay.
     place.SetSize(place.GetSize() - wxSize(1, 1));
-    place.SetRight(std::min(place.GetRight(), grid_.GetGridWindow()->GetClientSize().x - 1));
-    wxRect text = button_.PlaceIn(place);
+    wxRect text = button_.PlaceIn(WideEnough(place));
     // The text stays where it stood in the cell.
     text.x += grid_.CellMargin();
     text.width -= grid_.CellMargin();
     ShowOverCells(*text_, text);
+}
+
+wxRect GridEditor::WideEnough(wxRect cell) {
+    const int right = grid_.GetGridWindow()->GetClientSize().x;
+    const int width = grid_.CellMargin() + NeededWidth() + button_.WidthIn(cell);
+    cell.SetRight(std::min(cell.GetRight(), right - 1));
+    cell.width = std::max(cell.width, std::min(width, right));
+    cell.x = std::min(cell.x, std::max(right - cell.width, 0));
+    return cell;
+}
+
+int GridEditor::NeededWidth() const {
+    // A longer text is wider than any grid, and would take long to measure.
+    constexpr std::size_t kMostMeasured = 1024;
+    const wxString text = text_->GetValue().substr(0, kMostMeasured);
+    return text_->GetSizeFromText(text + "0").x; // the caret needs room too
 }
 
 bool GridEditor::ShowText() {

@@ -31,6 +31,10 @@ class GridEditor {
     void Open();
     void Close();
     void Place();
+    /// A cell's place, made as wide as the editor needs it for its whole text, over its neighbours and as far
+    /// as the grid has room.
+    wxRect WideEnough(wxRect cell);
+    int NeededWidth() const;
     /// Shows the model's text; false when it is shown already.
     bool ShowText();
     void ShowTextAndCaret();

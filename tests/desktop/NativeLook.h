@@ -45,6 +45,9 @@ bool KeysStopAtDisabledEntries();
 /// What a box shows in place of each of its characters; nothing when it shows the characters themselves.
 std::optional<wxUniChar> PasswordCharacterOf(const wxTextCtrl& box);
 
+/// Whether a line of text has room for all of it.
+bool ShowsWholeText(const wxTextCtrl& box);
+
 /// What another program would paste.
 wxString TextOnClipboard();
 

@@ -23,6 +23,7 @@ struct _GtkWindow;
 extern "C" {
 int gdk_window_get_origin(GdkWindow* window, int* x, int* y);
 GtkWidget* gtk_dialog_get_widget_for_response(_GtkDialog* dialog, int response);
+void gtk_entry_get_layout_offsets(_GtkEntry* entry, int* x, int* y);
 unsigned gtk_entry_get_invisible_char(_GtkEntry* entry);
 int gtk_entry_get_visibility(_GtkEntry* entry);
 GtkWidget* gtk_message_dialog_get_image(_GtkMessageDialog* dialog);
@@ -118,6 +119,15 @@ std::optional<wxUniChar> PasswordCharacterOf(const wxTextCtrl& box) {
         return std::nullopt;
     }
     return wxUniChar(gtk_entry_get_invisible_char(entry));
+}
+
+bool ShowsWholeText(const wxTextCtrl& box) {
+    auto* entry = reinterpret_cast<_GtkEntry*>(box.GetHandle());
+    int scrolled = 0;
+    g_object_get(G_OBJECT(entry), "scroll-offset", &scrolled, nullptr);
+    int before = 0;
+    gtk_entry_get_layout_offsets(entry, &before, nullptr);
+    return scrolled == 0 && before + box.GetTextExtent(box.GetValue()).x <= box.GetSize().x;
 }
 
 wxString TextOnClipboard() {

@@ -3,6 +3,7 @@
 #include <wx/msw/private.h>
 #include <wx/textctrl.h>
 
+#include <algorithm>
 #include <bit>
 #include <limits>
 #include <memory>
@@ -166,6 +167,16 @@ bool KeysStopAtDisabledEntries() {
 std::optional<wxUniChar> PasswordCharacterOf(const wxTextCtrl& box) {
     const auto character = ::SendMessageW(box.GetHandle(), EM_GETPASSWORDCHAR, 0, 0);
     return character == 0 ? std::nullopt : std::optional(wxUniChar(static_cast<unsigned>(character)));
+}
+
+bool ShowsWholeText(const wxTextCtrl& box) {
+    const auto last = static_cast<WPARAM>(std::max(box.GetLastPosition() - 1, 0L));
+    const auto leftOf = [&](WPARAM character) {
+        const auto place = ::SendMessageW(box.GetHandle(), EM_POSFROMCHAR, character, 0);
+        return static_cast<int>(static_cast<short>(LOWORD(place)));
+    };
+    const int end = leftOf(last) + box.GetTextExtent(box.GetValue().Last()).x;
+    return leftOf(0) >= 0 && end <= box.GetClientSize().x;
 }
 
 wxString TextOnClipboard() {

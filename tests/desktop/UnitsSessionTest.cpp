@@ -1,3 +1,4 @@
+#include "NativeLook.h"
 #include "UnitsWindow.h"
 
 namespace zy::test {
@@ -183,6 +184,15 @@ TEST_F(UnitsSession, DeletingTheLastUnitMakesTheFirstCurrentAndLeavesTheKeyboard
         WaitForText(1, 1, "Metres");
         WaitForCell(1, 1);
         WaitForFocus(page().cmdDeleteUnit);
+    });
+}
+
+TEST_F(UnitsSession, AnOpenCellHasRoomForALongUnit) {
+    Play([&] {
+        ClickCell(1, 0);
+        Type("cubic metres an hour");
+        WaitForEditor("cubic metres an hour");
+        EXPECT_TRUE(InWindow([&] { return ShowsWholeText(RealEditor()); }));
     });
 }
 

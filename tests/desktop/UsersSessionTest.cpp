@@ -1,3 +1,4 @@
+#include "NativeLook.h"
 #include "UsersWindow.h"
 
 namespace zy::test {
@@ -231,6 +232,18 @@ TEST_F(UsersSession, TheMenuKeyOpensTheContextMenuOfTheCurrentRow) {
         ChooseFromMenu(WXK_UP);
         WaitUntil("the user is gone", [&] { return grid().Rows() == 2; });
         EXPECT_EQ(Shown(1, kUserName), "Ann");
+    });
+}
+
+TEST_F(UsersSession, AnOpenExpiryDateShowsTheWholeDate) {
+    auto users = TwoUsers();
+    users[0].EXPDATE = "30-12-31";
+    StartWith(users);
+    Play([&] {
+        InWindow(
+            [&] { desktop.Gate().Act([&] { grid().SetColumnWidth(kExpiryDate, Grid::kDesignedWidth); }); });
+        OpenEditor(1, kExpiryDate);
+        EXPECT_TRUE(InWindow([&] { return ShowsWholeText(RealEditor()); }));
     });
 }
 
