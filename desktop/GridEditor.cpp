@@ -93,7 +93,7 @@ void GridEditor::Show() {
 }
 
 void GridEditor::Open() {
-    grid_.MakeCellVisible(model_.Row() - 1, model_.Column());
+    ShowCell();
     Place();
     SetAccessibleName(*text_, grid_.GetColLabelValue(model_.Column()));
     if (model_.HasFocus()) {
@@ -204,6 +204,7 @@ void GridEditor::TakeText() {
         Refuse();
         return;
     }
+    ShowCell();
     context_.gate.Act([&] { model_.EnterEditText(edited->text + beyond, edited->changeEnd, 0); });
     if (ShowText()) {
         text_->SetInsertionPoint(static_cast<long>(edited->changeEnd));

@@ -30,6 +30,7 @@ class GridEditor {
     void CommitWhenLeft();
     void Open();
     void Close();
+    void ShowCell() { grid_.MakeCellVisible(model_.Row() - 1, model_.Column()); }
     void Place();
     /// A cell's place, made as wide as the editor needs it for its whole text, over its neighbours and as far
     /// as the grid has room.

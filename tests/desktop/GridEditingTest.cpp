@@ -276,5 +276,17 @@ TEST_F(GridEditing, TheEditorStandsOverItsCellAndScrollsWithIt) {
     });
 }
 
+TEST_F(GridEditing, TypingBringsAnOpenCellThatWasScrolledAwayBackIntoView) {
+    PutUnits(ManyUnits(200));
+    Play([&] {
+        OpenEditor(5, 1);
+        InWindow([&] { RealGrid().Scroll(0, RealGrid().GetScrollRange(wxVERTICAL)); });
+        ASSERT_FALSE(IsOnScreen(5));
+        Type("x");
+        WaitForEditor("x");
+        EXPECT_TRUE(IsOnScreen(5));
+    });
+}
+
 } // namespace
 } // namespace zy::test
