@@ -101,6 +101,13 @@ void Grid::Select(int row, int column) {
     SetCurrent({row, column});
 }
 
+void Grid::SelectAll() {
+    if (TakeFocus() && rows_ > 1) {
+        Select(1, 0);
+        SelectTo(rows_ - 1, columns_ - 1);
+    }
+}
+
 void Grid::SelectTo(int row, int column) {
     Index(row, column);
     CommitEdit();

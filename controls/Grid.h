@@ -129,6 +129,8 @@ class Grid : public Control {
     /// Presses a mouse button over a cell, or beside all of them, where row and column are -1: 1 left, 2
     /// right.
     void PressMouse(int button, int row, int column);
+    /// Makes the first cell current and stretches the block to the last one.
+    void SelectAll();
     /// Presses the button of a cell that is edited with one.
     void PressCellButton();
     /// The block as a spreadsheet copies it: cells separated by TAB, rows ended by CR LF.

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "basics/RuntimeError.h"
+#include "controls/CopiedCells.h"
 
 namespace zy {
 
@@ -37,6 +38,16 @@ void ListView::Select(int item) {
     }
     selected_ = item;
     selectionChanged.Raise();
+}
+
+std::string ListView::Copy() const {
+    std::string text;
+    const int columns = selected_ == 0 ? 0 : static_cast<int>(columns_.size());
+    for (int column = 0; column < columns; ++column) {
+        AppendCopied(text, CellText(selected_, column));
+        text += column + 1 < columns ? "\t" : "\r\n";
+    }
+    return text;
 }
 
 void ListView::Pick(int item) {

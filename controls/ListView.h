@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "controls/Control.h"
@@ -37,6 +38,10 @@ class ListView : public Control {
     void Select(int item);
     /// Tells that an item's texts changed.
     void RefreshItem(int item) { itemChanged.Raise(item); }
+
+    /// The selected item as a spreadsheet copies a row: cells separated by TAB, CR LF behind them. Empty when
+    /// none is.
+    std::string Copy() const;
 
     /// A person chooses an item. The one that is selected already is not chosen again.
     void Pick(int item);

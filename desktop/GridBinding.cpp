@@ -153,7 +153,10 @@ void GridBinding::HandOn(wxKeyEvent& event) {
 bool GridBinding::UseClipboard(const wxKeyEvent& event) {
     const auto key = ClipboardKeyOf(event);
     if (key == ClipboardKey::Copy || key == ClipboardKey::Cut) {
-        CopyCells(Context(), model_);
+        CopyCells(Context(), model_.Copy());
+    }
+    if (key == ClipboardKey::SelectAll) {
+        Gate().Act([this] { model_.SelectAll(); });
     }
     if (key == ClipboardKey::Cut) {
         Gate().Act([this] { model_.Press({Key::Delete}); });

@@ -46,11 +46,10 @@ void TellWhereLacking(const ViewContext& context, const Grid& model, const wxStr
 
 } // namespace
 
-void CopyCells(const ViewContext& context, const Grid& model) {
-    const std::string text = model.Copy();
+void CopyCells(const ViewContext& context, const std::string& cells) {
     const wxClipboardLocker open;
-    if (!text.empty() && !!open) {
-        wxTheClipboard->SetData(new wxTextDataObject(ToShown(context.codePage, text)));
+    if (!cells.empty() && !!open) {
+        wxTheClipboard->SetData(new wxTextDataObject(ToShown(context.codePage, cells)));
     }
 }
 

@@ -1,14 +1,16 @@
 #pragma once
 
+#include <string>
+
 #include "controls/Grid.h"
 #include "desktop/ViewContext.h"
 
 namespace zy {
 
-// The cells of a grid as text on the clipboard, the way spreadsheets put them there.
+// The cells of a grid or list as text on the clipboard, the way spreadsheets put them there.
 
-/// Copies the block that is selected; nothing when there is none.
-void CopyCells(const ViewContext& context, const Grid& model);
+/// Copies what is selected; nothing when that is empty.
+void CopyCells(const ViewContext& context, const std::string& cells);
 
 /// Pastes the clipboard's text from the current cell on. A text with a character that the code page lacks is
 /// refused as a whole, which the status bar tells.

@@ -57,10 +57,11 @@ ClipboardKey ClipboardKeyOf(const wxKeyEvent& event) {
     const bool insert = code == WXK_INSERT || code == WXK_NUMPAD_INSERT;
     const bool remove = code == WXK_DELETE || code == WXK_NUMPAD_DELETE;
     if (IsOnlyWith(event, wxMOD_CONTROL)) {
-        return code == 'C' || insert ? ClipboardKey::Copy
-               : code == 'X'         ? ClipboardKey::Cut
-               : code == 'V'         ? ClipboardKey::Paste
-                                     : ClipboardKey::None;
+        return code == 'A'             ? ClipboardKey::SelectAll
+               : code == 'C' || insert ? ClipboardKey::Copy
+               : code == 'X'           ? ClipboardKey::Cut
+               : code == 'V'           ? ClipboardKey::Paste
+                                       : ClipboardKey::None;
     }
     if (IsOnlyWith(event, wxMOD_SHIFT)) {
         return insert ? ClipboardKey::Paste : remove ? ClipboardKey::Cut : ClipboardKey::None;

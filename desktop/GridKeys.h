@@ -14,8 +14,11 @@ std::optional<KeyPress> GridKeyPressOf(const wxKeyEvent& event);
 /// Whether the toolkit's grid moves its cursor by this key, or selects from it on.
 bool IsCursorKey(const wxKeyEvent& event);
 
-/// What the keys of the clipboard ask for.
-enum class ClipboardKey { None, Copy, Cut, Paste };
+/// Whether the key, pressed with Alt, may be a button's or a menu's.
+bool IsAccessKey(const wxKeyEvent& event);
+
+/// What the keys of the clipboard ask for, and the one that selects all to be copied.
+enum class ClipboardKey { None, SelectAll, Copy, Cut, Paste };
 ClipboardKey ClipboardKeyOf(const wxKeyEvent& event);
 
 /// The character that a key types; NUL when it types none.

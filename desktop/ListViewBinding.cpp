@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "desktop/GridClipboard.h"
+#include "desktop/GridKeys.h"
 #include "desktop/Keys.h"
 #include "desktop/ListText.h"
 #include "desktop/Native.h"
@@ -80,7 +82,9 @@ void ListViewBinding::TakePick() {
 
 void ListViewBinding::PressKey(wxKeyEvent& event) {
     const auto press = KeyPressOf(event);
-    if (press && (press->alt || press->key == Key::Delete)) {
+    if (ClipboardKeyOf(event) == ClipboardKey::Copy) {
+        CopyCells(Context(), model_.Copy());
+    } else if (press && (press->alt || press->key == Key::Delete)) {
         Gate().Act([&] { model_.Press(*press); });
     } else {
         event.Skip();

@@ -203,6 +203,12 @@ TEST_F(ListViewTest, KeepsItsSelectionWhenAnotherControlKeepsTheFocus) {
     EXPECT_THAT(notes, IsEmpty());
 }
 
+TEST_F(ListViewTest, CopiesTheSelectedItemAsASpreadsheetDoesARow) {
+    EXPECT_EQ(list.Copy(), "");
+    list.Select(1);
+    EXPECT_EQ(list.Copy(), "first\tfirst\r\n");
+}
+
 TEST_F(ListViewTest, RemovesTheSelectedItem) {
     list.Select(2);
     list.RemoveSelected();

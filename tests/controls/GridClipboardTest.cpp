@@ -12,6 +12,16 @@ TEST_F(GridTest, CopiesTheBlockAsASpreadsheetDoes) {
     EXPECT_EQ(grid.Copy(), "b\tc\r\ne\tf\r\n");
 }
 
+TEST_F(GridTest, SelectsAllCellsFromTheFirstToTheLast) {
+    grid.Select(2, 1);
+    grid.SelectAll();
+    ExpectCurrent(1, 0);
+    EXPECT_EQ(grid.BlockEnd(), (Cell{2, 2}));
+    grid.SetRows(1);
+    grid.SelectAll();
+    EXPECT_EQ(grid.Copy(), "") << "the header is no row to select";
+}
+
 TEST_F(GridTest, CopiesNothingWithoutACurrentCell) {
     EXPECT_EQ(grid.Copy(), "");
 }

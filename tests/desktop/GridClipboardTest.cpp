@@ -119,5 +119,17 @@ TEST_F(GridOnTheClipboard, AsManyRowsAsThereMayBeCanBePasted) {
     });
 }
 
+TEST_F(GridOnTheClipboard, CtrlASelectsAllRows) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        ClickCell(2, 1);
+        Press('A', wxMOD_CONTROL);
+        WaitUntil("all is selected", [&] { return grid().Row() == 1 && grid().BlockEnd() == Cell{3, 1}; });
+        Press('C', wxMOD_CONTROL);
+        const wxString all = "kg\tKilograms\r\nm\tMetres\r\ns\tSeconds\r\n";
+        WaitUntil("all is copied", [&] { return TextOnClipboard() == all; });
+    });
+}
+
 } // namespace
 } // namespace zy::test

@@ -148,5 +148,16 @@ TEST_F(RulesListWindow, TheMouseWheelOverAClosedDropDownListChangesNothing) {
     });
 }
 
+TEST_F(RulesListWindow, CtrlCCopiesTheSelectedRuleAsASpreadsheetDoes) {
+    PutRules(ThreeRules());
+    Play([&] {
+        ClickRow(2);
+        WaitForSelection(2);
+        Press('C', wxMOD_CONTROL);
+        const wxString copied = "R2\t3\t4\t<=\tLWL\tSecond rule  \r\n";
+        WaitUntil("it is copied", [&] { return TextOnClipboard() == copied; });
+    });
+}
+
 } // namespace
 } // namespace zy::test
