@@ -71,6 +71,13 @@ bool GridCellButton::IsShown() const {
     return (list_ != nullptr && list_->IsShown()) || (dialog_ != nullptr && dialog_->IsShown());
 }
 
+bool GridCellButton::IsAt(const wxPoint& mouse) const {
+    const auto isOver = [&](const wxButton* button) {
+        return button != nullptr && button->IsShown() && button->GetScreenRect().Contains(mouse);
+    };
+    return isOver(list_) || isOver(dialog_);
+}
+
 void GridCellButton::Hide() {
     HideButton(list_);
     HideButton(dialog_);

@@ -56,23 +56,31 @@ void GridEditor::BindText() {
 }
 
 void GridEditor::CommitWhenLeft() {
-    // A click beside the open editor.
-    grid_.GetGridWindow()->Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent& event) {
-        event.Skip();
-        context_.gate.ActLater([this] {
-            if (grid_.GetGridWindow()->HasFocus()) {
+    auto* window = wxGetTopLevelParent(&grid_);
+    // Not every click takes the keyboard away, such as one on a button that the edit is to enable.
+    ObserveMousePress(*window, [this] {
+        if (model_.IsEditing() && IsMouseBeside()) {
+            context_.gate.ActLater([this] {
                 model_.CommitEdit();
-            }
-            return true;
-        });
+                return true;
+            });
+        }
     });
-    wxGetTopLevelParent(&grid_)->Bind(wxEVT_MENU_OPEN, [this](wxMenuEvent& event) {
+    window->Bind(wxEVT_MENU_OPEN, [this](wxMenuEvent& event) {
         event.Skip();
         // The list of a cell is a menu too, and belongs to the edit.
         if (!event.IsPopup()) {
             context_.gate.Act([this] { model_.CommitEdit(); });
         }
     });
+}
+
+bool GridEditor::IsMouseBeside() const {
+    const wxPoint mouse = wxGetMousePosition();
+    const auto isOver = [&](const wxWindow& window) { return window.GetScreenRect().Contains(mouse); };
+    const bool scrolls =
+        isOver(grid_) && !isOver(*grid_.GetGridWindow()) && !isOver(*grid_.GetGridColLabelWindow());
+    return !scrolls && !isOver(*text_) && !button_.IsAt(mouse);
 }
 
 void GridEditor::Show() {
@@ -166,6 +174,12 @@ void GridEditor::TakeFocus() {
 
 void GridEditor::PressKey(wxKeyEvent& event) {
     RememberSelection();
+    if (IsAccessKey(event)) {
+        // It may press a button that the edit enables.
+        context_.gate.Act([this] { model_.CommitEdit(); });
+        HandOnAccessKey(grid_, event);
+        return;
+    }
     const auto press = GridKeyPressOf(event);
     const bool drops = event.GetKeyCode() == WXK_F4 || (press && press->alt && press->key == Key::Down);
     if (drops && button_.IsShown()) {

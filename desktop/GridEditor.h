@@ -28,6 +28,8 @@ class GridEditor {
   private:
     void BindText();
     void CommitWhenLeft();
+    /// Whether the mouse is over neither the open cell nor what scrolls the grid below it.
+    bool IsMouseBeside() const;
     void Open();
     void Close();
     void ShowCell() { grid_.MakeCellVisible(model_.Row() - 1, model_.Column()); }

@@ -52,6 +52,10 @@ bool IsCursorKey(const wxKeyEvent& event) {
            (press && std::find(kMoving.begin(), kMoving.end(), press->key) != kMoving.end());
 }
 
+bool IsAccessKey(const wxKeyEvent& event) {
+    return event.AltDown() && !event.ControlDown() && event.GetUnicodeKey() > ' ';
+}
+
 ClipboardKey ClipboardKeyOf(const wxKeyEvent& event) {
     const int code = event.GetKeyCode();
     const bool insert = code == WXK_INSERT || code == WXK_NUMPAD_INSERT;

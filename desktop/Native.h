@@ -51,8 +51,15 @@ void ObserveFocus(wxWindow& window, std::function<void()> moved);
 /// Whether the focus of its window is in this control.
 bool HoldsFocus(const wxWindow& control);
 
+/// Calls `pressed` whenever a button of the mouse goes down in a window, before anything else learns of it,
+/// for the window's whole life. A control that is disabled makes no difference.
+void ObserveMousePress(wxWindow& window, std::function<void()> pressed);
+
 /// Lets a button be pressed by the mouse alone, without taking the focus from where it is.
 void KeepFocusAway(wxButton& button);
+/// Goes on with an access key, such as Alt+S, when the control that had the keyboard has been taken out of
+/// its window meanwhile.
+void HandOnAccessKey(wxWindow& window, wxKeyEvent& event);
 /// The style of a line of text that gets Tab and Enter itself, in place of the window around it.
 long EveryKeyStyle();
 

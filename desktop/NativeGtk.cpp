@@ -36,14 +36,21 @@ GtkWidget* FocusWidgetOf(wxWindow& window) {
     return list != nullptr ? list->GtkGetTreeView() : window.GetHandle();
 }
 
-using Moved = std::function<void()>;
+constexpr guint kAnyButton = 0;
+constexpr int kOnTheWayDown = 1;
+
+using Told = std::function<void()>;
 
 void TellMoved(_GtkWindow* /*window*/, GtkWidget* /*focused*/, gpointer moved) {
-    (*static_cast<Moved*>(moved))();
+    (*static_cast<Told*>(moved))();
 }
 
-void ForgetMoved(gpointer moved, GClosure* /*closure*/) {
-    delete static_cast<Moved*>(moved);
+void TellPressed(_GtkGesture* /*gesture*/, int /*count*/, double /*x*/, double /*y*/, gpointer pressed) {
+    (*static_cast<Told*>(pressed))();
+}
+
+void ForgetTold(gpointer told, GClosure* /*closure*/) {
+    delete static_cast<Told*>(told);
 }
 
 void UnmakeButton(_GtkTreeViewColumn* column, GParamSpec* /*property*/, gpointer /*unused*/) {
@@ -206,9 +213,21 @@ BoxInside InsideOf(const wxStaticBox& box) {
 }
 
 void ObserveFocus(wxWindow& window, std::function<void()> moved) {
-    auto* kept = new Moved(std::move(moved));
-    g_signal_connect_data(window.m_widget, "set-focus", G_CALLBACK(TellMoved), kept, ForgetMoved,
+    auto* kept = new Told(std::move(moved));
+    g_signal_connect_data(window.m_widget, "set-focus", G_CALLBACK(TellMoved), kept, ForgetTold,
                           G_CONNECT_AFTER);
+}
+
+void ObserveMousePress(wxWindow& window, std::function<void()> pressed) {
+    // It sees each press on its way down to the widget under the mouse, and leaves it alone.
+    auto* gesture = gtk_gesture_multi_press_new(window.m_widget);
+    gtk_gesture_single_set_button(reinterpret_cast<_GtkGestureSingle*>(gesture), kAnyButton);
+    gtk_event_controller_set_propagation_phase(reinterpret_cast<_GtkEventController*>(gesture),
+                                               kOnTheWayDown);
+    g_signal_connect_data(gesture, "pressed", G_CALLBACK(TellPressed), new Told(std::move(pressed)),
+                          ForgetTold, GConnectFlags{});
+    g_signal_connect_data(window.m_widget, "destroy", G_CALLBACK(g_object_unref), gesture, nullptr,
+                          G_CONNECT_SWAPPED);
 }
 
 bool HoldsFocus(const wxWindow& control) {
@@ -220,6 +239,13 @@ bool HoldsFocus(const wxWindow& control) {
 
 void KeepFocusAway(wxButton& button) {
     button.SetCanFocus(false);
+}
+
+void HandOnAccessKey(wxWindow& window, wxKeyEvent& event) {
+    constexpr int kAlt = 8;
+    // GTK itself takes the key for done with the control that had it.
+    gtk_window_mnemonic_activate(reinterpret_cast<_GtkWindow*>(gtk_widget_get_toplevel(window.m_widget)),
+                                 gdk_keyval_to_lower(event.GetRawKeyCode()), kAlt);
 }
 
 long EveryKeyStyle() {

@@ -3,10 +3,12 @@
 #include <wx/clipbrd.h>
 #include <wx/dataobj.h>
 #include <wx/dataview.h>
+#include <wx/eventfilter.h>
 #include <wx/msw/wrapwin.h>
 #include <wx/statbox.h>
 #include <wx/textctrl.h>
 
+#include <memory>
 #include <utility>
 
 #include "desktop/AccessibleMsw.h"
@@ -45,6 +47,36 @@ class NamedList : public wxDataViewCtrlAccessible {
 
   private:
     wxString name_;
+};
+
+/// Tells of each press of the mouse in a window. The system hands one on a disabled control to the window
+/// below it.
+class PressFilter : public wxEventFilter {
+  public:
+    PressFilter(const wxWindow& window, std::function<void()> pressed)
+        : window_(window), pressed_(std::move(pressed)) {
+        wxEvtHandler::AddFilter(this);
+    }
+    ~PressFilter() override { wxEvtHandler::RemoveFilter(this); }
+    PressFilter(const PressFilter&) = delete;
+    PressFilter& operator=(const PressFilter&) = delete;
+
+    int FilterEvent(wxEvent& event) override {
+        const auto* mouse = dynamic_cast<const wxMouseEvent*>(&event);
+        if (mouse != nullptr && (mouse->ButtonDown() || mouse->ButtonDClick()) && IsInWindow(*mouse)) {
+            pressed_();
+        }
+        return Event_Skip;
+    }
+
+  private:
+    bool IsInWindow(const wxMouseEvent& event) const {
+        auto* control = dynamic_cast<wxWindow*>(event.GetEventObject());
+        return control != nullptr && wxGetTopLevelParent(control) == &window_;
+    }
+
+    const wxWindow& window_;
+    std::function<void()> pressed_;
 };
 
 wxString TextOnClipboard() {
@@ -118,6 +150,12 @@ void ObserveFocus(wxWindow& window, std::function<void()> moved) {
     });
 }
 
+void ObserveMousePress(wxWindow& window, std::function<void()> pressed) {
+    // The filter lives as long as what is bound to the window.
+    window.Bind(wxEVT_DESTROY, [filter = std::make_shared<PressFilter>(window, std::move(pressed))](
+                                   wxWindowDestroyEvent& event) { event.Skip(); });
+}
+
 bool HoldsFocus(const wxWindow& control) {
     return control.IsDescendant(wxWindow::FindFocus());
 }
@@ -137,6 +175,10 @@ void KeepFocusAway(wxButton& button) {
         press.SetEventObject(&button);
         button.ProcessWindowEvent(press);
     });
+}
+
+void HandOnAccessKey(wxWindow& /*window*/, wxKeyEvent& event) {
+    event.Skip(); // the system makes a second message of it
 }
 
 long EveryKeyStyle() {

@@ -288,5 +288,26 @@ TEST_F(GridEditing, TypingBringsAnOpenCellThatWasScrolledAwayBackIntoView) {
     });
 }
 
+TEST_F(GridEditing, AClickIntoTheOpenCellKeepsItOpen) {
+    Play([&] {
+        OpenEditor(2, 1);
+        hands->Click(PlaceOfCell(2, 1));
+        Press(WXK_END);
+        Type("!");
+        WaitForEditor("Metres!");
+    });
+}
+
+TEST_F(GridEditing, AClickThatTakesTheKeyboardNowhereCommitsToo) {
+    Play([&] {
+        OpenEditor(2, 1);
+        Type("Ells");
+        WaitForEditor("Ells");
+        hands->Click(PlaceOfHeader());
+        WaitForNoEditor();
+        EXPECT_EQ(Shown(2, 1), "Ells");
+    });
+}
+
 } // namespace
 } // namespace zy::test

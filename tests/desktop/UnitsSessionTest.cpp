@@ -187,6 +187,30 @@ TEST_F(UnitsSession, DeletingTheLastUnitMakesTheFirstCurrentAndLeavesTheKeyboard
     });
 }
 
+TEST_F(UnitsSession, AClickOnTheGreySaveButtonCommitsAnOpenEditWhichTurnsTheButtonOn) {
+    Play([&] {
+        BeginEdit();
+        ASSERT_FALSE(IsEnabled(page().cmdSaveUnits));
+        Click(page().cmdSaveUnits);
+        WaitForNoEditor();
+        WaitForText(2, 1, "Ells");
+        EXPECT_TRUE(IsEnabled(page().cmdSaveUnits));
+        Click(page().cmdSaveUnits);
+        WaitForStatus("Saved");
+    });
+    EXPECT_EQ(File(), kWithElls);
+}
+
+TEST_F(UnitsSession, AltSSavesAnOpenEditAlsoWhereTheSaveButtonIsGrey) {
+    Play([&] {
+        BeginEdit();
+        ASSERT_FALSE(IsEnabled(page().cmdSaveUnits));
+        Press('S', wxMOD_ALT);
+        WaitForStatus("Saved");
+    });
+    EXPECT_EQ(File(), kWithElls);
+}
+
 TEST_F(UnitsSession, AnOpenCellHasRoomForALongUnit) {
     Play([&] {
         ClickCell(1, 0);

@@ -247,5 +247,29 @@ TEST_F(UsersSession, AnOpenExpiryDateShowsTheWholeDate) {
     });
 }
 
+TEST_F(UsersSession, AClickOnTheGreySaveButtonCommitsAnOpenEditWhichTurnsTheButtonOn) {
+    Play([&] {
+        ClickCell(2, kUserName);
+        Type("Bert");
+        WaitForEditor("Bert");
+        ASSERT_FALSE(IsEnabled(page().cmdSaveUsers));
+        Click(page().cmdSaveUsers);
+        WaitForNoEditor();
+        EXPECT_TRUE(IsEnabled(page().cmdSaveUsers));
+        EXPECT_EQ(Shown(2, kUserName), "Bert");
+    });
+}
+
+TEST_F(UsersSession, AltSSavesAnOpenEditAlsoWhereTheSaveButtonIsGrey) {
+    Play([&] {
+        ClickCell(2, kUserName);
+        Type("Bert");
+        WaitForEditor("Bert");
+        Press('S', wxMOD_ALT);
+        WaitForStatus("Saved");
+    });
+    EXPECT_EQ(NamesOf(Table()), (std::vector<std::string>{"Ann", "Bert"}));
+}
+
 } // namespace
 } // namespace zy::test
