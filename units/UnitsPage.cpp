@@ -150,11 +150,13 @@ void UnitsPage::UpDownUnits_DownClick() {
 void UnitsPage::SwapWith(int neighbour) {
     auto& grid = controls.grdUnits;
     const int row = grid.Row();
+    const auto description = grid.Text(row, kUnitDescription);
+    const auto unit = grid.Text(row, kUnit);
     for (const int column : {kUnitDescription, kUnit}) {
-        const auto saved = grid.Text(row, column);
         grid.SetText(row, column, grid.Text(neighbour, column));
-        grid.SetText(neighbour, column, saved);
     }
+    grid.SetText(neighbour, kUnitDescription, description);
+    grid.SetText(neighbour, kUnit, unit);
     grid.Select(neighbour, grid.Column());
 }
 

@@ -36,6 +36,21 @@ TEST_F(MoveUnits, UpSwapsTheRowWithTheOneBeforeAndGoesWithIt) {
     ExpectCurrent(1, kUnit);
 }
 
+TEST_F(MoveUnits, CopiesTheWholeNeighbourBeforeItWritesTheRowThere) {
+    std::vector<std::string> changes;
+    grid.cellChanged.Connect([&](int row, int column) {
+        changes.push_back(std::to_string(row) + "," + std::to_string(column) + "=" +
+                          std::string(grid.Text(row, column)));
+    });
+    grid.Pick(2, kUnit);
+    Down();
+    EXPECT_THAT(changes, ElementsAre("2,1=C", "2,0=c", "3,1=B", "3,0=b"));
+    changes.clear();
+    grid.Pick(2, kUnit);
+    Up();
+    EXPECT_THAT(changes, ElementsAre("2,1=A", "2,0=a", "1,1=C", "1,0=c"));
+}
+
 TEST_F(MoveUnits, DownOnTheLastRowMovesNothingButTurnsSaveOn) {
     grid.Pick(3, 0);
     Down();
