@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "platform/FileError.h"
@@ -55,6 +56,9 @@ class FileSystem {
   public:
     virtual ~FileSystem() = default;
 
+    /// The path as a person writes it on this system, for a text that names a file: where it leads to, be
+    /// there a file or not. What can be no path comes back as it is.
+    virtual std::string DisplayPath(std::string_view path) = 0;
     /// Whether it is certain which place a path means, be there a file or not. Ambiguous when a name on the
     /// way could be one of several that differ by case alone, though one of them may match exactly;
     /// AccessDenied when a folder on the way hides its names, so that nobody can tell. The folders that the
@@ -67,8 +71,13 @@ class FileSystem {
 
     /// A directory search for a normal file of exactly that name; a folder of the name is not found.
     virtual bool Exists(std::string_view path) = 0;
-    /// Opens an existing file for reading, shared for reading and writing.
+    /// Whether anything is there by that path, as the desktop's shell tests it: hidden files and folders are
+    /// found too. Whatever goes wrong counts as nothing there.
+    virtual bool PathExists(std::string_view path) = 0;
+    /// Opens an existing file for reading from its beginning to its end, shared for reading and writing.
     virtual OpenedFile OpenForReading(std::string_view path) = 0;
+    /// The same for a file that was found just before: one that has gone since then is created, and empty.
+    virtual OpenedFile OpenAlwaysForReading(std::string_view path) = 0;
     /// Creates the file anew for writing, emptying one that exists; shared for reading and writing.
     virtual OpenedFile Create(std::string_view path) = 0;
     /// Creates a new file for writing that its owner alone may read and write, whatever is usual for new

@@ -122,6 +122,20 @@ class MemoryFileSystem::Lock final : public FolderLock {
     std::string folder_;
 };
 
+std::string MemoryFileSystem::DisplayPath(std::string_view path) {
+    if (displayed_.empty() || !Key(path).starts_with(displayedFolder_)) {
+        return std::string(path);
+    }
+    auto rest = Normalised(path).substr(displayedFolder_.size());
+    std::replace(rest.begin(), rest.end(), '\\', '/');
+    return displayed_ + rest;
+}
+
+void MemoryFileSystem::SetDisplayed(std::string_view folder, std::string_view displayed) {
+    displayedFolder_ = Key(folder);
+    displayed_ = displayed;
+}
+
 FileError MemoryFileSystem::Locate(std::string_view path) {
     for (std::optional<std::string> part = Key(path); part; part = FolderPart(*part)) {
         if (const auto found = uncertain_.find(*part); found != uncertain_.end()) {
@@ -157,7 +171,17 @@ void MemoryFileSystem::SetFolderLocked(std::string_view folder, bool locked) {
 bool MemoryFileSystem::Exists(std::string_view path) {
     bool found = false;
     operations_.Perform(Line("Exists", path), [&] {
-        found = files_.contains(Key(path));
+        const auto file = files_.find(Key(path));
+        found = file != files_.end() && !file->second->hidden;
+        return FileError::None;
+    });
+    return found;
+}
+
+bool MemoryFileSystem::PathExists(std::string_view path) {
+    bool found = false;
+    operations_.Perform(Line("PathExists", path), [&] {
+        found = files_.contains(Key(path)) || (!path.empty() && IsFolder(Key(path)));
         return FileError::None;
     });
     return found;
@@ -166,6 +190,17 @@ bool MemoryFileSystem::Exists(std::string_view path) {
 OpenedFile MemoryFileSystem::OpenForReading(std::string_view path) {
     OpenedFile opened;
     opened.error = operations_.Perform(Line("OpenForReading", path), [&] { return OpenFound(path, opened); });
+    return opened;
+}
+
+OpenedFile MemoryFileSystem::OpenAlwaysForReading(std::string_view path) {
+    OpenedFile opened;
+    opened.error = operations_.Perform(Line("OpenAlwaysForReading", path), [&] {
+        OpenedFile created;
+        const auto key = Key(path);
+        const auto error = files_.contains(key) ? FileError::None : CreateOrEmpty(path, created);
+        return error == FileError::None ? OpenFound(path, opened) : error;
+    });
     return opened;
 }
 
@@ -244,6 +279,12 @@ void MemoryFileSystem::SetPermissions(std::string_view path, unsigned permission
     }
 }
 
+void MemoryFileSystem::SetHidden(std::string_view path) {
+    if (const auto found = files_.find(Key(path)); found != files_.end()) {
+        found->second->hidden = true;
+    }
+}
+
 void MemoryFileSystem::SetFolderReadOnly(std::string_view folder, bool readOnly) {
     Switch(readOnlyFolders_, Key(folder), readOnly);
 }
@@ -302,7 +343,11 @@ FileError MemoryFileSystem::CreateOrEmpty(std::string_view path, OpenedFile& ope
         return FileError::NotFound;
     }
     const auto lock = EntryLock(key);
-    const bool exists = files_.contains(key);
+    const auto found = files_.find(key);
+    const bool exists = found != files_.end();
+    if (exists && found->second->hidden) {
+        return FileError::AccessDenied;
+    }
     if (lock == FileError::InUse || (lock != FileError::None && !exists)) {
         return lock;
     }

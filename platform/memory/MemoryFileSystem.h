@@ -20,10 +20,11 @@ namespace zy {
 /// Names are found without regard to case, as the code page defines it, and keep the case they were created
 /// with. "/" counts as "\", several in a row as one. A file can be created only in a folder that exists.
 ///
-/// Each operation of FileSystem and of its handles, Size, Locate and LockFolderOf apart, is counted, recorded
-/// and subject to the fault plan: a failing Exists says false, a failing Read reads nothing, all others
-/// return the plan's error and change nothing, but that a Write may be cut short and a Close closes all the
-/// same. Destroying a handle is no operation, and neither are the verbs for tests below.
+/// Each operation of FileSystem and of its handles, Size, DisplayPath, Locate and LockFolderOf apart, is
+/// counted, recorded and subject to the fault plan: a failing Exists or PathExists says false, a failing Read
+/// reads nothing, all others return the plan's error and change nothing, but that a Write may be cut short
+/// and a Close closes all the same. Destroying a handle is no operation, and neither are the verbs for tests
+/// below.
 ///
 /// Handles must not outlive the file system. One whose file is deleted keeps its bytes for itself.
 class MemoryFileSystem final : public FileSystem {
@@ -33,10 +34,13 @@ class MemoryFileSystem final : public FileSystem {
 
     explicit MemoryFileSystem(const CodePage& codePage) : codePage_(codePage) {}
 
+    std::string DisplayPath(std::string_view path) override;
     FileError Locate(std::string_view path) override;
     LockedFolder LockFolderOf(std::string_view path) override;
     bool Exists(std::string_view path) override;
+    bool PathExists(std::string_view path) override;
     OpenedFile OpenForReading(std::string_view path) override;
+    OpenedFile OpenAlwaysForReading(std::string_view path) override;
     OpenedFile Create(std::string_view path) override;
     OpenedFile CreatePrivate(std::string_view path) override;
     FileError Delete(std::string_view path) override;
@@ -60,6 +64,10 @@ class MemoryFileSystem final : public FileSystem {
     /// Does nothing when there is no such file.
     void SetPermissions(std::string_view path, unsigned permissions);
 
+    /// Hides a file: Exists does not find it, and it cannot be created anew over (AccessDenied). Does nothing
+    /// when there is no such file.
+    void SetHidden(std::string_view path);
+
     // The switches belong to the path, whether the file exists or not.
 
     /// In a read-only folder no file is created, deleted or renamed (AccessDenied); those that exist can be
@@ -71,6 +79,9 @@ class MemoryFileSystem final : public FileSystem {
     /// An unreadable file cannot be opened for reading (AccessDenied).
     void SetUnreadable(std::string_view path, bool unreadable = true);
 
+    /// How people call a folder, with "/" between the parts of what is below it; without that, the paths are
+    /// shown as they are.
+    void SetDisplayed(std::string_view folder, std::string_view displayed);
     /// What Locate says of every path below this folder, or of this path itself; None takes it back.
     void SetUncertain(std::string_view path, FileError error);
     /// Another program holds the folder for a save of its own: LockFolderOf gives InUse, without waiting.
@@ -93,6 +104,7 @@ class MemoryFileSystem final : public FileSystem {
         std::string name;
         std::string bytes;
         unsigned permissions = kNewFilePermissions;
+        bool hidden = false;
     };
     using Files = std::map<std::string, std::shared_ptr<File>>;
     class Handle;
@@ -122,6 +134,8 @@ class MemoryFileSystem final : public FileSystem {
     std::set<std::string> held_;
     std::set<std::string> unreadable_;
     std::map<std::string, FileError> uncertain_;
+    std::string displayedFolder_;
+    std::string displayed_;
     std::set<std::string> lockedByOthers_;
     std::set<std::string> locked_;
     std::optional<std::uint64_t> capacity_;

@@ -31,6 +31,7 @@ OpenedFile Open(const std::string& path, int flags, mode_t permissions) {
     if (const auto error = TypeError(status.st_mode); error != FileError::None) {
         return {.handle = nullptr, .error = error};
     }
+    ::posix_fadvise(file.Number(), 0, 0, POSIX_FADV_SEQUENTIAL);
     return {.handle = std::make_unique<PosixFile>(std::move(file)), .error = FileError::None};
 }
 
@@ -79,6 +80,13 @@ FileError PosixFile::Close() {
 
 OpenedFile OpenPosixFileForReading(const std::string& path) {
     return Open(path, O_RDONLY, 0);
+}
+
+OpenedFile OpenOrCreatePosixFileForReading(const std::string& path) {
+    // Asked to create what is there, the system could refuse another user's file in a folder for everybody.
+    auto opened = OpenPosixFileForReading(path);
+    return opened.error == FileError::NotFound ? Open(path, O_RDONLY | O_CREAT, kReadWriteForAll)
+                                               : std::move(opened);
 }
 
 OpenedFile CreatePosixFile(const std::string& path, IfExists ifExists, For whom) {

@@ -28,7 +28,10 @@ class PosixFile final : public FileHandle {
 enum class IfExists { Empties, Fails };
 enum class For { All, Owner };
 
+/// The system is told that the file is read from its beginning to its end.
 OpenedFile OpenPosixFileForReading(const std::string& path);
+/// The same, but that a missing file is created.
+OpenedFile OpenOrCreatePosixFileForReading(const std::string& path);
 /// A new file gets what the user's file creation mask leaves of reading and writing for all, or for its owner
 /// alone.
 OpenedFile CreatePosixFile(const std::string& path, IfExists ifExists, For whom = For::All);

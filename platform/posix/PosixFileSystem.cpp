@@ -26,6 +26,11 @@ FileError RenameResolved(const std::string& from, const std::string& to) {
 
 } // namespace
 
+std::string PosixFileSystem::DisplayPath(std::string_view path) {
+    const auto resolved = paths_.Resolve(path);
+    return resolved ? text_.TextToInside(*resolved) : std::string(path);
+}
+
 FileError PosixFileSystem::Locate(std::string_view path) {
     return paths_.Locate(path);
 }
@@ -41,9 +46,21 @@ bool PosixFileSystem::Exists(std::string_view path) {
     return resolved && ::stat(resolved->c_str(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
+bool PosixFileSystem::PathExists(std::string_view path) {
+    const auto resolved = paths_.Resolve(path);
+    struct stat status {};
+    return resolved && ::stat(resolved->c_str(), &status) == 0;
+}
+
 OpenedFile PosixFileSystem::OpenForReading(std::string_view path) {
     const auto resolved = paths_.Resolve(path);
     return resolved ? OpenPosixFileForReading(*resolved)
+                    : OpenedFile{.handle = nullptr, .error = FileError::NotFound};
+}
+
+OpenedFile PosixFileSystem::OpenAlwaysForReading(std::string_view path) {
+    const auto resolved = paths_.Resolve(path);
+    return resolved ? OpenOrCreatePosixFileForReading(*resolved)
                     : OpenedFile{.handle = nullptr, .error = FileError::NotFound};
 }
 

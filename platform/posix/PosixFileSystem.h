@@ -16,13 +16,16 @@ namespace zy {
 class PosixFileSystem final : public FileSystem {
   public:
     explicit PosixFileSystem(const CodePage& codePage, std::vector<KnownFolder> known = {})
-        : paths_(codePage, std::move(known)) {}
+        : text_(codePage), paths_(codePage, std::move(known)) {}
 
+    std::string DisplayPath(std::string_view path) override;
     FileError Locate(std::string_view path) override;
     /// Behind links the folder that the file really stands in, so that those who share it keep apart.
     LockedFolder LockFolderOf(std::string_view path) override;
     bool Exists(std::string_view path) override;
+    bool PathExists(std::string_view path) override;
     OpenedFile OpenForReading(std::string_view path) override;
+    OpenedFile OpenAlwaysForReading(std::string_view path) override;
     OpenedFile Create(std::string_view path) override;
     OpenedFile CreatePrivate(std::string_view path) override;
     FileError Delete(std::string_view path) override;
@@ -33,6 +36,7 @@ class PosixFileSystem final : public FileSystem {
     FileError CopyPermissions(std::string_view from, std::string_view to) override;
 
   private:
+    PathText text_;
     PathResolver paths_;
 };
 

@@ -89,6 +89,10 @@ OpenedFile OpenWindowsFile(const std::string& path) {
     return Open(path, {.access = GENERIC_READ, .disposition = OPEN_EXISTING});
 }
 
+OpenedFile OpenOrCreateWindowsFile(const std::string& path) {
+    return Open(path, {.access = GENERIC_READ, .disposition = OPEN_ALWAYS});
+}
+
 OpenedFile CreateWindowsFile(const std::string& path) {
     auto created = Open(path, {.access = GENERIC_WRITE, .disposition = CREATE_ALWAYS});
     if (created.error == FileError::AccessDenied && IsWriteProtected(path)) {

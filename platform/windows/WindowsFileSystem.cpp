@@ -1,6 +1,8 @@
 #include "platform/windows/WindowsFileSystem.h"
 
 #include <windows.h>
+// After windows.h, which it leans on.
+#include <shlwapi.h>
 
 #include "platform/windows/ErrorCode.h"
 #include "platform/windows/FilePermissions.h"
@@ -85,8 +87,17 @@ bool WindowsFileSystem::Exists(std::string_view path) {
     return rooted && !HasWildcard(*rooted) && FindsNormalFile(*rooted);
 }
 
+bool WindowsFileSystem::PathExists(std::string_view path) {
+    const auto rooted = RootedPath(path);
+    return rooted && ::PathFileExistsA(rooted->c_str()) == TRUE;
+}
+
 OpenedFile WindowsFileSystem::OpenForReading(std::string_view path) {
     return OpenBy(OpenWindowsFile, path);
+}
+
+OpenedFile WindowsFileSystem::OpenAlwaysForReading(std::string_view path) {
+    return OpenBy(OpenOrCreateWindowsFile, path);
 }
 
 OpenedFile WindowsFileSystem::Create(std::string_view path) {

@@ -7,11 +7,14 @@ namespace zy {
 /// The files of the system. Paths are its own: from a drive, a root or a server on.
 class WindowsFileSystem final : public FileSystem {
   public:
+    std::string DisplayPath(std::string_view path) override { return std::string(path); }
     FileError Locate(std::string_view path) override;
     LockedFolder LockFolderOf(std::string_view path) override;
     /// A file that is hidden or the system's is no normal one.
     bool Exists(std::string_view path) override;
+    bool PathExists(std::string_view path) override;
     OpenedFile OpenForReading(std::string_view path) override;
+    OpenedFile OpenAlwaysForReading(std::string_view path) override;
     OpenedFile Create(std::string_view path) override;
     OpenedFile CreatePrivate(std::string_view path) override;
     FileError Delete(std::string_view path) override;

@@ -22,6 +22,10 @@ class MemoryDisk final : public Disk {
     std::optional<unsigned> Permissions(std::string_view name) const override {
         return files_.Permissions(Path(name));
     }
+    bool Hide(std::string_view name) override {
+        files_.SetHidden(Path(name));
+        return true;
+    }
     bool ForbidReading(std::string_view name) override {
         files_.SetUnreadable(Path(name));
         return true;

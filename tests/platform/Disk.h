@@ -39,6 +39,8 @@ class Disk {
 
     // These say false, and change nothing, where the system of the tests does not let itself be set so.
 
+    /// Hides a file, as an attribute of its does.
+    [[nodiscard]] virtual bool Hide(std::string_view name) = 0;
     /// From here on the user may not read the file.
     [[nodiscard]] virtual bool ForbidReading(std::string_view name) = 0;
     /// From here on the user may not change the folder.

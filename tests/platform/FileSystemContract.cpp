@@ -11,6 +11,7 @@ namespace zy::test {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::IsEmpty;
 using ::testing::Optional;
 using namespace std::string_literals;
@@ -118,6 +119,45 @@ TEST_P(FileSystemContract, FindsNothingByAPathThatIsNone) {
     }
 }
 
+TEST_P(FileSystemContract, FindsAnythingAtAPathByTheTestOfTheShell) {
+    disk->AddFolder("folder");
+    disk->Put("ZYRules.sys", "");
+    for (const auto& path : {disk->Path("zyRULES.SYS"), disk->Path("FOLDER"), disk->Folder()}) {
+        EXPECT_TRUE(Files().PathExists(path)) << path;
+    }
+}
+
+TEST_P(FileSystemContract, FindsNothingByTheTestOfTheShellWhereNothingIs) {
+    disk->Put("a.sys", "");
+    for (const auto& path :
+         {disk->Path("missing.sys"), disk->Path(R"(missing\a.sys)"), disk->Path(R"(a.sys\b.sys)"),
+          disk->Path("*.sys"), ""s, "a.sys"s, disk->Path("a.sys\0"s), disk->Path("\0"s)}) {
+        EXPECT_FALSE(Files().PathExists(path)) << path;
+    }
+}
+
+TEST_P(FileSystemContract, FindsAHiddenFileByTheTestOfTheShellAlone) {
+    disk->Put("a.sys", "12345");
+    if (!disk->Hide("a.sys")) {
+        GTEST_SKIP() << "This system hides files by their names alone.";
+    }
+    EXPECT_FALSE(Files().Exists(disk->Path("a.sys")));
+    EXPECT_TRUE(Files().PathExists(disk->Path("a.sys")));
+    EXPECT_EQ(ReadAll("a.sys"), "12345");
+    EXPECT_EQ(Files().Delete(disk->Path("a.sys")), FileError::None);
+    EXPECT_FALSE(Files().PathExists(disk->Path("a.sys")));
+}
+
+TEST_P(FileSystemContract, ShowsAPathByWhichTheFileIsFound) {
+    disk->AddFolder("folder");
+    disk->Put("a.sys", "");
+    EXPECT_TRUE(Files().Exists(Files().DisplayPath(disk->Path("A.SYS"))));
+    EXPECT_TRUE(Files().Create(Files().DisplayPath(disk->Path(R"(FOLDER\new.sys)"))).handle);
+    EXPECT_TRUE(Files().Exists(disk->Path(R"(folder\new.sys)")));
+    EXPECT_THAT(Files().DisplayPath(disk->Path("missing.sys")), EndsWith("missing.sys"));
+    EXPECT_EQ(Files().DisplayPath("a.sys"), "a.sys");
+}
+
 TEST_P(FileSystemContract, TakesASlashForABackslash) {
     disk->AddFolder("folder");
     const auto file = Files().Create(disk->Path(R"(folder\a.sys)"));
@@ -168,6 +208,34 @@ TEST_P(FileSystemContract, SaysWhyAFileCannotBeOpened) {
     EXPECT_EQ(OpenError(disk->Path(R"(a.sys\b.sys)")), FileError::NotFound);
     EXPECT_EQ(OpenError("a.sys"), FileError::NotFound);
     EXPECT_EQ(OpenError(disk->Path("folder")), FileError::IsFolder);
+}
+
+TEST_P(FileSystemContract, OpensAFileThatWasFoundAsItIs) {
+    disk->Put("a.sys", "12345");
+    const auto opened = Files().OpenAlwaysForReading(disk->Path("A.SYS"));
+    ASSERT_TRUE(opened.handle);
+    EXPECT_EQ(ReadUpTo(*opened.handle, 10), "12345");
+    EXPECT_NE(opened.handle->Write("x"), FileError::None);
+    EXPECT_THAT(disk->Names(), ElementsAre("a.sys"));
+    EXPECT_THAT(disk->Get("a.sys"), Optional("12345"s));
+}
+
+TEST_P(FileSystemContract, OpensAFileThatHasGoneSinceItWasFoundAsAnEmptyOne) {
+    const auto opened = Files().OpenAlwaysForReading(disk->Path("Gone.sys"));
+    ASSERT_TRUE(opened.handle);
+    EXPECT_EQ(opened.handle->Size(), 0U);
+    EXPECT_EQ(ReadUpTo(*opened.handle, 10), "");
+    EXPECT_THAT(disk->Names(), ElementsAre("Gone.sys"));
+    EXPECT_THAT(disk->Get("Gone.sys"), Optional(""s));
+}
+
+TEST_P(FileSystemContract, SaysWhyAFileThatWasFoundCannotBeOpened) {
+    disk->AddFolder("folder");
+    const auto error = [&](const std::string& path) { return Files().OpenAlwaysForReading(path).error; };
+    EXPECT_EQ(error(disk->Path("folder")), FileError::IsFolder);
+    EXPECT_EQ(error(disk->Path(R"(missing\a.sys)")), FileError::NotFound);
+    EXPECT_EQ(error("a.sys"), FileError::NotFound);
+    EXPECT_THAT(disk->Names(), IsEmpty());
 }
 
 TEST_P(FileSystemContract, RefusesToOpenAFileThatTheUserMayNotRead) {

@@ -32,6 +32,7 @@ class PosixDisk final : public FolderDisk {
         const bool found = ::stat(RealFolder().Path(NameToOutside(name)).c_str(), &status) == 0;
         return found ? std::optional<unsigned>(status.st_mode & 07777U) : std::nullopt;
     }
+    bool Hide(std::string_view /*name*/) override { return false; }
     bool ForbidReading(std::string_view name) override {
         SetPermissions(name, 0200);
         user_.emplace(RealFolder().Path());

@@ -10,6 +10,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "support/TemporaryFolder.h"
 
@@ -20,6 +21,32 @@ namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 using ::testing::Optional;
 using namespace std::string_literals;
+
+/// What the system was told of how a part of a file will be used.
+struct Advice {
+    off_t from;
+    off_t length; ///< 0: to the end
+    int kind;
+
+    bool operator==(const Advice&) const = default;
+};
+
+std::vector<Advice>& AdviceGiven() {
+    static std::vector<Advice> given;
+    return given;
+}
+
+} // namespace
+} // namespace zy::test
+
+/// In place of the system's own, which lets nobody look at what it was told.
+extern "C" int posix_fadvise(int /*file*/, off_t from, off_t length, int kind) noexcept {
+    zy::test::AdviceGiven().push_back({from, length, kind});
+    return 0;
+}
+
+namespace zy::test {
+namespace {
 
 /// Sets the file creation mask for as long as it lives.
 class CreationMask {
@@ -89,6 +116,27 @@ TEST_F(PosixFileSystemTest, KeepsItsFilesFromProgramsThatItStarts) {
         ASSERT_EQ(numbers.size(), 1U) << name;
         EXPECT_NE(::fcntl(numbers.front(), F_GETFD) & FD_CLOEXEC, 0) << name;
     }
+}
+
+TEST_F(PosixFileSystemTest, TellsTheSystemThatItGoesThroughEveryFileFromItsBeginningToItsEnd) {
+    AdviceGiven().clear();
+    folder.Put("a.sys", "");
+    for (const auto opened :
+         {files.OpenForReading(Path("a.sys")).error, files.OpenAlwaysForReading(Path("a.sys")).error,
+          files.Create(Path("a.sys")).error, files.CreatePrivate(Path("b.sys")).error}) {
+        EXPECT_EQ(opened, FileError::None);
+    }
+    EXPECT_THAT(
+        AdviceGiven(),
+        ::testing::AllOf(::testing::SizeIs(4),
+                         ::testing::Each(Advice{.from = 0, .length = 0, .kind = POSIX_FADV_SEQUENTIAL})));
+}
+
+TEST_F(PosixFileSystemTest, ShowsAPathAsTheSystemHasIt) {
+    folder.AddFolder("Settings");
+    folder.Put("Settings/ZYUnits.sys", "");
+    EXPECT_EQ(files.DisplayPath(Path(R"(SETTINGS\ZYUNITS.SYS)")), folder.Path("Settings/ZYUnits.sys"));
+    EXPECT_EQ(files.DisplayPath(Path(R"(SETTINGS\NEW.SYS)")), folder.Path("Settings/NEW.SYS"));
 }
 
 TEST_F(PosixFileSystemTest, ClosesTheFileOfAHandleThatGoes) {

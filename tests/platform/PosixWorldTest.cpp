@@ -121,6 +121,15 @@ TEST(PosixWorldTest, RecyclesTheTableThatItReads) {
     EXPECT_THAT(RecyclePlaces::BytesInDesktopTrash(), ::testing::ElementsAre("users"));
 }
 
+TEST(PosixWorldTest, ShowsThePathsThatItPutsTogetherInCapitalsAsTheSystemHasThem) {
+    const TemporaryFolder folder;
+    folder.AddFolder("Gr\u00F6\u00DFe/sys");
+    const auto outside = folder.Path("Gr\u00F6\u00DFe/sys");
+    const EnvironmentVariable named("ZYSETUP_SYSTEM_DIR", outside);
+    PosixWorld world(2, kArguments);
+    EXPECT_EQ(world.codePage.ToUtf8(world.files.DisplayPath(TablePath(world))), outside + "/ZYSECURE.DBF");
+}
+
 TEST(PosixWorldTest, KnowsTheFolderOfTheRunningProgram) {
     PosixWorld world(2, kArguments);
     const auto program = std::filesystem::read_symlink("/proc/self/exe");

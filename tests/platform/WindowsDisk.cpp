@@ -42,6 +42,9 @@ class WindowsDisk final : public FolderDisk {
     std::optional<unsigned> Permissions(std::string_view name) const override {
         return AccessFigures(Path(name));
     }
+    bool Hide(std::string_view name) override {
+        return ::SetFileAttributesA(Path(name).c_str(), FILE_ATTRIBUTE_HIDDEN) != FALSE;
+    }
     bool ForbidReading(std::string_view name) override {
         SetPermissions(name, 0200);
         return !CanOpen(Path(name), GENERIC_READ, OPEN_EXISTING, 0);

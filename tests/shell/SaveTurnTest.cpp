@@ -16,10 +16,13 @@ constexpr auto kPath = R"(C:\SYS\ZYUNITS.SYS)";
 /// Files of which nothing is known but how they answer to being held.
 class FilesThatLock : public FileSystem {
   public:
+    MOCK_METHOD(std::string, DisplayPath, (std::string_view), (override));
     MOCK_METHOD(FileError, Locate, (std::string_view), (override));
     MOCK_METHOD(LockedFolder, LockFolderOf, (std::string_view), (override));
     MOCK_METHOD(bool, Exists, (std::string_view), (override));
+    MOCK_METHOD(bool, PathExists, (std::string_view), (override));
     MOCK_METHOD(OpenedFile, OpenForReading, (std::string_view), (override));
+    MOCK_METHOD(OpenedFile, OpenAlwaysForReading, (std::string_view), (override));
     MOCK_METHOD(OpenedFile, Create, (std::string_view), (override));
     MOCK_METHOD(OpenedFile, CreatePrivate, (std::string_view), (override));
     MOCK_METHOD(FileError, Delete, (std::string_view), (override));
