@@ -38,8 +38,8 @@ class INIfile {
     std::int32_t EqualPos() const { return format_.equalPos; }
     void EqualPos(std::int32_t value) { format_.equalPos = value; }
 
-    /// Replaces the lines by those of a file. A file that is missing or cannot be read leaves none, without
-    /// a word; of one that can be read in part, the lines of that part are taken.
+    /// Replaces the lines by those of a file, be it hidden or not. A file that is missing or cannot be read
+    /// leaves none, without a word; of one that can be read in part, the lines of that part are taken.
     ///
     /// Taken are header lines, whose Group and Section both hold the header, and lines "key=value", whose
     /// Group is the last header; headers and keys come out in capitals, whatever UcaseSection says. Not
@@ -51,11 +51,19 @@ class INIfile {
     /// Writes the lines, as INIfileText has them, in place of the file. Run-time error 6, with the file
     /// untouched, when there are more than 32,767.
     ///
-    /// The old file is deleted first and failures are silent: when the new one cannot be created there is
-    /// none, when the disk fills up there is the part that was written.
+    /// The old file is deleted first, also a hidden one, and failures are silent: when the new one cannot be
+    /// created there is none, when the disk fills up there is the part that was written.
     void SaveFile(std::string_view Filename);
 
   private:
+    /// Whether the shell finds anything by that path; whatever goes wrong counts as nothing.
+    bool FileExists(std::string_view path) const;
+    /// Adds the lines of a file's text that are to be taken; they refer to the text.
+    void AddLines(const FileText& text);
+    /// Takes a line apart, in its place, and returns its end, which must stand ahead. The key comes out empty
+    /// when the line is not to be taken.
+    char* ParseLine(char* line, std::string_view& key, std::string_view& value) const;
+
     FileSystem& files_;
     const CodePage& codePage_;
     TraceChannel& trace_;

@@ -5,6 +5,13 @@
 #include "basics/RuntimeError.h"
 
 namespace zy {
+namespace {
+
+[[noreturn]] void RaiseNoSuchKey() {
+    throw RuntimeError(5, "Invalid procedure call or argument");
+}
+
+} // namespace
 
 INIline& INIlines::Add(std::string_view group, std::string_view section, std::string_view value) {
     return lines_.emplace_back(group, section, value);
@@ -17,6 +24,14 @@ Int16 INIlines::Clear() {
 
 void INIlines::Remove(std::int32_t index) {
     lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(Checked(index)));
+}
+
+INIline& INIlines::Item(std::string_view /*key*/) const {
+    RaiseNoSuchKey();
+}
+
+void INIlines::Remove(std::string_view /*key*/) {
+    RaiseNoSuchKey();
 }
 
 const FileText& INIlines::Keep(FileText text) {

@@ -13,8 +13,8 @@ namespace zy {
 /// The lines of a settings file in their order, counted from 1.
 ///
 /// A reference to a line stays valid until a line is removed or the collection is cleared or goes away;
-/// adding lines does not touch it. A position that no line has is run-time error 9 and changes nothing. Lines
-/// have no keys by which they could be asked for.
+/// adding lines does not touch it. A position that no line has is run-time error 9 and changes nothing. So is
+/// any key run-time error 5, for Add gives the lines none.
 class INIlines {
   public:
     /// The lines from the first to the last, for a loop over them.
@@ -36,9 +36,11 @@ class INIlines {
     Int16 Clear();
     INIline& Item(std::int32_t index) { return lines_[Checked(index)]; }
     const INIline& Item(std::int32_t index) const { return lines_[Checked(index)]; }
+    [[noreturn]] INIline& Item(std::string_view key) const;
     std::int32_t Count() const { return static_cast<std::int32_t>(lines_.size()); }
     /// Takes a line out; those behind it move up by one place.
     void Remove(std::int32_t index);
+    [[noreturn]] void Remove(std::string_view key);
 
     Enumerator NewEnum() { return {lines_.begin(), lines_.end()}; }
     auto begin() { return lines_.begin(); }

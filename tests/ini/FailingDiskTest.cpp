@@ -85,7 +85,7 @@ using enum Held;
 
 TEST_F(FailingDisk, ThatFailsOnceLeavesNoFileWhenItCannotBeCreatedAndAnEmptyOneWhenItCannotBeWritten) {
     ExpectOutcomes(kOldText, {},
-                   {{"Exists", New},
+                   {{"PathExists", New},
                     {"Delete", New},
                     {"Create", NoFile},
                     {"Write", Nothing},
@@ -95,7 +95,7 @@ TEST_F(FailingDisk, ThatFailsOnceLeavesNoFileWhenItCannotBeCreatedAndAnEmptyOneW
 
 TEST_F(FailingDisk, ThatFailsOnceInsideTheWriteLeavesThePartThatWasWritten) {
     ExpectOutcomes(kOldText, {.cutShort = true},
-                   {{"Exists", New},
+                   {{"PathExists", New},
                     {"Delete", New},
                     {"Create", NoFile},
                     {"Write", Half},
@@ -105,7 +105,7 @@ TEST_F(FailingDisk, ThatFailsOnceInsideTheWriteLeavesThePartThatWasWritten) {
 
 TEST_F(FailingDisk, ThatGoesAwayLeavesTheOldFileUntilItIsDeleted) {
     ExpectOutcomes(kOldText, {.lasting = true},
-                   {{"Exists", Old},
+                   {{"PathExists", Old},
                     {"Delete", Old},
                     {"Create", NoFile},
                     {"Write", Nothing},
@@ -115,7 +115,7 @@ TEST_F(FailingDisk, ThatGoesAwayLeavesTheOldFileUntilItIsDeleted) {
 
 TEST_F(FailingDisk, ThatGoesAwayInsideTheWriteLeavesThePartThatWasWritten) {
     ExpectOutcomes(kOldText, {.lasting = true, .cutShort = true},
-                   {{"Exists", Old},
+                   {{"PathExists", Old},
                     {"Delete", Old},
                     {"Create", NoFile},
                     {"Write", Half},
@@ -127,7 +127,7 @@ TEST_F(FailingDisk, ThatFailsAtTheFirstSaveLeavesNoFileOrThePartThatWasWritten) 
     for (const bool lasting : {false, true}) {
         SCOPED_TRACE(lasting);
         ExpectOutcomes(std::nullopt, {.lasting = lasting, .cutShort = true},
-                       {{"Exists", lasting ? NoFile : New},
+                       {{"PathExists", lasting ? NoFile : New},
                         {"Create", NoFile},
                         {"Write", Half},
                         {"Flush", New},

@@ -78,6 +78,15 @@ TEST_F(INIlinesTest, RaisesSubscriptOutOfRangeForAnyLineWhenItIsEmpty) {
     EXPECT_EQ(ErrorNumber([&] { lines.Remove(1); }), 9);
 }
 
+TEST_F(INIlinesTest, RaisesInvalidProcedureCallForAnyKey) {
+    AddSections({"a", "b"});
+    for (const char* key : {"a", "1", ""}) {
+        EXPECT_EQ(ErrorNumber([&] { lines.Item(key); }), 5) << key;
+        EXPECT_EQ(ErrorNumber([&] { lines.Remove(key); }), 5) << key;
+    }
+    EXPECT_THAT(Sections(lines), ElementsAre("a", "b"));
+}
+
 TEST_F(INIlinesTest, MovesLaterLinesUpWhenOneIsRemoved) {
     AddSections({"a", "b", "c", "d"});
     lines.Remove(2);

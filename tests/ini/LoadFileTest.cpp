@@ -3,6 +3,7 @@
 namespace zy::test {
 namespace {
 
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -108,8 +109,37 @@ TEST_F(LoadFile, ReadsTheFileWithOneReadAndWritesNothing) {
     world.files.Plan({});
     file.LoadFile(kPath);
     EXPECT_THAT(world.files.Operations().Lines(),
-                ElementsAre(R"(OpenForReading C:\SYS\Demo.ini)", R"(Read C:\SYS\Demo.ini)"));
+                ElementsAre(R"(PathExists C:\SYS\Demo.ini)", R"(OpenAlwaysForReading C:\SYS\Demo.ini)",
+                            R"(Read C:\SYS\Demo.ini)", R"(Close C:\SYS\Demo.ini)"));
     EXPECT_EQ(world.files.Get(kPath), "a=1\r\n");
+}
+
+TEST_F(LoadFile, ClosesTheFileBeforeItLooksAtTheLines) {
+    world.files.Put(kPath, std::string(40'000, 'x') + "\r\n");
+    world.files.Plan({});
+    EXPECT_EQ(ErrorNumber([&] { file.LoadFile(kPath); }), 6);
+    EXPECT_THAT(world.files.Operations().Lines(), Contains(R"(Close C:\SYS\Demo.ini)"));
+}
+
+TEST_F(LoadFile, ReadsAHiddenFile) {
+    world.files.Put(kPath, "a=1\r\n");
+    world.files.SetHidden(kPath);
+    file.LoadFile(kPath);
+    EXPECT_THAT(Lines(), ElementsAre(Texts{"", "A", "1"}));
+}
+
+TEST_F(LoadFile, OpensNothingWhereNothingIs) {
+    world.files.Plan({});
+    file.LoadFile(kPath);
+    EXPECT_THAT(world.files.Operations().Lines(), ElementsAre(R"(PathExists C:\SYS\Demo.ini)"));
+}
+
+TEST_F(LoadFile, TakesAFailureToLookForTheFileAsNoFile) {
+    world.files.Put(kPath, "a=1\r\n");
+    world.files.Plan({.operation = 1});
+    file.LoadFile(kPath);
+    EXPECT_THAT(Lines(), IsEmpty());
+    EXPECT_THAT(world.files.Operations().Lines(), ::testing::SizeIs(1));
 }
 
 TEST_F(LoadFile, SendsNoTrace) {

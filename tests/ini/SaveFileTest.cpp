@@ -57,6 +57,13 @@ TEST_F(SaveFile, WritesABlankLineForALineOfBlanks) {
     EXPECT_EQ(Save(), "\r\n");
 }
 
+TEST_F(SaveFile, TakesThePlaceOfAHiddenFile) {
+    world.files.Put(kPath, "old");
+    world.files.SetHidden(kPath);
+    Document().Add("[new]");
+    EXPECT_EQ(Save(), "[NEW]\r\n");
+}
+
 TEST_F(SaveFile, WritesAnEmptyCollectionAsAFileOfZeroBytes) {
     world.files.Put(kPath, "old");
     EXPECT_EQ(Save(), "");
@@ -155,7 +162,7 @@ TEST_F(SaveFile, DeletesTheOldFileFirstAndWritesTheNewOneWithOneWrite) {
     world.files.Plan({});
     Save();
     EXPECT_THAT(world.files.Operations().Lines(),
-                ElementsAre(R"(Exists C:\SYS\Demo.ini)", R"(Delete C:\SYS\Demo.ini)",
+                ElementsAre(R"(PathExists C:\SYS\Demo.ini)", R"(Delete C:\SYS\Demo.ini)",
                             R"(Create C:\SYS\Demo.ini)", R"(Write C:\SYS\Demo.ini)",
                             R"(Flush C:\SYS\Demo.ini)", R"(Close C:\SYS\Demo.ini)"));
 }
@@ -165,7 +172,7 @@ TEST_F(SaveFile, CreatesAFileThatIsNotThere) {
     AddLines(1);
     EXPECT_EQ(Save(), "   K            = V\r\n");
     EXPECT_THAT(world.files.Operations().Lines(),
-                ElementsAre(R"(Exists C:\SYS\Demo.ini)", R"(Create C:\SYS\Demo.ini)",
+                ElementsAre(R"(PathExists C:\SYS\Demo.ini)", R"(Create C:\SYS\Demo.ini)",
                             R"(Write C:\SYS\Demo.ini)", R"(Flush C:\SYS\Demo.ini)",
                             R"(Close C:\SYS\Demo.ini)"));
 }
