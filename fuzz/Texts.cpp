@@ -38,12 +38,13 @@ bool IsRefused(const Fields& fields, std::int32_t field) {
 void CheckFields(std::string_view line) {
     const auto fields = SplitFields(line);
     const auto pieces = Pieces(line, Contains(line, '\t') ? '\t' : ',');
-    Require(fields.Count() == static_cast<std::int32_t>(pieces.size()), "every separator ends a field");
-    for (std::int32_t i = 1; i <= fields.Count(); ++i) {
-        Require(fields[i] == Unquote(pieces[static_cast<std::size_t>(i) - 1]),
+    const auto count = std::get<std::int32_t>(fields[0]);
+    Require(count == static_cast<std::int32_t>(pieces.size()), "every separator ends a field");
+    for (std::int32_t i = 1; i <= count; ++i) {
+        Require(fields.Text(i) == Unquote(pieces[static_cast<std::size_t>(i) - 1]),
                 "a field is its piece, unquoted");
     }
-    Require(IsRefused(fields, 0) && IsRefused(fields, fields.Count() + 1), "there are no other fields");
+    Require(IsRefused(fields, -1) && IsRefused(fields, count + 1), "there are no other fields");
 }
 
 void CheckUnquoted(std::string_view field) {

@@ -29,26 +29,6 @@ const char* Find(char character, const char* begin, const char* end) {
     return found == nullptr ? end : static_cast<const char*>(found);
 }
 
-/// Where a character stands, looked for further on only when the last place found has been passed.
-class Places {
-  public:
-    Places(char character, const char* begin, const char* end)
-        : character_(character), end_(end), place_(Find(character, begin, end)) {}
-
-    /// The first place at or behind a position, which never goes back; the end when there is none.
-    const char* From(const char* position) {
-        if (place_ < position) {
-            place_ = Find(character_, position, end_);
-        }
-        return place_;
-    }
-
-  private:
-    char character_;
-    const char* end_;
-    const char* place_;
-};
-
 /// Where the CR LF of the line that begins here stands; the end when there is none.
 inline const char* FindLineEnd(const char* begin, const char* end) {
     const char* lineFeed = Find('\n', begin, end);
@@ -56,13 +36,6 @@ inline const char* FindLineEnd(const char* begin, const char* end) {
         lineFeed = Find('\n', lineFeed + 1, end);
     }
     return lineFeed == end ? end : lineFeed - 1;
-}
-
-inline std::string_view FieldBetween(const char* begin, const char* end) {
-    const std::string_view field(begin, static_cast<std::size_t>(end - begin));
-    // Most fields have nothing to take off.
-    const bool clean = field.empty() || (field.front() != '"' && field.front() != ' ' && field.back() != ' ');
-    return clean ? field : Unquote(field);
 }
 
 /// Makes room for what a text of ordinary lines holds, so that the cells need not move.
@@ -79,9 +52,12 @@ void ReserveFor(std::string_view text, std::vector<std::string_view>& cells) {
 }
 
 /// Whether something stands there beside separators, as spreadsheets leave them behind short rows.
-bool IsText(const char* begin, const char* end) {
-    constexpr std::string_view kNoText = ",\t \"";
-    return std::any_of(begin, end, [](char c) { return !Contains(kNoText, c); });
+bool IsText(std::string_view rest) {
+    return rest.find_first_not_of(",\t \"") != std::string_view::npos;
+}
+
+bool HasComma(std::string_view description, std::string_view unit) {
+    return Contains(description, ',') || Contains(unit, ',');
 }
 
 /// Counts the lines that are not blank, whatever they end in.
@@ -122,8 +98,6 @@ UnitsLeftOut AppendUnitCells(std::string_view text, std::string_view path,
     ReserveFor(text, cells);
     const char* begin = text.data();
     const char* const textEnd = begin + text.size();
-    Places tabs('\t', begin, textEnd);
-    Places commas(',', begin, textEnd);
     for (;; ++leftOut.lines) {
         const char* const end = FindLineEnd(begin, textEnd);
         if (end == textEnd) {
@@ -133,18 +107,16 @@ UnitsLeftOut AppendUnitCells(std::string_view text, std::string_view path,
         if (leftOut.lines == kMaxItems) {
             RaiseOverflow();
         }
-        const bool byTab = tabs.From(begin) < end;
-        const bool anyComma = commas.From(begin) < end;
-        auto& separators = byTab ? tabs : commas;
-        const char* const first = separators.From(begin);
-        if (first >= end) {
+        LineFields fields({begin, static_cast<std::size_t>(end - begin)});
+        const auto description = fields.Next();
+        if (fields.AtEnd()) {
             RaiseUnitMissing(path, leftOut.lines + 1);
         }
-        const char* const second = std::min(separators.From(first + 1), end);
-        cells.push_back(FieldBetween(first + 1, second));
-        cells.push_back(FieldBetween(begin, first));
-        leftOut.linesCut += IsText(second, end) ? 1 : 0;
-        leftOut.linesWithCommas += byTab && anyComma && std::find(begin, second, ',') != second ? 1 : 0;
+        const auto unit = fields.Next();
+        cells.push_back(unit);
+        cells.push_back(description);
+        leftOut.linesCut += IsText(fields.Rest()) ? 1 : 0;
+        leftOut.linesWithCommas += fields.Separator() == '\t' && HasComma(description, unit) ? 1 : 0;
         begin = end + 2;
     }
 }
@@ -159,13 +131,13 @@ std::string Describe(const UnitsLeftOut& leftOut) {
 
 std::string DescribeMisreading(const Grid& grid, int row) {
     const auto cells = grid.RowTexts(row);
-    if (!Contains(cells[kUnit], ',') && !Contains(cells[kUnitDescription], ',')) {
+    if (!HasComma(cells[kUnitDescription], cells[kUnit])) {
         return {};
     }
     const std::string line = std::string(cells[kUnitDescription]) + ',' + std::string(cells[kUnit]);
     const auto fields = SplitFields(line);
-    return "row " + std::to_string(row) + ": its comma makes it unit " + Quoted(fields[2]) + ", " +
-           Quoted(fields[1]) + " at the next start";
+    return "row " + std::to_string(row) + ": its comma makes it unit " + Quoted(fields.Text(2)) + ", " +
+           Quoted(fields.Text(1)) + " at the next start";
 }
 
 UnitsFileText::UnitsFileText(const Grid& grid) {

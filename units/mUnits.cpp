@@ -51,7 +51,7 @@ void mUnits::ResetGrid() {
 }
 
 void mUnits::ReadUnits() {
-    const auto opened = world_.files.OpenForReading(state_.gsUnitsFile);
+    const auto opened = world_.files.OpenAlwaysForReading(state_.gsUnitsFile);
     if (!opened.handle) {
         leftOut_ = FileName() + " could not be read: " + std::string(Describe(opened.error)) +
                    "; saving replaces all that it holds";
@@ -59,9 +59,11 @@ void mUnits::ReadUnits() {
     }
     const auto size = static_cast<std::uint32_t>(opened.handle->Size());
     auto text = ReadFileText(*opened.handle, size);
+    opened.handle->Close();
     const bool whole = text.size() == size;
-    controls_.grdUnits.AddRowsOf(std::move(text), [this](auto lines, auto& cells) {
-        leftOut_ = Describe(AppendUnitCells(lines, state_.gsUnitsFile, cells));
+    const auto path = world_.files.DisplayPath(state_.gsUnitsFile);
+    controls_.grdUnits.AddRowsOf(std::move(text), [&](auto lines, auto& cells) {
+        leftOut_ = Describe(AppendUnitCells(lines, path, cells));
     });
     if (!whole) {
         leftOut_ = FileName() + " could not be read to its end: " + std::string(Describe(FileError::Other)) +

@@ -1,9 +1,6 @@
 #include "shell/Utilities.h"
 
-#include <algorithm>
-
 #include "basics/RuntimeError.h"
-#include "basics/Text.h"
 
 namespace zy {
 
@@ -40,33 +37,31 @@ bool HoldsText(FileSystem& files, std::string_view path, std::string_view text) 
 }
 
 std::string_view Unquote(std::string_view field) {
-    if (!field.empty() && field.front() == '"' && field.back() == '"') {
+    if (field.empty() || (field.front() != '"' && field.front() != ' ' && field.back() != ' ')) {
+        return field; // as most are
+    }
+    if (field.front() == '"' && field.back() == '"') {
         field = field.size() < 2 ? std::string_view{} : field.substr(1, field.size() - 2);
     }
     return Trim(field);
 }
 
-std::int32_t Fields::Count() const {
-    return static_cast<std::int32_t>(std::count(line_.begin(), line_.end(), separator_)) + 1;
+Fields::Fields(LineFields fields) : elements_{0} {
+    do {
+        elements_.emplace_back(fields.Next());
+    } while (!fields.AtEnd());
+    elements_.front() = static_cast<std::int32_t>(elements_.size()) - 1;
 }
 
-std::string_view Fields::operator[](std::int32_t field) const {
-    if (field < 1) {
+const Fields::Element& Fields::operator[](std::int32_t index) const {
+    if (index < 0 || static_cast<std::size_t>(index) >= elements_.size()) {
         RaiseSubscriptOutOfRange();
     }
-    auto rest = line_;
-    for (; field > 1; --field) {
-        const auto separator = rest.find(separator_);
-        if (separator == std::string_view::npos) {
-            RaiseSubscriptOutOfRange();
-        }
-        rest.remove_prefix(separator + 1);
-    }
-    return Unquote(rest.substr(0, rest.find(separator_)));
+    return elements_[static_cast<std::size_t>(index)];
 }
 
 Fields SplitFields(std::string_view line) {
-    return {line, Contains(line, '\t') ? '\t' : ','};
+    return Fields(LineFields(line));
 }
 
 } // namespace zy

@@ -3,7 +3,10 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <variant>
+#include <vector>
 
+#include "basics/Text.h"
 #include "platform/FileSystem.h"
 #include "platform/SystemInfo.h"
 
@@ -31,23 +34,50 @@ bool HoldsText(FileSystem& files, std::string_view path, std::string_view text);
 /// which is meant: the quotes are looked for first.
 std::string_view Unquote(std::string_view field);
 
-/// The fields of a line, counted from 1, each unquoted. They refer to the line and are looked up when asked
-/// for.
-class Fields {
+/// Takes the fields of a line one after another, each unquoted, so that none is copied or kept. The line is
+/// split at every TAB when it holds one, else at every comma; quotes do not protect a separator. An empty
+/// line has one empty field.
+class LineFields {
   public:
-    Fields(std::string_view line, char separator) : line_(line), separator_(separator) {}
+    explicit LineFields(std::string_view line) : rest_(line), separator_(Contains(line, '\t') ? '\t' : ',') {}
 
-    std::int32_t Count() const;
-    /// Run-time error 9 when there is no such field.
-    std::string_view operator[](std::int32_t field) const;
+    /// Whether the last one was taken.
+    bool AtEnd() const { return atEnd_; }
+    std::string_view Next() {
+        const auto end = rest_.find(separator_);
+        const auto field = rest_.substr(0, end);
+        atEnd_ = end == std::string_view::npos;
+        rest_.remove_prefix(atEnd_ ? rest_.size() : end + 1);
+        return Unquote(field);
+    }
+    /// The line behind the fields that were taken.
+    std::string_view Rest() const { return rest_; }
+    char Separator() const { return separator_; }
 
   private:
-    std::string_view line_;
+    std::string_view rest_;
     char separator_;
+    bool atEnd_ = false;
 };
 
-/// Splits a line at every TAB when it holds one, else at every comma. Quotes do not protect a separator. An
-/// empty line has one empty field.
+/// A split line: element 0 is the number of its fields, the elements from 1 to that number are the fields,
+/// which refer to the line.
+class Fields {
+  public:
+    using Element = std::variant<std::int32_t, std::string_view>;
+
+    explicit Fields(LineFields fields);
+
+    /// Run-time error 9 when there is no such element.
+    const Element& operator[](std::int32_t index) const;
+    /// A field as the text that it is.
+    std::string_view Text(std::int32_t field) const { return std::get<std::string_view>((*this)[field]); }
+
+  private:
+    std::vector<Element> elements_;
+};
+
+/// Splits a line into all the fields that LineFields finds.
 Fields SplitFields(std::string_view line);
 
 } // namespace zy

@@ -9,8 +9,8 @@ namespace {
 std::vector<std::string> Split(std::string_view line) {
     const Fields fields = SplitFields(line);
     std::vector<std::string> result;
-    for (std::int32_t field = 1; field <= fields.Count(); ++field) {
-        result.emplace_back(fields[field]);
+    for (std::int32_t field = 1; field <= std::get<std::int32_t>(fields[0]); ++field) {
+        result.emplace_back(fields.Text(field));
     }
     return result;
 }
@@ -70,9 +70,17 @@ TEST(SplitFields, KeepsEmptyFieldsBetweenAndAroundSeparators) {
     EXPECT_THAT(Split("\t"), ElementsAre("", ""));
 }
 
-TEST(SplitFields, RaisesSubscriptOutOfRangeForAFieldItDoesNotHave) {
+TEST(SplitFields, GivesTheCountInElementZero) {
+    const auto count = [](std::string_view line) { return std::get<std::int32_t>(SplitFields(line)[0]); };
+    EXPECT_EQ(count(""), 1);
+    EXPECT_EQ(count("a"), 1);
+    EXPECT_EQ(count("a,b,"), 3);
+    EXPECT_EQ(count("a,b\tc,d"), 2);
+}
+
+TEST(SplitFields, RaisesSubscriptOutOfRangeForAnElementItDoesNotHave) {
     const Fields fields = SplitFields("a,b");
-    for (const std::int32_t field : {-1, 0, 3}) {
+    for (const std::int32_t field : {-1, 3}) {
         try {
             static_cast<void>(fields[field]);
             ADD_FAILURE() << "field " << field << " was given";
@@ -80,6 +88,18 @@ TEST(SplitFields, RaisesSubscriptOutOfRangeForAFieldItDoesNotHave) {
             EXPECT_EQ(error.Number(), 9);
         }
     }
+}
+
+TEST(LineFields, GiveWhatSplitFieldsGivesAndTellTheirEnd) {
+    LineFields fields("\"a\"\t b,c \td");
+    EXPECT_EQ(fields.Separator(), '\t');
+    EXPECT_EQ(fields.Next(), "a");
+    EXPECT_EQ(fields.Next(), "b,c");
+    EXPECT_FALSE(fields.AtEnd());
+    EXPECT_EQ(fields.Rest(), "d");
+    EXPECT_EQ(fields.Next(), "d");
+    EXPECT_TRUE(fields.AtEnd());
+    EXPECT_EQ(fields.Rest(), "");
 }
 
 TEST(Unquote, TakesOnePairOfQuotesOff) {

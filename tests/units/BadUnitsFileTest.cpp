@@ -4,6 +4,7 @@ namespace zy::test {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
 class BadUnitsFile : public UnitsTest {
@@ -24,6 +25,12 @@ class BadUnitsFile : public UnitsTest {
 TEST_F(BadUnitsFile, WithALineOfOneFieldEndsTheProgramAndNamesTheLine) {
     ExpectFatal("Kilograms\r\n", 1);
     ExpectFatal("A,a\r\nB\tb\r\nKilograms\r\nC,c\r\n", 3);
+}
+
+TEST_F(BadUnitsFile, IsNamedAsPeopleNameIt) {
+    world.files.SetDisplayed(R"(C:\SYS)", "/home/u");
+    EXPECT_THAT(RaisedBy([&] { OpenOver("one field\r\n"); }).Description(),
+                HasSubstr("/home/u/ZYUNITS.SYS, line 1:"));
 }
 
 TEST_F(BadUnitsFile, WithABlankLineEndsTheProgramAndNamesTheLine) {

@@ -95,8 +95,13 @@ TEST_F(LoadUnits, TakesAFolderOfThatNameForAMissingFile) {
 TEST_F(LoadUnits, ReadsTheFileOnceAndWhole) {
     OpenThreeUnits();
     EXPECT_THAT(world.files.Operations().Lines(),
-                ElementsAre(R"(Exists C:\SYS\ZYUNITS.SYS)", R"(OpenForReading C:\SYS\ZYUNITS.SYS)",
-                            R"(Read C:\SYS\ZYUNITS.SYS)"));
+                ElementsAre(R"(Exists C:\SYS\ZYUNITS.SYS)", R"(OpenAlwaysForReading C:\SYS\ZYUNITS.SYS)",
+                            R"(Read C:\SYS\ZYUNITS.SYS)", R"(Close C:\SYS\ZYUNITS.SYS)"));
+}
+
+TEST_F(LoadUnits, ClosesTheFileBeforeItLooksAtTheLines) {
+    EXPECT_EQ(RaisedBy([&] { OpenOver("one field\r\n"); }).Number(), 9);
+    EXPECT_THAT(world.files.Operations().Lines(), ::testing::Contains(R"(Close C:\SYS\ZYUNITS.SYS)"));
 }
 
 TEST_F(LoadUnits, ShowsTheRowsOnceAllAreThereAndThenFitsTheColumns) {

@@ -33,8 +33,8 @@ TEST(UnitsFileText, GivesTheFirstTwoFieldsThatSplitFieldsGivesForEachLine) {
             line += 'z';                            // so that no line end begins here
             const auto fields = SplitFields(line);
             if (line.find("\r\n") == std::string::npos) {
-                expected.emplace_back(fields[2]);
-                expected.emplace_back(fields[1]);
+                expected.emplace_back(fields.Text(2));
+                expected.emplace_back(fields.Text(1));
                 text += line + "\r\n";
             }
         }
