@@ -46,6 +46,10 @@ std::vector<std::string_view> RowOf(const Insert& statement, const TableImage& t
     return row;
 }
 
+TableImage ReadTable(FileSystem& files, std::string_view path) {
+    return TableImage(ReadFile(files, path), files.DisplayPath(path));
+}
+
 } // namespace
 
 Database::Database(std::shared_ptr<Workspace> workspace, std::string_view folder, bool readOnly)
@@ -67,7 +71,7 @@ std::unique_ptr<Recordset> Database::OpenRecordset(std::string_view tableName,
     RequireOpen();
     const auto path = PathOf(tableName, ".DBF");
     workspace_->Flush();
-    return std::make_unique<Recordset>(TableImage(ReadFile(workspace_->Files(), path), path));
+    return std::make_unique<Recordset>(ReadTable(workspace_->Files(), path));
 }
 
 void Database::Execute(std::string_view sql, ExecuteOptions options) {
@@ -111,14 +115,15 @@ void Database::RequireNoTransaction() const {
 void Database::Do(const CreateTable& statement, ExecuteOptions) {
     RequireNoTransaction();
     const auto path = PathOf(statement.table, ".DBF");
+    auto& files = workspace_->Files();
     TableImage table(NewTableHeader(statement.columns), path);
-    const auto error = WriteNewFile(workspace_->Files(), path, table.FileBytes(0, workspace_->Today()));
+    const auto error = WriteNewFile(files, path, table.FileBytes(0, workspace_->Today()));
     if (error == FileError::Exists) {
-        Raise(kTableExists,
-              {"Table '", statement.table, "' already exists: the file '", path, "' stands in the way."});
+        Raise(kTableExists, {"Table '", statement.table, "' already exists: the file '",
+                             files.DisplayPath(path), "' stands in the way."});
     }
     if (error != FileError::None) {
-        RaiseWriteError(path, error);
+        RaiseWriteError(files.DisplayPath(path), error);
     }
     workspace_->Discard(path);
 }
@@ -147,12 +152,13 @@ void Database::Do(const CreateIndex& statement, ExecuteOptions) {
     }
     const auto tablePath = PathOf(statement.table, ".DBF");
     workspace_->Flush();
-    const TableImage table(ReadFile(workspace_->Files(), tablePath), tablePath);
+    auto& files = workspace_->Files();
+    const auto table = ReadTable(files, tablePath);
     const auto field = table.FindField(statement.columns.front());
     if (!field || !CanBeIndexed(table.Fields()[*field])) {
         Raise(kUnknownIndexField,
               {"Invalid field definition '", statement.columns.front(), "' in definition of index: '",
-               tablePath, "' has no text field of that name, of at most 100 characters."});
+               files.DisplayPath(tablePath), "' has no text field of that name, of at most 100 characters."});
     }
     WriteIndex(statement, table, *field);
 }
@@ -162,8 +168,8 @@ void Database::WriteIndex(const CreateIndex& statement, const TableImage& table,
     const auto path = PathOf(statement.index, ".NDX");
     auto error = WriteNewFile(files, path, BuildIndex(table, field));
     if (error == FileError::Exists) {
-        Raise(kIndexExists,
-              {"Index '", statement.index, "' already exists: the file '", path, "' stands in the way."});
+        Raise(kIndexExists, {"Index '", statement.index, "' already exists: the file '",
+                             files.DisplayPath(path), "' stands in the way."});
     }
     if (error == FileError::None) {
         error = files.CopyPermissions(PathOf(statement.table, ".DBF"), path);
@@ -172,7 +178,7 @@ void Database::WriteIndex(const CreateIndex& statement, const TableImage& table,
         }
     }
     if (error != FileError::None) {
-        RaiseWriteError(path, error);
+        RaiseWriteError(files.DisplayPath(path), error);
     }
 }
 

@@ -7,16 +7,16 @@ namespace zy::dbase {
 std::string ReadFile(FileSystem& files, std::string_view path) {
     const auto opened = files.OpenForReading(path);
     if (!opened.handle) {
-        RaiseReadError(path, opened.error);
+        RaiseReadError(files.DisplayPath(path), opened.error);
     }
     const auto size = opened.handle->Size();
     if (size > kLargestFile) {
-        RaiseBadFormat(path, "it is larger than 2 GB");
+        RaiseBadFormat(files.DisplayPath(path), "it is larger than 2 GB");
     }
     std::string bytes(size, '\0');
     if (const auto read = opened.handle->Read(bytes); read != size) {
-        Raise(kReadFailed,
-              {"'", path, "' could be read up to byte ", Digits(read), " of ", Digits(size), " only."});
+        Raise(kReadFailed, {"'", files.DisplayPath(path), "' could be read up to byte ", Digits(read), " of ",
+                            Digits(size), " only."});
     }
     return bytes;
 }

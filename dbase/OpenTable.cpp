@@ -17,7 +17,7 @@ std::string PathBeside(std::string_view path) {
 } // namespace
 
 OpenTable::OpenTable(FileSystem& files, std::string path)
-    : files_(files), path_(std::move(path)), image_(ReadFile(files, path_), path_),
+    : files_(files), path_(std::move(path)), image_(ReadFile(files, path_), files.DisplayPath(path_)),
       stored_(image_.Records()) {}
 
 void OpenTable::Append(std::span<const std::string_view> values, bool inTransaction) {
@@ -44,7 +44,7 @@ void OpenTable::Write(std::chrono::year_month_day today) {
     // A table without records has nothing to lose.
     if (stored_ == 0) {
         if (const auto error = WriteOverFile(files_, path_, bytes); error != FileError::None) {
-            RaiseWriteError(path_, error);
+            RaiseWriteError(files_.DisplayPath(path_), error);
         }
     } else {
         Replace(bytes);
@@ -55,7 +55,7 @@ void OpenTable::Write(std::chrono::year_month_day today) {
 void OpenTable::Replace(std::string_view bytes) {
     const auto beside = PathBeside(path_);
     if (const auto error = WriteNewFile(files_, beside, bytes); error != FileError::None) {
-        RaiseWriteError(beside, error);
+        RaiseWriteError(files_.DisplayPath(beside), error);
     }
     auto error = files_.CopyPermissions(path_, beside);
     if (error == FileError::None) {
@@ -63,11 +63,12 @@ void OpenTable::Replace(std::string_view bytes) {
     }
     if (error != FileError::None) {
         files_.Delete(beside);
-        RaiseWriteError(path_, error);
+        RaiseWriteError(files_.DisplayPath(path_), error);
     }
     if (error = files_.Rename(beside, path_); error != FileError::None) {
-        Raise(kDiskFailed, {"The table stands in '", beside, "': it could not be renamed to '", path_, "', ",
-                            Describe(error), "."});
+        Raise(kDiskFailed,
+              {"The table stands in '", files_.DisplayPath(beside), "': it could not be renamed to '",
+               files_.DisplayPath(path_), "', ", Describe(error), "."});
     }
 }
 

@@ -22,15 +22,16 @@ std::string Holds(const dbase::TableContent& content, std::optional<std::size_t>
 } // namespace
 
 UnfinishedSave::UnfinishedSave(FileSystem& files, const UserFiles& names)
-    : names_(names), hasTable_(files.Exists(names.table)), hasTemporary_(files.Exists(names.temporary)) {
+    : table_(files.DisplayPath(names.table)), temporary_(files.DisplayPath(names.temporary)),
+      hasTable_(files.Exists(names.table)), hasTemporary_(files.Exists(names.temporary)) {
     if (hasTemporary_) {
-        ReadTemporary(files);
+        ReadTemporary(files, names.temporary);
     }
 }
 
-void UnfinishedSave::ReadTemporary(FileSystem& files) {
+void UnfinishedSave::ReadTemporary(FileSystem& files, std::string_view path) {
     try {
-        content_ = dbase::ContentOfTable(dbase::ReadFile(files, names_.temporary), names_.temporary);
+        content_ = dbase::ContentOfTable(dbase::ReadFile(files, path), temporary_);
     } catch (const RuntimeError& error) {
         fault_ = error.Description();
     }
@@ -60,15 +61,15 @@ std::string UnfinishedSave::Account(const FailedSave& save) const {
         return "";
     }
     std::string text = save.foundTemporary ? "\n\nAnother program may be saving at this moment." : "";
-    text += "\n\nThe file " + names_.temporary + " stands in the way of the next save. ";
+    text += "\n\nThe file " + temporary_ + " stands in the way of the next save. ";
     text +=
         content_
             ? "It " + Holds(*content_, save.foundTemporary ? std::nullopt : std::optional(save.users)) + "."
             : fault_;
     if (hasTable_) {
-        text += " " + names_.table + " is in place.";
+        text += " " + table_ + " is in place.";
     } else {
-        text += " There is no " + names_.table;
+        text += " There is no " + table_;
         text += save.tableIsRecycled ? ": the old one is in the recycle bin." : ".";
     }
     return text + Advice(save);

@@ -29,11 +29,12 @@ class UnfinishedSave {
     std::string Account(const FailedSave& save) const;
 
   private:
-    void ReadTemporary(FileSystem& files);
+    void ReadTemporary(FileSystem& files, std::string_view path);
     bool HoldsUsers() const;
     std::string Advice(const FailedSave& save) const;
 
-    UserFiles names_;
+    std::string table_;     ///< as people name it
+    std::string temporary_; ///< and so the temporary table
     bool hasTable_ = false;
     bool hasTemporary_ = false;
     std::optional<dbase::TableContent> content_; ///< of the temporary table, when it can be read

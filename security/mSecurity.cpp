@@ -100,7 +100,8 @@ void mSecurity::OpenDatabase() {
         throw RuntimeError(dbase::kBadPath, "'" + state_.gsSecurityFile +
                                                 "' isn't a valid path for the table of users: it names no "
                                                 "folder. " +
-                                                state_.gsSystemDir + std::string(kSecurityLocationFile) +
+                                                world_.files.DisplayPath(state_.gsSystemDir +
+                                                                         std::string(kSecurityLocationFile)) +
                                                 " names the table.");
     }
     database_ = engine_.OpenDatabase(SecurityFolder(), false, false, kConnect);
@@ -113,7 +114,7 @@ bool mSecurity::ReadTable() {
     bool hasAdmin = false;
     records->MoveFirst();
     if (!records->Eof()) {
-        RequireFields(records->Fields(), state_.gsSecurityFile);
+        RequireFields(records->Fields(), world_.files.DisplayPath(state_.gsSecurityFile));
     }
     for (Int16 i = 0; !records->Eof(); i = i + 1) {
         zySecure.resize(static_cast<std::size_t>(i) + 1);

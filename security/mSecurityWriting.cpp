@@ -95,8 +95,9 @@ void mSecurity::ReplaceTable(FailedSave& save) {
     if (error != FileError::None) {
         const std::string_view refused =
             recycling == Recycling::Refused ? " could not be moved to the recycle bin and" : "";
-        throw RuntimeError(75, "Path/File access error: " + files.table + std::string(refused) +
-                                   " could not be replaced, " + std::string(Describe(error)));
+        throw RuntimeError(75, "Path/File access error: " + world_.files.DisplayPath(files.table) +
+                                   std::string(refused) + " could not be replaced, " +
+                                   std::string(Describe(error)));
     }
 }
 

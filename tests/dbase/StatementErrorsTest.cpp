@@ -71,6 +71,59 @@ TEST_F(StatementErrors, RefusesAnIndexThatExists) {
     EXPECT_EQ(Get("I.NDX"), "old");
 }
 
+TEST_F(StatementErrors, NamesFilesAsPeopleNameThem) {
+    Run("CREATE TABLE T (A TEXT(3))");
+    Put("I.NDX", "old");
+    Put("BAD.DBF", "bad");
+    world.files.SetDisplayed(R"(C:\SYS)", "/home/u");
+    const auto expect = [&](std::string_view sql, const std::string& file) {
+        EXPECT_THAT(RaisedByRun(sql).Description(), HasSubstr("'/home/u/" + file + "'")) << sql;
+    };
+    expect("CREATE TABLE T (A TEXT(3))", "T.DBF");
+    expect("CREATE INDEX I ON T (A)", "I.NDX");
+    expect("CREATE INDEX J ON T (B)", "T.DBF");
+    expect("CREATE INDEX J ON BAD (A)", "BAD.DBF");
+    expect("INSERT INTO BAD (A) VALUES ('x')", "BAD.DBF");
+    expect("INSERT INTO MISSING (A) VALUES ('x')", "MISSING.DBF");
+    EXPECT_THAT(RaisedBy([&] { RowsIn("BAD"); }).Description(), HasSubstr("'/home/u/BAD.DBF'"));
+    world.files.SetFolderReadOnly(R"(C:\SYS)");
+    expect("CREATE TABLE NEW (A TEXT(3))", "NEW.DBF");
+    expect("CREATE INDEX J ON T (A)", "J.NDX");
+}
+
+TEST_F(StatementErrors, NamesTheFilesOfAWriteAsPeopleNameThem) {
+    Run("CREATE TABLE T (A TEXT(3))");
+    world.files.SetDisplayed(R"(C:\SYS)", "/home/u");
+    const auto expect = [&](std::size_t failing, const std::string& files) {
+        Run("INSERT INTO T (A) VALUES ('x')");
+        world.files.Plan({.operation = failing});
+        EXPECT_THAT(RaisedBy([&] { database->Flush(); }).Description(), HasSubstr(files)) << failing;
+        world.files.Plan({});
+        database->Flush();
+    };
+    expect(2, "'/home/u/T.DBF' cannot be written"); // a table without records is written over
+    expect(1, "'/home/u/T.$$$' cannot be written");
+    expect(6, "'/home/u/T.DBF' cannot be written");
+}
+
+TEST_F(StatementErrors, NamesBothFilesOfATableThatCouldNotBeRenamedAsPeopleNameThem) {
+    Run("CREATE TABLE T (A TEXT(3))");
+    Run("INSERT INTO T (A) VALUES ('x')");
+    database->Flush();
+    Run("INSERT INTO T (A) VALUES ('y')");
+    world.files.SetDisplayed(R"(C:\SYS)", "/home/u");
+    world.files.Plan({.operation = 7});
+    EXPECT_THAT(RaisedBy([&] { database->Flush(); }).Description(),
+                HasSubstr("stands in '/home/u/T.$$$': it could not be renamed to '/home/u/T.DBF'"));
+}
+
+TEST_F(StatementErrors, TellsHowFarAFileCouldBeReadAsPeopleNameIt) {
+    Run("CREATE TABLE T (A TEXT(3))");
+    world.files.SetDisplayed(R"(C:\SYS)", "/home/u");
+    world.files.Plan({.operation = 2});
+    EXPECT_THAT(RaisedBy([&] { RowsIn("T"); }).Description(), HasSubstr("'/home/u/T.DBF' could be read"));
+}
+
 TEST_F(StatementErrors, RefusesColumnsThatATableDoesNotHave) {
     Run("CREATE TABLE T (A TEXT(3), B TEXT(3))");
     const auto raised = RaisedByRun("INSERT INTO T (A, C) VALUES ('x', 'y')");

@@ -36,6 +36,18 @@ class UnreadableRulesFile : public RulesTest {
         "Run-time error '57':\n\nDevice I/O error: C:\\SYS\\ZYRules.sys could not be read to its end";
 };
 
+TEST_F(UnreadableRulesFile, IsNamedAsPeopleNameIt) {
+    PutFile("[RULE]\r\n");
+    world.files.SetDisplayed(R"(C:\SYS)", "/home/u");
+    world.files.Plan({.operation = kFirstRead});
+    EXPECT_EQ(LoadError(),
+              "Run-time error '57':\n\nDevice I/O error: /home/u/ZYRules.sys could not be read to its end");
+    world.files.Plan({});
+    world.files.SetUnreadable(kRulesFile);
+    EXPECT_EQ(LoadError(),
+              "Run-time error '75':\n\nPath/File access error: /home/u/ZYRules.sys, access is denied");
+}
+
 TEST_F(UnreadableRulesFile, RaisesPathFileAccessErrorWhenAccessIsDenied) {
     PutFile("[RULE]\r\n");
     world.files.SetUnreadable(kRulesFile);

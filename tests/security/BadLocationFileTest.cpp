@@ -136,6 +136,12 @@ TEST_F(BadLocationFile, ThatNamesATableWithoutAnExtensionDoesNotMeanTheOneWithIt
     ExpectNewList();
 }
 
+TEST_F(BadLocationFile, IsNamedAsPeopleNameItWhenItNamesNoFolder) {
+    world.files.SetDisplayed(R"(C:\SYS)", "/home/u");
+    StartAt("");
+    EXPECT_THAT(RaisedBySave().Description(), ::testing::EndsWith(". /home/u/ZYSECURE.ZYX names the table."));
+}
+
 TEST_F(BadLocationFile, WithOneQuoteOnlyNamesNoFolderAndTheSaveSaysSo) {
     StartAt("\"");
     ExpectNewList();

@@ -44,6 +44,13 @@ TEST_F(OddUsersTables, WithWiderColumnsShowWhatTheyHoldAndTheChecksRefuseWhatIsT
     EXPECT_EQ(world.files.Get(kUsersTable)->size(), 194U + 60U) << "the columns have their own widths again";
 }
 
+TEST_F(OddUsersTables, WithTooFewColumnsAreNamedAsPeopleNameThem) {
+    world.files.SetDisplayed(R"(C:\SYS)", "/home/u");
+    world.files.Put(kUsersTable, TableBytes({{"USERID", 10}}).Add(' ', {"Ann"}).Bytes());
+    EXPECT_THAT(RaisedBy([&] { Start("@SECURITY"); }).Description(),
+                ::testing::HasSubstr("the table of users '/home/u/ZYSECURE.DBF' has 1 of the 5 fields"));
+}
+
 TEST_F(OddUsersTables, WithAStatusThatIsTooWideAreNotSavedForNoCheckLooksAtIt) {
     TableBytes table({{"USERID", 10}, {"PASSWORD", 20}, {"IDENTIFIER", 20}, {"EXPDATE", 8}, {"STATUS", 5}});
     Open(table.Add(' ', {"Ann", "pw", "id", "", "AA"}));

@@ -127,6 +127,20 @@ TEST_F(SaveHints, TheOnlyFileThatHoldsTheUsersIsToGetItsNameAndTheOldTableLiesIn
     EXPECT_EQ(world.recycleBin.Recycled().back().path, kUsersTable);
 }
 
+TEST_F(SaveHints, NameTheFilesAsPeopleNameThem) {
+    world.files.SetDisplayed(R"(C:\SYS)", "/home/u");
+    EXPECT_THAT(RaisedBySave(kRename).Description(),
+                ::testing::AllOf(::testing::StartsWith("Path/File access error: /home/u/ZYSECURE.DBF could"),
+                                 ::testing::HasSubstr("The file /home/u/ZYSECURE.TMP stands in the way"),
+                                 ::testing::HasSubstr("There is no /home/u/ZYSECURE.DBF: the old one")));
+}
+
+TEST_F(SaveHints, NameATableThatIsInPlaceAsPeopleNameIt) {
+    world.files.SetDisplayed(R"(C:\SYS)", "/home/u");
+    world.recycleBin.SetResult(1);
+    EXPECT_THAT(RaisedBySave().Description(), ::testing::HasSubstr(" /home/u/ZYSECURE.DBF is in place."));
+}
+
 TEST_F(SaveHints, UsersWhoStandInTheTemporaryTableAreBackWhenItGetsItsName) {
     RaisedBySave(kRename);
     ASSERT_EQ(world.files.Rename(kUsersTemporary, kUsersTable), FileError::None);

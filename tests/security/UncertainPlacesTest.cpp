@@ -35,6 +35,13 @@ TEST_F(UncertainPlaces, OfTheTableAreRefusedBeforeItIsLookedFor) {
     EXPECT_FALSE(form().Visible());
 }
 
+TEST_F(UncertainPlaces, AreNamedAsPeopleNameThem) {
+    PutTable({User("Ann")});
+    world.files.SetUncertain(kUsersTable, FileError::Ambiguous);
+    world.files.SetDisplayed(R"(C:\SYS)", "/home/u");
+    ExpectAmbiguous(RaisedBy([&] { Start("@SECURITY"); }), "/home/u/ZYSECURE.DBF");
+}
+
 TEST_F(UncertainPlaces, OfAMissingTableAreRefusedToo) {
     world.files.SetUncertain(kUsersTable, FileError::Ambiguous);
     ExpectAmbiguous(RaisedBy([&] { Start("@SECURITY"); }), kUsersTable);
