@@ -73,6 +73,17 @@ TEST_F(FailingFlush, KeepsTheRowsForTheNextAttempt) {
     }
 }
 
+TEST_F(FailingFlush, LetsARowFollowOnThoseThatItKeeps) {
+    Run(kCreateUsers);
+    AddUser("ADA", "ZYSECURE.TMP");
+    world.files.Plan({.operation = 3});
+    EXPECT_EQ(ErrorNumber([&] { database->Flush(); }), kDiskFailed);
+    AddUser("BO", "ZYSECURE.TMP");
+    database->Flush();
+    EXPECT_EQ(Get("ZYSECURE.TMP"),
+              UserTable().Add(' ', {"ADA", "", "", "", ""}).Add(' ', {"BO", "", "", "", ""}).Bytes());
+}
+
 TEST_F(FailingFlush, ShowsInWhateverWritesTheRows) {
     const std::vector<std::function<void()>> actions{
         [this] { database->Close(); }, [this] { RowsIn("ZYSECURE.TMP"); },
@@ -97,7 +108,9 @@ TEST_F(FailingFlush, ClosesTheDatabaseAllTheSame) {
     EXPECT_EQ(ErrorNumber([&] { database->Close(); }), kDiskFailed);
     EXPECT_EQ(ErrorNumber([&] { database->Close(); }), kClosed);
     database = Open();
-    EXPECT_EQ(ErrorNumber([&] { database->Close(); }), 0) << "nothing is left to be written";
+    world.files.Plan({});
+    database->Close();
+    EXPECT_THAT(world.files.Operations().Lines(), ::testing::IsEmpty()) << "nothing is left to be written";
 }
 
 } // namespace

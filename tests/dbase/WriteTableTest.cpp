@@ -162,6 +162,22 @@ TEST_F(WriteTable, KeepsWhatItDoesNotShow) {
     EXPECT_EQ(Get("ZYSECURE.DBF"), table.Add(' ', {"NEW", "", "", "", ""}).Bytes());
 }
 
+TEST_F(WriteTable, HasNothingOfARowThatWasRefusedInTheNextOne) {
+    Create();
+    EXPECT_EQ(RaisedByRun(InsertUser({"LONGNAME99", std::string(21, 'x'), "", "", ""})).Number(),
+              kFieldTooSmall);
+    Run(InsertUser({"ANN", "", "", "", ""}));
+    EXPECT_EQ(Written(), UserTable().Add(' ', {"ANN", "", "", "", ""}).Bytes());
+}
+
+TEST_F(WriteTable, HasNothingOfWhatStoodBehindTheLastRecordInTheNextOne) {
+    auto table = UserTable();
+    Put("ZYSECURE.DBF", table.Bytes() + std::string(100, 'x'));
+    Run(InsertUser({"ANN", "", "", "", ""}, "ZYSECURE.DBF"));
+    database->Flush();
+    EXPECT_EQ(Get("ZYSECURE.DBF"), table.Add(' ', {"ANN", "", "", "", ""}).Bytes());
+}
+
 TEST_F(WriteTable, GetsTheDateOfTheChange) {
     auto table = UserTable();
     table.date = "\x5F\x01\x02";
