@@ -46,6 +46,11 @@ TEST_F(MainWindowTest, SetsTheUnitsTitleBeforeTheUnitsAreLoadedAndTheUsersTitleA
     EXPECT_EQ(title, "");
 }
 
+TEST_F(MainWindowTest, ShowsNoPageBeforeOneIsChosen) {
+    Start("");
+    ExpectFrames(false, false, false);
+}
+
 TEST_F(MainWindowTest, HidesTheOtherPagesWhenAnotherOneIsShown) {
     Start("@RULES");
     window().ShowUnits();

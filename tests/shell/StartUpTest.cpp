@@ -62,6 +62,21 @@ TEST_F(StartUpTest, OpensTheUnitsEditorInThisOrder) {
     EXPECT_TRUE(form().Visible());
 }
 
+TEST_F(StartUpTest, LeavesOneModeOnWhicheverWereOnBefore) {
+    Start("");
+    const auto startFromAllModes = [this](std::string_view commandLine) {
+        state().gbRulesMode = state().gbSecurityMode = state().gbUnitsMode = true;
+        world.system.SetCommandLine(commandLine);
+        mMain(program());
+    };
+    startFromAllModes("@RULES");
+    ExpectModes(true, false, false);
+    startFromAllModes("@SECURITY");
+    ExpectModes(false, true, false);
+    startFromAllModes("@UNITS");
+    ExpectModes(false, false, true);
+}
+
 TEST_F(StartUpTest, LeavesNoTraceAndNoModeAfterARefusedLogin) {
     security.mayOpen = false;
     EXPECT_EQ(Start("@SECURITY"), StartUp::Ended);
