@@ -32,6 +32,13 @@ TEST_F(EditUnits, AddsTheFirstUnitOfAnEmptyList) {
     EXPECT_TRUE(controls.cmdDeleteUnit.Enabled());
 }
 
+TEST_F(EditUnits, TurnsDeleteOnByAddingWhateverWasMadeOfTheNewCurrentCell) {
+    Open();
+    grid.currentCellChanged.Connect([this] { controls.cmdDeleteUnit.SetEnabled(false); });
+    Add();
+    EXPECT_TRUE(controls.cmdDeleteUnit.Enabled());
+}
+
 TEST_F(EditUnits, TakesAnEditOverOnEnterAndMarksTheList) {
     OpenThreeUnits();
     grid.Pick(1, kUnitDescription);

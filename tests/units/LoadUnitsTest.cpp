@@ -72,6 +72,15 @@ TEST_F(LoadUnits, WithoutAFileTurnsSaveOnAndDeleteOffAndSetsNoMark) {
     EXPECT_EQ(File(), std::nullopt);
 }
 
+TEST_F(LoadUnits, AgainWithoutTheFileTurnsSaveOnAndDeleteOff) {
+    OpenThreeUnits();
+    grid.Pick(1, kUnit);
+    world.files.Take(kUnitsFile);
+    window.ShowUnits();
+    EXPECT_TRUE(controls.cmdSaveUnits.Enabled());
+    EXPECT_FALSE(controls.cmdDeleteUnit.Enabled());
+}
+
 TEST_F(LoadUnits, HasNoCurrentCellAtFirst) {
     OpenThreeUnits();
     EXPECT_EQ(grid.Row(), -1);
