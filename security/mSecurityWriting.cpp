@@ -34,7 +34,6 @@ void mSecurity::Write_Security() {
     try {
         WriteTable(save);
     } catch (const RuntimeError& error) {
-        database_.reset();
         // The file that is left behind makes the next attempt fail, which is meant: a person has to look at
         // it.
         save.foundTemporary = error.Number() == dbase::kTableExists;

@@ -135,6 +135,29 @@ TEST_F(Login, TheCloseBoxLeavesTheEditorClosedWithoutAWord) {
     EXPECT_FALSE(state().gbSecurityMode);
 }
 
+TEST_F(Login, BeginsWithoutACancelEachTimeItIsLoaded) {
+    PutTable({User("ADMIN", "pw")});
+    ExpectLogin([](frmLogin& login) {
+        EXPECT_FALSE(login.CancelClicked);
+        login.cmdCancel.Click();
+        login.Form_Load();
+        EXPECT_FALSE(login.CancelClicked);
+    });
+    EXPECT_EQ(Start("@SECURITY"), StartUp::Ended);
+    EXPECT_EQ(unloaded, 0) << "as after the close box";
+}
+
+TEST_F(Login, CancelTakesASuccessBack) {
+    PutTable({User("ADMIN", "pw")});
+    ExpectLogin([&](frmLogin& login) {
+        LogIn(login, "ADMIN", "pw");
+        login.SetVisible(true);
+        login.cmdCancel.Click();
+        EXPECT_FALSE(login.LoginSucceeded);
+    });
+    EXPECT_EQ(Start("@SECURITY"), StartUp::Ended);
+}
+
 TEST_F(Login, LooksAsItsPeopleKnowIt) {
     PutTable({User("ADMIN", "pw")});
     ExpectLogin([&](frmLogin& login) {
