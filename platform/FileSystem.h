@@ -69,6 +69,12 @@ class FileSystem {
     /// keeps nobody from working with the files who does not ask.
     virtual LockedFolder LockFolderOf(std::string_view path) = 0;
 
+    /// Why a new file could not take the place of this one now, be there a file or not; None when it could.
+    /// Nothing is changed by asking.
+    virtual FileError MayReplace(std::string_view path) = 0;
+    /// The same for one that is emptied and written where it stands, and created where there is none.
+    virtual FileError MayOverwrite(std::string_view path) = 0;
+
     /// A directory search for a normal file of exactly that name; a folder of the name is not found.
     virtual bool Exists(std::string_view path) = 0;
     /// Whether anything is there by that path, as the desktop's shell tests it: hidden files and folders are

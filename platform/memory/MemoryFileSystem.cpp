@@ -156,6 +156,23 @@ LockedFolder MemoryFileSystem::LockFolderOf(std::string_view path) {
     return {.lock = std::make_unique<Lock>(locked_, std::move(*folder)), .error = FileError::None};
 }
 
+FileError MemoryFileSystem::MayReplace(std::string_view path) {
+    const auto error = NoPlaceReason(path);
+    return error == FileError::None ? EntryLock(Key(path)) : error;
+}
+
+FileError MemoryFileSystem::MayOverwrite(std::string_view path) {
+    const auto found = files_.find(Key(path));
+    if (found == files_.end()) {
+        return MayReplace(path);
+    }
+    if (found->second->hidden) {
+        return FileError::AccessDenied;
+    }
+    const auto error = MayReplace(path);
+    return error == FileError::AccessDenied ? FileError::None : error;
+}
+
 void MemoryFileSystem::SetUncertain(std::string_view path, FileError error) {
     if (error == FileError::None) {
         uncertain_.erase(Key(path));
@@ -309,6 +326,16 @@ FileError MemoryFileSystem::NoFileReason(const std::string& key) const {
     return IsFolder(key) ? FileError::IsFolder : FileError::NotFound;
 }
 
+FileError MemoryFileSystem::NoPlaceReason(std::string_view path) const {
+    const auto key = Key(path);
+    const auto folder = FolderPart(key);
+    if (IsFolder(key)) {
+        return FileError::IsFolder;
+    }
+    const bool hasPlace = folder && IsFolder(*folder) && path.find('\0') == std::string_view::npos;
+    return hasPlace ? FileError::None : FileError::NotFound;
+}
+
 FileError MemoryFileSystem::EntryLock(const std::string& key) const {
     if (held_.contains(key)) {
         return FileError::InUse;
@@ -334,25 +361,11 @@ FileError MemoryFileSystem::OpenFound(std::string_view path, OpenedFile& opened)
 }
 
 FileError MemoryFileSystem::CreateOrEmpty(std::string_view path, OpenedFile& opened) {
-    const auto key = Key(path);
-    const auto folder = FolderPart(key);
-    if (IsFolder(key)) {
-        return FileError::IsFolder;
-    }
-    if (!folder || !IsFolder(*folder) || path.find('\0') != std::string_view::npos) {
-        return FileError::NotFound;
-    }
-    const auto lock = EntryLock(key);
-    const auto found = files_.find(key);
-    const bool exists = found != files_.end();
-    if (exists && found->second->hidden) {
-        return FileError::AccessDenied;
-    }
-    if (lock == FileError::InUse || (lock != FileError::None && !exists)) {
-        return lock;
+    if (const auto error = MayOverwrite(path); error != FileError::None) {
+        return error;
     }
     Put(path, "");
-    opened.handle = std::make_unique<Handle>(*this, files_.at(key), path, true);
+    opened.handle = std::make_unique<Handle>(*this, files_.at(Key(path)), path, true);
     return FileError::None;
 }
 

@@ -20,11 +20,11 @@ namespace zy {
 /// Names are found without regard to case, as the code page defines it, and keep the case they were created
 /// with. "/" counts as "\", several in a row as one. A file can be created only in a folder that exists.
 ///
-/// Each operation of FileSystem and of its handles, Size, DisplayPath, Locate and LockFolderOf apart, is
-/// counted, recorded and subject to the fault plan: a failing Exists or PathExists says false, a failing Read
-/// reads nothing, all others return the plan's error and change nothing, but that a Write may be cut short
-/// and a Close closes all the same. Destroying a handle is no operation, and neither are the verbs for tests
-/// below.
+/// Each operation of FileSystem and of its handles is counted, recorded and subject to the fault plan, but
+/// for Size and what only asks or holds (DisplayPath, Locate, LockFolderOf, MayReplace, MayOverwrite): a
+/// failing Exists or PathExists says false, a failing Read reads nothing, all others return the plan's error
+/// and change nothing, but that a Write may be cut short and a Close closes all the same. Destroying a handle
+/// is no operation, and neither are the verbs for tests below.
 ///
 /// Handles must not outlive the file system. One whose file is deleted keeps its bytes for itself.
 class MemoryFileSystem final : public FileSystem {
@@ -37,6 +37,8 @@ class MemoryFileSystem final : public FileSystem {
     std::string DisplayPath(std::string_view path) override;
     FileError Locate(std::string_view path) override;
     LockedFolder LockFolderOf(std::string_view path) override;
+    FileError MayReplace(std::string_view path) override;
+    FileError MayOverwrite(std::string_view path) override;
     bool Exists(std::string_view path) override;
     bool PathExists(std::string_view path) override;
     OpenedFile OpenForReading(std::string_view path) override;
@@ -114,6 +116,8 @@ class MemoryFileSystem final : public FileSystem {
     bool IsFolder(const std::string& key) const;
     /// Why a name that is no file's cannot be worked with.
     FileError NoFileReason(const std::string& key) const;
+    /// Why no file can stand there, whatever its folder allows.
+    FileError NoPlaceReason(std::string_view path) const;
     /// Why a file's entry in its folder cannot be added or removed; None when it can.
     FileError EntryLock(const std::string& key) const;
 

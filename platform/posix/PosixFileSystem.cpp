@@ -1,5 +1,6 @@
 #include "platform/posix/PosixFileSystem.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -14,6 +15,10 @@ namespace {
 bool IsFolder(const std::string& path) {
     struct stat status {};
     return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+FileError Access(const std::string& path, int rights) {
+    return ToFileError(::faccessat(AT_FDCWD, path.c_str(), rights, AT_EACCESS) == 0 ? 0 : errno);
 }
 
 FileError RenameResolved(const std::string& from, const std::string& to) {
@@ -38,6 +43,20 @@ FileError PosixFileSystem::Locate(std::string_view path) {
 LockedFolder PosixFileSystem::LockFolderOf(std::string_view path) {
     const auto place = paths_.ResolveLinks(path);
     return place.error == FileError::None ? LockPosixFolder(FolderOfPath(place.path)) : LockedFolder{};
+}
+
+FileError PosixFileSystem::MayReplace(std::string_view path) {
+    const auto place = paths_.ResolveLinks(path);
+    if (place.error != FileError::None) {
+        return place.error;
+    }
+    return IsFolder(place.path) ? FileError::IsFolder : Access(FolderOfPath(place.path), W_OK | X_OK);
+}
+
+FileError PosixFileSystem::MayOverwrite(std::string_view path) {
+    const auto place = paths_.ResolveLinks(path);
+    const bool exists = place.error == FileError::None && Access(place.path, F_OK) == FileError::None;
+    return exists && !IsFolder(place.path) ? Access(place.path, W_OK) : MayReplace(path);
 }
 
 bool PosixFileSystem::Exists(std::string_view path) {

@@ -22,6 +22,8 @@ class PosixFileSystem final : public FileSystem {
     FileError Locate(std::string_view path) override;
     /// Behind links the folder that the file really stands in, so that those who share it keep apart.
     LockedFolder LockFolderOf(std::string_view path) override;
+    FileError MayReplace(std::string_view path) override;
+    FileError MayOverwrite(std::string_view path) override;
     bool Exists(std::string_view path) override;
     bool PathExists(std::string_view path) override;
     OpenedFile OpenForReading(std::string_view path) override;

@@ -7,6 +7,7 @@
 #include "platform/windows/ErrorCode.h"
 #include "platform/windows/FilePermissions.h"
 #include "platform/windows/RootedPath.h"
+#include "platform/windows/SystemHandle.h"
 #include "platform/windows/WindowsFile.h"
 #include "platform/windows/WindowsFolderLock.h"
 
@@ -53,6 +54,34 @@ std::string FolderPart(const std::string& path) {
     return path.substr(0, path.find_last_of("\\/") + 1);
 }
 
+/// Opens what is there with these rights, sharing everything, and closes it again.
+FileError TryRights(const std::string& path, DWORD rights) {
+    const SystemHandle opened(::CreateFileA(path.c_str(), rights,
+                                            FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                            OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    return ToFileError(opened ? ERROR_SUCCESS : ::GetLastError());
+}
+
+/// None where there is no file: then the folder alone decides.
+FileError TryRightsOfFile(const std::string& path, DWORD rights) {
+    if (IsFile(path) && IsWriteProtected(path)) {
+        return FileError::ReadOnly;
+    }
+    return IsFile(path) ? TryRights(path, rights) : FileError::None;
+}
+
+FileError MayReplaceRooted(const std::string& path) {
+    if (IsFolder(path)) {
+        return FileError::IsFolder;
+    }
+    const auto error = TryRights(FolderPart(path), FILE_ADD_FILE);
+    return error == FileError::None ? TryRightsOfFile(path, DELETE) : error;
+}
+
+FileError MayOverwriteRooted(const std::string& path) {
+    return IsFile(path) ? TryRightsOfFile(path, GENERIC_WRITE) : MayReplaceRooted(path);
+}
+
 FileError DeleteRooted(const std::string& path) {
     if (::DeleteFileA(path.c_str()) != FALSE) {
         // A file goes as it is closed, and Wine does not tell when that fails.
@@ -80,6 +109,16 @@ FileError WindowsFileSystem::Locate(std::string_view path) {
 LockedFolder WindowsFileSystem::LockFolderOf(std::string_view path) {
     const auto rooted = RootedPath(path);
     return rooted ? LockWindowsFolder(FolderPart(*rooted)) : LockedFolder{};
+}
+
+FileError WindowsFileSystem::MayReplace(std::string_view path) {
+    const auto rooted = RootedPath(path);
+    return rooted ? MayReplaceRooted(*rooted) : FileError::NotFound;
+}
+
+FileError WindowsFileSystem::MayOverwrite(std::string_view path) {
+    const auto rooted = RootedPath(path);
+    return rooted ? MayOverwriteRooted(*rooted) : FileError::NotFound;
 }
 
 bool WindowsFileSystem::Exists(std::string_view path) {

@@ -10,6 +10,8 @@ class WindowsFileSystem final : public FileSystem {
     std::string DisplayPath(std::string_view path) override { return std::string(path); }
     FileError Locate(std::string_view path) override;
     LockedFolder LockFolderOf(std::string_view path) override;
+    FileError MayReplace(std::string_view path) override;
+    FileError MayOverwrite(std::string_view path) override;
     /// A file that is hidden or the system's is no normal one.
     bool Exists(std::string_view path) override;
     bool PathExists(std::string_view path) override;

@@ -494,6 +494,39 @@ TEST_P(FileSystemContract, DeletesAndRenamesNothingInAFolderThatTheUserMayNotCha
     EXPECT_THAT(disk->Get("a.sys"), Optional("old"s));
 }
 
+// Asking before a save
+
+TEST_P(FileSystemContract, SaysThatAFileMayBeReplacedAndChangesNothingByIt) {
+    disk->Put("old.sys", "old");
+    for (const auto* name : {"old.sys", "new.sys"}) {
+        EXPECT_EQ(Files().MayReplace(disk->Path(name)), FileError::None) << name;
+        EXPECT_EQ(Files().MayOverwrite(disk->Path(name)), FileError::None) << name;
+    }
+    EXPECT_THAT(disk->Names(), ElementsAre("old.sys"));
+    EXPECT_THAT(disk->Get("old.sys"), Optional("old"s));
+}
+
+TEST_P(FileSystemContract, SaysWhereNoFileCanStand) {
+    disk->AddFolder("folder");
+    EXPECT_EQ(Files().MayReplace(disk->Path("folder")), FileError::IsFolder);
+    EXPECT_EQ(Files().MayOverwrite(disk->Path("folder")), FileError::IsFolder);
+    for (const auto& path : {disk->Path(R"(missing\a.sys)"), "a.sys"s, disk->Path("a\0.sys"s)}) {
+        EXPECT_EQ(Files().MayReplace(path), FileError::NotFound) << path;
+        EXPECT_EQ(Files().MayOverwrite(path), FileError::NotFound) << path;
+    }
+}
+
+TEST_P(FileSystemContract, SaysThatAFolderThatTheUserMayNotChangeKeepsItsFilesFromBeingReplaced) {
+    disk->Put("old.sys", "old");
+    if (!disk->ForbidChanges()) {
+        GTEST_SKIP() << kBound;
+    }
+    EXPECT_EQ(Files().MayReplace(disk->Path("old.sys")), FileError::AccessDenied);
+    EXPECT_EQ(Files().MayReplace(disk->Path("new.sys")), FileError::AccessDenied);
+    EXPECT_EQ(Files().MayOverwrite(disk->Path("old.sys")), FileError::None);
+    EXPECT_EQ(Files().MayOverwrite(disk->Path("new.sys")), FileError::AccessDenied);
+}
+
 // Certainty about a path
 
 TEST_P(FileSystemContract, IsCertainWhereAFileIsAndWhereNoneIs) {

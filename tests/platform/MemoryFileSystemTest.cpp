@@ -83,6 +83,8 @@ TEST_F(MemoryFileSystemTest, RefusesEverythingButLookingWhereAnotherProgramHolds
     EXPECT_EQ(disk.Create(R"(\a.sys)").error, FileError::InUse);
     EXPECT_EQ(disk.Delete(R"(\a.sys)"), FileError::InUse);
     EXPECT_EQ(disk.Rename(R"(\a.sys)", R"(\c.sys)"), FileError::InUse);
+    EXPECT_EQ(disk.MayReplace(R"(\a.sys)"), FileError::InUse);
+    EXPECT_EQ(disk.MayOverwrite(R"(\a.sys)"), FileError::InUse);
     EXPECT_THAT(disk.Get(R"(\a.sys)"), Optional("123"s));
 }
 

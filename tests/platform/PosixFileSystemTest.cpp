@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "support/OrdinaryUser.h"
 #include "support/TemporaryFolder.h"
 
 namespace zy::test {
@@ -206,6 +207,24 @@ TEST_F(PosixFileSystemTest, NeverReplacesTheFileThatALinkLeadsToByRenaming) {
     EXPECT_EQ(files.Rename(Path("a.sys"), Path("link.sys")), FileError::Exists);
     EXPECT_THAT(folder.Get("a.sys"), Optional("new"s));
     EXPECT_THAT(folder.Get("target.sys"), Optional("old"s));
+}
+
+TEST_F(PosixFileSystemTest, LetsTheFolderThatALinkLeadsIntoDecideOnReplacing) {
+    folder.AddFolder("shared");
+    fs::create_symlink("shared/target.sys", folder.Path("link.sys"));
+    const OrdinaryUser user(folder.Path());
+    fs::permissions(folder.Path("shared"), fs::perms(0500));
+    EXPECT_EQ(files.MayReplace(Path("link.sys")), FileError::AccessDenied);
+    fs::permissions(folder.Path("shared"), fs::perms(0700));
+    EXPECT_EQ(files.MayReplace(Path("link.sys")), FileError::None);
+}
+
+TEST_F(PosixFileSystemTest, SaysThatAFileMayNotBeWrittenThatMayBeReplaced) {
+    folder.Put("a.sys", "old");
+    const OrdinaryUser user(folder.Path());
+    fs::permissions(folder.Path("a.sys"), fs::perms(0400));
+    EXPECT_EQ(files.MayOverwrite(Path("a.sys")), FileError::AccessDenied);
+    EXPECT_EQ(files.MayReplace(Path("a.sys")), FileError::None);
 }
 
 TEST_F(PosixFileSystemTest, RenamesTheFileThatALinkLeadsTo) {

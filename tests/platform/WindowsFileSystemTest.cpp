@@ -99,6 +99,8 @@ TEST_F(WindowsFileSystemTest, SaysWhenAnotherProgramHoldsAFile) {
     EXPECT_EQ(files.Create(Path("a.sys")).error, FileError::InUse);
     EXPECT_EQ(files.Delete(Path("a.sys")), FileError::InUse);
     EXPECT_EQ(files.Rename(Path("a.sys"), Path("b.sys")), FileError::InUse);
+    EXPECT_EQ(files.MayReplace(Path("a.sys")), FileError::InUse);
+    EXPECT_EQ(files.MayOverwrite(Path("a.sys")), FileError::InUse);
     EXPECT_THAT(folder.Names(), ElementsAre("a.sys"));
 }
 
@@ -110,6 +112,14 @@ TEST_F(WindowsFileSystemTest, DeletesAndRenamesNoFileThatItStillHasOpen) {
     EXPECT_EQ(created.handle->Close(), FileError::None);
     EXPECT_EQ(files.Rename(Path("a.sys"), Path("b.sys")), FileError::None);
     EXPECT_EQ(files.Delete(Path("b.sys")), FileError::None);
+}
+
+TEST_F(WindowsFileSystemTest, SaysThatAFileMayNotBeReplacedThatAnotherProgramReads) {
+    folder.Put("a.sys", "read");
+    const auto read = OpenAside("a.sys", GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(files.MayReplace(Path("a.sys")), FileError::InUse);
+    EXPECT_EQ(files.MayOverwrite(Path("a.sys")), FileError::None);
 }
 
 TEST_F(WindowsFileSystemTest, ClosesTheFileOfAHandleThatGoes) {

@@ -19,6 +19,8 @@ class FilesThatLock : public FileSystem {
     MOCK_METHOD(std::string, DisplayPath, (std::string_view), (override));
     MOCK_METHOD(FileError, Locate, (std::string_view), (override));
     MOCK_METHOD(LockedFolder, LockFolderOf, (std::string_view), (override));
+    MOCK_METHOD(FileError, MayReplace, (std::string_view), (override));
+    MOCK_METHOD(FileError, MayOverwrite, (std::string_view), (override));
     MOCK_METHOD(bool, Exists, (std::string_view), (override));
     MOCK_METHOD(bool, PathExists, (std::string_view), (override));
     MOCK_METHOD(OpenedFile, OpenForReading, (std::string_view), (override));
