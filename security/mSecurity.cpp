@@ -11,6 +11,7 @@
 #include "security/UserChecks.h"
 #include "security/UserFiles.h"
 #include "security/frmLogin.h"
+#include "shell/SaveTurn.h"
 #include "shell/StatusTexts.h"
 #include "shell/Utilities.h"
 
@@ -133,8 +134,12 @@ bool mSecurity::ReadTable() {
 }
 
 void mSecurity::Report(std::string_view losses) {
-    const auto folder = SecurityFolder();
-    auto report = folder.empty() ? "" : UnfinishedSave(world_.files, UserFiles(folder)).Notice();
+    std::string report;
+    if (const auto folder = SecurityFolder(); !folder.empty()) {
+        const UserFiles files(folder);
+        report = UnfinishedSave(world_.files, files).Notice();
+        Join(report, "; ", Obstacle(files.table, world_.files.MayReplace(files.table)));
+    }
     Join(report, "; ", losses);
     reported.Raise(report);
 }

@@ -40,6 +40,7 @@ void mUnits::LoadUnitsData() {
         controls_.cmdDeleteUnit.SetEnabled(false);
     }
     Join(leftOut_, "; ", DescribeUncertainty());
+    Join(leftOut_, "; ", Obstacle(state_.gsUnitsFile, ObstacleToSave()));
     ReportCount();
     grid.SetRedraw(true);
     grid.FitColumns(0);
@@ -74,6 +75,11 @@ void mUnits::ReadUnits() {
 std::string mUnits::DescribeUncertainty() {
     const auto uncertainty = Uncertainty(world_.files, state_.gsUnitsFile);
     return uncertainty.empty() ? uncertainty : "saving is refused, " + uncertainty;
+}
+
+FileError mUnits::ObstacleToSave() {
+    const auto error = world_.files.MayReplace(state_.gsUnitsFile);
+    return error == FileError::None ? error : world_.files.MayOverwrite(state_.gsUnitsFile);
 }
 
 bool mUnits::Write_Units() {

@@ -57,6 +57,8 @@ class mUnits {
     void Start(std::string_view procedure);
     std::string FileName() const;
     std::string DescribeUncertainty();
+    /// Why a save could neither replace the file nor write over it.
+    FileError ObstacleToSave();
     void Report(const std::string& what, FileError error);
 
     UnitsControls& controls_;

@@ -16,6 +16,16 @@ std::string Uncertainty(FileSystem& files, std::string_view path) {
            " is: " + std::string(Describe(error));
 }
 
+std::string Obstacle(std::string_view path, FileError error) {
+    if (error == FileError::None) {
+        return {};
+    }
+    const std::string_view advice =
+        error == FileError::InUse ? "; close that program before saving" : "; put that right before editing";
+    return std::string(FileNameOf(path)) + " cannot be written now: " + std::string(Describe(error)) +
+           std::string(advice);
+}
+
 std::string WhyNotToSave(FileSystem& files, std::string_view path, const SaveTurn& turn) {
     if (!turn.IsMine()) {
         return std::string(SaveTurn::kRefusal);

@@ -30,6 +30,10 @@ class SaveTurn {
 /// Says that nobody can tell which file of several a path means, and why; empty when it is certain.
 std::string Uncertainty(FileSystem& files, std::string_view path);
 
+/// Says for the status bar that a save of this file would fail for this reason, and what to do about it
+/// before one edits; empty for none.
+std::string Obstacle(std::string_view path, FileError error);
+
 /// Why the file of this path must not be saved now, for the status bar; empty when it may.
 std::string WhyNotToSave(FileSystem& files, std::string_view path, const SaveTurn& turn);
 

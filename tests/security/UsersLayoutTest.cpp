@@ -65,6 +65,14 @@ TEST_F(UsersLayout, PutsTheGridAtFiftyAndFiftyAsWideAsTheFrameAllowsAndDownToThe
     });
 }
 
+TEST_F(UsersLayout, PutsTheGridInItsPlaceAgainWheneverItIsFilled) {
+    form().SetInnerSize({9000, 8000});
+    const auto place = Cells();
+    grid().SetBounds({1, 2, 3, 4});
+    page().LoadSecurity();
+    EXPECT_EQ(Cells(), place);
+}
+
 TEST_F(UsersLayout, PutsTheButtonsInOneRowInTheirOrderInsideTheFrame) {
     ForAllSizes([this](const Fonts& fonts) {
         const int strip = Frame().width - 500;

@@ -117,7 +117,8 @@ TEST_F(LeftOut, OfAFileThatAnotherProgramHoldsIsAllAndStaysToldUntilASave) {
     world.files.SetHeldOpen(kUnitsFile);
     Open();
     ExpectReportUntilSaved(
-        "ZYUNITS.SYS could not be read: another program is using it; saving replaces all that it holds");
+        "ZYUNITS.SYS could not be read: another program is using it; saving replaces all that it holds; "
+        "ZYUNITS.SYS cannot be written now: another program is using it; close that program before saving");
 }
 
 TEST_F(LeftOut, OfAFileThatIsReadInPartStaysToldUntilASave) {
