@@ -35,7 +35,11 @@ RulesPage::RulesPage(mRules& rules, SettingsForm& form, SharedState& state, Trac
         ShowStatus(CountText());
         AddHint(form_.zyStatusBar, DescribeLeftOut(paste, controls.grdRules));
     });
-    rules_.reported.Connect([this](const std::string& report) { ShowStatus(report); });
+    rules_.reported.Connect([this](const std::string& report) {
+        auto text = report;
+        Join(text, "; ", rules_.LastSaveFailed() ? "change a rule and save again before closing" : "");
+        ShowStatus(text);
+    });
 }
 
 void RulesPage::Trace(std::string_view module, std::string_view procedure, std::string_view message) {

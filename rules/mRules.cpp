@@ -55,6 +55,7 @@ void mRules::LookForDangers() {
         const auto uncertainty = Uncertainty(world_.files, path);
         Join(dangers_, "; ", uncertainty.empty() ? uncertainty : "saving is refused, " + uncertainty);
     }
+    Join(dangers_, "; ", Obstacle(rulesFile, world_.files.MayReplace(rulesFile)));
 }
 
 void mRules::Add_New_Rule() {
@@ -75,7 +76,15 @@ void mRules::Delete_Rule(Int16 index) {
     gaRules.Remove(index);
 }
 
-void mRules::Report(std::string_view what, FileError error) {
+std::string mRules::Dangers() const {
+    auto text = dangers_;
+    Join(text, "; ",
+         lastSaveFailed_ ? "the last save failed, change a rule and save again before closing" : "");
+    return text;
+}
+
+void mRules::ReportFailure(std::string_view what, FileError error) {
+    lastSaveFailed_ = true;
     reported.Raise(std::string(what) + ": " + std::string(Describe(error)));
 }
 
@@ -84,14 +93,14 @@ void mRules::Report(std::string_view what, FileError error) {
 bool mRules::WriteTemporary(const std::string& temporary, const std::string& text) {
     auto created = world_.files.Create(temporary);
     if (!created.handle) {
-        Report("Not saved, Rules.tmp could not be created", created.error);
+        ReportFailure("Not saved, Rules.tmp could not be created", created.error);
         return false;
     }
     dangers_.clear();
     const auto error = WriteAndClose(*created.handle, text);
     if (error != FileError::None) {
         world_.files.Delete(temporary);
-        Report("Not saved, Rules.tmp could not be written", error);
+        ReportFailure("Not saved, Rules.tmp could not be written", error);
         return false;
     }
     return true;
@@ -128,16 +137,20 @@ void mRules::ReplaceFile() {
         return;
     }
     const std::string rulesFile = Settings().RulesFile();
+    FileError deleted = FileError::None;
     if (files.Exists(rulesFile)) {
         files.CopyPermissions(rulesFile, temporary);
-        files.Delete(rulesFile);
+        deleted = files.Delete(rulesFile);
     }
     const auto renamed = files.Rename(temporary, rulesFile);
     if (renamed == FileError::None) {
         skippedLines_ = 0;
+        lastSaveFailed_ = false;
         reported.Raise("Saved");
     } else {
-        ReportNotReplaced(temporary, text, renamed);
+        // That the old file is still there is told by why it did not go.
+        const bool stayed = renamed == FileError::Exists && deleted != FileError::None;
+        ReportNotReplaced(temporary, text, stayed ? deleted : renamed);
     }
     trace_.DebugTrace(kModule, "Write_Rules_File", "Finished");
     gbRulesChanged = false;
@@ -146,10 +159,11 @@ void mRules::ReplaceFile() {
 /// Another program may have taken the temporary file, or the disk may have gone away with it, so that it is
 /// looked up.
 void mRules::ReportNotReplaced(const std::string& temporary, const std::string& text, FileError error) {
-    Report(HoldsText(world_.files, temporary, text)
-               ? "The rules stand in Rules.tmp, ZYRules.sys could not be replaced"
-               : "Not saved, ZYRules.sys could not be replaced, and the rules were not found in Rules.tmp",
-           error);
+    ReportFailure(
+        HoldsText(world_.files, temporary, text)
+            ? "The rules stand in Rules.tmp, ZYRules.sys could not be replaced"
+            : "Not saved, ZYRules.sys could not be replaced, and the rules were not found in Rules.tmp",
+        error);
 }
 
 std::string FormatRuleLine(std::string_view key, std::string_view value) {

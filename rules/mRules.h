@@ -52,11 +52,13 @@ class mRules {
     std::size_t SkippedLines() const { return skippedLines_; }
 
     /// Looks up what else a save would destroy, or why it would be refused: the temporary file of a save that
-    /// did not come to its end, names that differ by case alone. To be asked for in one's turn to save, or
-    /// the temporary file may be one that is just being written.
+    /// did not come to its end, names that differ by case alone, a file that cannot be replaced. To be asked
+    /// for in one's turn to save, or the temporary file may be one that is just being written.
     void LookForDangers();
-    /// What was found then, for the status bar. A save that takes the temporary file away ends it.
-    const std::string& Dangers() const { return dangers_; }
+    /// What was found then, for the status bar, or that the last save failed. A save that goes well ends it.
+    std::string Dangers() const;
+    /// Whether the last save ran and failed. The marks are gone then, so that closing asks nothing.
+    bool LastSaveFailed() const { return lastSaveFailed_; }
 
     /// Short texts for the status bar: how a save ended.
     Event<const std::string&> reported;
@@ -65,7 +67,7 @@ class mRules {
     SettingsLibrary& Settings();
     std::string TemporaryFile();
     std::string WhyNotToSaveRules(const SaveTurn& turn);
-    void Report(std::string_view what, FileError error);
+    void ReportFailure(std::string_view what, FileError error);
     void ReplaceFile();
     bool WriteTemporary(const std::string& temporary, const std::string& text);
     void ReportNotReplaced(const std::string& temporary, const std::string& text, FileError error);
@@ -75,6 +77,7 @@ class mRules {
     std::unique_ptr<SettingsLibrary> goSettings_;
     std::size_t skippedLines_ = 0;
     std::string dangers_;
+    bool lastSaveFailed_ = false;
 };
 
 /// A key line of the rules file, without its line end: the key in a field of 13 characters behind three

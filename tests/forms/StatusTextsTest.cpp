@@ -111,7 +111,8 @@ TEST_F(StatusTexts, TellWhyASaveFailed) {
     page().txtCode.Enter("X");
     world.files.SetFolderReadOnly(R"(C:\SYS)");
     ChooseSave();
-    EXPECT_EQ(Status(), "Not saved, Rules.tmp could not be created: access is denied");
+    EXPECT_EQ(Status(), "Not saved, Rules.tmp could not be created: access is denied; change a rule and save "
+                        "again before closing");
 }
 
 TEST_F(StatusTexts, TellWhereTheRulesStandWhenTheFileCouldNotBeReplaced) {
@@ -120,7 +121,7 @@ TEST_F(StatusTexts, TellWhereTheRulesStandWhenTheFileCouldNotBeReplaced) {
     world.files.SetHeldOpen(kRulesFile);
     ChooseSave();
     EXPECT_EQ(Status(), "The rules stand in Rules.tmp, ZYRules.sys could not be replaced: "
-                        "a file of that name is in the way");
+                        "another program is using it; change a rule and save again before closing");
 }
 
 TEST_F(StatusTexts, TellThatARuleCannotBeShownAsItIs) {

@@ -113,7 +113,8 @@ TEST_F(UnfinishedSave, IsNotToldAnyMoreWhenASaveFailedThatHadDeletedIt) {
         EXPECT_THAT(Status(), ::testing::StartsWith("Not saved"));
         EXPECT_EQ(Temporary(), std::nullopt);
         page().txtMax.Enter("3");
-        EXPECT_EQ(Status(), "1 rule   -   NEW edited; File > Save stores it");
+        EXPECT_EQ(Status(), "1 rule; the last save failed, change a rule and save again before closing   -   "
+                            "NEW edited; File > Save stores it");
     }
 }
 

@@ -160,7 +160,7 @@ TEST_F(FailingDisk, ThatFailsOnceLeavesTheOldFileOrTheNewOneOrTheRulesInTheTempo
                     {kClose, Old, NoFile, kNotWritten, false},
                     {kExistsRules, Old, New, kOldInTheWay, true},
                     {kPermissions, New, NoFile, kSaved, true},
-                    {kDeleteRules, Old, New, kOldInTheWay, true},
+                    {kDeleteRules, Old, New, kRenameFailed, true},
                     {kRename, NoFile, New, kRenameFailed, true}});
 }
 
@@ -173,7 +173,7 @@ TEST_F(FailingDisk, ThatFailsOnceRemovesATextThatWasCutShort) {
                     {kClose, Old, NoFile, kNotWritten, false},
                     {kExistsRules, Old, New, kOldInTheWay, true},
                     {kPermissions, New, NoFile, kSaved, true},
-                    {kDeleteRules, Old, New, kOldInTheWay, true},
+                    {kDeleteRules, Old, New, kRenameFailed, true},
                     {kRename, NoFile, New, kRenameFailed, true}});
 }
 
@@ -235,7 +235,7 @@ TEST_F(FailingDisk, ThatFailsOnceWritesOverLeftoversThatItCouldNotDelete) {
                     {kClose, Old, NoFile, kNotWritten, false},
                     {kExistsRules, Old, New, kOldInTheWay, true},
                     {kPermissions, New, NoFile, kSaved, true},
-                    {kDeleteRules, Old, New, kOldInTheWay, true},
+                    {kDeleteRules, Old, New, kRenameFailed, true},
                     {kRename, NoFile, New, kRenameFailed, true}});
 }
 

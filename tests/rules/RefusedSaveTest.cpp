@@ -68,7 +68,7 @@ TEST_F(RefusedSave, InAReadOnlyFolderWritesLeftoversThatAreThere) {
     Write();
     EXPECT_EQ(File(), "old");
     EXPECT_EQ(Temporary(), newText);
-    ExpectReport(std::string(kStandInTmp) + "a file of that name is in the way");
+    ExpectReport(std::string(kStandInTmp) + "access is denied");
 }
 
 TEST_F(RefusedSave, OfAFileThatAnotherProgramHoldsKeepsTheRulesInTheTemporaryFile) {
@@ -76,7 +76,7 @@ TEST_F(RefusedSave, OfAFileThatAnotherProgramHoldsKeepsTheRulesInTheTemporaryFil
     Write();
     EXPECT_EQ(File(), "old");
     EXPECT_EQ(Temporary(), newText);
-    ExpectReport(std::string(kStandInTmp) + "a file of that name is in the way");
+    ExpectReport(std::string(kStandInTmp) + "another program is using it");
 }
 
 TEST_F(RefusedSave, OfAFileThatAnotherProgramHeldIsMadeGoodByTheNextOne) {

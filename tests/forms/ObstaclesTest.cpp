@@ -1,0 +1,62 @@
+#include "RulesForm.h"
+
+namespace zy::test {
+namespace {
+
+constexpr auto kFolder = R"(C:\SYS)";
+constexpr auto kDenied = "ZYRules.sys cannot be written now: access is denied; put that right before editing";
+
+/// What keeps a save from going well is told before anything is edited, and after it failed until one goes
+/// well.
+class Obstacles : public RulesForm {
+  protected:
+    void LetWrite(bool may) { world.files.SetFolderReadOnly(kFolder, !may); }
+};
+
+TEST_F(Obstacles, AFolderThatMayNotBeWrittenIsToldAtTheOpening) {
+    LetWrite(false);
+    StartWithCodes({"A", "B"});
+    EXPECT_EQ(Status(), std::string("2 rules; ") + kDenied);
+    list().Pick(2);
+    EXPECT_EQ(Status(), std::string("2 rules; ") + kDenied);
+}
+
+TEST_F(Obstacles, AFolderInPlaceOfTheFileIsToldAtTheOpening) {
+    world.files.AddFolder(kRulesFile);
+    ASSERT_EQ(Start("@RULES"), StartUp::WindowShown);
+    EXPECT_EQ(Status(),
+              "0 rules; ZYRules.sys cannot be written now: a folder of that name is in the way; put that "
+              "right before editing");
+}
+
+TEST_F(Obstacles, WhichAreGoneAreNotToldAfterTheNextSave) {
+    LetWrite(false);
+    StartWithCodes({"A", "B"});
+    LetWrite(true);
+    page().cmdUpDown.PressDown();
+    ChooseSave();
+    EXPECT_EQ(Status(), "Saved");
+    list().Pick(1);
+    EXPECT_EQ(Status(), "2 rules");
+}
+
+TEST_F(Obstacles, ToASaveAreToldWithWhatToDoUntilOneGoesWell) {
+    StartWithCodes({"A", "B"});
+    LetWrite(false);
+    page().cmdUpDown.PressDown();
+    ChooseSave();
+    EXPECT_EQ(Status(),
+              "Not saved, Rules.tmp could not be created: access is denied; change a rule and save again "
+              "before closing");
+    list().Pick(1);
+    EXPECT_EQ(Status(), "2 rules; the last save failed, change a rule and save again before closing");
+    LetWrite(true);
+    page().cmdUpDown.PressDown();
+    ChooseSave();
+    EXPECT_EQ(Status(), "Saved");
+    list().Pick(1);
+    EXPECT_EQ(Status(), "2 rules");
+}
+
+} // namespace
+} // namespace zy::test
