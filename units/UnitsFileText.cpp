@@ -98,6 +98,7 @@ UnitsLeftOut AppendUnitCells(std::string_view text, std::string_view path,
     ReserveFor(text, cells);
     const char* begin = text.data();
     const char* const textEnd = begin + text.size();
+    const char* const firstTab = Find(LineFields::kTab, begin, textEnd); // most files hold none
     for (;; ++leftOut.lines) {
         const char* const end = FindLineEnd(begin, textEnd);
         if (end == textEnd) {
@@ -107,7 +108,8 @@ UnitsLeftOut AppendUnitCells(std::string_view text, std::string_view path,
         if (leftOut.lines == kMaxItems) {
             RaiseOverflow();
         }
-        LineFields fields({begin, static_cast<std::size_t>(end - begin)});
+        const std::string_view line(begin, static_cast<std::size_t>(end - begin));
+        auto fields = firstTab < end ? LineFields(line) : LineFields(line, LineFields::kComma);
         const auto description = fields.Next();
         if (fields.AtEnd()) {
             RaiseUnitMissing(path, leftOut.lines + 1);
@@ -116,7 +118,8 @@ UnitsLeftOut AppendUnitCells(std::string_view text, std::string_view path,
         cells.push_back(unit);
         cells.push_back(description);
         leftOut.linesCut += IsText(fields.Rest()) ? 1 : 0;
-        leftOut.linesWithCommas += fields.Separator() == '\t' && HasComma(description, unit) ? 1 : 0;
+        leftOut.linesWithCommas +=
+            fields.Separator() == LineFields::kTab && HasComma(description, unit) ? 1 : 0;
         begin = end + 2;
     }
 }

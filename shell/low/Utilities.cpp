@@ -36,16 +36,6 @@ bool HoldsText(FileSystem& files, std::string_view path, std::string_view text) 
            ReadFileText(*opened.handle, static_cast<std::uint32_t>(text.size())) == text;
 }
 
-std::string_view Unquote(std::string_view field) {
-    if (field.empty() || (field.front() != '"' && field.front() != ' ' && field.back() != ' ')) {
-        return field; // as most are
-    }
-    if (field.front() == '"' && field.back() == '"') {
-        field = field.size() < 2 ? std::string_view{} : field.substr(1, field.size() - 2);
-    }
-    return Trim(field);
-}
-
 Fields::Fields(LineFields fields) : elements_{0} {
     do {
         elements_.emplace_back(fields.Next());

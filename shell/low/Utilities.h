@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -32,30 +33,50 @@ bool HoldsText(FileSystem& files, std::string_view path, std::string_view text);
 
 /// Takes one pair of enclosing double quotes off, then trims blanks. A quote behind a blank encloses nothing,
 /// which is meant: the quotes are looked for first.
-std::string_view Unquote(std::string_view field);
+inline std::string_view Unquote(std::string_view field) {
+    if (field.empty() || (field.front() != '"' && field.front() != ' ' && field.back() != ' ')) {
+        return field; // as most are
+    }
+    if (field.front() == '"' && field.back() == '"') {
+        field = field.size() < 2 ? std::string_view{} : field.substr(1, field.size() - 2);
+    }
+    return Trim(field);
+}
 
-/// Takes the fields of a line one after another, each unquoted, so that none is copied or kept. The line is
-/// split at every TAB when it holds one, else at every comma; quotes do not protect a separator. An empty
-/// line has one empty field.
+/// Takes the fields of a line one after another, each unquoted, so that none is copied or kept. Quotes do not
+/// protect a separator. An empty line has one empty field.
 class LineFields {
   public:
-    explicit LineFields(std::string_view line) : rest_(line), separator_(Contains(line, '\t') ? '\t' : ',') {}
+    static constexpr char kTab = '\t';
+    static constexpr char kComma = ',';
+
+    /// Splits at every TAB when the line holds one, else at every comma.
+    explicit LineFields(std::string_view line) : LineFields(line, Contains(line, kTab) ? kTab : kComma) {}
+    /// The same for who knows already which of the two it is.
+    LineFields(std::string_view line, char separator)
+        : begin_(line.data()), end_(begin_ + line.size()), separator_(separator) {}
 
     /// Whether the last one was taken.
     bool AtEnd() const { return atEnd_; }
     std::string_view Next() {
-        const auto end = rest_.find(separator_);
-        const auto field = rest_.substr(0, end);
-        atEnd_ = end == std::string_view::npos;
-        rest_.remove_prefix(atEnd_ ? rest_.size() : end + 1);
-        return Unquote(field);
+        const char* const from = begin_;
+        const void* const found = from == end_ ? nullptr : std::memchr(from, separator_, Length(from, end_));
+        atEnd_ = found == nullptr;
+        const char* const to = atEnd_ ? end_ : static_cast<const char*>(found);
+        begin_ = atEnd_ ? end_ : to + 1;
+        return Unquote({from, Length(from, to)});
     }
     /// The line behind the fields that were taken.
-    std::string_view Rest() const { return rest_; }
+    std::string_view Rest() const { return {begin_, Length(begin_, end_)}; }
     char Separator() const { return separator_; }
 
   private:
-    std::string_view rest_;
+    static std::size_t Length(const char* begin, const char* end) {
+        return static_cast<std::size_t>(end - begin);
+    }
+
+    const char* begin_;
+    const char* end_;
     char separator_;
     bool atEnd_ = false;
 };
