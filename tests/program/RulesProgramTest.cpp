@@ -56,8 +56,8 @@ TEST_F(RulesProgram, AddsEditsSavesAndClosesByKeyboardAlone) {
     const auto expected = RuleText("R1", "1", "1", ">", "UCL", "One point above the limit  ") +
                           RuleText("R2", "1", "2", "=", "USL", "Second");
     EXPECT_TRUE(WaitForBytes(kFile, expected)) << Get(kFile);
-    EXPECT_EQ(outside.FileNames(), std::vector<std::string>{"ZYRules.sys"});
     Close();
+    EXPECT_EQ(outside.FileNames(), std::vector<std::string>{"ZYRules.sys"});
 }
 
 TEST_F(RulesProgram, ClosingWithYesWritesTheRulesAsTheyAreHeld) {

@@ -24,8 +24,8 @@ TEST_F(UnitsProgram, AddsAUnitSavesAndClosesByKeyboardAlone) {
     TypeCharacters("Square metres");
     PressKeys("Return ctrl+s");
     EXPECT_TRUE(WaitForBytes(kFile, "Kilograms,kg\r\nSquare metres,m\xB2\r\n")) << Get(kFile);
-    EXPECT_EQ(outside.FileNames(), std::vector<std::string>{kFile});
     Close();
+    EXPECT_EQ(outside.FileNames(), std::vector<std::string>{kFile});
 }
 
 TEST_F(UnitsProgram, AsksBeforeItDeletes) {
