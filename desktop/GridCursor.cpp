@@ -59,9 +59,14 @@ GridCursor::GridCursor(const ViewContext& context, Grid& model, GridWidget& grid
 
 void GridCursor::TakeCell(const wxGridEvent& event) {
     if (!showing_) {
-        context_.gate.ActLater([this, row = event.GetRow() + 1, column = event.GetCol()] {
+        // The toolkit moves its cursor behind this event.
+        const bool isToolkits =
+            grid_.GetGridCursorCoords() == wxGridNoCellCoords && event.GetRow() == 0 && event.GetCol() == 0;
+        context_.gate.ActLater([this, isToolkits, row = event.GetRow() + 1, column = event.GetCol()] {
+            // The toolkit also tells of its own first cell in rows that have just come. Where the program has
+            // picked another one meanwhile, that counts.
             const bool isCurrent = row == model_.Row() && column == model_.Column();
-            if (!isCurrent && row < model_.Rows()) {
+            if (!isCurrent && !(isToolkits && HasCell()) && row < model_.Rows()) {
                 model_.Pick(row, column);
             }
             return model_.HasFocus();
@@ -106,7 +111,7 @@ bool GridCursor::TakeBlock() {
 }
 
 void GridCursor::MatchRows(GridTable& table) {
-    showing_ = true;
+    showing_ = model_.Rows() - 1 < grid_.GetNumberRows();
     table.MatchRows();
     showing_ = false;
     Touch();

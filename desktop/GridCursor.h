@@ -16,8 +16,8 @@ class GridCursor {
     /// Shows the model's cell and block, scrolled into view, when they have changed since the last time. True
     /// when they had.
     bool Show();
-    /// Gives the toolkit the rows that have come or gone. It then moves its own cursor into those that are
-    /// left, which is no person's move: the next Show shows the model's cell and block in any case.
+    /// Gives the toolkit the rows that have come or gone. When rows go, it moves its own cursor into those
+    /// that are left, which is no person's move: the next Show shows the model's cell and block in any case.
     void MatchRows(GridTable& table);
     /// Takes a key by which the toolkit would go on from its own cursor, where the model has no current cell:
     /// that leads to the first one. False for other keys, and where there is a cell to go on from.

@@ -262,8 +262,9 @@ TEST_F(RulesGrid, HoldsAFullListOfRules) {
 TEST_F(RulesGrid, TheContextMenuOpensBesideTheRowsAndByKeyToo) {
     Play([&] {
         ShowGrid();
+        WaitForCell(1, kCodeColumn);
         OpenMenuAt(PlaceOf(grid()));
-        ChooseAboveDisabledEntry();
+        ChooseFromMenu(WXK_DOWN);
         WaitForText(4, 0, "NEW");
         Press(WXK_F10, wxMOD_SHIFT);
         WaitForMenu();
