@@ -4,9 +4,10 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
+#include <condition_variable>
+#include <mutex>
 #include <string_view>
-#include <vector>
+#include <thread>
 
 #include "platform/posix/UserFolders.h"
 
@@ -16,83 +17,26 @@ namespace {
 constexpr std::string_view kDisabled = "disabled:";
 constexpr std::array<std::string_view, 2> kStartABus{"autolaunch:", "unixexec:"};
 
-using Clock = std::chrono::steady_clock;
-
-/// A context of the main loop's kind that is this thread's own for a while: what begins meanwhile ends in it,
-/// and nothing else of the program goes on.
-class OwnContext {
+/// Cancels an operation that takes too long.
+class Deadline {
   public:
-    OwnContext() { g_main_context_push_thread_default(context_); }
-    ~OwnContext() {
-        g_main_context_pop_thread_default(context_);
-        g_main_context_unref(context_);
-    }
-    OwnContext(const OwnContext&) = delete;
-    OwnContext& operator=(const OwnContext&) = delete;
+    explicit Deadline(std::chrono::milliseconds patience)
+        : watch_([this, patience](const std::stop_token& stop) { Watch(stop, patience); }) {}
 
-    /// Waits for something to do, at most until then or for as long as it takes, and does it.
-    void Iterate(std::optional<Clock::time_point> end) {
-        gint priority = 0;
-        g_main_context_prepare(context_, &priority);
-        gint patience = -1;
-        auto watched = Watched(priority, patience);
-        if (end) {
-            const auto left = std::max(0, MillisecondsUntil(*end));
-            patience = patience < 0 ? left : std::min(patience, left);
-        }
-        g_poll(watched.data(), static_cast<guint>(watched.size()), patience);
-        if (g_main_context_check(context_, priority, watched.data(), static_cast<gint>(watched.size())) !=
-            FALSE) {
-            g_main_context_dispatch(context_);
-        }
-    }
+    GCancellable* Cancellable() const { return cancellable_.get(); }
 
   private:
-    static int MillisecondsUntil(Clock::time_point end) {
-        return static_cast<int>(std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now()).count());
-    }
-
-    std::vector<GPollFD> Watched(gint priority, gint& patience) {
-        std::vector<GPollFD> watched(1);
-        for (;;) {
-            const auto room = watched.size();
-            const auto needed =
-                g_main_context_query(context_, priority, &patience, watched.data(), static_cast<gint>(room));
-            watched.resize(static_cast<std::size_t>(needed));
-            if (watched.size() <= room) {
-                return watched;
-            }
+    void Watch(const std::stop_token& stop, std::chrono::milliseconds patience) {
+        std::unique_lock lock(mutex_);
+        if (!finished_.wait_for(lock, stop, patience, [&stop] { return stop.stop_requested(); })) {
+            g_cancellable_cancel(cancellable_.get());
         }
     }
 
-    GMainContext* context_ = g_main_context_new();
-};
-
-/// The end of an operation that was begun, whenever it comes.
-class Ending {
-  public:
-    /// To be handed over with the ending itself as its data.
-    static void Come(GObject* /*source*/, GAsyncResult* result, gpointer ending) {
-        static_cast<Ending*>(ending)->result_.reset(G_ASYNC_RESULT(g_object_ref(result)));
-    }
-
-    /// Waits for the end. What takes too long is told to give up, and ends soon then.
-    GAsyncResult* Await(OwnContext& context, GCancellable* operation) {
-        const auto end = Clock::now() + kBusPatience;
-        while (!result_ && Clock::now() < end) {
-            context.Iterate(end);
-        }
-        if (!result_) {
-            g_cancellable_cancel(operation);
-        }
-        while (!result_) {
-            context.Iterate(std::nullopt);
-        }
-        return result_.get();
-    }
-
-  private:
-    GlibPointer<GAsyncResult> result_;
+    GlibPointer<GCancellable> cancellable_{g_cancellable_new()};
+    std::mutex mutex_;
+    std::condition_variable_any finished_;
+    std::jthread watch_; // the last member: it starts when the others stand, and is joined before they go
 };
 
 bool StartsABus(std::string_view address) {
@@ -146,13 +90,9 @@ GlibPointer<GDBusConnection> ConnectToSessionBus() {
     }
     constexpr auto kFlags = static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
                                                               G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION);
-    OwnContext context;
-    Ending ending;
-    const GlibPointer<GCancellable> cancellable(g_cancellable_new());
-    g_dbus_connection_new_for_address(address.c_str(), kFlags, nullptr, cancellable.get(), &Ending::Come,
-                                      &ending);
-    GlibPointer<GDBusConnection> connection(
-        g_dbus_connection_new_for_address_finish(ending.Await(context, cancellable.get()), nullptr));
+    const Deadline deadline(kBusPatience);
+    GlibPointer<GDBusConnection> connection(g_dbus_connection_new_for_address_sync(
+        address.c_str(), kFlags, nullptr, deadline.Cancellable(), nullptr));
     if (connection) {
         g_dbus_connection_set_exit_on_close(connection.get(), FALSE);
     }
