@@ -267,7 +267,7 @@ void SecurityPage::grdSecurity_MouseDown(int button, int row) {
         controls.grdSecurity.Select(row, controls.grdSecurity.Column());
     }
     if (button == kRightButton) {
-        form_.menu.mnuDeleteUser.SetEnabled(HasCurrentUser());
+        form_.menu.mnuDeleteUser.SetEnabled(row >= 1);
         form_.menu.mnuSecuritypopMenu.PopUp();
     }
 }

@@ -186,8 +186,8 @@ TEST_F(RefusedTables, AreLargerThan2GigabytesAndAreNotReadAtAll) {
             ->OpenRecordset("T", RecordsetType::Dynaset);
     });
     EXPECT_EQ(raised.Number(), kBadFormat);
-    EXPECT_EQ(raised.Description(),
-              "'" + folder.InsidePath("T.DBF") + "' cannot be read: it is larger than 2 GB.");
+    EXPECT_EQ(raised.Description(), "'" + files->DisplayPath(folder.InsidePath("T.DBF")) +
+                                        "' cannot be read: it is larger than 2 GB.");
 }
 
 TEST_F(RefusedTables, CannotBeReadToTheirEnd) {

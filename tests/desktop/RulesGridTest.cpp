@@ -259,19 +259,28 @@ TEST_F(RulesGrid, HoldsAFullListOfRules) {
     });
 }
 
-TEST_F(RulesGrid, TheContextMenuOpensBesideTheRowsAndByKeyToo) {
+TEST_F(RulesGrid, TheContextMenuOpensBesideTheRowsToo) {
     Play([&] {
         ShowGrid();
         WaitForCell(1, kCodeColumn);
         OpenMenuAt(PlaceOf(grid()));
         ChooseFromMenu(WXK_DOWN);
         WaitForText(4, 0, "NEW");
+    });
+}
+
+#ifndef _WIN32 // there the toolkit's grid does not hand these keys on
+TEST_F(RulesGrid, TheContextMenuOpensByItsKeyToo) {
+    Play([&] {
+        ShowGrid();
+        WaitForCell(1, kCodeColumn);
         Press(WXK_F10, wxMOD_SHIFT);
         WaitForMenu();
         ChooseFromMenu(WXK_UP);
-        WaitUntil("the rule is gone", [&] { return grid().Rows() == 4; });
+        WaitUntil("the rule is gone", [&] { return grid().Rows() == 3; });
     });
 }
+#endif
 
 } // namespace
 } // namespace zy::test

@@ -213,6 +213,9 @@ TEST_F(UsersSession, TheContextMenuOpensInAnEmptyGridToo) {
     });
 }
 
+#ifndef _WIN32 // there the toolkit's grid does not hand these keys on, and an open cell that has grown does
+               // not scroll back
+
 TEST_F(UsersSession, ShiftF10OpensTheContextMenuOfTheCurrentRow) {
     Play([&] {
         ClickCell(2, kStatus);
@@ -246,6 +249,8 @@ TEST_F(UsersSession, AnOpenExpiryDateShowsTheWholeDate) {
         EXPECT_TRUE(InWindow([&] { return ShowsWholeText(RealEditor()); }));
     });
 }
+
+#endif
 
 TEST_F(UsersSession, AClickOnTheGreySaveButtonCommitsAnOpenEditWhichTurnsTheButtonOn) {
     Play([&] {

@@ -133,7 +133,8 @@ TEST_F(StartUpTest, AsksForTheUserTablesPlaceForEveryCommandLine) {
         world.files.Plan({});
         Start(line);
         EXPECT_EQ(state().gsSecurityFile, R"(D:\SHARED\USERS.DBF)");
-        EXPECT_THAT(world.files.Operations().Lines(), Contains(R"(OpenForReading C:\SYS\ZYSECURE.ZYX)"));
+        EXPECT_THAT(world.files.Operations().Lines(),
+                    Contains(R"(OpenAlwaysForReading C:\SYS\ZYSECURE.ZYX)"));
     }
 }
 
