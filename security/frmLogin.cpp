@@ -5,10 +5,10 @@
 namespace zy {
 
 frmLogin::frmLogin(std::string_view adminPassword, TraceChannel& trace, const World& world)
-    : Form("frmLogin"), lblUserName(this, "lblLabels", "&User Name:", 'U', txtUserName),
-      txtUserName(this, "txtUserName"), lblPassword(this, "lblLabels", "&Password:", 'P', txtPassword),
-      txtPassword(this, "txtPassword"), cmdOK(this, "cmdOK", "OK"), cmdCancel(this, "cmdCancel", "Cancel"),
-      adminPassword_(adminPassword), trace_(trace), world_(world) {
+    : Form("frmLogin"), lblLabels{Label(this, "lblLabels", "&User Name:", 'U', txtUserName),
+                                  Label(this, "lblLabels", "&Password:", 'P', txtPassword)},
+      txtUserName(this, "txtUserName"), txtPassword(this, "txtPassword"), cmdOK(this, "cmdOK", "OK"),
+      cmdCancel(this, "cmdCancel", "Cancel"), adminPassword_(adminPassword), trace_(trace), world_(world) {
     SetCaption("ZY Setup Security Login");
     txtPassword.SetPasswordChar('*');
     SetKeyButtons(&cmdOK, &cmdCancel);
@@ -53,7 +53,7 @@ void frmLogin::Form_Resize() {
     constexpr int kGap = 120;
     constexpr int kBoxWidth = 2700;
     constexpr int kButtonWidth = 1215;
-    const int labels = std::max(lblUserName.Preferred().width, lblPassword.Preferred().width);
+    const int labels = std::max(lblLabels[0].Preferred().width, lblLabels[1].Preferred().width);
     const int boxes = kMargin + labels + kGap;
     const int width = std::max({kButtonWidth, cmdOK.Preferred().width, cmdCancel.Preferred().width});
     // In large print the two buttons need more room than the rows above them.
@@ -66,8 +66,8 @@ void frmLogin::Form_Resize() {
         box.SetBounds({boxes, top, right - boxes, height});
         top += height + kGap;
     };
-    placeRow(lblUserName, txtUserName);
-    placeRow(lblPassword, txtPassword);
+    placeRow(lblLabels[0], txtUserName);
+    placeRow(lblLabels[1], txtPassword);
 
     const int height = std::max(cmdOK.Preferred().height, cmdCancel.Preferred().height);
     top += kGap;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -32,9 +33,8 @@ class frmLogin : public Form {
     /// The Cancel button was pressed. Neither flag is set when the dialog was closed by its close box.
     Bool16 CancelClicked;
 
-    Label lblUserName;
+    std::array<Label, 2> lblLabels; ///< of the name and of the password
     TextBox txtUserName;
-    Label lblPassword;
     TextBox txtPassword;
     CommandButton cmdOK;
     CommandButton cmdCancel;

@@ -41,7 +41,7 @@ TEST_F(DialogLayout, OfTheLoginKeepsItsControlsApartAndInside) {
     ExpectLogin([](frmLogin& login) {
         for (const auto& size : kSizes) {
             LayOut(login, size);
-            EXPECT_GE(login.lblUserName.Bounds().width, size.width);
+            EXPECT_GE(login.lblLabels[0].Bounds().width, size.width);
             EXPECT_GE(login.cmdOK.Bounds().width, size.width);
             EXPECT_EQ(login.txtUserName.Bounds().left, login.txtPassword.Bounds().left);
         }

@@ -162,10 +162,10 @@ TEST_F(Login, LooksAsItsPeopleKnowIt) {
     PutTable({User("ADMIN", "pw")});
     ExpectLogin([&](frmLogin& login) {
         EXPECT_EQ(login.Caption(), "ZY Setup Security Login");
-        EXPECT_EQ(login.lblUserName.Caption(), "&User Name:");
-        EXPECT_EQ(login.lblPassword.Caption(), "&Password:");
-        EXPECT_EQ(login.lblUserName.Name(), "lblLabels");
-        EXPECT_EQ(login.lblPassword.Name(), "lblLabels");
+        EXPECT_EQ(login.lblLabels[0].Caption(), "&User Name:");
+        EXPECT_EQ(login.lblLabels[1].Caption(), "&Password:");
+        EXPECT_EQ(login.lblLabels[0].Name(), "lblLabels");
+        EXPECT_EQ(login.lblLabels[1].Name(), "lblLabels");
         EXPECT_EQ(login.cmdOK.Caption(), "OK");
         EXPECT_EQ(login.cmdCancel.Caption(), "Cancel");
         EXPECT_EQ(login.txtPassword.PasswordChar(), '*');
