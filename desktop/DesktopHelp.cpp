@@ -16,7 +16,7 @@
 #include "desktop/Native.h"
 #include "desktop/Pictures.h"
 #include "shell/Application.h"
-#include "shell/Utilities.h"
+#include "shell/mZYGlobal.h"
 
 namespace zy {
 namespace {

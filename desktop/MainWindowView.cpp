@@ -5,7 +5,7 @@
 #include "desktop/Native.h"
 
 namespace zy {
-MainWindowView::MainWindowView(Desktop& desktop, MainWindow& window)
+MainWindowView::MainWindowView(Desktop& desktop, frmGlobalSettings& window)
     : desktop_(desktop), window_(window),
       appearanceChanged_(window.Form().appearanceChanged.Observe([this] { ShowOrHide(); })),
       unloaded_(window.unloaded.Observe([this] { desktop_.Close(); })) {}

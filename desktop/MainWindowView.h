@@ -6,7 +6,7 @@
 #include "desktop/Desktop.h"
 #include "desktop/MenuBarBinding.h"
 #include "desktop/WindowBinding.h"
-#include "shell/MainWindow.h"
+#include "shell/frmGlobalSettings.h"
 
 namespace zy {
 
@@ -14,14 +14,14 @@ namespace zy {
 /// the program has unloaded it.
 class MainWindowView {
   public:
-    MainWindowView(Desktop& desktop, MainWindow& window);
+    MainWindowView(Desktop& desktop, frmGlobalSettings& window);
 
   private:
     void ShowOrHide();
     void Open();
 
     Desktop& desktop_;
-    MainWindow& window_;
+    frmGlobalSettings& window_;
     BoundControls controls_;
     MenuPlace menuPlace_;
     std::optional<ViewContext> context_;

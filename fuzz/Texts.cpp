@@ -5,7 +5,7 @@
 #include "Targets.h"
 #include "basics/RuntimeError.h"
 #include "basics/Text.h"
-#include "shell/Utilities.h"
+#include "shell/mZYGlobal.h"
 
 namespace zy::fuzz {
 namespace {

@@ -6,8 +6,8 @@
 #include "rules/RuleChecks.h"
 #include "rules/RulesControls.h"
 #include "shell/SettingsForm.h"
-#include "shell/SharedState.h"
 #include "shell/TraceChannel.h"
+#include "shell/mZYGlobal.h"
 
 namespace zy {
 

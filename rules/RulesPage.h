@@ -9,8 +9,8 @@
 #include "rules/RulesControls.h"
 #include "rules/RulesGridMode.h"
 #include "shell/SettingsForm.h"
-#include "shell/SharedState.h"
 #include "shell/TraceChannel.h"
+#include "shell/mZYGlobal.h"
 
 namespace zy {
 

@@ -1,7 +1,7 @@
 #include "rules/SettingsLibrary.h"
 
 #include "basics/RuntimeError.h"
-#include "shell/Utilities.h"
+#include "shell/mZYGlobal.h"
 
 namespace zy {
 

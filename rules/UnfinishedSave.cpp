@@ -6,7 +6,7 @@
 #include "rules/RulesFileText.h"
 #include "rules/RulesReader.h"
 #include "shell/StatusTexts.h"
-#include "shell/Utilities.h"
+#include "shell/mZYGlobal.h"
 
 namespace zy {
 namespace {

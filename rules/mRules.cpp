@@ -4,7 +4,7 @@
 #include "rules/RulesFileText.h"
 #include "rules/UnfinishedSave.h"
 #include "shell/StatusTexts.h"
-#include "shell/Utilities.h"
+#include "shell/mZYGlobal.h"
 
 namespace zy {
 namespace {

@@ -4,7 +4,7 @@
 #include "basics/Text.h"
 #include "ini/INIfile.h"
 #include "security/UserFiles.h"
-#include "shell/Utilities.h"
+#include "shell/mZYGlobal.h"
 
 namespace zy {
 namespace {

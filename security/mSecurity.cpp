@@ -13,7 +13,7 @@
 #include "security/frmLogin.h"
 #include "shell/SaveTurn.h"
 #include "shell/StatusTexts.h"
-#include "shell/Utilities.h"
+#include "shell/mZYGlobal.h"
 
 namespace zy {
 namespace {

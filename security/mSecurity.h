@@ -13,8 +13,8 @@
 #include "security/UnfinishedSave.h"
 #include "security/UserRecord.h"
 #include "shell/SettingsForm.h"
-#include "shell/SharedState.h"
 #include "shell/TraceChannel.h"
+#include "shell/mZYGlobal.h"
 
 // security: the users editor. mSecurity holds the list of users, reads and writes their table and has the
 // checks, SecurityPage is the page with its grid and handlers, frmLogin and frmDatePicker are its dialogs. It

@@ -8,7 +8,7 @@
 #include "basics/RuntimeError.h"
 #include "basics/Text.h"
 #include "shell/StatusTexts.h"
-#include "shell/Utilities.h"
+#include "shell/mZYGlobal.h"
 #include "units/UnitsControls.h"
 
 namespace zy {

@@ -7,7 +7,7 @@
 #include "basics/Text.h"
 #include "shell/SaveTurn.h"
 #include "shell/StatusTexts.h"
-#include "shell/Utilities.h"
+#include "shell/mZYGlobal.h"
 #include "units/UnitsFileText.h"
 
 namespace zy {

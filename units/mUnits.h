@@ -5,8 +5,8 @@
 
 #include "controls/Event.h"
 #include "platform/World.h"
-#include "shell/SharedState.h"
 #include "shell/TraceChannel.h"
+#include "shell/mZYGlobal.h"
 #include "units/UnitsControls.h"
 
 // The units editor: the units file and the checks (mUnits), and the page with its grid and handlers

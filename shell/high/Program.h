@@ -5,12 +5,12 @@
 #include "rules/mRules.h"
 #include "security/SecurityPage.h"
 #include "shell/HelpMenu.h"
-#include "shell/MainWindow.h"
 #include "shell/SettingsForm.h"
-#include "shell/SharedState.h"
 #include "shell/SubClasser.h"
 #include "shell/TraceChannel.h"
+#include "shell/frmGlobalSettings.h"
 #include "shell/mRegistryEdit.h"
+#include "shell/mZYGlobal.h"
 #include "units/UnitsPage.h"
 
 namespace zy {
@@ -40,7 +40,7 @@ class Program {
     mRegistryEdit registryEdit;
     SubClasser subClasser;
     Options options;
-    MainWindow window;
+    frmGlobalSettings window;
     HelpMenu helpMenu;
 
   private:

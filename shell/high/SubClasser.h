@@ -2,7 +2,7 @@
 
 #include "platform/NativeWindow.h"
 #include "shell/Editors.h"
-#include "shell/SharedState.h"
+#include "shell/mZYGlobal.h"
 
 namespace zy {
 

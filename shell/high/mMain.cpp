@@ -5,7 +5,7 @@
 #include "security/SecurityFileLocation.h"
 #include "shell/Program.h"
 #include "shell/SaveTurn.h"
-#include "shell/Utilities.h"
+#include "shell/mZYGlobal.h"
 
 namespace zy {
 namespace {

@@ -8,8 +8,8 @@
 #include "basics/Int16.h"
 #include "basics/RuntimeError.h"
 #include "basics/Text.h"
-#include "shell/MainWindow.h"
-#include "shell/Utilities.h"
+#include "shell/frmGlobalSettings.h"
+#include "shell/mZYGlobal.h"
 
 namespace zy {
 namespace {

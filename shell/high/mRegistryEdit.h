@@ -5,7 +5,7 @@
 
 namespace zy {
 
-class MainWindow;
+class frmGlobalSettings;
 
 /// Keeps in the registry where the main window was left. What fails there is told to nobody: the window then
 /// opens at its designed place, or its place is not stored.
@@ -14,7 +14,7 @@ class mRegistryEdit final : public WindowPlacement {
     /// The key of the place, below the registry's part for the whole machine.
     static constexpr std::string_view kKey = R"(software\norvale\products\ZYSetup\Window)";
 
-    mRegistryEdit(const World& world, MainWindow& window) : world_(world), window_(window) {}
+    mRegistryEdit(const World& world, frmGlobalSettings& window) : world_(world), window_(window) {}
 
     /// Loads the window and gives it its stored place, size and state; nothing when the key is missing.
     /// Run-time error 6 for a stored number beyond 16 bits.
@@ -24,7 +24,7 @@ class mRegistryEdit final : public WindowPlacement {
 
   private:
     World world_;
-    MainWindow& window_;
+    frmGlobalSettings& window_;
 };
 
 } // namespace zy

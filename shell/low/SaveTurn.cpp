@@ -1,6 +1,6 @@
 #include "shell/SaveTurn.h"
 
-#include "shell/Utilities.h"
+#include "shell/mZYGlobal.h"
 
 namespace zy {
 

@@ -9,7 +9,7 @@
 namespace zy {
 
 /// `frmGlobalSettings` as far as the editors know it: the window with one frame for each of them, the status
-/// bar, the menus and the mark of unsaved changes. What the window itself does is MainWindow's.
+/// bar, the menus and the mark of unsaved changes. What the window itself does is frmGlobalSettings's.
 class SettingsForm : public Form {
   public:
     SettingsForm();

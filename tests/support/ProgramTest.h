@@ -32,7 +32,7 @@ class ProgramTest : public WorldTest {
     virtual World Outside() { return world.Get(); }
 
     Program& program() { return *program_; }
-    MainWindow& window() { return program().window; }
+    frmGlobalSettings& window() { return program().window; }
     SettingsForm& form() { return program().form; }
     SharedState& state() { return program().state; }
 

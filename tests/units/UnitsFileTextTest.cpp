@@ -6,7 +6,7 @@
 #include <random>
 #include <string>
 
-#include "shell/Utilities.h"
+#include "shell/mZYGlobal.h"
 
 namespace zy::test {
 namespace {

@@ -94,7 +94,7 @@ class UnitsTest : public WorldTest {
     SettingsForm& form = program.form;
     SharedState& state = program.state;
     UnitsPage& page = program.unitsPage;
-    MainWindow& window = program.window;
+    frmGlobalSettings& window = program.window;
     UnitsControls& controls = page.controls;
     Grid& grid = page.controls.grdUnits;
 };

@@ -5,8 +5,8 @@
 #include "platform/World.h"
 #include "shell/Editors.h"
 #include "shell/SettingsForm.h"
-#include "shell/SharedState.h"
 #include "shell/TraceChannel.h"
+#include "shell/mZYGlobal.h"
 
 // The high part of the shell is what calls the editors: start-up, the main window's commands and its closing.
 // It builds one Program from everything below it.
@@ -17,7 +17,7 @@ class mRules;
 class RulesPage;
 
 /// `frmGlobalSettings`: which page is shown, the menu, Save, Exit, and the question before closing.
-class MainWindow {
+class frmGlobalSettings {
   public:
     /// The editors and helpers it works with.
     struct Parts {
@@ -33,7 +33,7 @@ class MainWindow {
         MinSizeHook& minSize;
     };
 
-    explicit MainWindow(const Parts& parts);
+    explicit frmGlobalSettings(const Parts& parts);
 
     /// Loads the window when it is not loaded yet: its load handler runs once.
     void Load();
@@ -42,6 +42,10 @@ class MainWindow {
     void ShowRules();
     void ShowSecurity();
     void ShowUnits();
+    /// Shows the rules page as its list with the details of one rule, to be filled by the page.
+    void ShowListMode();
+    /// Shows the rules page as its grid, filled. Nothing in the program calls it.
+    void ShowGridMode();
     /// Brings the loaded window to the screen.
     void Show();
 

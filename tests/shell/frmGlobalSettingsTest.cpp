@@ -9,7 +9,7 @@ using ::testing::IsEmpty;
 constexpr auto kSure = "Are you Sure you want to Exit Without Saving Changes";
 
 /// The window that all editors share: its pages, its menus, its exit.
-class MainWindowTest : public EditorsTest {
+class frmGlobalSettingsTest : public EditorsTest {
   protected:
     void ExpectFrames(bool rules, bool users, bool unitsOfMeasure) {
         EXPECT_EQ(form().fraRules.Visible(), rules);
@@ -18,25 +18,25 @@ class MainWindowTest : public EditorsTest {
     }
 };
 
-TEST_F(MainWindowTest, ShowsTheRulesPageUnderItsTitle) {
+TEST_F(frmGlobalSettingsTest, ShowsTheRulesPageUnderItsTitle) {
     Start("@RULES");
     ExpectFrames(true, false, false);
     EXPECT_EQ(form().Caption(), "ZY Setup - Rules");
 }
 
-TEST_F(MainWindowTest, ShowsTheUsersPageUnderItsTitle) {
+TEST_F(frmGlobalSettingsTest, ShowsTheUsersPageUnderItsTitle) {
     Start("@SECURITY");
     ExpectFrames(false, true, false);
     EXPECT_EQ(form().Caption(), "ZY Setup - Security");
 }
 
-TEST_F(MainWindowTest, ShowsTheUnitsPageUnderItsTitle) {
+TEST_F(frmGlobalSettingsTest, ShowsTheUnitsPageUnderItsTitle) {
     Start("@UNITS");
     ExpectFrames(false, false, true);
     EXPECT_EQ(form().Caption(), "ZY Setup - Units of Measure");
 }
 
-TEST_F(MainWindowTest, SetsTheUnitsTitleBeforeTheUnitsAreLoadedAndTheUsersTitleAfterwards) {
+TEST_F(frmGlobalSettingsTest, SetsTheUnitsTitleBeforeTheUnitsAreLoadedAndTheUsersTitleAfterwards) {
     std::string title;
     units.loading = [&] { title = form().Caption(); };
     Start("@UNITS");
@@ -46,12 +46,12 @@ TEST_F(MainWindowTest, SetsTheUnitsTitleBeforeTheUnitsAreLoadedAndTheUsersTitleA
     EXPECT_EQ(title, "");
 }
 
-TEST_F(MainWindowTest, ShowsNoPageBeforeOneIsChosen) {
+TEST_F(frmGlobalSettingsTest, ShowsNoPageBeforeOneIsChosen) {
     Start("");
     ExpectFrames(false, false, false);
 }
 
-TEST_F(MainWindowTest, HidesTheOtherPagesWhenAnotherOneIsShown) {
+TEST_F(frmGlobalSettingsTest, HidesTheOtherPagesWhenAnotherOneIsShown) {
     Start("@RULES");
     window().ShowUnits();
     ExpectFrames(false, false, true);
@@ -61,7 +61,18 @@ TEST_F(MainWindowTest, HidesTheOtherPagesWhenAnotherOneIsShown) {
     ExpectFrames(true, false, false);
 }
 
-TEST_F(MainWindowTest, TracesTheSameWordForEveryPage) {
+TEST_F(frmGlobalSettingsTest, SwitchesTheRulesPageBetweenItsListAndItsGrid) {
+    Start("@RULES");
+    const auto& page = program().rulesPage.controls;
+    window().ShowGridMode();
+    EXPECT_TRUE(page.fraGridMode.Visible());
+    EXPECT_FALSE(page.fraRulesList.Visible() || page.FraRuleDetails.Visible());
+    window().ShowListMode();
+    EXPECT_FALSE(page.fraGridMode.Visible());
+    EXPECT_TRUE(page.fraRulesList.Visible() && page.FraRuleDetails.Visible());
+}
+
+TEST_F(frmGlobalSettingsTest, TracesTheSameWordForEveryPage) {
     Start("@RULES");
     calls.clear();
     window().ShowUnits();
@@ -116,7 +127,7 @@ TEST(MainMenuTest, HasSeparatorsWhereItsNamesSayAndNowhereElse) {
     }
 }
 
-TEST_F(MainWindowTest, ClosesFromTheMenuWithoutAQuestionOfItsOwn) {
+TEST_F(frmGlobalSettingsTest, ClosesFromTheMenuWithoutAQuestionOfItsOwn) {
     StartAndForget("@RULES");
     window().menu.mnuExit.Click();
     EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings Form_Unload Rules", "RemoveMinSizeHook",
@@ -126,7 +137,7 @@ TEST_F(MainWindowTest, ClosesFromTheMenuWithoutAQuestionOfItsOwn) {
     EXPECT_THAT(world.dialogs.Shown(), IsEmpty());
 }
 
-TEST_F(MainWindowTest, SavesThePlaceAfterTheHookIsGoneAndBeforeItTellsThatItIsGone) {
+TEST_F(frmGlobalSettingsTest, SavesThePlaceAfterTheHookIsGoneAndBeforeItTellsThatItIsGone) {
     StartAndForget("@UNITS");
     window().unloaded.Connect([&] { calls.emplace_back("unloaded"); });
     window().Unload();
@@ -135,7 +146,7 @@ TEST_F(MainWindowTest, SavesThePlaceAfterTheHookIsGoneAndBeforeItTellsThatItIsGo
                                    "trace frmGlobalSettings Form_Unload Unloaded", "unloaded"));
 }
 
-TEST_F(MainWindowTest, KeepsThePlaceAndTheHookWhenAFailedCheckKeepsItOpen) {
+TEST_F(frmGlobalSettingsTest, KeepsThePlaceAndTheHookWhenAFailedCheckKeepsItOpen) {
     StartAndForget("@UNITS");
     form().ChangeFlag = true;
     units.valid = false;
@@ -146,7 +157,7 @@ TEST_F(MainWindowTest, KeepsThePlaceAndTheHookWhenAFailedCheckKeepsItOpen) {
     EXPECT_EQ(unloaded, 0);
 }
 
-TEST_F(MainWindowTest, AsksBeforeLeavingWithoutSavingAndStaysOnNo) {
+TEST_F(frmGlobalSettingsTest, AsksBeforeLeavingWithoutSavingAndStaysOnNo) {
     StartAndForget("@RULES");
     world.dialogs.ExpectYesNo(kSure, "Confirm Exit", Answer::No, Escape::AnswersNo);
     window().ConfirmExit();
@@ -154,7 +165,7 @@ TEST_F(MainWindowTest, AsksBeforeLeavingWithoutSavingAndStaysOnNo) {
     EXPECT_THAT(calls, IsEmpty());
 }
 
-TEST_F(MainWindowTest, GoesThroughTheClosingQuestionAfterThatYes) {
+TEST_F(frmGlobalSettingsTest, GoesThroughTheClosingQuestionAfterThatYes) {
     StartAndForget("@RULES");
     form().ChangeFlag = true;
     world.dialogs.ExpectYesNo(kSure, "Confirm Exit", Answer::Yes, Escape::AnswersNo);
@@ -163,7 +174,7 @@ TEST_F(MainWindowTest, GoesThroughTheClosingQuestionAfterThatYes) {
     EXPECT_EQ(unloaded, 1);
 }
 
-TEST_F(MainWindowTest, LoadsOnceUntilItIsUnloaded) {
+TEST_F(frmGlobalSettingsTest, LoadsOnceUntilItIsUnloaded) {
     StartAndForget("@RULES");
     window().Load();
     window().Show();
@@ -175,7 +186,7 @@ TEST_F(MainWindowTest, LoadsOnceUntilItIsUnloaded) {
     EXPECT_TRUE(form().Visible());
 }
 
-TEST_F(MainWindowTest, LaysOutThePageInChargeAlone) {
+TEST_F(frmGlobalSettingsTest, LaysOutThePageInChargeAlone) {
     StartAndForget("@SECURITY");
     form().SetInnerSize({10000, 9000});
     EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings Form_Resize Start", "ResizeSecurity"));
@@ -188,7 +199,7 @@ TEST_F(MainWindowTest, LaysOutThePageInChargeAlone) {
     EXPECT_EQ(form().fraRules.Bounds().width, 10000);
 }
 
-TEST_F(MainWindowTest, RunsNoLayoutWhileItIsMinimized) {
+TEST_F(frmGlobalSettingsTest, RunsNoLayoutWhileItIsMinimized) {
     StartAndForget("@UNITS");
     form().SetState(WindowState::Minimized);
     form().SetInnerSize({0, 0});
@@ -198,7 +209,7 @@ TEST_F(MainWindowTest, RunsNoLayoutWhileItIsMinimized) {
     EXPECT_EQ(calls.back(), "ResizeUnits");
 }
 
-TEST_F(MainWindowTest, StartsWithoutMarksAndWithoutAMinimumSizeOfItsOwn) {
+TEST_F(frmGlobalSettingsTest, StartsWithoutMarksAndWithoutAMinimumSizeOfItsOwn) {
     Start("@RULES");
     ExpectMarks(false, false);
     EXPECT_EQ(form().MinWidth, 0);

@@ -1,4 +1,4 @@
-#include "shell/MainWindow.h"
+#include "shell/frmGlobalSettings.h"
 
 #include <string>
 
@@ -12,29 +12,29 @@ constexpr std::string_view kModule = "frmGlobalSettings";
 
 } // namespace
 
-MainWindow::MainWindow(const Parts& parts) : menu(parts.form.menu), parts_(parts) {
+frmGlobalSettings::frmGlobalSettings(const Parts& parts) : menu(parts.form.menu), parts_(parts) {
     parts_.form.resize.Connect([this] { Form_Resize(); });
     menu.mnuSave.click.Connect([this] { mnuSave_Click(); });
     menu.mnuExit.click.Connect([this] { mnuExit_Click(); });
 }
 
-void MainWindow::Trace(std::string_view procedure, std::string_view message) {
+void frmGlobalSettings::Trace(std::string_view procedure, std::string_view message) {
     parts_.trace.DebugTrace(kModule, procedure, message);
 }
 
-void MainWindow::Load() {
+void frmGlobalSettings::Load() {
     if (!loaded_) {
         loaded_ = true;
         Form_Load();
     }
 }
 
-void MainWindow::Show() {
+void frmGlobalSettings::Show() {
     Load();
     parts_.form.SetVisible(true);
 }
 
-void MainWindow::ShowFrame(const Frame& frame) {
+void frmGlobalSettings::ShowFrame(const Frame& frame) {
     for (Frame* each : {&parts_.form.fraRules, &parts_.form.fraSecurity, &parts_.form.FraUnits}) {
         each->SetVisible(each == &frame);
     }
@@ -42,16 +42,16 @@ void MainWindow::ShowFrame(const Frame& frame) {
 
 // All three pages trace "Rules", which is meant.
 
-void MainWindow::ShowRules() {
+void frmGlobalSettings::ShowRules() {
     Load();
     Trace("ShowRules", "Rules");
     ShowFrame(parts_.form.fraRules);
-    parts_.rulesPage.ShowListMode();
+    ShowListMode();
     parts_.rulesPage.LoadRulesListMode();
     parts_.form.SetCaption("ZY Setup - Rules");
 }
 
-void MainWindow::ShowSecurity() {
+void frmGlobalSettings::ShowSecurity() {
     Load();
     Trace("ShowSecurity", "Rules");
     ShowFrame(parts_.form.fraSecurity);
@@ -59,7 +59,7 @@ void MainWindow::ShowSecurity() {
     parts_.form.SetCaption("ZY Setup - Security");
 }
 
-void MainWindow::ShowUnits() {
+void frmGlobalSettings::ShowUnits() {
     Load();
     Trace("ShowUnits", "Rules");
     ShowFrame(parts_.form.FraUnits);
@@ -67,14 +67,22 @@ void MainWindow::ShowUnits() {
     parts_.units.LoadUnitsData();
 }
 
-void MainWindow::ConfirmExit() {
+void frmGlobalSettings::ShowListMode() {
+    parts_.rulesPage.ShowListMode();
+}
+
+void frmGlobalSettings::ShowGridMode() {
+    parts_.rulesPage.ShowGridMode();
+}
+
+void frmGlobalSettings::ConfirmExit() {
     if (parts_.world.dialogs.AskYesNo("Are you Sure you want to Exit Without Saving Changes", "Confirm Exit",
                                       Escape::AnswersNo)) {
         Unload();
     }
 }
 
-bool MainWindow::Unload() {
+bool frmGlobalSettings::Unload() {
     if (!Form_Unload()) {
         return false;
     }
@@ -84,12 +92,12 @@ bool MainWindow::Unload() {
     return true;
 }
 
-void MainWindow::Form_Load() {
+void frmGlobalSettings::Form_Load() {
     Trace("Form_Load", "Start");
     parts_.minSize.InstallMinSizeHook();
 }
 
-void MainWindow::Form_Resize() {
+void frmGlobalSettings::Form_Resize() {
     Trace("Form_Resize", "Start");
     if (parts_.form.State() == WindowState::Minimized) {
         return;
@@ -105,11 +113,11 @@ void MainWindow::Form_Resize() {
     }
 }
 
-void MainWindow::mnuExit_Click() {
+void frmGlobalSettings::mnuExit_Click() {
     Unload();
 }
 
-void MainWindow::mnuSave_Click() {
+void frmGlobalSettings::mnuSave_Click() {
     if (parts_.state.gbRulesMode) {
         SaveRules();
     } else if (parts_.state.gbSecurityMode) {
@@ -123,7 +131,7 @@ namespace {
 constexpr std::string_view kSaveProcedure = ",mnuSave_Click"; // the leading comma is meant
 } // namespace
 
-void MainWindow::SaveRules() {
+void frmGlobalSettings::SaveRules() {
     Trace(kSaveProcedure, "Rules");
     auto& changeFlag = parts_.form.ChangeFlag;
     if (parts_.rules.giCurRule != -1 && changeFlag) {
@@ -138,7 +146,7 @@ void MainWindow::SaveRules() {
     }
 }
 
-void MainWindow::SaveSecurity() {
+void frmGlobalSettings::SaveSecurity() {
     parts_.security.CommitCellEdit();
     Trace(kSaveProcedure, "Security");
     if (!parts_.security.Validate_Security()) {
@@ -152,7 +160,7 @@ void MainWindow::SaveSecurity() {
     parts_.security.DisableSaveButton();
 }
 
-void MainWindow::SaveUnits() {
+void frmGlobalSettings::SaveUnits() {
     parts_.units.CommitCellEdit();
     Trace(kSaveProcedure, "Units");
     if (parts_.units.ValidateUnits() && parts_.units.Write_Units()) {
@@ -161,7 +169,7 @@ void MainWindow::SaveUnits() {
     }
 }
 
-bool MainWindow::Form_Unload() {
+bool frmGlobalSettings::Form_Unload() {
     const auto& state = parts_.state;
     const bool unload = state.gbRulesMode      ? UnloadRules()
                         : state.gbSecurityMode ? UnloadSecurity()
@@ -176,12 +184,12 @@ bool MainWindow::Form_Unload() {
     return true;
 }
 
-bool MainWindow::WantsToSave() {
+bool frmGlobalSettings::WantsToSave() {
     return parts_.world.dialogs.AskYesNo("Do you Wish to Save your Changes?", "Save Changes?",
                                          Escape::IsIgnored);
 }
 
-bool MainWindow::UnloadRules() {
+bool frmGlobalSettings::UnloadRules() {
     Trace("Form_Unload", "Rules");
     if (parts_.form.ChangeFlag && WantsToSave()) {
         // Unlike the other two editors, nothing is checked here, which is meant.
@@ -190,7 +198,7 @@ bool MainWindow::UnloadRules() {
     return true;
 }
 
-bool MainWindow::UnloadSecurity() {
+bool frmGlobalSettings::UnloadSecurity() {
     parts_.security.CommitCellEdit();
     Trace("Form_Unload", "Security");
     if (parts_.state.gbChanged && WantsToSave()) {
@@ -203,7 +211,7 @@ bool MainWindow::UnloadSecurity() {
     return true;
 }
 
-bool MainWindow::UnloadUnits() {
+bool frmGlobalSettings::UnloadUnits() {
     parts_.units.CommitCellEdit();
     Trace("Form_Unload", "Units");
     if (parts_.form.ChangeFlag && WantsToSave()) {
@@ -214,7 +222,7 @@ bool MainWindow::UnloadUnits() {
 
 /// Without users the two files under the system directory go, even when the table that is edited lies in
 /// another folder: meant.
-bool MainWindow::WriteUserTable() {
+bool frmGlobalSettings::WriteUserTable() {
     return parts_.security.WriteUsers(parts_.state.gsSystemDir);
 }
 

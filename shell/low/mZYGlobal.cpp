@@ -1,4 +1,4 @@
-#include "shell/Utilities.h"
+#include "shell/mZYGlobal.h"
 
 #include "basics/RuntimeError.h"
 
