@@ -40,7 +40,7 @@ void AddLoad(UnitsPlace& many) {
 /// Checking takes a time that grows as the list does.
 void AddCheck(UnitsPlace& many, UnitsPlace& tenth) {
     const auto check = [](UnitsPlace& place) {
-        return Working([units = place.Loaded()] { return units->page.ValidateUnits(); });
+        return Working([units = place.Loaded()] { return units->page.units.ValidateUnits(); });
     };
     Add(Against({"check " + tenth.Records(), check(tenth)},
                 {.work = "check " + many.Records(), .goal = 12, .rounds = 101, .ours = check(many)}));

@@ -16,7 +16,7 @@ struct Units {
         state.gsUnitsFile = file;
         form.SetVisible(true);
         form.FraUnits.SetVisible(true);
-        page.LoadUnitsData();
+        page.units.LoadUnitsData();
     }
 
     SettingsForm form;
@@ -35,7 +35,7 @@ class UnitsEditor {
 
     std::unique_ptr<Units> Load() { return std::make_unique<Units>(world_, file_); }
     static int Count(const Units& units) { return units.page.controls.grdUnits.Rows() - 1; }
-    static void Save(Units& units) { units.page.Write_Units(); }
+    static void Save(Units& units) { units.page.units.Write_Units(); }
 
   private:
     FileWorld world_;

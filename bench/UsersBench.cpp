@@ -21,7 +21,7 @@ void AddLoad(UsersPlace& many, UsersPlace& tenth) {
 /// Checking takes a time that grows as the list does, although each name is compared with all others.
 void AddCheck(UsersPlace& many, UsersPlace& tenth) {
     const auto check = [](UsersPlace& place) {
-        return Working([users = place.Loaded()] { return users->page.Validate_Security(); });
+        return Working([users = place.Loaded()] { return users->page.users.Validate_Security(); });
     };
     Add(Against({"check " + tenth.Records(), check(tenth)},
                 {.work = "check " + many.Records(), .goal = 12, .rounds = 101, .ours = check(many)}));

@@ -16,7 +16,7 @@ struct Users {
         state.gsSecurityFile = file;
         form.SetVisible(true);
         form.fraSecurity.SetVisible(true);
-        page.LoadSecurityData();
+        page.users.LoadSecurityData();
         page.LoadSecurity();
     }
 

@@ -163,6 +163,30 @@ bool RulesPage::Validate_Rule() {
            ValidateSelection(controls.cboZone, controls.cboCondition) && ValidateDescription();
 }
 
+void RulesPage::Show() {
+    ShowListMode();
+    LoadRulesListMode();
+}
+
+void RulesPage::Save() {
+    auto& changeFlag = form_.ChangeFlag;
+    if (rules_.giCurRule != -1 && changeFlag) {
+        if (!Validate_Rule()) {
+            return;
+        }
+        Save_Rules_Edit(rules_.giCurRule);
+        changeFlag = true;
+    }
+    if (changeFlag) {
+        changeFlag = !rules_.Write_Rules_File();
+    }
+}
+
+bool RulesPage::SaveAtClosing() {
+    // Unlike the other two editors this one checks nothing here: whoever closes gets the list as it is held.
+    return rules_.Write_Rules_File();
+}
+
 void RulesPage::ResizeRuleTab() {
     const auto& inner = form_.InnerSize();
     const int height = std::max(inner.height - form_.zyStatusBar.Preferred().height, 0);

@@ -8,6 +8,7 @@
 #include "rules/RuleChecks.h"
 #include "rules/RulesControls.h"
 #include "rules/RulesGridMode.h"
+#include "shell/Editor.h"
 #include "shell/SettingsForm.h"
 #include "shell/TraceChannel.h"
 #include "shell/mZYGlobal.h"
@@ -18,7 +19,7 @@ class mRules;
 
 /// The rules page: list mode with its detail form, the handlers of its controls, and the switch to grid
 /// mode.
-class RulesPage {
+class RulesPage : public Editor {
   public:
     RulesPage(mRules& rules, SettingsForm& form, SharedState& state, TraceChannel& trace, const World& world);
 
@@ -57,6 +58,14 @@ class RulesPage {
     void cmdUpDown_DownClick();
     void lstRulesList_ItemClick(int item);
     void lstRulesList_KeyDown(const KeyPress& press);
+
+    // Editor
+    void Show() override;
+    void Resize() override { ResizeRuleTab(); }
+    void CommitOpenCell() override {} // the list has no cells
+    bool HasUnsavedChanges() const override { return form_.ChangeFlag; }
+    void Save() override;
+    bool SaveAtClosing() override;
 
     RulesControls controls;
     RulesGridMode gridMode;

@@ -171,15 +171,32 @@ void SecurityPage::mnuDeleteUser_Click() {
 
 void SecurityPage::cmdSaveUsers_Click() {
     Trace("cmdSaveUsers_Click", "Start");
-    if (!users.Validate_Security()) {
-        return;
-    }
-    users.Save_Security();
     // Unlike File > Save, without users in the folder of the table.
-    if (WriteUsers(users.SecurityFolder())) {
+    if (CheckAndWrite(users.SecurityFolder())) {
         form_.ChangeFlag = false;
         ShowSaved();
     }
+}
+
+void SecurityPage::Save() {
+    if (SaveAtClosing()) {
+        state_.gbChanged = false;
+        ShowSaved();
+    }
+}
+
+bool SecurityPage::SaveAtClosing() {
+    // Kept from the first version on: without users the two files of the system directory go, even when the
+    // table that is edited lies in another folder.
+    return CheckAndWrite(state_.gsSystemDir);
+}
+
+bool SecurityPage::CheckAndWrite(std::string_view folderWithoutUsers) {
+    if (!users.Validate_Security()) {
+        return false;
+    }
+    users.Save_Security();
+    return WriteUsers(folderWithoutUsers);
 }
 
 bool SecurityPage::WriteUsers(std::string_view folderWithoutUsers) {

@@ -2,13 +2,13 @@
 
 #include "platform/World.h"
 #include "security/mSecurity.h"
-#include "shell/Editors.h"
+#include "shell/Editor.h"
 #include "shell/SettingsForm.h"
 
 namespace zy {
 
 /// The users page: its controls and their handlers.
-class SecurityPage : public SecurityEditor {
+class SecurityPage : public Editor {
   public:
     SecurityPage(SettingsForm& form, SharedState& state, TraceChannel& trace, const World& world);
 
@@ -30,15 +30,17 @@ class SecurityPage : public SecurityEditor {
     /// Makes the row current; the right button opens the context menu.
     void grdSecurity_MouseDown(int button, int row);
 
-    // SecurityEditor
-    bool LoadSecurityData() override { return users.LoadSecurityData(); }
-    void LoadSecurity() override;
-    void ResizeSecurity() override;
-    void CommitCellEdit() override { controls.grdSecurity.CommitEdit(); }
-    bool Validate_Security() override { return users.Validate_Security(); }
-    void Save_Security() override { users.Save_Security(); }
-    bool WriteUsers(std::string_view folderWithoutUsers) override;
-    void DisableSaveButton() override { ShowSaved(); }
+    /// Fills the grid from the list of users.
+    void LoadSecurity();
+    void ResizeSecurity();
+
+    // Editor
+    void Show() override { LoadSecurity(); }
+    void Resize() override { ResizeSecurity(); }
+    void CommitOpenCell() override { controls.grdSecurity.CommitEdit(); }
+    bool HasUnsavedChanges() const override { return state_.gbChanged; }
+    void Save() override;
+    bool SaveAtClosing() override;
 
     SecurityControls controls;
     mSecurity users;
@@ -55,6 +57,12 @@ class SecurityPage : public SecurityEditor {
     /// False, and the person is told, when there is no room for one more.
     bool AddUser();
     void DeleteCurrentUser();
+    /// Checks the users, takes them over from the grid and writes them. False when a check failed or somebody
+    /// else is saving there; the person was told.
+    bool CheckAndWrite(std::string_view folderWithoutUsers);
+    /// Writes the users to the table and its index; without users both go from this folder to the recycle bin
+    /// instead. False when somebody else is saving there: then nothing is written, and the person is told.
+    bool WriteUsers(std::string_view folderWithoutUsers);
     void SetDate(int row, const std::string& text);
     void ShowSaved();
     /// Tells the number of users, what becomes of the single quotes in one, the row's before others, and what

@@ -27,8 +27,8 @@ std::string_view SpecialCharacter(Key key) {
 } // namespace
 
 UnitsPage::UnitsPage(SettingsForm& form, SharedState& state, TraceChannel& trace, const World& world)
-    : controls(form.FraUnits), form_(form), trace_(trace), world_(world),
-      units_(controls, state, trace, world) {
+    : controls(form.FraUnits), units(controls, state, trace, world), form_(form), trace_(trace),
+      world_(world) {
     Connect();
 }
 
@@ -45,7 +45,7 @@ void UnitsPage::Connect() {
         [this] { controls.cmdDeleteUnit.SetEnabled(controls.grdUnits.Row() >= 1); });
     grid.keyDownEdit.Connect([this](const KeyPress& press) { grdUnits_KeyDownEdit(press); });
     grid.keyDown.Connect([this](const KeyPress& press, bool& handled) { grdUnits_KeyDown(press, handled); });
-    units_.reported.Connect([this](const std::string& report) { form_.zyStatusBar.SetText(report); });
+    units.reported.Connect([this](const std::string& report) { form_.zyStatusBar.SetText(report); });
 }
 
 void UnitsPage::Trace(std::string_view procedure, std::string_view message) {
@@ -55,7 +55,7 @@ void UnitsPage::Trace(std::string_view procedure, std::string_view message) {
 void UnitsPage::MarkUnitsChanged() {
     form_.ChangeFlag = true;
     controls.cmdSaveUnits.SetEnabled(true);
-    units_.ReportCount();
+    units.ReportCount();
 }
 
 void UnitsPage::grdUnits_AfterEdit(int row) {
@@ -64,7 +64,7 @@ void UnitsPage::grdUnits_AfterEdit(int row) {
 }
 
 void UnitsPage::grdUnits_Pasted(const PasteReport& paste) {
-    units_.ReportCount();
+    units.ReportCount();
     AddHint(form_.zyStatusBar, DescribeLeftOut(paste, controls.grdUnits));
     if (!paste.tooLong && controls.grdUnits.Row() >= 1) {
         AddHint(form_.zyStatusBar, DescribeMisreadings());
@@ -89,7 +89,7 @@ void UnitsPage::cmdAddUNit_Click() {
     auto& grid = controls.grdUnits;
     const int row = grid.Rows();
     if (row > kMaxItems) {
-        units_.ReportCount();
+        units.ReportCount();
         AddHint(form_.zyStatusBar, kListFull);
         return;
     }
@@ -124,10 +124,18 @@ void UnitsPage::DeleteCurrentRow() {
 
 void UnitsPage::cmdSaveUnits_Click() {
     Trace("cmdSaveUnits_Click", "Start");
-    if (units_.ValidateUnits() && units_.Write_Units()) {
+    Save();
+}
+
+void UnitsPage::Save() {
+    if (SaveAtClosing()) {
         form_.ChangeFlag = false;
         controls.cmdSaveUnits.SetEnabled(false);
     }
+}
+
+bool UnitsPage::SaveAtClosing() {
+    return units.ValidateUnits() && units.Write_Units();
 }
 
 // Either arrow marks the list as changed even when nothing moved, which is meant.

@@ -1,14 +1,14 @@
 #pragma once
 
 #include "platform/World.h"
-#include "shell/Editors.h"
+#include "shell/Editor.h"
 #include "shell/SettingsForm.h"
 #include "units/mUnits.h"
 
 namespace zy {
 
 /// The units page: its controls and their handlers.
-class UnitsPage : public UnitsEditor {
+class UnitsPage : public Editor {
   public:
     UnitsPage(SettingsForm& form, SharedState& state, TraceChannel& trace, const World& world);
 
@@ -31,15 +31,18 @@ class UnitsPage : public UnitsEditor {
     /// with Up or Down moves the unit like the arrows do.
     void grdUnits_KeyDown(const KeyPress& press, bool& handled);
 
-    // UnitsEditor
-    void LoadUnitsData() override { units_.LoadUnitsData(); }
-    void ResizeUnits() override;
-    void CommitCellEdit() override { controls.grdUnits.CommitEdit(); }
-    bool ValidateUnits() override { return units_.ValidateUnits(); }
-    bool Write_Units() override { return units_.Write_Units(); }
-    void DisableSaveButton() override { controls.cmdSaveUnits.SetEnabled(false); }
+    void ResizeUnits();
+
+    // Editor
+    void Show() override { units.LoadUnitsData(); }
+    void Resize() override { ResizeUnits(); }
+    void CommitOpenCell() override { controls.grdUnits.CommitEdit(); }
+    bool HasUnsavedChanges() const override { return form_.ChangeFlag; }
+    void Save() override;
+    bool SaveAtClosing() override;
 
     UnitsControls controls;
+    mUnits units;
 
   private:
     void Connect();
@@ -53,7 +56,6 @@ class UnitsPage : public UnitsEditor {
     SettingsForm& form_;
     TraceChannel& trace_;
     World world_;
-    mUnits units_;
 };
 
 } // namespace zy

@@ -18,16 +18,7 @@ namespace zy {
 /// Everything that one run of the program consists of, short of the outside world.
 class Program {
   public:
-    /// What may be supplied from outside. A part that is given takes the place of the program's own.
-    struct Options {
-        SecurityEditor* security = nullptr;
-        UnitsEditor* units = nullptr;
-        WindowPlacement* placement = nullptr;
-        MinSizeHook* minSize = nullptr;
-    };
-
     explicit Program(const World& outside);
-    Program(const World& outside, const Options& options);
 
     World world;
     SharedState state;
@@ -39,12 +30,8 @@ class Program {
     UnitsPage unitsPage;
     mRegistryEdit registryEdit;
     SubClasser subClasser;
-    Options options;
     frmGlobalSettings window;
     HelpMenu helpMenu;
-
-  private:
-    Options WithOwnParts(Options given);
 };
 
 } // namespace zy

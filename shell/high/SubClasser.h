@@ -1,19 +1,18 @@
 #pragma once
 
 #include "platform/NativeWindow.h"
-#include "shell/Editors.h"
 #include "shell/mZYGlobal.h"
 
 namespace zy {
 
 /// Keeps the main window from being made smaller than its least size, by a procedure that gets the window's
 /// messages in place of its own.
-class SubClasser final : public MinSizeHook {
+class SubClasser {
   public:
     SubClasser(NativeWindow& window, SharedState& state) : window_(window), state_(state) {}
 
-    void InstallMinSizeHook() override;
-    void RemoveMinSizeHook() override;
+    void InstallMinSizeHook();
+    void RemoveMinSizeHook();
 
     /// Answers the question for the bounds of the window's size and hands every other message on. Its own
     /// errors are ignored: a message that cannot be answered gets 0.

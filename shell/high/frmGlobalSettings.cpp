@@ -1,9 +1,10 @@
 #include "shell/frmGlobalSettings.h"
 
-#include <string>
+#include <algorithm>
 
 #include "rules/RulesPage.h"
-#include "rules/mRules.h"
+#include "shell/SubClasser.h"
+#include "shell/mRegistryEdit.h"
 
 namespace zy {
 namespace {
@@ -12,7 +13,11 @@ constexpr std::string_view kModule = "frmGlobalSettings";
 
 } // namespace
 
-frmGlobalSettings::frmGlobalSettings(const Parts& parts) : menu(parts.form.menu), parts_(parts) {
+frmGlobalSettings::frmGlobalSettings(const Parts& parts)
+    : menu(parts.form.menu),
+      parts_(parts), modes_{{{&SharedState::gbRulesMode, "Rules", &parts.rules},
+                             {&SharedState::gbSecurityMode, "Security", &parts.security},
+                             {&SharedState::gbUnitsMode, "Units", &parts.units}}} {
     parts_.form.resize.Connect([this] { Form_Resize(); });
     menu.mnuSave.click.Connect([this] { mnuSave_Click(); });
     menu.mnuExit.click.Connect([this] { mnuExit_Click(); });
@@ -40,14 +45,13 @@ void frmGlobalSettings::ShowFrame(const Frame& frame) {
     }
 }
 
-// All three pages trace "Rules", which is meant.
+// All three trace "Rules", which whoever reads the traces is used to.
 
 void frmGlobalSettings::ShowRules() {
     Load();
     Trace("ShowRules", "Rules");
     ShowFrame(parts_.form.fraRules);
-    ShowListMode();
-    parts_.rulesPage.LoadRulesListMode();
+    parts_.rules.Show();
     parts_.form.SetCaption("ZY Setup - Rules");
 }
 
@@ -55,7 +59,7 @@ void frmGlobalSettings::ShowSecurity() {
     Load();
     Trace("ShowSecurity", "Rules");
     ShowFrame(parts_.form.fraSecurity);
-    parts_.security.LoadSecurity();
+    parts_.security.Show();
     parts_.form.SetCaption("ZY Setup - Security");
 }
 
@@ -64,20 +68,20 @@ void frmGlobalSettings::ShowUnits() {
     Trace("ShowUnits", "Rules");
     ShowFrame(parts_.form.FraUnits);
     parts_.form.SetCaption("ZY Setup - Units of Measure");
-    parts_.units.LoadUnitsData();
+    parts_.units.Show();
 }
 
 void frmGlobalSettings::ShowListMode() {
-    parts_.rulesPage.ShowListMode();
+    parts_.rules.ShowListMode();
 }
 
 void frmGlobalSettings::ShowGridMode() {
-    parts_.rulesPage.ShowGridMode();
+    parts_.rules.ShowGridMode();
 }
 
 void frmGlobalSettings::ConfirmExit() {
-    if (parts_.world.dialogs.AskYesNo("Are you Sure you want to Exit Without Saving Changes", "Confirm Exit",
-                                      Escape::AnswersNo)) {
+    if (parts_.dialogs.AskYesNo("Are you Sure you want to Exit Without Saving Changes", "Confirm Exit",
+                                Escape::AnswersNo)) {
         Unload();
     }
 }
@@ -97,19 +101,21 @@ void frmGlobalSettings::Form_Load() {
     parts_.minSize.InstallMinSizeHook();
 }
 
+const frmGlobalSettings::Mode* frmGlobalSettings::InCharge() const {
+    const auto found = std::find_if(modes_.begin(), modes_.end(),
+                                    [this](const Mode& mode) { return bool(parts_.state.*mode.flag); });
+    return found == modes_.end() ? nullptr : &*found;
+}
+
 void frmGlobalSettings::Form_Resize() {
     Trace("Form_Resize", "Start");
     if (parts_.form.State() == WindowState::Minimized) {
         return;
     }
-    if (parts_.state.gbRulesMode) {
-        parts_.rulesPage.ResizeRuleTab();
-    }
-    if (parts_.state.gbSecurityMode) {
-        parts_.security.ResizeSecurity();
-    }
-    if (parts_.state.gbUnitsMode) {
-        parts_.units.ResizeUnits();
+    for (const auto& mode : modes_) {
+        if (parts_.state.*mode.flag) {
+            mode.editor->Resize();
+        }
     }
 }
 
@@ -118,112 +124,32 @@ void frmGlobalSettings::mnuExit_Click() {
 }
 
 void frmGlobalSettings::mnuSave_Click() {
-    if (parts_.state.gbRulesMode) {
-        SaveRules();
-    } else if (parts_.state.gbSecurityMode) {
-        SaveSecurity();
-    } else if (parts_.state.gbUnitsMode) {
-        SaveUnits();
-    }
-}
-
-namespace {
-constexpr std::string_view kSaveProcedure = ",mnuSave_Click"; // the leading comma is meant
-} // namespace
-
-void frmGlobalSettings::SaveRules() {
-    Trace(kSaveProcedure, "Rules");
-    auto& changeFlag = parts_.form.ChangeFlag;
-    if (parts_.rules.giCurRule != -1 && changeFlag) {
-        if (!parts_.rulesPage.Validate_Rule()) {
-            return;
-        }
-        parts_.rulesPage.Save_Rules_Edit(parts_.rules.giCurRule);
-        changeFlag = true;
-    }
-    if (changeFlag) {
-        changeFlag = !parts_.rules.Write_Rules_File();
-    }
-}
-
-void frmGlobalSettings::SaveSecurity() {
-    parts_.security.CommitCellEdit();
-    Trace(kSaveProcedure, "Security");
-    if (!parts_.security.Validate_Security()) {
-        return;
-    }
-    parts_.security.Save_Security();
-    if (!WriteUserTable()) {
-        return;
-    }
-    parts_.state.gbChanged = false;
-    parts_.security.DisableSaveButton();
-}
-
-void frmGlobalSettings::SaveUnits() {
-    parts_.units.CommitCellEdit();
-    Trace(kSaveProcedure, "Units");
-    if (parts_.units.ValidateUnits() && parts_.units.Write_Units()) {
-        parts_.form.ChangeFlag = false;
-        parts_.units.DisableSaveButton();
+    if (const Mode* mode = InCharge()) {
+        mode->editor->CommitOpenCell();
+        Trace(",mnuSave_Click", mode->name); // with that comma it stands in the traces of all versions
+        mode->editor->Save();
     }
 }
 
 bool frmGlobalSettings::Form_Unload() {
-    const auto& state = parts_.state;
-    const bool unload = state.gbRulesMode      ? UnloadRules()
-                        : state.gbSecurityMode ? UnloadSecurity()
-                        : state.gbUnitsMode    ? UnloadUnits()
-                                               : true;
-    if (!unload) {
+    const Mode* mode = InCharge();
+    if (mode != nullptr && !Leave(*mode)) {
         return false;
     }
     parts_.minSize.RemoveMinSizeHook();
-    parts_.placement.SaveWindowPlacement();
+    parts_.placement.SaveWindowPlacement(*this);
     Trace("Form_Unload", "Unloaded");
     return true;
 }
 
+bool frmGlobalSettings::Leave(const Mode& mode) {
+    mode.editor->CommitOpenCell();
+    Trace("Form_Unload", mode.name);
+    return !mode.editor->HasUnsavedChanges() || !WantsToSave() || mode.editor->SaveAtClosing();
+}
+
 bool frmGlobalSettings::WantsToSave() {
-    return parts_.world.dialogs.AskYesNo("Do you Wish to Save your Changes?", "Save Changes?",
-                                         Escape::IsIgnored);
-}
-
-bool frmGlobalSettings::UnloadRules() {
-    Trace("Form_Unload", "Rules");
-    if (parts_.form.ChangeFlag && WantsToSave()) {
-        // Unlike the other two editors, nothing is checked here, which is meant.
-        return parts_.rules.Write_Rules_File();
-    }
-    return true;
-}
-
-bool frmGlobalSettings::UnloadSecurity() {
-    parts_.security.CommitCellEdit();
-    Trace("Form_Unload", "Security");
-    if (parts_.state.gbChanged && WantsToSave()) {
-        if (!parts_.security.Validate_Security()) {
-            return false;
-        }
-        parts_.security.Save_Security();
-        return WriteUserTable();
-    }
-    return true;
-}
-
-bool frmGlobalSettings::UnloadUnits() {
-    parts_.units.CommitCellEdit();
-    Trace("Form_Unload", "Units");
-    if (parts_.form.ChangeFlag && WantsToSave()) {
-        return parts_.units.ValidateUnits() && parts_.units.Write_Units();
-    }
-    return true;
-}
-
-/// Without users the two files under the system directory go, even when the table that is edited lies in
-/// another folder: meant.
-bool frmGlobalSettings::WriteUserTable() {
-    return parts_.security.WriteUsers(parts_.state.gsSystemDir);
+    return parts_.dialogs.AskYesNo("Do you Wish to Save your Changes?", "Save Changes?", Escape::IsIgnored);
 }
 
 } // namespace zy

@@ -1,9 +1,10 @@
 #pragma once
 
+#include <array>
 #include <string_view>
 
-#include "platform/World.h"
-#include "shell/Editors.h"
+#include "platform/Dialogs.h"
+#include "shell/Editor.h"
 #include "shell/SettingsForm.h"
 #include "shell/TraceChannel.h"
 #include "shell/mZYGlobal.h"
@@ -13,24 +14,24 @@
 
 namespace zy {
 
-class mRules;
 class RulesPage;
+class SubClasser;
+class mRegistryEdit;
 
 /// `frmGlobalSettings`: which page is shown, the menu, Save, Exit, and the question before closing.
 class frmGlobalSettings {
   public:
-    /// The editors and helpers it works with.
+    /// What it works with.
     struct Parts {
         SettingsForm& form;
         SharedState& state;
         TraceChannel& trace;
-        World world;
-        mRules& rules;
-        RulesPage& rulesPage;
-        SecurityEditor& security;
-        UnitsEditor& units;
-        WindowPlacement& placement;
-        MinSizeHook& minSize;
+        Dialogs& dialogs;
+        RulesPage& rules;
+        Editor& security;
+        Editor& units;
+        mRegistryEdit& placement;
+        SubClasser& minSize;
     };
 
     explicit frmGlobalSettings(const Parts& parts);
@@ -69,19 +70,23 @@ class frmGlobalSettings {
     Event<> unloaded;
 
   private:
+    /// An editor, the flag that puts it in charge, and its name in the traces.
+    struct Mode {
+        Bool16 SharedState::*flag;
+        std::string_view name;
+        Editor* editor;
+    };
+
+    /// The editor that is asked to save and to close: of several in charge the first.
+    const Mode* InCharge() const;
     void ShowFrame(const Frame& frame);
     void Trace(std::string_view procedure, std::string_view message);
     bool WantsToSave();
-
-    void SaveRules();
-    void SaveSecurity();
-    void SaveUnits();
-    bool UnloadRules();
-    bool UnloadSecurity();
-    bool UnloadUnits();
-    bool WriteUserTable();
+    /// False when the editor keeps the window open.
+    bool Leave(const Mode& mode);
 
     Parts parts_;
+    std::array<Mode, 3> modes_;
     bool loaded_ = false;
 };
 

@@ -46,8 +46,7 @@ StartUp StartRules(Program& program) {
 }
 
 StartUp StartSecurity(Program& program) {
-    auto& security = *program.options.security;
-    if (!security.LoadSecurityData()) {
+    if (!program.securityPage.users.LoadSecurityData()) {
         return StartUp::Ended;
     }
     program.trace.DebugTrace(kModule, kProcedure, "Security Mode Started");
@@ -55,7 +54,7 @@ StartUp StartSecurity(Program& program) {
     program.state.gbRulesMode = false;
     program.state.gbSecurityMode = true;
     program.state.gbUnitsMode = false;
-    security.ResizeSecurity();
+    program.securityPage.ResizeSecurity();
     program.window.Show();
     return StartUp::WindowShown;
 }
@@ -66,7 +65,7 @@ StartUp StartUnits(Program& program) {
     program.state.gbRulesMode = false;
     program.state.gbSecurityMode = false;
     program.state.gbUnitsMode = true;
-    program.options.units->ResizeUnits();
+    program.unitsPage.ResizeUnits();
     program.window.Show();
     return StartUp::WindowShown;
 }
@@ -76,7 +75,7 @@ StartUp StartUnits(Program& program) {
 StartUp mMain(Program& program) {
     program.trace.DebugTrace(kModule, kProcedure, "ZYGlobal Start");
     ComputePaths(program);
-    program.options.placement->RestoreWindowPlacement();
+    program.registryEdit.RestoreWindowPlacement(program.window);
 
     // Upper case first, then the cut at NUL. Nothing is trimmed, so a blank behind the keyword makes it
     // unknown.

@@ -43,8 +43,8 @@ Int16 ToTwips(std::int32_t pixels, double twipsPerPixel) {
 
 } // namespace
 
-void mRegistryEdit::RestoreWindowPlacement() {
-    const auto key = world_.registry.Open(kKey);
+void mRegistryEdit::RestoreWindowPlacement(frmGlobalSettings& window) {
+    const auto key = registry_.Open(kKey);
     if (!key) {
         return;
     }
@@ -56,40 +56,39 @@ void mRegistryEdit::RestoreWindowPlacement() {
     const auto minWidth = ReadNumber(*key, "MinWidth");
     const auto minHeight = ReadNumber(*key, "MinHeight");
 
-    window_.Load();
-    auto& form = window_.Form();
+    window.Load();
+    auto& form = window.Form();
     form.MinHeight = minHeight;
     form.MinWidth = minWidth;
 
     constexpr std::uint32_t kHideWindow = 0x80;
     constexpr int kShowDefault = 10;
-    auto& native = world_.window;
-    const double horizontal = native.TwipsPerPixelX();
-    const double vertical = native.TwipsPerPixelY();
+    const double horizontal = native_.TwipsPerPixelX();
+    const double vertical = native_.TwipsPerPixelY();
     const auto x = ToPixels(left, horizontal);
     const auto y = ToPixels(top, vertical);
-    native.SetPosition({x, y, x + ToPixels(width, horizontal), y + ToPixels(height, vertical)}, kHideWindow);
-    native.Show(kShowDefault);
+    native_.SetPosition({x, y, x + ToPixels(width, horizontal), y + ToPixels(height, vertical)}, kHideWindow);
+    native_.Show(kShowDefault);
     if (form.State() == WindowState::Normal && state == static_cast<int>(WindowState::Maximized)) {
         form.SetState(WindowState::Maximized);
     }
 }
 
-void mRegistryEdit::SaveWindowPlacement() {
-    const auto place = world_.window.NormalRectangle();
+void mRegistryEdit::SaveWindowPlacement(frmGlobalSettings& window) {
+    const auto place = native_.NormalRectangle();
     // The vertical values too, which is meant: where the two factors differ, height and top drift from run to
     // run.
-    const double factor = world_.window.TwipsPerPixelX();
+    const double factor = native_.TwipsPerPixelX();
     const auto top = ToTwips(place.top, factor);
     const auto left = ToTwips(place.left, factor);
     const auto width = ToTwips(place.right - place.left, factor);
     const auto height = ToTwips(place.bottom - place.top, factor);
-    const auto held = window_.Form().State();
+    const auto held = window.Form().State();
     const auto state = held == WindowState::Minimized ? WindowState::Normal : held;
 
-    auto key = world_.registry.Open(kKey);
+    auto key = registry_.Open(kKey);
     if (!key) {
-        key = world_.registry.Create(kKey);
+        key = registry_.Create(kKey);
     }
     if (!key) {
         return;

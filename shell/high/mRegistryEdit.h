@@ -1,7 +1,9 @@
 #pragma once
 
-#include "platform/World.h"
-#include "shell/Editors.h"
+#include <string_view>
+
+#include "platform/NativeWindow.h"
+#include "platform/Registry.h"
 
 namespace zy {
 
@@ -9,22 +11,22 @@ class frmGlobalSettings;
 
 /// Keeps in the registry where the main window was left. What fails there is told to nobody: the window then
 /// opens at its designed place, or its place is not stored.
-class mRegistryEdit final : public WindowPlacement {
+class mRegistryEdit {
   public:
     /// The key of the place, below the registry's part for the whole machine.
     static constexpr std::string_view kKey = R"(software\norvale\products\ZYSetup\Window)";
 
-    mRegistryEdit(const World& world, frmGlobalSettings& window) : world_(world), window_(window) {}
+    mRegistryEdit(Registry& registry, NativeWindow& window) : registry_(registry), native_(window) {}
 
     /// Loads the window and gives it its stored place, size and state; nothing when the key is missing.
     /// Run-time error 6 for a stored number beyond 16 bits.
-    void RestoreWindowPlacement() override;
+    void RestoreWindowPlacement(frmGlobalSettings& form);
     /// Run-time error 6, with nothing stored, for a place or a size of more than 32,767 twips.
-    void SaveWindowPlacement() override;
+    void SaveWindowPlacement(frmGlobalSettings& form);
 
   private:
-    World world_;
-    frmGlobalSettings& window_;
+    Registry& registry_;
+    NativeWindow& native_;
 };
 
 } // namespace zy

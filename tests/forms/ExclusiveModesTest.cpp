@@ -31,8 +31,8 @@ TEST_F(ExclusiveModes, PutTheRulesFirst) {
 TEST_F(ExclusiveModes, PutTheUsersBeforeTheUnits) {
     SetModes(false, true, true);
     window().menu.mnuSave.Click();
-    EXPECT_THAT(calls, ::testing::Contains("Validate_Security"));
-    EXPECT_THAT(calls, ::testing::Not(::testing::Contains("ValidateUnits")));
+    EXPECT_THAT(calls, ::testing::Contains("trace mSecurity Validate_Security Start"));
+    EXPECT_THAT(calls, ::testing::Not(::testing::Contains("trace mUnits ValidateUnits Start")));
     SetModes(false, true, true);
     window().Unload();
     EXPECT_THAT(calls, ::testing::Contains("trace frmGlobalSettings Form_Unload Security"));
@@ -52,7 +52,7 @@ TEST_F(ExclusiveModes, CloseWithoutAQuestionWithoutAnEditorInCharge) {
     form().ChangeFlag = true;
     state().gbChanged = true;
     EXPECT_TRUE(window().Unload());
-    EXPECT_THAT(calls, ElementsAre("RemoveMinSizeHook", "SaveWindowPlacement",
+    EXPECT_THAT(calls, ElementsAre("SetProcedure", "Open key", "Create key",
                                    "trace frmGlobalSettings Form_Unload Unloaded"));
 }
 
@@ -66,9 +66,10 @@ TEST_F(ExclusiveModes, AreTestedForTrueAlone) {
 TEST_F(ExclusiveModes, LayOutEveryPageInCharge) {
     SetModes(true, true, true);
     form().SetInnerSize({20000, 12000});
-    EXPECT_THAT(calls,
-                ElementsAre("trace frmGlobalSettings Form_Resize Start", "ResizeSecurity", "ResizeUnits"));
+    EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings Form_Resize Start"));
     EXPECT_EQ(form().fraRules.Bounds().width, 20000);
+    EXPECT_EQ(form().fraSecurity.Bounds().width, 20000 - 100);
+    EXPECT_EQ(form().FraUnits.Bounds().width, 20000 - 100);
 }
 
 } // namespace

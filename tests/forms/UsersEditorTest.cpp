@@ -1,63 +1,94 @@
+#include "shell/SaveTurn.h"
 #include "support/EditorsTest.h"
+#include "support/RaisedError.h"
+#include "support/UsersOnDisk.h"
 
 namespace zy::test {
 namespace {
 
+using ::testing::Contains;
 using ::testing::ElementsAre;
+using ::testing::Not;
 
-constexpr auto kUnloadTrace = "trace frmGlobalSettings Form_Unload Security";
-constexpr auto kSaveTrace = "trace frmGlobalSettings ,mnuSave_Click Security";
-/// Without users those under the system directory go, wherever the table lies.
-constexpr auto kWrite = R"(WriteUsers C:\SYS\)";
+constexpr auto kCommitted = "trace frmGlobalSettings grdSecurity_AfterEdit Start";
+constexpr auto kSaving = "trace frmGlobalSettings ,mnuSave_Click Security";
+constexpr auto kUnloading = "trace frmGlobalSettings Form_Unload Security";
+constexpr auto kChecked = "trace mSecurity Validate_Security Start";
+constexpr auto kTakenOver = "trace mSecurity Save_Security Start";
+constexpr auto kWriting = "trace mSecurity Write_Security Start";
+constexpr auto kWritten = "trace mSecurity Write_Security Security File Write Success";
+constexpr auto kIndexed = "trace mSecurity WriteDBIndex Start";
 constexpr auto kUnloaded = "trace frmGlobalSettings Form_Unload Unloaded";
 
-/// Saving and closing while the users editor is in charge.
+/// Saving and closing while the users editor is in charge, with a cell that is still open.
 class UsersEditor : public EditorsTest {
   protected:
     UsersEditor() {
-        StartAndForget("@SECURITY");
+        PutUsersTable(world, {User("Ann")});
+        Start("@SECURITY");
         state().gbChanged = true;
+        Type("new");
     }
 
+    void Type(std::string_view password) {
+        grid().Pick(1, kPassword);
+        grid().TypeOver(password);
+        calls.clear();
+    }
+    void ExpectInvalid() {
+        world.dialogs.ExpectMessage("Invalid Password. Password Cannot be blank", "ZY Setup");
+    }
+    /// Nothing is open and nothing was changed.
+    void StartUnchanged() {
+        StartAndForget("@SECURITY");
+        ExpectMarks(false, false);
+    }
+    void LetSomebodyElseSave() { world.files.SetFolderLocked(R"(C:\SYS)", true); }
     void ChooseSave() { window().menu.mnuSave.Click(); }
+    std::string SavedPassword() { return UsersInTable(world)->front().PASSWORD; }
+
+    Grid& grid() { return program().securityPage.controls.grdSecurity; }
+    const std::string old_ = User("Ann").PASSWORD;
 };
 
 TEST_F(UsersEditor, IsSavedInThisOrder) {
     ChooseSave();
-    EXPECT_THAT(calls, ElementsAre("CommitCellEdit", kSaveTrace, "Validate_Security", "Save_Security", kWrite,
-                                   "DisableSaveButton"));
+    EXPECT_THAT(calls, ElementsAre(kCommitted, kSaving, kChecked, kTakenOver, kWriting, kWritten, kIndexed));
+    EXPECT_EQ(SavedPassword(), "new");
     ExpectMarks(false, false);
+    EXPECT_FALSE(program().securityPage.controls.cmdSaveUsers.Enabled());
 }
 
 TEST_F(UsersEditor, IsSavedAlsoWithoutAChange) {
-    state().gbChanged = false;
+    StartUnchanged();
     ChooseSave();
-    EXPECT_THAT(calls, ::testing::Contains(kWrite));
+    EXPECT_THAT(calls, ElementsAre(kSaving, kChecked, kTakenOver, kWriting, kWritten, kIndexed));
 }
 
 TEST_F(UsersEditor, IsNotWrittenWhenAUserFails) {
-    security.valid = false;
+    Type("");
+    ExpectInvalid();
     ChooseSave();
-    EXPECT_THAT(calls, ElementsAre("CommitCellEdit", kSaveTrace, "Validate_Security"));
+    EXPECT_THAT(calls, ElementsAre(kCommitted, kSaving, kChecked));
+    EXPECT_EQ(SavedPassword(), old_);
     ExpectMarks(false, true);
 }
 
 TEST_F(UsersEditor, HandsAnErrorOfTheTableOnAndKeepsItsMark) {
-    security.writing = [] { throw RuntimeError(3051, "the table"); };
-    EXPECT_EQ(ErrorNumber([&] { ChooseSave(); }), 3051);
+    world.files.Plan({.operation = 1, .lasting = true});
+    EXPECT_NE(ErrorNumber([&] { ChooseSave(); }), 0);
     ExpectMarks(false, true);
-    EXPECT_THAT(calls, ::testing::Not(::testing::Contains("DisableSaveButton")));
+    EXPECT_TRUE(program().securityPage.controls.cmdSaveUsers.Enabled());
 }
 
 TEST_F(UsersEditor, ClosesWithoutAQuestionWhenNothingChanged) {
-    state().gbChanged = false;
+    StartUnchanged();
     EXPECT_TRUE(window().Unload());
-    EXPECT_THAT(calls, ElementsAre("CommitCellEdit", kUnloadTrace, "RemoveMinSizeHook", "SaveWindowPlacement",
-                                   kUnloaded));
+    EXPECT_THAT(calls, ElementsAre(kUnloading, "SetProcedure", "Open key", "Create key", kUnloaded));
 }
 
 TEST_F(UsersEditor, IsAskedForByTheSharedMarkAlone) {
-    state().gbChanged = false;
+    StartUnchanged();
     form().ChangeFlag = true;
     EXPECT_TRUE(window().Unload());
 }
@@ -65,43 +96,45 @@ TEST_F(UsersEditor, IsAskedForByTheSharedMarkAlone) {
 TEST_F(UsersEditor, ClosesUnsavedOnNo) {
     ExpectWishToSave(Answer::No);
     EXPECT_TRUE(window().Unload());
-    EXPECT_THAT(calls, ElementsAre("CommitCellEdit", kUnloadTrace, "RemoveMinSizeHook", "SaveWindowPlacement",
-                                   kUnloaded));
+    EXPECT_THAT(calls,
+                ElementsAre(kCommitted, kUnloading, "SetProcedure", "Open key", "Create key", kUnloaded));
+    EXPECT_EQ(SavedPassword(), old_);
     EXPECT_EQ(unloaded, 1);
 }
 
 TEST_F(UsersEditor, IsCheckedAndWrittenBeforeItClosesOnYes) {
     ExpectWishToSave(Answer::Yes);
     EXPECT_TRUE(window().Unload());
-    EXPECT_THAT(calls, ElementsAre("CommitCellEdit", kUnloadTrace, "Validate_Security", "Save_Security",
-                                   kWrite, "RemoveMinSizeHook", "SaveWindowPlacement", kUnloaded));
+    EXPECT_THAT(calls, ElementsAre(kCommitted, kUnloading, kChecked, kTakenOver, kWriting, kWritten, kIndexed,
+                                   "SetProcedure", "Open key", "Create key", kUnloaded));
+    EXPECT_EQ(SavedPassword(), "new");
     ExpectMarks(false, true);
 }
 
 TEST_F(UsersEditor, StaysOpenWhenAUserFails) {
-    security.valid = false;
+    Type("");
     ExpectWishToSave(Answer::Yes);
+    ExpectInvalid();
     EXPECT_FALSE(window().Unload());
-    EXPECT_THAT(calls, ElementsAre("CommitCellEdit", kUnloadTrace, "Validate_Security"));
+    EXPECT_THAT(calls, ElementsAre(kCommitted, kUnloading, kChecked));
     EXPECT_EQ(unloaded, 0);
     EXPECT_TRUE(form().Visible());
     EXPECT_TRUE(window().IsLoaded());
 }
 
 TEST_F(UsersEditor, KeepsItsMarkWhileSomebodyElseIsSaving) {
-    security.hasTurn = false;
+    LetSomebodyElseSave();
     ChooseSave();
-    EXPECT_THAT(calls,
-                ElementsAre("CommitCellEdit", kSaveTrace, "Validate_Security", "Save_Security", kWrite));
+    EXPECT_THAT(calls, ElementsAre(kCommitted, kSaving, kChecked, kTakenOver));
+    EXPECT_EQ(form().zyStatusBar.Text(), SaveTurn::kRefusal);
     ExpectMarks(false, true);
 }
 
 TEST_F(UsersEditor, StaysOpenWhileSomebodyElseIsSaving) {
-    security.hasTurn = false;
+    LetSomebodyElseSave();
     ExpectWishToSave(Answer::Yes);
     EXPECT_FALSE(window().Unload());
-    EXPECT_THAT(calls,
-                ElementsAre("CommitCellEdit", kUnloadTrace, "Validate_Security", "Save_Security", kWrite));
+    EXPECT_THAT(calls, ElementsAre(kCommitted, kUnloading, kChecked, kTakenOver));
     EXPECT_EQ(unloaded, 0);
     ExpectMarks(false, true);
 }

@@ -196,7 +196,7 @@ TEST_F(Login, TheMainWindowIsSwitchedOffMeanwhileWhenItIsVisible) {
     Start("@SECURITY");
     window().Show();
     ExpectLogin([&](frmLogin&) { EXPECT_FALSE(form().Enabled()); });
-    EXPECT_FALSE(page().LoadSecurityData());
+    EXPECT_FALSE(page().users.LoadSecurityData());
     EXPECT_TRUE(form().Enabled());
 }
 

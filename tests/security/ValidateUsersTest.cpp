@@ -15,11 +15,11 @@ class ValidateUsers : public UsersTest {
     /// The checks fail with this message, and this cell becomes current.
     void ExpectRefused(const std::string& message, int row, int column) {
         world.dialogs.ExpectMessage(message, "ZY Setup");
-        EXPECT_FALSE(page().Validate_Security());
+        EXPECT_FALSE(page().users.Validate_Security());
         ExpectScriptPlayed(world.dialogs);
         ExpectCurrent(row, column);
     }
-    void ExpectPassed() { EXPECT_TRUE(page().Validate_Security()); }
+    void ExpectPassed() { EXPECT_TRUE(page().users.Validate_Security()); }
 };
 
 TEST_F(ValidateUsers, UsersThatAreRightPass) {

@@ -1,4 +1,6 @@
+#include "security/frmLogin.h"
 #include "support/EditorsTest.h"
+#include "support/UsersOnDisk.h"
 
 namespace zy::test {
 namespace {
@@ -10,7 +12,7 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::Not;
 
-/// The start of the program over a memory world, with fakes of the two editors and of the placement.
+/// The start of the program over a memory world.
 class StartUpTest : public EditorsTest {
   protected:
     void ExpectModes(bool rules, bool users, bool unitsOfMeasure) {
@@ -27,7 +29,8 @@ class StartUpTest : public EditorsTest {
     /// The first steps, which are the same for every command line.
     static constexpr auto kStart = "trace mZYGlobal mMain ZYGlobal Start";
     static constexpr auto kLocation = "trace mSecurity SecurityFileLocation Start";
-    static constexpr auto kRestore = "RestoreWindowPlacement";
+    static constexpr auto kRestore = "Open key";
+    static constexpr auto kHook = "SetProcedure";
 };
 
 TEST_F(StartUpTest, OpensTheRulesEditorInThisOrder) {
@@ -35,19 +38,28 @@ TEST_F(StartUpTest, OpensTheRulesEditorInThisOrder) {
     EXPECT_THAT(calls,
                 ElementsAre(kStart, kLocation, kRestore, "trace mZYGlobal mMain Rules Mode Started",
                             "trace mRules Build_Rules_Array Start", "trace frmGlobalSettings Form_Load Start",
-                            "InstallMinSizeHook", "trace frmGlobalSettings ShowRules Rules",
+                            kHook, "trace frmGlobalSettings ShowRules Rules",
                             "trace mRules LoadRulesListMode Start", "trace mRules ClearRule Start"));
     ExpectModes(true, false, false);
     EXPECT_TRUE(form().Visible());
 }
 
 TEST_F(StartUpTest, OpensTheUsersEditorAfterASuccessfulLoginAlone) {
+    PutUsersTable(world, {User("ADMIN", "pw")});
+    world.dialogs.ExpectForm([](Form& form) {
+        auto& login = dynamic_cast<frmLogin&>(form);
+        login.txtUserName.Enter("admin");
+        login.txtPassword.Enter("pw");
+        login.cmdOK.Click();
+    });
     EXPECT_EQ(Start("@SECURITY"), StartUp::WindowShown);
-    EXPECT_THAT(calls,
-                ElementsAre(kStart, kLocation, kRestore, "LoadSecurityData",
-                            "trace mZYGlobal mMain Security Mode Started",
-                            "trace frmGlobalSettings Form_Load Start", "InstallMinSizeHook",
-                            "trace frmGlobalSettings ShowSecurity Rules", "LoadSecurity", "ResizeSecurity"));
+    EXPECT_THAT(calls, ElementsAre(kStart, kLocation, kRestore, "trace mSecurity LoadSecurityData Start",
+                                   "trace frmLogin Form_Load Start", "trace frmLogin cmdOK_Click Start",
+                                   "trace mSecurity LoadSecurityData Load Complete",
+                                   "trace mZYGlobal mMain Security Mode Started",
+                                   "trace frmGlobalSettings Form_Load Start", kHook,
+                                   "trace frmGlobalSettings ShowSecurity Rules",
+                                   "trace frmGlobalSettings LoadSecurity Finished"));
     ExpectModes(false, true, false);
     EXPECT_TRUE(form().Visible());
 }
@@ -56,8 +68,8 @@ TEST_F(StartUpTest, OpensTheUnitsEditorInThisOrder) {
     EXPECT_EQ(Start("@UNITS"), StartUp::WindowShown);
     EXPECT_THAT(calls,
                 ElementsAre(kStart, kLocation, kRestore, "trace mZYGlobal mMain Units Mode Started",
-                            "trace frmGlobalSettings Form_Load Start", "InstallMinSizeHook",
-                            "trace frmGlobalSettings ShowUnits Rules", "LoadUnitsData", "ResizeUnits"));
+                            "trace frmGlobalSettings Form_Load Start", kHook,
+                            "trace frmGlobalSettings ShowUnits Rules", "trace mUnits LoadUnitsData Start"));
     ExpectModes(false, false, true);
     EXPECT_TRUE(form().Visible());
 }
@@ -78,9 +90,10 @@ TEST_F(StartUpTest, LeavesOneModeOnWhicheverWereOnBefore) {
 }
 
 TEST_F(StartUpTest, LeavesNoTraceAndNoModeAfterARefusedLogin) {
-    security.mayOpen = false;
+    PutUsersTable(world, {User("ADMIN", "pw")});
+    world.dialogs.ExpectForm([](Form& login) { login.SetVisible(false); });
     EXPECT_EQ(Start("@SECURITY"), StartUp::Ended);
-    EXPECT_THAT(calls, ElementsAre(kStart, kLocation, kRestore, "LoadSecurityData"));
+    EXPECT_THAT(calls, Not(Contains("trace mZYGlobal mMain Security Mode Started")));
     ExpectNoWindow();
 }
 
@@ -176,43 +189,60 @@ TEST_F(StartUpTest, ShowsAFileOfAsManyRulesAsTheListHolds) {
 }
 
 TEST_F(StartUpTest, LoadsTheWindowOnceWhenTheStoredPlaceLoadsIt) {
-    placement.restoring = [&] { window().Load(); };
+    world.registry.Put(std::string(mRegistryEdit::kKey), "Width", "10500");
     Start("@RULES");
     EXPECT_THAT(calls,
-                ElementsAre(kStart, kLocation, kRestore, "trace frmGlobalSettings Form_Load Start",
-                            "InstallMinSizeHook", "trace mZYGlobal mMain Rules Mode Started",
+                ElementsAre(kStart, kLocation, kRestore, "trace frmGlobalSettings Form_Load Start", kHook,
+                            "trace mZYGlobal mMain Rules Mode Started",
                             "trace mRules Build_Rules_Array Start", "trace frmGlobalSettings ShowRules Rules",
                             "trace mRules LoadRulesListMode Start", "trace mRules ClearRule Start"));
 }
 
 TEST_F(StartUpTest, LaysThePageOutInItsModeBeforeTheWindowIsShown) {
-    const auto expectMode = [&](const Bool16& mode) {
-        EXPECT_TRUE(mode);
-        EXPECT_FALSE(form().Visible());
-        calls.emplace_back("seen");
+    const auto expectLaidOut = [this](std::string_view commandLine, const Frame& frame, const Bool16& mode) {
+        form().SetVisible(false);
+        bool shown = false;
+        form().appearanceChanged.Connect([&] {
+            if (form().Visible()) {
+                shown = true;
+                EXPECT_TRUE(mode);
+                EXPECT_GE(frame.Bounds().width, 9900);
+            }
+        });
+        world.system.SetCommandLine(commandLine);
+        mMain(program());
+        EXPECT_TRUE(shown);
     };
-    units.resizing = [&] { expectMode(state().gbUnitsMode); };
-    Start("@UNITS");
-    EXPECT_EQ(calls.back(), "seen");
-    security.resizing = [&] { expectMode(state().gbSecurityMode); };
-    Start("@SECURITY");
-    EXPECT_EQ(calls.back(), "seen");
+    for (const auto* line : {"@RULES", "@SECURITY", "@UNITS"}) {
+        SCOPED_TRACE(line);
+        Start("");
+        form().SetInnerSize({10000, 9000});
+        const bool rules = line == std::string_view("@RULES");
+        const bool users = line == std::string_view("@SECURITY");
+        expectLaidOut(line,
+                      rules   ? form().fraRules
+                      : users ? form().fraSecurity
+                              : form().FraUnits,
+                      rules   ? state().gbRulesMode
+                      : users ? state().gbSecurityMode
+                              : state().gbUnitsMode);
+    }
 }
 
 TEST_F(StartUpTest, ClearsTheSharedMarkInTheRulesEditorAlone) {
-    units.loading = [&] { state().gbChanged = true; };
-    Start("@UNITS");
-    EXPECT_TRUE(state().gbChanged);
-    security.loading = [&] { state().gbChanged = true; };
-    Start("@SECURITY");
-    EXPECT_TRUE(state().gbChanged);
-    placement.restoring = [&] { state().gbChanged = true; };
-    Start("@RULES");
-    EXPECT_FALSE(state().gbChanged);
+    Start("");
+    const auto markAndStart = [this](std::string_view commandLine) {
+        state().gbChanged = true;
+        world.system.SetCommandLine(commandLine);
+        mMain(program());
+        return bool(state().gbChanged);
+    };
+    EXPECT_TRUE(markAndStart("@UNITS"));
+    EXPECT_TRUE(markAndStart("@SECURITY"));
+    EXPECT_FALSE(markAndStart("@RULES"));
 }
 
 TEST_F(StartUpTest, BringsItsOwnEditors) {
-    options = {};
     EXPECT_EQ(Start("@RULES"), StartUp::WindowShown);
     EXPECT_TRUE(form().fraRules.Visible());
     EXPECT_EQ(Start("@UNITS"), StartUp::WindowShown);
@@ -225,8 +255,8 @@ TEST_F(StartUpTest, BringsItsOwnEditors) {
 
 TEST_F(StartUpTest, LeavesThePlaceAloneForAnUnknownCommandLine) {
     Start("@OTHER");
-    EXPECT_THAT(calls, Not(Contains("SaveWindowPlacement")));
-    EXPECT_THAT(calls, Not(Contains("InstallMinSizeHook")));
+    EXPECT_THAT(calls, Not(Contains("Create key")));
+    EXPECT_THAT(calls, Not(Contains(kHook)));
 }
 
 } // namespace

@@ -37,13 +37,14 @@ TEST_F(frmGlobalSettingsTest, ShowsTheUnitsPageUnderItsTitle) {
 }
 
 TEST_F(frmGlobalSettingsTest, SetsTheUnitsTitleBeforeTheUnitsAreLoadedAndTheUsersTitleAfterwards) {
-    std::string title;
-    units.loading = [&] { title = form().Caption(); };
-    Start("@UNITS");
-    EXPECT_EQ(title, "ZY Setup - Units of Measure");
-    security.loading = [&] { title = form().Caption(); };
-    Start("@SECURITY");
-    EXPECT_EQ(title, "");
+    Start("");
+    std::vector<std::string> titles;
+    form().zyStatusBar.change.Connect([&] { titles.push_back(form().Caption()); });
+    window().ShowSecurity();
+    window().ShowUnits();
+    ASSERT_EQ(titles.size(), 2U);
+    EXPECT_EQ(titles[0], "");
+    EXPECT_EQ(titles[1], "ZY Setup - Units of Measure");
 }
 
 TEST_F(frmGlobalSettingsTest, ShowsNoPageBeforeOneIsChosen) {
@@ -77,8 +78,10 @@ TEST_F(frmGlobalSettingsTest, TracesTheSameWordForEveryPage) {
     calls.clear();
     window().ShowUnits();
     window().ShowSecurity();
-    EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings ShowUnits Rules", "LoadUnitsData",
-                                   "trace frmGlobalSettings ShowSecurity Rules", "LoadSecurity"));
+    EXPECT_THAT(calls,
+                ElementsAre("trace frmGlobalSettings ShowUnits Rules", "trace mUnits LoadUnitsData Start",
+                            "trace frmGlobalSettings ShowSecurity Rules",
+                            "trace frmGlobalSettings LoadSecurity Finished"));
 }
 
 /// A menu with its entries, one line each, submenus indented.
@@ -130,8 +133,8 @@ TEST(MainMenuTest, HasSeparatorsWhereItsNamesSayAndNowhereElse) {
 TEST_F(frmGlobalSettingsTest, ClosesFromTheMenuWithoutAQuestionOfItsOwn) {
     StartAndForget("@RULES");
     window().menu.mnuExit.Click();
-    EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings Form_Unload Rules", "RemoveMinSizeHook",
-                                   "SaveWindowPlacement", "trace frmGlobalSettings Form_Unload Unloaded"));
+    EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings Form_Unload Rules", "SetProcedure", "Open key",
+                                   "Create key", "trace frmGlobalSettings Form_Unload Unloaded"));
     EXPECT_EQ(unloaded, 1);
     EXPECT_FALSE(form().Visible());
     EXPECT_THAT(world.dialogs.Shown(), IsEmpty());
@@ -141,19 +144,19 @@ TEST_F(frmGlobalSettingsTest, SavesThePlaceAfterTheHookIsGoneAndBeforeItTellsTha
     StartAndForget("@UNITS");
     window().unloaded.Connect([&] { calls.emplace_back("unloaded"); });
     window().Unload();
-    EXPECT_THAT(calls, ElementsAre("CommitCellEdit", "trace frmGlobalSettings Form_Unload Units",
-                                   "RemoveMinSizeHook", "SaveWindowPlacement",
-                                   "trace frmGlobalSettings Form_Unload Unloaded", "unloaded"));
+    EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings Form_Unload Units", "SetProcedure", "Open key",
+                                   "Create key", "trace frmGlobalSettings Form_Unload Unloaded", "unloaded"));
 }
 
 TEST_F(frmGlobalSettingsTest, KeepsThePlaceAndTheHookWhenAFailedCheckKeepsItOpen) {
+    world.files.Put(R"(C:\SYS\ZYUNITS.SYS)", "A,\r\n");
     StartAndForget("@UNITS");
     form().ChangeFlag = true;
-    units.valid = false;
     ExpectWishToSave(Answer::Yes);
+    world.dialogs.ExpectMessage("Unit cannot be blank", "Invalid Unit");
     window().menu.mnuExit.Click();
-    EXPECT_THAT(calls, ::testing::Not(::testing::Contains("SaveWindowPlacement")));
-    EXPECT_THAT(calls, ::testing::Not(::testing::Contains("RemoveMinSizeHook")));
+    EXPECT_THAT(calls, ::testing::Not(::testing::Contains("Open key")));
+    EXPECT_THAT(calls, ::testing::Not(::testing::Contains("SetProcedure")));
     EXPECT_EQ(unloaded, 0);
 }
 
@@ -182,31 +185,38 @@ TEST_F(frmGlobalSettingsTest, LoadsOnceUntilItIsUnloaded) {
     window().Unload();
     calls.clear();
     window().Show();
-    EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings Form_Load Start", "InstallMinSizeHook"));
+    EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings Form_Load Start", "SetProcedure"));
     EXPECT_TRUE(form().Visible());
 }
 
 TEST_F(frmGlobalSettingsTest, LaysOutThePageInChargeAlone) {
-    StartAndForget("@SECURITY");
-    form().SetInnerSize({10000, 9000});
-    EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings Form_Resize Start", "ResizeSecurity"));
-    StartAndForget("@UNITS");
-    form().SetInnerSize({10000, 9000});
-    EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings Form_Resize Start", "ResizeUnits"));
-    StartAndForget("@RULES");
-    form().SetInnerSize({10000, 9000});
-    EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings Form_Resize Start"));
-    EXPECT_EQ(form().fraRules.Bounds().width, 10000);
+    const auto expectWidths = [this](const char* argument, int rules, int users, int unitsOfMeasure) {
+        SCOPED_TRACE(argument);
+        StartAndForget(argument);
+        for (Frame* frame : {&form().fraRules, &form().fraSecurity, &form().FraUnits}) {
+            frame->SetBounds({});
+        }
+        form().SetInnerSize({10000, 9000});
+        EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings Form_Resize Start"));
+        EXPECT_EQ(form().fraRules.Bounds().width, rules);
+        EXPECT_EQ(form().fraSecurity.Bounds().width, users);
+        EXPECT_EQ(form().FraUnits.Bounds().width, unitsOfMeasure);
+    };
+    expectWidths("@RULES", 10000, 0, 0);
+    expectWidths("@SECURITY", 0, 9900, 0);
+    expectWidths("@UNITS", 0, 0, 9900);
 }
 
 TEST_F(frmGlobalSettingsTest, RunsNoLayoutWhileItIsMinimized) {
     StartAndForget("@UNITS");
     form().SetState(WindowState::Minimized);
+    const auto before = form().FraUnits.Bounds().width;
     form().SetInnerSize({0, 0});
     EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings Form_Resize Start"));
+    EXPECT_EQ(form().FraUnits.Bounds().width, before);
     form().SetState(WindowState::Maximized);
     form().SetInnerSize({28800, 16200});
-    EXPECT_EQ(calls.back(), "ResizeUnits");
+    EXPECT_EQ(form().FraUnits.Bounds().width, 28700);
 }
 
 TEST_F(frmGlobalSettingsTest, StartsWithoutMarksAndWithoutAMinimumSizeOfItsOwn) {

@@ -1,18 +1,14 @@
 #pragma once
 
-#include "support/FakeEditors.h"
+#include "support/NotedCalls.h"
 #include "support/ProgramTest.h"
 
 namespace zy::test {
 
-/// A program whose users editor, units editor, placement and size hook are fakes; their calls and the traces
-/// come in one list.
+/// A program whose traces come in one list with what it asks of the window and the registry, so that the
+/// order of all of them can be seen.
 class EditorsTest : public ProgramTest {
   protected:
-    EditorsTest() {
-        options = {.security = &security, .units = &units, .placement = &placement, .minSize = &minSize};
-    }
-
     /// Starts the program as ProgramTest does and forgets the calls of the start.
     void StartAndForget(std::string_view commandLine) {
         Start(commandLine);
@@ -25,20 +21,18 @@ class EditorsTest : public ProgramTest {
                 .system = outside.system,
                 .traceServers = viewer,
                 .recycleBin = outside.recycleBin,
-                .registry = outside.registry,
+                .registry = registry,
                 .links = outside.links,
                 .dialogs = outside.dialogs,
                 .help = outside.help,
-                .window = outside.window,
+                .window = nativeWindow,
                 .codePage = outside.codePage};
     }
 
     Calls calls;
-    FakeSecurityEditor security{calls};
-    FakeUnitsEditor units{calls};
-    FakePlacement placement{calls};
-    FakeMinSizeHook minSize{calls};
     TracesAmongCalls viewer{calls};
+    WindowAmongCalls nativeWindow{calls, world.window};
+    RegistryAmongCalls registry{calls, world.registry};
 };
 
 } // namespace zy::test

@@ -23,7 +23,7 @@ class ProgramTest : public WorldTest {
     /// Builds the program and runs its start-up with this command line.
     StartUp Start(std::string_view commandLine) {
         world.system.SetCommandLine(commandLine);
-        program_ = std::make_unique<Program>(Outside(), options);
+        program_ = std::make_unique<Program>(Outside());
         program().window.unloaded.Connect([this] { ++unloaded; });
         return mMain(program());
     }
@@ -47,7 +47,6 @@ class ProgramTest : public WorldTest {
         EXPECT_EQ(state().gbChanged.Value(), changed ? -1 : 0);
     }
 
-    Program::Options options;
     int unloaded = 0; ///< how many times the window told that it is gone
 
   private:

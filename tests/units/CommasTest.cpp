@@ -14,7 +14,7 @@ class Commas : public UnitsTest {
         EXPECT_EQ(Status(), "3 units   -   row " + std::to_string(row) + ": its comma makes it unit \"" +
                                 unit + "\", \"" + description + "\" at the next start");
         Save();
-        page.LoadUnitsData();
+        page.units.LoadUnitsData();
         EXPECT_EQ(grid.Text(row, kUnit), unit);
         EXPECT_EQ(grid.Text(row, kUnitDescription), description);
     }

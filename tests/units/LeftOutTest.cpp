@@ -40,7 +40,7 @@ class LeftOut : public UnitsTest {
         Edit(1, kUnit, "e");
         EXPECT_EQ(Status(), count());
         Save();
-        page.LoadUnitsData();
+        page.units.LoadUnitsData();
         EXPECT_EQ(Status(), count()) << "what was saved comes back whole";
     }
 };

@@ -125,7 +125,7 @@ TEST_F(LoadUnits, AgainReplacesTheRowsAndForgetsTheCurrentCell) {
     OpenThreeUnits();
     grid.Pick(2, 0);
     world.files.Put(kUnitsFile, "D,d\r\n");
-    page.LoadUnitsData();
+    page.units.LoadUnitsData();
     EXPECT_THAT(Units(), ElementsAre("d|D"));
     EXPECT_EQ(grid.Row(), -1);
     EXPECT_FALSE(controls.cmdDeleteUnit.Enabled());

@@ -28,7 +28,7 @@ TEST_F(ManyUnits, AreLoadedCheckedAndSavedUpToTheLastOne) {
     OpenOver(most);
     ASSERT_EQ(grid.Rows() - 1, kMost);
     EXPECT_EQ(grid.Text(kMost, kUnit), "u32767");
-    EXPECT_TRUE(page.ValidateUnits());
+    EXPECT_TRUE(page.units.ValidateUnits());
     world.files.Take(kUnitsFile);
     ChooseSave();
     EXPECT_EQ(File(), most);
@@ -114,7 +114,7 @@ TEST_F(ManyUnits, BeyondTheLastOneAreAnOverflowAtSavingAndTheFileIsUntouched) {
     grid.SetRows(kMost + 2);
     world.files.Plan({});
     ExpectOverflow([&] { ChooseSave(); });
-    ExpectOverflow([&] { page.Write_Units(); });
+    ExpectOverflow([&] { page.units.Write_Units(); });
     EXPECT_EQ(world.files.Operations().Count(), 0U);
     EXPECT_EQ(File(), most);
 }

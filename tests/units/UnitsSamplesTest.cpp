@@ -37,7 +37,7 @@ TEST_F(UnitsSamples, AreTheSameBytesAfterALoadAndASave) {
 }
 
 TEST_F(UnitsSamples, PassEveryCheck) {
-    EXPECT_TRUE(page.ValidateUnits());
+    EXPECT_TRUE(page.units.ValidateUnits());
 }
 
 TEST_F(UnitsSamples, AreAllDifferentAndAllDescribed) {

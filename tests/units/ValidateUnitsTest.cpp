@@ -91,7 +91,7 @@ TEST_F(ValidateUnits, RefusesNoCommas) {
 
 TEST_F(ValidateUnits, PassesAListWithoutRows) {
     grid.SetRows(1);
-    EXPECT_TRUE(page.ValidateUnits());
+    EXPECT_TRUE(page.units.ValidateUnits());
 }
 
 TEST_F(ValidateUnits, RefusesByTheMenuToo) {

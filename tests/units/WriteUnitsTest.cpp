@@ -26,7 +26,7 @@ TEST_F(WriteUnits, EndsEveryLineSoThatItsFilesLoadWhole) {
     OpenOver("A,a\r\nB,b\r\nlost");
     ChooseSave();
     EXPECT_EQ(File(), "A,a\r\nB,b\r\n");
-    page.LoadUnitsData();
+    page.units.LoadUnitsData();
     EXPECT_THAT(Units(), ElementsAre("a|A", "b|B"));
 }
 
@@ -51,7 +51,7 @@ TEST_F(WriteUnits, QuotesNothingSoThatACommaInADescriptionCostsTheUnitAtTheNextL
     AddUnit("m", "Metres, SI");
     Save();
     EXPECT_EQ(File(), "Metres, SI,m\r\n");
-    page.LoadUnitsData();
+    page.units.LoadUnitsData();
     EXPECT_THAT(Units(), ElementsAre("SI|Metres"));
 }
 
@@ -60,7 +60,7 @@ TEST_F(WriteUnits, WritesCellsAsTheyStandAndTheNextLoadTrimsThem) {
     AddUnit("   ", "  Blanks ");
     Save();
     EXPECT_EQ(File(), "  Blanks ,   \r\n");
-    page.LoadUnitsData();
+    page.units.LoadUnitsData();
     EXPECT_THAT(Units(), ElementsAre("|Blanks"));
 }
 
