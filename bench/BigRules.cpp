@@ -1,7 +1,7 @@
 #include <array>
 
 #include "BigFile.h"
-#include "rules/mRules.h"
+#include "rules/RulesFormat.h"
 
 namespace zy::bench {
 namespace {

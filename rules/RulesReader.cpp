@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "rules/mRules.h"
+#include "rules/RulesFormat.h"
 
 namespace zy {
 namespace {
@@ -44,29 +44,13 @@ std::string_view WithoutIndent(std::string_view text) {
     return text;
 }
 
-constexpr std::string_view kHeader = "[RULE]";
+/// What stands in front of a value where the program has written the line.
+using Front = std::array<char, kRuleFrontSize>;
 
-struct Property {
-    std::string_view key;
-    std::string RunRule::*member;
-};
-
-constexpr std::array<Property, 8> kProperties{{{"CODE", &RunRule::Code},
-                                               {"MIN", &RunRule::Min},
-                                               {"MAX", &RunRule::Max},
-                                               {"COND", &RunRule::Cond},
-                                               {"ZONE", &RunRule::Zone},
-                                               {"DESC1", &RunRule::Description},
-                                               {"DESC2", &RunRule::Desc2},
-                                               {"DESC3", &RunRule::Desc3}}};
-
-/// What stands in front of a value where the program has written the line. It is as long for every property.
-using Front = std::array<char, 18>;
-
-std::array<Front, kProperties.size()> FrontsAsWritten() {
-    std::array<Front, kProperties.size()> fronts{};
+std::array<Front, kRuleKeys.size()> FrontsAsWritten() {
+    std::array<Front, kRuleKeys.size()> fronts{};
     for (std::size_t i = 0; i < fronts.size(); ++i) {
-        FormatRuleLine(kProperties[i].key, "").copy(fronts[i].data(), fronts[i].size());
+        FormatRuleLine(kRuleKeys[i].key, "").copy(fronts[i].data(), fronts[i].size());
     }
     return fronts;
 }
@@ -93,8 +77,8 @@ class RulesParser {
         }
         if (rule_ != nullptr && StartsWith(line, fronts_[next_])) {
             line.remove_prefix(fronts_[next_].size());
-            rule_->*Next().member = line;
-        } else if (line == kHeader) {
+            rule_->*Next().property = line;
+        } else if (line == kRuleHeader) {
             StartRule();
         } else {
             OtherLine(line);
@@ -122,7 +106,7 @@ class RulesParser {
 
     bool Header(std::string_view text) {
         rule_ = nullptr;
-        if (EqualsIgnoringCase(text, kHeader)) {
+        if (EqualsIgnoringCase(text, kRuleHeader)) {
             StartRule();
         }
         return rule_ != nullptr;
@@ -133,36 +117,36 @@ class RulesParser {
         if (rule_ == nullptr || equals == std::string_view::npos) {
             return false;
         }
-        const auto* property = Find(WithoutIndent(line.substr(0, equals)));
-        if (property == nullptr) {
+        const auto* found = Find(WithoutIndent(line.substr(0, equals)));
+        if (found == nullptr) {
             return false;
         }
         auto value = line.substr(equals + 1);
         if (!value.empty() && value.front() == ' ') {
             value.remove_prefix(1);
         }
-        rule_->*(property->member) = value;
+        rule_->*(found->property) = value;
         return true;
     }
 
     /// The keys mostly come in the order of the table, so the search starts behind the last one found.
-    const Property* Find(std::string_view key) {
-        for (std::size_t tried = 0; tried < kProperties.size(); ++tried) {
-            const auto& property = Next();
-            if (EqualsIgnoringCase(key, property.key)) {
-                return &property;
+    const RuleKey* Find(std::string_view key) {
+        for (std::size_t tried = 0; tried < kRuleKeys.size(); ++tried) {
+            const auto& next = Next();
+            if (EqualsIgnoringCase(key, next.key)) {
+                return &next;
             }
         }
         return nullptr;
     }
 
-    const Property& Next() {
-        const auto& property = kProperties[next_];
-        next_ = (next_ + 1) % kProperties.size();
-        return property;
+    const RuleKey& Next() {
+        const auto& next = kRuleKeys[next_];
+        next_ = (next_ + 1) % kRuleKeys.size();
+        return next;
     }
 
-    const std::array<Front, kProperties.size()> fronts_ = FrontsAsWritten();
+    const std::array<Front, kRuleKeys.size()> fronts_ = FrontsAsWritten();
     std::deque<RunRule>& rules_;
     RunRule* rule_ = nullptr;
     bool first_ = true; ///< no line was taken yet

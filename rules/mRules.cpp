@@ -166,14 +166,4 @@ void mRules::ReportNotReplaced(const std::string& temporary, const std::string& 
         error);
 }
 
-std::string FormatRuleLine(std::string_view key, std::string_view value) {
-    constexpr std::size_t kKeyField = 13;
-    std::string line = "   ";
-    line += key;
-    line.append(key.size() < kKeyField ? kKeyField - key.size() : 0, ' ');
-    line += "= ";
-    line += value;
-    return line;
-}
-
 } // namespace zy

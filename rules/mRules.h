@@ -80,9 +80,4 @@ class mRules {
     bool lastSaveFailed_ = false;
 };
 
-/// A key line of the rules file, without its line end: the key in a field of 13 characters behind three
-/// blanks, then
-/// "= " and the value as it is. A longer key is not cut.
-std::string FormatRuleLine(std::string_view key, std::string_view value);
-
 } // namespace zy

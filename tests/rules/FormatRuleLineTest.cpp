@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "rules/mRules.h"
+#include "rules/RulesFormat.h"
 
 namespace zy::test {
 namespace {
