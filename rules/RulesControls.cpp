@@ -1,7 +1,11 @@
 #include "rules/RulesControls.h"
 
+#include <array>
+#include <string>
 #include <utility>
+#include <vector>
 
+#include "basics/Text.h"
 #include "rules/RunRule.h"
 
 namespace zy {
@@ -14,38 +18,69 @@ std::vector<ListView::Column> ListColumns() {
             {"Cond", kNarrow}, {"Zone", kNarrow}, {"Description", 4000}};
 }
 
-// "Less than" has its two blanks on purpose.
-std::vector<std::string> Conditions() {
-    return {"> - Greater Than", ">= - Greater than or Equal to", "< -  Less than",
-            "<= - Less than or Equal to", "= - Equal to"};
-}
+// "Less than" keeps the two blanks that it has always had.
+constexpr std::array<std::string_view, 5> kConditions{"> - Greater Than", ">= - Greater than or Equal to",
+                                                      "< -  Less than", "<= - Less than or Equal to",
+                                                      "= - Equal to"};
 
-// The spelling of the two warning limits and the double blanks of the last two lines are meant.
+/// A chart line in the two lists that offer it.
+struct Zone {
+    std::string_view item;      ///< of the detail form, the code first
+    std::string_view cell = {}; ///< of the grid; empty: the item's code
+};
+
+// The spelling of the two warning limits, the double blanks of the last two items, and the grid's own
+// spelling of two codes are kept: the product's users know the lists so.
+constexpr std::array<Zone, 15> kZones{{{"USL - Upper Spec. Limit (White)"},
+                                       {"UCL - Upper Control Limit (Red)"},
+                                       {"UWL - Upper Warnign Limit (Yellow)"},
+                                       {"TARG - Target for Variable (Green)", "TARG "},
+                                       {"LWL - Lower Waring Limit (Yellow)"},
+                                       {"LCL - Lower Control Limit (Red)"},
+                                       {"LSL - Lower Spec. Limit (White)"},
+                                       {"PREV - Value of Previous Data Point"},
+                                       {"+4S - Average + 4 SD"},
+                                       {"+3S - Average + 3 SD"},
+                                       {"+15S - Average + 15 SD"},
+                                       {"AVG - Average", "Avg "},
+                                       {"-15S - Average - 15 SD"},
+                                       {"-3S  - Average - 3 SD"},
+                                       {"-4S  - Average - 4 SD"}}};
+
 std::vector<std::string> Zones() {
-    return {"USL - Upper Spec. Limit (White)",
-            "UCL - Upper Control Limit (Red)",
-            "UWL - Upper Warnign Limit (Yellow)",
-            "TARG - Target for Variable (Green)",
-            "LWL - Lower Waring Limit (Yellow)",
-            "LCL - Lower Control Limit (Red)",
-            "LSL - Lower Spec. Limit (White)",
-            "PREV - Value of Previous Data Point",
-            "+4S - Average + 4 SD",
-            "+3S - Average + 3 SD",
-            "+15S - Average + 15 SD",
-            "AVG - Average",
-            "-15S - Average - 15 SD",
-            "-3S  - Average - 3 SD",
-            "-4S  - Average - 4 SD"};
+    std::vector<std::string> items;
+    for (const auto& zone : kZones) {
+        items.emplace_back(zone.item);
+    }
+    return items;
 }
 
-// The bar at the end offers an empty relation.
-constexpr std::string_view kGridConditions = ">|>=|<|<=|=|";
+/// The relations, and behind the last bar an empty one.
+std::string GridConditions() {
+    std::string choices;
+    for (const auto item : kConditions) {
+        choices.append(ConditionOfItem(item)).append("|");
+    }
+    return choices;
+}
 
-// Unlike the detail form's codes, two end in a blank and "Avg" is in mixed case, which is meant.
-constexpr std::string_view kGridZones = "USL|UCL|UWL|TARG |LWL|LCL|LSL|PREV|+4S|+3S|+15S|Avg |-15S|-3S|-4S";
+std::string GridZones() {
+    std::string choices;
+    for (const auto& [item, cell] : kZones) {
+        choices.append(choices.empty() ? "" : "|").append(cell.empty() ? ZoneOfItem(item) : cell);
+    }
+    return choices;
+}
 
 } // namespace
+
+std::string_view ZoneOfItem(std::string_view item) {
+    return Trim(item.substr(0, item.find(" - ")));
+}
+
+std::string_view ConditionOfItem(std::string_view item) {
+    return Trim(item.substr(0, item.find('-')));
+}
 
 RulesControls::RulesControls(Frame& fraRules, ListView::Source rules)
     : fraRulesList(&fraRules, "fraRulesList", "Current Rules List"),
@@ -56,7 +91,7 @@ RulesControls::RulesControls(Frame& fraRules, ListView::Source rules)
       cmdHelpRules(&fraRulesList, "cmdHelpRules", "Help", 'p'),
       FraRuleDetails(&fraRules, "FraRuleDetails", "Rule Details"), txtCode(&FraRuleDetails, "txtCode"),
       txtMin(&FraRuleDetails, "txtMin"), txtMax(&FraRuleDetails, "txtMax"),
-      cboCondition(&FraRuleDetails, "cboCondition", Conditions()),
+      cboCondition(&FraRuleDetails, "cboCondition", {kConditions.begin(), kConditions.end()}),
       cboZone(&FraRuleDetails, "cboZone", Zones()), txtDescription(&FraRuleDetails, "txtDescription"),
       lblCode(&FraRuleDetails, "lblCode", "Rule ID:", 'R', txtCode),
       lblMin(&FraRuleDetails, "lblMin", "Minimum:", 'n', txtMin),
@@ -66,8 +101,8 @@ RulesControls::RulesControls(Frame& fraRules, ListView::Source rules)
       lblDescription(&FraRuleDetails, "lblDescription", "Description:", 'D', txtDescription),
       fraGridMode(&fraRules, "fraGridMode", "Grid Mode"), grdRules(&fraGridMode, "grdRules", kRuleColumns) {
     cmdUpDown.SetCaption("Move rule");
-    grdRules.SetColumnList(kCondColumn, kGridConditions);
-    grdRules.SetColumnList(kZoneColumn, kGridZones);
+    grdRules.SetColumnList(kCondColumn, GridConditions());
+    grdRules.SetColumnList(kZoneColumn, GridZones());
 }
 
 } // namespace zy

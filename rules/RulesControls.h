@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include "controls/ComboBox.h"
 #include "controls/CommandButton.h"
 #include "controls/Grid.h"
@@ -39,5 +41,11 @@ struct RulesControls {
     Frame fraGridMode;
     Grid grdRules;
 };
+
+/// The code at the front of an item of the zone list: what stands before " - ". Zone codes hold dashes
+/// themselves.
+std::string_view ZoneOfItem(std::string_view item);
+/// The relation at the front of an item of the condition list: what stands before the first "-".
+std::string_view ConditionOfItem(std::string_view item);
 
 } // namespace zy

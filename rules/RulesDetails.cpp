@@ -1,16 +1,6 @@
 #include "rules/RulesDetails.h"
 
-#include "basics/Text.h"
-
 namespace zy {
-
-std::string_view ZoneOfItem(std::string_view item) {
-    return Trim(item.substr(0, item.find(" - ")));
-}
-
-std::string_view ConditionOfItem(std::string_view item) {
-    return Trim(item.substr(0, item.find('-')));
-}
 
 RunRule RuleInForm(const RulesControls& controls, const RunRule& held) {
     RunRule rule = held;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <string_view>
 
 #include "rules/RulesControls.h"
 #include "rules/RunRule.h"
@@ -14,11 +13,5 @@ inline constexpr std::array kEditedProperties{&RunRule::Code,        &RunRule::M
 
 /// The rule as the detail form shows it. Where no condition or zone is selected, `held` keeps its own.
 RunRule RuleInForm(const RulesControls& controls, const RunRule& held);
-
-/// The code at the front of an item of the zone list: what stands before " - ". Zone codes hold dashes
-/// themselves.
-std::string_view ZoneOfItem(std::string_view item);
-/// The relation at the front of an item of the condition list: what stands before the first "-".
-std::string_view ConditionOfItem(std::string_view item);
 
 } // namespace zy

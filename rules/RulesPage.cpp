@@ -1,7 +1,6 @@
 #include "rules/RulesPage.h"
 
 #include <algorithm>
-#include <array>
 
 #include "rules/RulesDetails.h"
 #include "rules/RulesLayout.h"
@@ -12,9 +11,6 @@ namespace zy {
 namespace {
 
 constexpr std::string_view kModule = "mRules";
-
-/// The relations in the order of the list's items.
-constexpr std::array<std::string_view, 5> kRelations{">", ">=", "<", "<=", "="};
 
 std::string_view CellOf(const RunRule& rule, int column) {
     return rule.*kColumnProperties.at(static_cast<std::size_t>(column));
@@ -90,9 +86,10 @@ void RulesPage::FillDetails(int index) {
     controls.txtMin.SetText(rule.Min);
     controls.txtMax.SetText(rule.Max);
     controls.txtDescription.SetText(rule.Description);
-    for (std::size_t relation = 0; relation < kRelations.size(); ++relation) {
-        if (rule.Cond == kRelations[relation]) {
-            controls.cboCondition.SetListIndex(static_cast<int>(relation));
+    const auto& conditions = controls.cboCondition.Items();
+    for (std::size_t item = 0; item < conditions.size(); ++item) {
+        if (rule.Cond == ConditionOfItem(conditions[item])) {
+            controls.cboCondition.SetListIndex(static_cast<int>(item));
         }
     }
     const auto zone = world_.codePage.UCase(rule.Zone);

@@ -19,8 +19,7 @@ STATEMENTS = {
 # The rules grid and the question before leaving without saving are there, but no menu, button or key leads to them.
 OUT_OF_REACH = {
     "&Add Rule", "&Delete Rule", "Are you Sure you want to Exit Without Saving Changes",
-    "Code\tMin\tMax\tCond.\tZone\tDescription", "Confirm Exit", "Grid Mode",
-    "USL|UCL|UWL|TARG |LWL|LCL|LSL|PREV|+4S|+3S|+15S|Avg |-15S|-3S|-4S",
+    "Code\tMin\tMax\tCond.\tZone\tDescription", "Confirm Exit", "Grid Mode", "TARG ", "Avg ",
 }
 
 # Under which names the place of the window is stored.
