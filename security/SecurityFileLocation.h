@@ -1,15 +1,11 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "platform/World.h"
 #include "shell/TraceChannel.h"
 
 namespace zy {
-
-/// The settings file in the system directory that may name the place of the user table.
-inline constexpr std::string_view kSecurityLocationFile = "ZYSECURE.ZYX";
 
 /// The full path of the user table, in capitals and trimmed: what the key "ZYSECURE.SECURITYFILE" of the
 /// settings file says, under whatever header, else "ZYSECURE.DBF" in the system directory.

@@ -8,10 +8,16 @@
 namespace zy {
 
 // The names of the users' files. The table is always written under this one, whatever it was called when it
-// was read, which is meant.
+// was read: the product's other programs look for it there.
 inline constexpr std::string_view kUsersTableName = "ZYSECURE.DBF";
 inline constexpr std::string_view kUsersTemporaryName = "ZYSECURE.TMP";
 inline constexpr std::string_view kUsersIndexName = "ZYSECURE.NDX";
+/// As the table engine names the index, whose file it is.
+inline constexpr std::string_view kUsersIndex = kUsersIndexName.substr(0, kUsersIndexName.rfind('.'));
+/// The spelling in which the index is looked for that goes with the last user.
+inline constexpr std::string_view kRecycledIndexName = "ZYSECURE.ndx";
+/// The settings file in the system directory that may name the place of the table.
+inline constexpr std::string_view kSecurityLocationFile = "ZYSECURE.ZYX";
 
 /// The paths of the users' files in a folder, which ends with "\".
 struct UserFiles {
