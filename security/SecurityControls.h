@@ -2,11 +2,9 @@
 
 #include "controls/CommandButton.h"
 #include "controls/Grid.h"
+#include "security/UserRecord.h"
 
 namespace zy {
-
-/// The columns of the users grid. Their order differs from that of the table's columns, which is meant.
-enum UsersColumn { kUserName, kPassword, kStatus, kExpiryDate, kIdentification, kUsersColumns };
 
 /// The controls of the users page, in tab order.
 struct SecurityControls {

@@ -32,7 +32,7 @@ std::string TableLosses(const dbase::Recordset& records) {
     Losses losses;
     losses.Add(table.UncountedRecords(), "user that the table does not count",
                "users that the table does not count");
-    losses.Add(columns - std::min<std::size_t>(columns, kUserFields), "more column", "more columns");
+    losses.Add(columns - std::min(columns, kUserFields.size()), "more column", "more columns");
     losses.Add(table.ReplacedCharacters(), "character that the code page lacks",
                "characters that the code page lacks");
     losses.Add(table.DeletedRecords(), "deleted user", "deleted users");

@@ -6,19 +6,10 @@
 #include "basics/Date.h"
 #include "basics/Int16.h"
 #include "basics/Text.h"
-#include "security/SecurityControls.h"
 #include "security/UserRecord.h"
 #include "shell/Application.h"
 
 namespace zy {
-namespace {
-
-constexpr std::size_t kLongestName = 10;
-constexpr std::size_t kLongestPassword = 20;
-constexpr std::size_t kLongestIdentification = 20;
-constexpr std::size_t kLongestDate = 8;
-
-} // namespace
 
 UserChecks::UserChecks(Grid& grid, const World& world) : grid_(grid), world_(world) {}
 
@@ -73,8 +64,7 @@ std::optional<Cell> UserChecks::CheckRow(int row, int sameName) {
 bool UserChecks::CheckName(int row) {
     const auto name = grid_.Text(row, kUserName);
     return !FailsIf(Trim(name).empty(), "Invalid User Name. Cannot be blank") &&
-           !FailsIf(name.size() > kLongestName,
-                    "Invalid User ID. User ID must not be longer than 10 characters") &&
+           !FailsIfTooLong(row, kUserName, "Invalid User ID. User ID") &&
            !FailsIf(Contains(name, '"'), "Invalid User Name. User ID cannot contain Double Quotes");
 }
 
@@ -83,8 +73,7 @@ bool UserChecks::CheckName(int row) {
 bool UserChecks::CheckPassword(int row) {
     const auto password = grid_.Text(row, kPassword);
     return !FailsIf(Trim(password).empty(), "Invalid Password. Password Cannot be blank") &&
-           !FailsIf(password.size() > kLongestPassword,
-                    "Invalid Password. Password must not be longer than 20 characters") &&
+           !FailsIfTooLong(row, kPassword, "Invalid Password. Password") &&
            !FailsIf(Contains(password, '"'), "Invalid Password. Password cannot contain Double Quotes");
 }
 
@@ -98,8 +87,7 @@ void UserChecks::SetStatus(int row) {
 bool UserChecks::CheckIdentification(int row) {
     const auto text = grid_.Text(row, kIdentification);
     return !FailsIf(Trim(text).empty(), "Invalid User Identifier. User Identifier Cannot be blank") &&
-           !FailsIf(text.size() > kLongestIdentification,
-                    "Invalid User Identifier. User Identifier must not be longer than 20 characters") &&
+           !FailsIfTooLong(row, kIdentification, "Invalid User Identifier. User Identifier") &&
            !FailsIf(Contains(text, '"'),
                     "Invalid User Identifier. User Identifier cannot contain Double Quotes");
 }
@@ -112,10 +100,16 @@ void UserChecks::DropUnfilledDate(int row) {
 
 bool UserChecks::CheckDate(int row) {
     const auto date = grid_.Text(row, kExpiryDate);
-    return !FailsIf(date.size() > kLongestDate,
-                    "Invalid Expiry Date. Expiry Date must not be longer than 8 characters") &&
+    return !FailsIfTooLong(row, kExpiryDate, "Invalid Expiry Date. Expiry Date") &&
            !FailsIf(!date.empty() && !ParseDate(date),
                     "Invalid Expiry Date. Must Use Format YY-MM-DD or blank for no Expiry Date");
+}
+
+bool UserChecks::FailsIfTooLong(int row, UsersColumn column, std::string_view front) {
+    const auto most = FieldIn(column).width;
+    return grid_.Text(row, column).size() > most &&
+           FailsIf(true,
+                   std::string(front) + " must not be longer than " + std::to_string(most) + " characters");
 }
 
 bool UserChecks::FailsIf(bool condition, std::string_view message) {

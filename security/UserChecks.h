@@ -6,6 +6,7 @@
 
 #include "controls/Grid.h"
 #include "platform/World.h"
+#include "security/UserRecord.h"
 
 namespace zy {
 
@@ -32,6 +33,8 @@ class UserChecks {
     bool CheckDate(int row);
     void SetStatus(int row);
     void DropUnfilledDate(int row);
+    /// Fails when a cell holds more than the table takes; the message begins with `front`.
+    bool FailsIfTooLong(int row, UsersColumn column, std::string_view front);
     /// Shows the message when the condition holds. Returns the condition.
     bool FailsIf(bool condition, std::string_view message);
 

@@ -1,21 +1,15 @@
 #include "security/UserStatement.h"
 
-#include <array>
 #include <variant>
 #include <vector>
 
 #include "basics/RuntimeError.h"
 #include "basics/Text.h"
 #include "dbase/SqlParser.h"
+#include "security/UserFiles.h"
 
 namespace zy {
 namespace {
-
-using Texts = std::array<const std::string*, kUserFields>;
-
-Texts TextsOf(const UserRecord& user) {
-    return {&user.USERID, &user.PASSWORD, &user.IDENTIFIER, &user.EXPDATE, &user.STATUS};
-}
 
 /// The text with each pair of single quotes made one.
 std::string WithoutPairs(std::string_view text) {
@@ -27,9 +21,18 @@ std::string WithoutPairs(std::string_view text) {
     return single;
 }
 
+/// The columns as the temporary table has them.
+std::string Columns() {
+    std::string columns;
+    for (const auto& field : kUserFields) {
+        columns.append(columns.empty() ? "(" : ", ").append(field.column);
+    }
+    return columns;
+}
+
 /// The values as the table engine takes them; none when it refuses the statement.
 std::vector<std::string> ValuesOf(const UserRecord& user) {
-    std::string statement = "INSERT INTO U (A, B, C, D, E) VALUES ('";
+    auto statement = InsertFront(Columns());
     AppendValues(statement, user);
     try {
         return std::get<dbase::Insert>(dbase::ParseStatement(statement)).values;
@@ -40,24 +43,46 @@ std::vector<std::string> ValuesOf(const UserRecord& user) {
 
 } // namespace
 
+std::string CreateStatement() {
+    std::string statement = "CREATE TABLE [" + std::string(kUsersTemporaryName) + "] (";
+    for (const auto& field : kUserFields) {
+        statement.append(field.separator).append(field.column).append(field.type);
+        statement.append(std::to_string(field.width)).append(")");
+    }
+    return statement + ");";
+}
+
+std::string InsertFront(std::string_view columns) {
+    return "INSERT INTO [" + std::string(kUsersTemporaryName) + "] " + std::string(columns) + ") VALUES ('";
+}
+
 void AppendValues(std::string& statement, const UserRecord& user) {
-    statement.append(user.USERID).append("', '").append(user.PASSWORD).append("', '");
-    statement.append(user.IDENTIFIER).append("', '").append(user.EXPDATE).append("', '");
-    statement.append(user.STATUS).append("');");
+    std::string_view separator;
+    for (const auto& field : kUserFields) {
+        statement.append(separator).append(user.*field.member);
+        separator = "', '";
+    }
+    statement.append("');");
+}
+
+std::string IndexStatement(std::string_view column) {
+    return "CREATE INDEX [" + std::string(kUsersIndex) + "] ON [" + std::string(kUsersTableName) + "] (" +
+           std::string(column) + ");";
 }
 
 QuotesEffect EffectOfQuotes(const UserRecord& user) {
     bool hasQuotes = false;
     std::vector<std::string> inPairs;
-    for (const auto* text : TextsOf(user)) {
-        hasQuotes = hasQuotes || Contains(*text, '\'');
-        inPairs.push_back(WithoutPairs(*text));
+    for (const auto& field : kUserFields) {
+        const std::string_view text = user.*field.member;
+        hasQuotes = hasQuotes || Contains(text, '\'');
+        inPairs.push_back(WithoutPairs(text));
     }
     if (!hasQuotes) {
         return QuotesEffect::None;
     }
     const auto values = ValuesOf(user);
-    if (values.size() != kUserFields) {
+    if (values.size() != kUserFields.size()) {
         return QuotesEffect::NotSaved;
     }
     return values == inPairs ? QuotesEffect::HalfStored : QuotesEffect::Shifted;

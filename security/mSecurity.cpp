@@ -6,7 +6,6 @@
 #include "basics/RuntimeError.h"
 #include "basics/Text.h"
 #include "dbase/ErrorNumbers.h"
-#include "security/SecurityFileLocation.h"
 #include "security/TableLosses.h"
 #include "security/UserChecks.h"
 #include "security/UserFiles.h"
@@ -23,22 +22,18 @@ constexpr std::string_view kConnect = "dBase III";
 
 /// The engine would raise the same error, without a word about the table.
 void RequireFields(const dbase::Fields& fields, const std::string& table) {
-    if (fields.Count() < kUserFields) {
+    const int expected = static_cast<int>(kUserFields.size());
+    if (fields.Count() < expected) {
         throw RuntimeError(dbase::kNoSuchItem, "Item not found in this collection: the table of users '" +
                                                    table + "' has " + std::to_string(fields.Count()) +
-                                                   " of the " + std::to_string(kUserFields) +
+                                                   " of the " + std::to_string(expected) +
                                                    " fields of a user.");
     }
 }
 
 /// The first columns of a table, whatever they are called.
 UserRecord UserIn(const dbase::Fields& fields) {
-    const auto value = [&](int column) { return std::string(fields.Item(column).Value()); };
-    return {.USERID = value(0),
-            .PASSWORD = value(1),
-            .IDENTIFIER = value(2),
-            .EXPDATE = value(3),
-            .STATUS = value(4)};
+    return UserOf([&, column = 0](const UserField&) mutable { return fields.Item(column++).Value(); });
 }
 
 } // namespace

@@ -15,12 +15,7 @@ void mSecurity::Save_Security() {
 }
 
 UserRecord mSecurity::UserInRow(int row) const {
-    const auto text = [&](int column) { return std::string(controls_.grdSecurity.Text(row, column)); };
-    return {.USERID = text(kUserName),
-            .PASSWORD = text(kPassword),
-            .IDENTIFIER = text(kIdentification),
-            .EXPDATE = text(kExpiryDate),
-            .STATUS = text(kStatus)};
+    return UserOf([&](const auto& field) { return controls_.grdSecurity.Text(row, field.gridColumn); });
 }
 
 void mSecurity::Write_Security() {
@@ -54,8 +49,7 @@ void mSecurity::WriteTable(FailedSave& save) {
 }
 
 void mSecurity::CreateTemporary() {
-    database_->Execute("CREATE TABLE [ZYSECURE.TMP] (USERID TEXT (10), PASSWORD TEXT (20), "
-                       "IDENTIFIER TEXT(20),EXPDATE TEXT (8), STATUS TEXT(1));");
+    database_->Execute(CreateStatement());
     const UserFiles files(SecurityFolder());
     if (world_.files.Exists(files.table)) {
         world_.files.CopyPermissions(files.table, files.temporary);
@@ -75,7 +69,7 @@ std::string mSecurity::ColumnList() {
 }
 
 void mSecurity::InsertUsers(const std::string& columns) {
-    const std::string front = "INSERT INTO [ZYSECURE.TMP] " + columns + ") VALUES ('";
+    const auto front = InsertFront(columns);
     std::string statement;
     for (const auto& user : zySecure) {
         statement = front;
@@ -107,11 +101,11 @@ void mSecurity::WriteDBIndex() {
     const std::string field(records->Fields().Item(0).Name());
     records->Close();
     RecycleIfThere(world_.files, world_.recycleBin, UserFiles(SecurityFolder()).index);
-    database_->Execute("CREATE INDEX [ZYSECURE] ON [ZYSECURE.DBF] (" + field + ");");
+    database_->Execute(IndexStatement(field));
 }
 
 void mSecurity::RecycleTable(std::string_view folder) {
-    const std::string index = std::string(folder) + "ZYSECURE.ndx"; // spelled so
+    const std::string index = std::string(folder).append(kRecycledIndexName);
     const UserFiles files(folder);
     RequireCertain(world_.files, files.table);
     RequireCertain(world_.files, index);

@@ -10,10 +10,7 @@ TRACES = {
 
 # What the program sends to the table engine. A mistake in it shows as one of the engine's errors, which are explained.
 STATEMENTS = {
-    "CREATE INDEX [ZYSECURE] ON [ZYSECURE.DBF] (",
-    "CREATE TABLE [ZYSECURE.TMP] (USERID TEXT (10), PASSWORD TEXT (20), IDENTIFIER TEXT(20),EXPDATE TEXT (8), "
-    "STATUS TEXT(1));",
-    "INSERT INTO [ZYSECURE.TMP] ", ") VALUES ('", "INSERT INTO U (A, B, C, D, E) VALUES ('",
+    "CREATE TABLE [", "INSERT INTO [", ") VALUES ('", "CREATE INDEX [", "] ON [", " TEXT (", " TEXT(",
 }
 
 # The rules grid and the question before leaving without saving are there, but no menu, button or key leads to them.
