@@ -175,12 +175,6 @@ bool CanBeIndexed(const TableField& field) {
     return field.IsText() && field.width >= 1 && field.width <= kLongestKey;
 }
 
-std::string IndexKey(const TableImage& table, std::uint32_t record, std::size_t field) {
-    std::string key(table.Value(record, field));
-    key.resize(table.Fields()[field].width, ' ');
-    return key;
-}
-
 std::string BuildIndex(const TableImage& table, std::size_t field) {
     const Keys keys(table, field);
     return IndexWriter(keys, table.Fields()[field].name).Write();

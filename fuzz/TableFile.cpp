@@ -6,7 +6,7 @@
 #include "dbase/DBEngine.h"
 #include "dbase/ErrorNumbers.h"
 #include "dbase/IndexBuilder.h"
-#include "dbase/IndexChecks.h"
+#include "index/IndexChecks.h"
 #include "platform/memory/MemoryFileSystem.h"
 
 namespace zy::fuzz {

@@ -2,8 +2,8 @@
 
 #include "DbaseTest.h"
 #include "dbase/IndexBuilder.h"
-#include "dbase/IndexChecks.h"
-#include "dbase/IndexFile.h"
+#include "index/IndexChecks.h"
+#include "index/IndexFile.h"
 #include "dbase/TableImage.h"
 #include "support/TableBytes.h"
 

@@ -12,7 +12,7 @@ import unittest
 
 from book import Book, collapsed
 from literals import literals, tokens
-from unexplained import FILES_NOT_FOR_THE_BOOK, INDEX_READERS, NOT_FOR_PEOPLE, OUT_OF_REACH, is_picture
+from unexplained import FILES_NOT_FOR_THE_BOOK, NOT_FOR_PEOPLE, OUT_OF_REACH, is_picture
 
 ROOMS = ("basics", "platform", "shell/low", "shell/high", "rules", "security", "units", "dbase", "desktop", "app")
 # How the controls of a form are named: what kind they are, then what they are for.
@@ -136,11 +136,6 @@ class ExplainsEveryMessage(unittest.TestCase):
         for known in ("Rule Code must be unique", "the disk is full", "Saved", "Overflow", "Unit Description",
                       " stands in the way of the next save. "):
             self.assertIn(known, texts)
-
-    def test_nothing_but_checks_reads_an_index(self):
-        readers = [path for path, source in sources().items()
-                   if path not in INDEX_READERS and re.search(r'"dbase/Index(?:Checks|File)\.h"', source)]
-        self.assertEqual(readers, [], "the messages about an index have to be explained")
 
 
 class ShowsTheCaptionsAsTheyAre(unittest.TestCase):

@@ -28,15 +28,11 @@ OF_THE_TOOLKIT = {", row %d of %d", "Cell", "table cell", "%s:%d: %s: %s %s"}
 # The lines of a settings file have no keys to be asked for by, and nothing in the program asks.
 NO_KEYS = {"Invalid procedure call or argument"}
 
-# The program writes an index and never reads one; these files are for those that check it. HelpBook tests that it
-# stays so.
-INDEX_READERS = {"dbase/IndexChecks.cpp", "dbase/IndexChecks.h", "dbase/IndexFile.cpp", "dbase/IndexFile.h"}
-
 # How to reach the maker changes without a new book, which leaves that to the About box.
 CONTACT = {"shell/low/Maker.h"}
 
 NOT_FOR_PEOPLE = TRACES | STATEMENTS | OUT_OF_REACH | REGISTRY_VALUES | OF_THE_TOOLKIT | NO_KEYS
-FILES_NOT_FOR_THE_BOOK = INDEX_READERS | CONTACT
+FILES_NOT_FOR_THE_BOOK = CONTACT
 
 
 def is_picture(text):

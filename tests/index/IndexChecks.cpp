@@ -1,4 +1,4 @@
-#include "dbase/IndexChecks.h"
+#include "index/IndexChecks.h"
 
 #include <algorithm>
 #include <vector>
@@ -59,7 +59,7 @@ class Checks {
     }
 
     bool HasEarlierEqual(const Entries& entries, std::uint32_t record) const {
-        std::string key = IndexKey(table_, record, field_);
+        std::string key(table_.Value(record, field_));
         key.resize(index_.KeyLength(), ' ');
         const auto found =
             std::lower_bound(entries.begin(), entries.end(), std::string_view(key),

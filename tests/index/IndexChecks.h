@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dbase/IndexFile.h"
+#include "index/IndexFile.h"
 #include "dbase/TableImage.h"
 
 namespace zy::dbase {

@@ -1,4 +1,4 @@
-#include "dbase/IndexFile.h"
+#include "index/IndexFile.h"
 
 #include <utility>
 
