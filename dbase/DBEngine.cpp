@@ -27,8 +27,4 @@ void DBEngine::CommitTrans() {
     workspace_->Commit();
 }
 
-void DBEngine::Rollback() {
-    workspace_->Rollback();
-}
-
 } // namespace zy::dbase

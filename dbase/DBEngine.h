@@ -31,13 +31,10 @@ class DBEngine {
                                            std::string_view connect);
 
     /// From here on rows are added for the time being. They are there for good with CommitTrans, and gone
-    /// with Rollback and when a database is closed. Error 3246 when a transaction is open already: they do
-    /// not nest.
+    /// when a database is closed before. Error 3246 when a transaction is open already: they do not nest.
     void BeginTrans();
     /// Error 3034 when no transaction is open. Touches no file: see Database::Flush.
     void CommitTrans();
-    /// Error 3034 when no transaction is open.
-    void Rollback();
 
   private:
     std::shared_ptr<Workspace> workspace_;

@@ -24,16 +24,14 @@ void Workspace::Begin() {
 }
 
 void Workspace::Commit() {
-    RequireTransaction();
+    if (!inTransaction_) {
+        Raise(kNoTransaction,
+              {"You tried to commit or roll back a transaction without first beginning one."});
+    }
     for (const auto& table : tables_) {
         table->Commit();
     }
     inTransaction_ = false;
-}
-
-void Workspace::Rollback() {
-    RequireTransaction();
-    GiveUpTransaction();
 }
 
 OpenTable& Workspace::Open(const std::string& path) {
@@ -60,13 +58,6 @@ void Workspace::GiveUpTransaction() {
 
 void Workspace::Discard(const std::string& path) {
     std::erase_if(tables_, [&](const auto& table) { return IsSamePath(table->Path(), path); });
-}
-
-void Workspace::RequireTransaction() const {
-    if (!inTransaction_) {
-        Raise(kNoTransaction,
-              {"You tried to commit or roll back a transaction without first beginning one."});
-    }
 }
 
 } // namespace zy::dbase

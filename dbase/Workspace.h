@@ -27,7 +27,6 @@ class Workspace {
     /// See DBEngine.
     void Begin();
     void Commit();
-    void Rollback();
 
     /// The table at a path, for adding rows to it; read from its file unless it is at hand.
     OpenTable& Open(const std::string& path);
@@ -42,8 +41,6 @@ class Workspace {
     void DiscardAll() { tables_.clear(); }
 
   private:
-    void RequireTransaction() const;
-
     FileSystem& files_;
     Clock today_;
     bool inTransaction_ = false;
