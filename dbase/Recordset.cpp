@@ -5,6 +5,7 @@
 #include "dbase/Errors.h"
 
 namespace zy::dbase {
+
 void RaiseNoCurrentRecord() {
     Raise(kNoCurrentRecord, {"No current record."});
 }
@@ -23,14 +24,6 @@ std::string_view Field::Name() const {
 
 Int16 Fields::Count() const {
     return records_.Table().Fields().size();
-}
-
-Field Fields::Item(std::string_view name) const {
-    const auto found = records_.Table().FindField(name);
-    if (!found) {
-        Raise(kNoSuchItem, {"Item not found in this collection: there is no field '", name, "'."});
-    }
-    return {records_, *found};
 }
 
 Recordset::Recordset(TableImage table) : table_(std::move(table)) {

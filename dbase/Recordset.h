@@ -41,8 +41,6 @@ class Fields {
     Int16 Count() const;
     /// The column at a position, counted from 0. Error 3265 outside 0..Count - 1.
     Field Item(int index) const;
-    /// The first column of that name, without regard to case. Error 3265 when there is none.
-    Field Item(std::string_view name) const;
 
   private:
     const Recordset& records_;

@@ -122,9 +122,9 @@ TEST_F(ReadTable, FindsAColumnByItsNameInAnyCase) {
     table.Add(' ', {"first", "Rome", "2"});
     Put("T.DBF", table.Bytes());
     const auto records = database->OpenRecordset("t", RecordsetType::Dynaset);
-    EXPECT_EQ(records->Fields().Item("nAME").Value(), "first");
-    EXPECT_EQ(records->Fields().Item("city").Value(), "Rome");
-    EXPECT_EQ(ErrorNumber([&] { records->Fields().Item("CIT"); }), kNoSuchItem);
+    EXPECT_EQ(records->Table().FindField("nAME"), 0U);
+    EXPECT_EQ(records->Table().FindField("city"), 1U);
+    EXPECT_EQ(records->Table().FindField("CIT"), std::nullopt);
 }
 
 TEST_F(ReadTable, TakesANameOfElevenCharacters) {
