@@ -1,4 +1,5 @@
 #include "support/EditorsTest.h"
+#include "support/RawBool16.h"
 
 namespace zy::test {
 namespace {
@@ -58,7 +59,7 @@ TEST_F(ExclusiveModes, CloseWithoutAQuestionWithoutAnEditorInCharge) {
 
 TEST_F(ExclusiveModes, AreTestedForTrueAlone) {
     SetModes(false, true, false);
-    state().gbRulesMode = Bool16::FromValue(1);
+    state().gbRulesMode = FromValue(1);
     window().menu.mnuSave.Click();
     EXPECT_THAT(calls, ::testing::Contains("trace frmGlobalSettings ,mnuSave_Click Security"));
 }

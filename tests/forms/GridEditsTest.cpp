@@ -1,5 +1,6 @@
 #include "GridModeForm.h"
 #include "rules/RulesDetails.h"
+#include "support/RawBool16.h"
 
 namespace zy::test {
 namespace {
@@ -30,7 +31,7 @@ class GridEdits : public GridModeForm {
 TEST_F(GridEdits, SetTheMarkOfChangedCellsAndNothingElse) {
     ShowGridOver({"A"});
     Fill(1, kCodeColumn, "X");
-    EXPECT_EQ(rules().gbGridChanged.Value(), -1);
+    EXPECT_EQ(ValueOf(rules().gbGridChanged), -1);
     ExpectMarks(false, false);
     EXPECT_FALSE(rules().gbRulesChanged);
     EXPECT_EQ(Status(), "1 rule");

@@ -1,6 +1,7 @@
 #include <functional>
 
 #include "RulesForm.h"
+#include "support/RawBool16.h"
 
 namespace zy::test {
 namespace {
@@ -22,7 +23,7 @@ class Marks : public RulesForm {
         StartWithCodes({"A", "B", "C"});
         each.act();
         ExpectMarks(each.changeFlag, each.changed);
-        EXPECT_EQ(rules().gbRulesChanged.Value(), 0) << "never set";
+        EXPECT_EQ(ValueOf(rules().gbRulesChanged), 0) << "never set";
     }
 };
 
@@ -78,7 +79,7 @@ TEST_F(Marks, StayWhenAnEditIsTakenBack) {
 }
 
 TEST_F(Marks, AreTestedForTrueAlone) {
-    form().ChangeFlag = Bool16::FromValue(1);
+    form().ChangeFlag = FromValue(1);
     world.files.Plan({});
     ChooseSave();
     page().cmdSaveRules.Click();

@@ -1,4 +1,5 @@
 #include "GridModeForm.h"
+#include "support/RawBool16.h"
 
 namespace zy::test {
 namespace {
@@ -111,7 +112,7 @@ TEST_F(TabSwitch, FromTheGridPassesUncheckedWhenNoCellWasChanged) {
 TEST_F(TabSwitch, FromTheGridTestsTheMarkForTrueAlone) {
     ShowGridOver({"A"});
     Fill(1, kCodeColumn, "X");
-    rules().gbGridChanged = Bool16::FromValue(1);
+    rules().gbGridChanged = FromValue(1);
     EXPECT_TRUE(Store());
     EXPECT_THAT(HeldRules(), ElementsAre("A|1|2|>|UCL|text  "));
 }

@@ -1,6 +1,7 @@
 #include <limits>
 
 #include "INIfileTest.h"
+#include "support/RawBool16.h"
 
 namespace zy::test {
 namespace {
@@ -88,9 +89,9 @@ TEST_F(SaveFile, KeepsTheCaseOfKeysUnlessUcaseSectionIsTrue) {
 
 TEST_F(SaveFile, TakesAUcaseSectionThatIsNotExactlyTrueAsFalse) {
     Document().Add("", "Key", "v");
-    file.UcaseSecton(Bool16::FromValue(1));
+    file.UcaseSecton(FromValue(1));
     EXPECT_EQ(Save(), "   Key          = v\r\n");
-    EXPECT_EQ(file.UcaseSection().Value(), 1);
+    EXPECT_EQ(ValueOf(file.UcaseSection()), 1);
 }
 
 TEST_F(SaveFile, HasItsDefaults) {

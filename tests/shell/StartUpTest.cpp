@@ -1,5 +1,6 @@
 #include "security/frmLogin.h"
 #include "support/EditorsTest.h"
+#include "support/RawBool16.h"
 #include "support/UsersOnDisk.h"
 
 namespace zy::test {
@@ -16,9 +17,9 @@ using ::testing::Not;
 class StartUpTest : public EditorsTest {
   protected:
     void ExpectModes(bool rules, bool users, bool unitsOfMeasure) {
-        EXPECT_EQ(state().gbRulesMode.Value(), rules ? -1 : 0);
-        EXPECT_EQ(state().gbSecurityMode.Value(), users ? -1 : 0);
-        EXPECT_EQ(state().gbUnitsMode.Value(), unitsOfMeasure ? -1 : 0);
+        EXPECT_EQ(ValueOf(state().gbRulesMode), rules ? -1 : 0);
+        EXPECT_EQ(ValueOf(state().gbSecurityMode), users ? -1 : 0);
+        EXPECT_EQ(ValueOf(state().gbUnitsMode), unitsOfMeasure ? -1 : 0);
     }
     void ExpectNoWindow() {
         EXPECT_FALSE(form().Visible());

@@ -7,6 +7,7 @@
 
 #include "shell/Program.h"
 #include "shell/mMain.h"
+#include "support/RawBool16.h"
 #include "support/RulesOnDisk.h"
 #include "support/WorldTest.h"
 
@@ -43,8 +44,8 @@ class ProgramTest : public WorldTest {
 
     /// The two marks of unsaved changes.
     void ExpectMarks(bool changeFlag, bool changed) {
-        EXPECT_EQ(form().ChangeFlag.Value(), changeFlag ? -1 : 0);
-        EXPECT_EQ(state().gbChanged.Value(), changed ? -1 : 0);
+        EXPECT_EQ(ValueOf(form().ChangeFlag), changeFlag ? -1 : 0);
+        EXPECT_EQ(ValueOf(state().gbChanged), changed ? -1 : 0);
     }
 
     int unloaded = 0; ///< how many times the window told that it is gone

@@ -7,6 +7,7 @@
 
 #include "shell/Program.h"
 #include "support/RaisedError.h"
+#include "support/RawBool16.h"
 #include "support/WorldTest.h"
 
 namespace zy::test {
@@ -81,7 +82,7 @@ class UnitsTest : public WorldTest {
 
     /// There are changes to be saved, or none.
     void ExpectChanged(bool changed) {
-        EXPECT_EQ(form.ChangeFlag.Value(), changed ? -1 : 0);
+        EXPECT_EQ(ValueOf(form.ChangeFlag), changed ? -1 : 0);
         EXPECT_EQ(controls.cmdSaveUnits.Enabled(), changed);
         EXPECT_FALSE(state.gbChanged) << "the mark of the other editors";
     }
