@@ -38,7 +38,6 @@ class frmGlobalSettings {
 
     /// Loads the window when it is not loaded yet: its load handler runs once.
     void Load();
-    bool IsLoaded() const { return loaded_; }
     /// Shows one editor's page and fills it.
     void ShowRules();
     void ShowSecurity();

@@ -102,7 +102,7 @@ TEST_F(LoginWindow, CancelEndsTheProgram) {
                   ClickIn("cmdCancel");
               }),
               0);
-    EXPECT_FALSE(program->window.IsLoaded());
+    EXPECT_FALSE(program->form.Visible());
     EXPECT_TRUE(boxes.Seen().empty());
 }
 
@@ -112,7 +112,7 @@ TEST_F(LoginWindow, EscapeIsCancel) {
                   Press(WXK_ESCAPE);
               }),
               0);
-    EXPECT_FALSE(program->window.IsLoaded());
+    EXPECT_FALSE(program->form.Visible());
 }
 
 TEST_F(LoginWindow, TheCloseBoxEndsTheProgramToo) {
@@ -121,7 +121,7 @@ TEST_F(LoginWindow, TheCloseBoxEndsTheProgramToo) {
                   CloseWindow();
               }),
               0);
-    EXPECT_FALSE(program->window.IsLoaded());
+    EXPECT_FALSE(program->form.Visible());
     EXPECT_TRUE(boxes.Seen().empty());
 }
 

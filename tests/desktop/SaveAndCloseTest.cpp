@@ -86,7 +86,7 @@ TEST_F(SaveAndCloseWindow, WhatCouldNotBeWrittenIsToldInTheStatusBar) {
 TEST_F(SaveAndCloseWindow, ClosesWithoutAQuestionWhenNothingChanged) {
     EXPECT_EQ(Play([&] { CloseWindow(); }), 0);
     EXPECT_TRUE(boxes.Seen().empty());
-    EXPECT_FALSE(program->window.IsLoaded());
+    EXPECT_FALSE(program->form.Visible());
 }
 
 TEST_F(SaveAndCloseWindow, ExitClosesToo) {

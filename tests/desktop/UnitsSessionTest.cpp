@@ -114,7 +114,7 @@ TEST_F(UnitsSession, ClosingKeepsTheWindowOpenWhileAUnitIsWrong) {
         PressInBox(WXK_RETURN);
         ExpectBox("Unit cannot be blank", "Invalid Unit");
         PressInBox(WXK_RETURN);
-        EXPECT_TRUE(InWindow([&] { return program->window.IsLoaded(); }));
+        EXPECT_TRUE(InWindow([&] { return program->form.Visible(); }));
     });
     EXPECT_EQ(File(), before);
 }

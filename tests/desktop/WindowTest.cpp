@@ -95,7 +95,7 @@ void WindowTest::RunScript(const std::function<void()>& script) {
 void WindowTest::LeaveWindow() {
     // From here on the window's thread may be gone at any moment, so nothing is asked of it and waited for.
     HandToWindow([this] {
-        if (program->window.IsLoaded()) {
+        if (program->form.Visible()) {
             program->rulesPage.controls.grdRules.CancelEdit();
             program->unitsPage.controls.grdUnits.CancelEdit();
             program->securityPage.controls.grdSecurity.CancelEdit();

@@ -23,7 +23,6 @@ class StartUpTest : public EditorsTest {
     }
     void ExpectNoWindow() {
         EXPECT_FALSE(form().Visible());
-        EXPECT_FALSE(window().IsLoaded());
         ExpectModes(false, false, false);
     }
 
