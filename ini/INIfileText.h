@@ -29,8 +29,6 @@ class INIfileText {
     INIfileText(const INIlines& lines, const INIformat& format, const CodePage& codePage);
 
     std::string_view Get() const { return {text_.get(), static_cast<std::size_t>(at_ - text_.get())}; }
-    /// The number of characters that the buffer has room for.
-    std::size_t Capacity() const { return static_cast<std::size_t>(lastPlace_ - text_.get()); }
 
   private:
     /// Makes room for so many more characters, and behind them for one more line of a file.
