@@ -11,16 +11,28 @@ std::string RuntimeError::BoxText() const {
     return "Run-time error '" + std::to_string(number_) + "':\n\n" + description_;
 }
 
+void RaiseInvalidArgument() {
+    throw RuntimeError(kInvalidArgument, "Invalid procedure call or argument");
+}
+
 void RaiseOverflow() {
-    throw RuntimeError(6, "Overflow");
+    throw RuntimeError(kOverflow, "Overflow");
 }
 
 void RaiseSubscriptOutOfRange() {
-    throw RuntimeError(9, "Subscript out of range");
+    throw RuntimeError(kSubscriptOutOfRange, "Subscript out of range");
 }
 
 void RaiseTypeMismatch() {
-    throw RuntimeError(13, "Type mismatch");
+    throw RuntimeError(kTypeMismatch, "Type mismatch");
+}
+
+void RaiseDeviceFailed(std::string_view what) {
+    throw RuntimeError(kDeviceFailed, "Device I/O error: " + std::string(what));
+}
+
+void RaisePathRefused(std::string_view what) {
+    throw RuntimeError(kPathRefused, "Path/File access error: " + std::string(what));
 }
 
 } // namespace zy

@@ -6,6 +6,16 @@
 
 namespace zy {
 
+/// The numbers of run-time errors that any room raises; the table engine has more of its own.
+enum RuntimeErrorNumber {
+    kInvalidArgument = 5,
+    kOverflow = 6,
+    kSubscriptOutOfRange = 9,
+    kTypeMismatch = 13,
+    kDeviceFailed = 57,
+    kPathRefused = 75,
+};
+
 /// A run-time error: a number and a description.
 ///
 /// Nothing catches it unless the behaviour at that place says so. At the edge of the event loop it is shown
@@ -26,11 +36,17 @@ class RuntimeError : public std::exception {
     std::string description_;
 };
 
+/// Error 5: an argument that a call does not take.
+[[noreturn]] void RaiseInvalidArgument();
 /// Error 6: a value does not fit its 16-bit variable.
 [[noreturn]] void RaiseOverflow();
 /// Error 9: an index outside the bounds of its array.
 [[noreturn]] void RaiseSubscriptOutOfRange();
 /// Error 13: a text that should be a number is none.
 [[noreturn]] void RaiseTypeMismatch();
+/// Error 57: a file could not be read or written to its end. `what` names the file.
+[[noreturn]] void RaiseDeviceFailed(std::string_view what);
+/// Error 75: a file could not be used at all. `what` names the file and the reason.
+[[noreturn]] void RaisePathRefused(std::string_view what);
 
 } // namespace zy

@@ -5,13 +5,6 @@
 #include "basics/RuntimeError.h"
 
 namespace zy {
-namespace {
-
-[[noreturn]] void RaiseNoSuchKey() {
-    throw RuntimeError(5, "Invalid procedure call or argument");
-}
-
-} // namespace
 
 INIline& INIlines::Add(std::string_view group, std::string_view section, std::string_view value) {
     return lines_.emplace_back(group, section, value);
@@ -27,11 +20,11 @@ void INIlines::Remove(std::int32_t index) {
 }
 
 INIline& INIlines::Item(std::string_view /*key*/) const {
-    RaiseNoSuchKey();
+    RaiseInvalidArgument();
 }
 
 void INIlines::Remove(std::string_view /*key*/) {
-    RaiseNoSuchKey();
+    RaiseInvalidArgument();
 }
 
 const FileText& INIlines::Keep(FileText text) {

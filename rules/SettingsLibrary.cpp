@@ -23,13 +23,11 @@ SettingsLibrary::RuleCollection SettingsLibrary::Rules() {
     if (world_.files.Exists(path)) {
         const auto opened = world_.files.OpenForReading(path);
         if (!opened.handle) {
-            throw RuntimeError(75, "Path/File access error: " + world_.files.DisplayPath(path) + ", " +
-                                       std::string(Describe(opened.error)));
+            RaisePathRefused(world_.files.DisplayPath(path) + ", " + std::string(Describe(opened.error)));
         }
         report_ = ReadRules(*opened.handle, read_);
         if (!report_.complete) {
-            throw RuntimeError(57, "Device I/O error: " + world_.files.DisplayPath(path) +
-                                       " could not be read to its end");
+            RaiseDeviceFailed(world_.files.DisplayPath(path) + " could not be read to its end");
         }
     }
     return RuleCollection(read_);

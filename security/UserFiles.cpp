@@ -12,8 +12,8 @@ void RequireCertain(FileSystem& files, std::string_view path) {
     const std::string_view help = error == FileError::Ambiguous
                                       ? "Rename or remove all of them but one."
                                       : "Get the right to list the folders on the way to it.";
-    throw RuntimeError(75, "Path/File access error: " + files.DisplayPath(path) + " was not touched, " +
-                               std::string(Describe(error)) + ". " + std::string(help));
+    RaisePathRefused(files.DisplayPath(path) + " was not touched, " + std::string(Describe(error)) + ". " +
+                     std::string(help));
 }
 
 } // namespace zy

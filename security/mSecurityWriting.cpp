@@ -88,9 +88,8 @@ void mSecurity::ReplaceTable(FailedSave& save) {
     if (error != FileError::None) {
         const std::string_view refused =
             recycling == Recycling::Refused ? " could not be moved to the recycle bin and" : "";
-        throw RuntimeError(75, "Path/File access error: " + world_.files.DisplayPath(files.table) +
-                                   std::string(refused) + " could not be replaced, " +
-                                   std::string(Describe(error)));
+        RaisePathRefused(world_.files.DisplayPath(files.table) + std::string(refused) +
+                         " could not be replaced, " + std::string(Describe(error)));
     }
 }
 

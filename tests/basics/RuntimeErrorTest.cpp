@@ -14,6 +14,12 @@ TEST(RuntimeError, EachKindHasItsNumberAndDescription) {
     EXPECT_EQ(RaisedBy(RaiseOverflow).BoxText(), "Run-time error '6':\n\nOverflow");
     EXPECT_EQ(RaisedBy(RaiseSubscriptOutOfRange).BoxText(), "Run-time error '9':\n\nSubscript out of range");
     EXPECT_EQ(RaisedBy(RaiseTypeMismatch).BoxText(), "Run-time error '13':\n\nType mismatch");
+    EXPECT_EQ(RaisedBy(RaiseInvalidArgument).BoxText(),
+              "Run-time error '5':\n\nInvalid procedure call or argument");
+    EXPECT_EQ(RaisedBy([] { RaiseDeviceFailed("a.sys"); }).BoxText(),
+              "Run-time error '57':\n\nDevice I/O error: a.sys");
+    EXPECT_EQ(RaisedBy([] { RaisePathRefused("a.sys"); }).BoxText(),
+              "Run-time error '75':\n\nPath/File access error: a.sys");
 }
 
 TEST(RuntimeError, TellsItsDescriptionToWhoeverCatchesAnException) {
