@@ -47,8 +47,9 @@ void ReserveFor(std::string_view text, std::vector<std::string_view>& cells) {
 
 /// Ends the program; the place is told so that a person can repair the file.
 [[noreturn]] void RaiseUnitMissing(std::string_view path, int line) {
-    throw RuntimeError(9, "Subscript out of range\n\n" + std::string(path) + ", line " +
-                              std::to_string(line) + ": no comma or TAB between description and unit");
+    throw RuntimeError(kSubscriptOutOfRange, "Subscript out of range\n\n" + std::string(path) + ", line " +
+                                                 std::to_string(line) +
+                                                 ": no comma or TAB between description and unit");
 }
 
 /// Whether something stands there beside separators, as spreadsheets leave them behind short rows.
