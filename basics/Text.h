@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -18,6 +19,20 @@ std::string_view Trim(std::string_view text);
 /// True when the text holds the character.
 inline bool Contains(std::string_view text, char character) {
     return text.find(character) != std::string_view::npos;
+}
+
+// Names of fields, keywords and keys of files are ASCII, whatever the code page.
+
+/// The capital of a letter "a" to "z"; any other character as it is.
+inline char AsciiCapital(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+/// True for two names that differ in nothing but the case of such letters.
+inline bool IsSameName(std::string_view left, std::string_view right) {
+    return left.size() == right.size() &&
+           std::equal(left.begin(), left.end(), right.begin(),
+                      [](char l, char r) { return AsciiCapital(l) == AsciiCapital(r); });
 }
 
 } // namespace zy

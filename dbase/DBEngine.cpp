@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "basics/Text.h"
 #include "dbase/Errors.h"
-#include "dbase/Names.h"
 
 namespace zy::dbase {
 

@@ -2,8 +2,8 @@
 
 #include <charconv>
 
+#include "basics/Text.h"
 #include "dbase/Errors.h"
-#include "dbase/Names.h"
 #include "dbase/SqlTokens.h"
 
 namespace zy::dbase {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "dbase/Names.h"
+#include "basics/Text.h"
 
 namespace zy::dbase {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "basics/Text.h"
 #include "dbase/Errors.h"
 #include "dbase/LittleEndian.h"
-#include "dbase/Names.h"
 
 namespace zy::dbase {
 namespace {

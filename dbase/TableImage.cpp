@@ -4,10 +4,10 @@
 #include <array>
 #include <cstring>
 
+#include "basics/Text.h"
 #include "dbase/Errors.h"
 #include "dbase/FileBytes.h"
 #include "dbase/LittleEndian.h"
-#include "dbase/Names.h"
 
 namespace zy::dbase {
 namespace {

@@ -7,28 +7,13 @@
 #include <string>
 #include <string_view>
 
+#include "basics/Text.h"
 #include "rules/RulesFormat.h"
 
 namespace zy {
 namespace {
 
 constexpr std::size_t kBlockSize = 65536;
-
-char AsciiUpper(char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
-
-bool EqualsIgnoringCase(std::string_view text, std::string_view upper) {
-    if (text.size() != upper.size()) {
-        return false;
-    }
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (AsciiUpper(text[i]) != upper[i]) {
-            return false;
-        }
-    }
-    return true;
-}
 
 bool IsIndent(char c) {
     return c == ' ' || c == '\t';
@@ -106,7 +91,7 @@ class RulesParser {
 
     bool Header(std::string_view text) {
         rule_ = nullptr;
-        if (EqualsIgnoringCase(text, kRuleHeader)) {
+        if (IsSameName(text, kRuleHeader)) {
             StartRule();
         }
         return rule_ != nullptr;
@@ -133,7 +118,7 @@ class RulesParser {
     const RuleKey* Find(std::string_view key) {
         for (std::size_t tried = 0; tried < kRuleKeys.size(); ++tried) {
             const auto& next = Next();
-            if (EqualsIgnoringCase(key, next.key)) {
+            if (IsSameName(key, next.key)) {
                 return &next;
             }
         }

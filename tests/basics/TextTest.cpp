@@ -28,5 +28,13 @@ TEST(Contains, FindsACharacterAnywhere) {
     EXPECT_FALSE(Contains("", '"'));
 }
 
+TEST(Names, AreTheSameInAnyCaseOfTheirAsciiLetters) {
+    EXPECT_TRUE(IsSameName("Desc1_", "dESC1_"));
+    EXPECT_FALSE(IsSameName("DESC1", "DESC"));
+    EXPECT_FALSE(IsSameName("DESC1", "DESC2"));
+    EXPECT_FALSE(IsSameName("[", "{")) << "as far apart as a letter and its capital";
+    EXPECT_FALSE(IsSameName("\xC9", "\xE9")) << "letters of the code page";
+}
+
 } // namespace
 } // namespace zy::test
