@@ -22,20 +22,13 @@ char* Put(std::string_view text, char* at) {
     return std::copy(text.begin(), text.end(), at);
 }
 
-/// The first place of a character; the end when there is none.
-const char* Find(char character, const char* begin, const char* end) {
-    const auto length = static_cast<std::size_t>(end - begin);
-    const void* found = length == 0 ? nullptr : std::memchr(begin, character, length);
-    return found == nullptr ? end : static_cast<const char*>(found);
-}
-
-/// Where the CR LF of the line that begins here stands; the end when there is none.
-inline const char* FindLineEnd(const char* begin, const char* end) {
-    const char* lineFeed = Find('\n', begin, end);
+/// Where the CR LF of the line that begins here ends; the end of the text when there is none.
+inline const char* FindLineFeed(const char* begin, const char* end, Marks& lineFeeds) {
+    const char* lineFeed = lineFeeds.From(begin);
     while (lineFeed != end && (lineFeed == begin || lineFeed[-1] != '\r')) {
-        lineFeed = Find('\n', lineFeed + 1, end);
+        lineFeed = lineFeeds.From(lineFeed + 1);
     }
-    return lineFeed == end ? end : lineFeed - 1;
+    return lineFeed;
 }
 
 /// Makes room for what a text of ordinary lines holds, so that the cells need not move.
@@ -99,29 +92,33 @@ UnitsLeftOut AppendUnitCells(std::string_view text, std::string_view path,
     ReserveFor(text, cells);
     const char* begin = text.data();
     const char* const textEnd = begin + text.size();
-    const char* const firstTab = Find(LineFields::kTab, begin, textEnd); // most files hold none
-    for (;; ++leftOut.lines) {
-        const char* const end = FindLineEnd(begin, textEnd);
-        if (end == textEnd) {
+    Marks lineFeeds(text, '\n');
+    Separators separators(text);
+    for (int lines = 0;; ++lines) {
+        const char* const lineFeed = FindLineFeed(begin, textEnd, lineFeeds);
+        if (lineFeed == textEnd) {
+            leftOut.lines = lines;
             leftOut.tail = {begin, static_cast<std::size_t>(textEnd - begin)};
             return leftOut;
         }
-        if (leftOut.lines == kMaxItems) {
+        if (lines == kMaxItems) {
             RaiseOverflow();
         }
-        const std::string_view line(begin, static_cast<std::size_t>(end - begin));
-        auto fields = firstTab < end ? LineFields(line) : LineFields(line, LineFields::kComma);
+        auto fields = separators.FieldsOf({begin, static_cast<std::size_t>(lineFeed - 1 - begin)});
         const auto description = fields.Next();
         if (fields.AtEnd()) {
-            RaiseUnitMissing(path, leftOut.lines + 1);
+            RaiseUnitMissing(path, lines + 1);
         }
         const auto unit = fields.Next();
         cells.push_back(unit);
         cells.push_back(description);
-        leftOut.linesCut += IsText(fields.Rest()) ? 1 : 0;
-        leftOut.linesWithCommas +=
-            fields.Separator() == LineFields::kTab && HasComma(description, unit) ? 1 : 0;
-        begin = end + 2;
+        if (!fields.AtEnd() && IsText(fields.Rest())) {
+            ++leftOut.linesCut;
+        }
+        if (fields.Separator() == Separators::kTab && HasComma(description, unit)) {
+            ++leftOut.linesWithCommas;
+        }
+        begin = lineFeed + 1;
     }
 }
 

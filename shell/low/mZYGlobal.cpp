@@ -51,7 +51,8 @@ const Fields::Element& Fields::operator[](std::int32_t index) const {
 }
 
 Fields SplitFields(std::string_view line) {
-    return Fields(LineFields(line));
+    Separators separators(line);
+    return Fields(separators.FieldsOf(line));
 }
 
 } // namespace zy

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <cstdint>
-#include <cstring>
 #include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
 
 #include "basics/Bool16.h"
+#include "basics/Marks.h"
 #include "basics/Text.h"
 #include "platform/FileSystem.h"
 #include "platform/NativeWindow.h"
@@ -63,8 +63,8 @@ bool HoldsText(FileSystem& files, std::string_view path, std::string_view text);
 /// Takes one pair of enclosing double quotes off, then trims blanks. A quote behind a blank encloses nothing,
 /// which is meant: the quotes are looked for first.
 inline std::string_view Unquote(std::string_view field) {
-    if (field.empty() || (field.front() != '"' && field.front() != ' ' && field.back() != ' ')) {
-        return field; // as most are
+    if (field.empty() || (static_cast<unsigned char>(field.front()) > '"' && field.back() != ' ')) {
+        return field; // as most are: the blank and the quote are among the code page's first characters
     }
     if (field.front() == '"' && field.back() == '"') {
         field = field.size() < 2 ? std::string_view{} : field.substr(1, field.size() - 2);
@@ -76,28 +76,26 @@ inline std::string_view Unquote(std::string_view field) {
 /// protect a separator. An empty line has one empty field.
 class LineFields {
   public:
-    static constexpr char kTab = '\t';
-    static constexpr char kComma = ',';
-
-    /// Splits at every TAB when the line holds one, else at every comma.
-    explicit LineFields(std::string_view line) : LineFields(line, Contains(line, kTab) ? kTab : kComma) {}
-    /// The same for who knows already which of the two it is.
-    LineFields(std::string_view line, char separator)
-        : begin_(line.data()), end_(begin_ + line.size()), separator_(separator) {}
+    /// Those of a line between these marks, which may be marks of a longer text.
+    LineFields(std::string_view line, Marks& separators)
+        : begin_(line.data()), end_(begin_ + line.size()), separators_(&separators) {}
 
     /// Whether the last one was taken.
     bool AtEnd() const { return atEnd_; }
     std::string_view Next() {
         const char* const from = begin_;
-        const void* const found = from == end_ ? nullptr : std::memchr(from, separator_, Length(from, end_));
-        atEnd_ = found == nullptr;
-        const char* const to = atEnd_ ? end_ : static_cast<const char*>(found);
-        begin_ = atEnd_ ? end_ : to + 1;
+        const char* to = separators_->From(from);
+        atEnd_ = to >= end_;
+        if (atEnd_) {
+            to = begin_ = end_;
+        } else {
+            begin_ = to + 1;
+        }
         return Unquote({from, Length(from, to)});
     }
     /// The line behind the fields that were taken.
     std::string_view Rest() const { return {begin_, Length(begin_, end_)}; }
-    char Separator() const { return separator_; }
+    char Separator() const { return separators_->Character(); }
 
   private:
     static std::size_t Length(const char* begin, const char* end) {
@@ -106,8 +104,28 @@ class LineFields {
 
     const char* begin_;
     const char* end_;
-    char separator_;
+    Marks* separators_;
     bool atEnd_ = false;
+};
+
+/// What separates the fields in the lines of a text: every TAB of a line that holds one, else every comma.
+class Separators {
+  public:
+    static constexpr char kTab = '\t';
+    static constexpr char kComma = ',';
+
+    explicit Separators(std::string_view text) : tabs_(text, kTab), commas_(text, kComma) {}
+
+    /// The fields of a line of the text, of which no later one was asked for. To be taken before the next
+    /// line's.
+    LineFields FieldsOf(std::string_view line) {
+        const char* const end = line.data() + line.size();
+        return {line, tabs_.From(line.data()) < end ? tabs_ : commas_};
+    }
+
+  private:
+    Marks tabs_;
+    Marks commas_;
 };
 
 /// A split line: element 0 is the number of its fields, the elements from 1 to that number are the fields,
@@ -127,7 +145,7 @@ class Fields {
     std::vector<Element> elements_;
 };
 
-/// Splits a line into all the fields that LineFields finds.
+/// Splits a line into all its fields.
 Fields SplitFields(std::string_view line);
 
 } // namespace zy

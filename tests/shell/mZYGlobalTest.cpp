@@ -91,7 +91,9 @@ TEST(SplitFields, RaisesSubscriptOutOfRangeForAnElementItDoesNotHave) {
 }
 
 TEST(LineFields, GiveWhatSplitFieldsGivesAndTellTheirEnd) {
-    LineFields fields("\"a\"\t b,c \td");
+    constexpr std::string_view kLine = "\"a\"\t b,c \td";
+    Separators separators(kLine);
+    auto fields = separators.FieldsOf(kLine);
     EXPECT_EQ(fields.Separator(), '\t');
     EXPECT_EQ(fields.Next(), "a");
     EXPECT_EQ(fields.Next(), "b,c");
@@ -100,6 +102,30 @@ TEST(LineFields, GiveWhatSplitFieldsGivesAndTellTheirEnd) {
     EXPECT_EQ(fields.Next(), "d");
     EXPECT_TRUE(fields.AtEnd());
     EXPECT_EQ(fields.Rest(), "");
+}
+
+TEST(Separators, AreChosenForEachLineOfATextAnew) {
+    constexpr std::string_view kText = "a,b|c\td,e|f,g";
+    Separators separators(kText);
+    for (const auto& [line, second] :
+         {std::pair(kText.substr(0, 3), "b"), std::pair(kText.substr(4, 5), "d,e"),
+          std::pair(kText.substr(10, 3), "g")}) {
+        auto fields = separators.FieldsOf(line);
+        fields.Next();
+        EXPECT_EQ(fields.Next(), second) << line;
+        EXPECT_TRUE(fields.AtEnd()) << line;
+    }
+}
+
+TEST(Separators, EndALineWhereTheNextLineHoldsTheNextOne) {
+    constexpr std::string_view kText = "a|,b";
+    Separators separators(kText);
+    auto first = separators.FieldsOf(kText.substr(0, 1));
+    EXPECT_EQ(first.Next(), "a");
+    EXPECT_TRUE(first.AtEnd());
+    auto second = separators.FieldsOf(kText.substr(2));
+    EXPECT_EQ(second.Next(), "");
+    EXPECT_EQ(second.Next(), "b");
 }
 
 TEST(Unquote, TakesOnePairOfQuotesOff) {
