@@ -93,7 +93,7 @@ void GridBinding::PressMouse(int button, int row, int column) {
 
 void GridBinding::PressMenuKey(wxContextMenuEvent& event) {
     const bool isKey = event.GetPosition() == wxDefaultPosition;
-    if (!isKey || event.GetEventObject() != grid_->GetGridWindow()) {
+    if (!isKey || !grid_->GetGridWindow()->HasFocus()) {
         // The mouse has been told of, and an open cell has a menu of its own.
         event.Skip();
         return;
