@@ -1,5 +1,6 @@
 #include <wx/msw/wrapwin.h>
 #include <wx/panel.h>
+#include <wx/textctrl.h>
 
 #include <oleacc.h>
 
@@ -8,6 +9,18 @@
 #include "desktop/Panels.h"
 
 namespace zy {
+namespace {
+
+/// The system's line of text stays scrolled when it has got more room.
+void ScrollBack(wxTextCtrl& text) {
+    long start = 0;
+    long end = 0;
+    text.GetSelection(&start, &end);
+    text.SetInsertionPoint(0);
+    text.SetSelection(start, end);
+}
+
+} // namespace
 
 wxWindow* MakeSurround(wxWindow* parent) {
     // A panel hands the focus on to the grid in it.
@@ -15,8 +28,12 @@ wxWindow* MakeSurround(wxWindow* parent) {
 }
 
 void ShowOverCells(wxWindow& control, const wxRect& place) {
+    const bool grows = place.width > control.GetSize().x;
     control.SetSize(place);
     control.Show();
+    if (auto* text = dynamic_cast<wxTextCtrl*>(&control); text != nullptr && grows) {
+        ScrollBack(*text);
+    }
 }
 
 void HideOverCells(wxWindow& control) {

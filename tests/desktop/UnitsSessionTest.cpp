@@ -211,7 +211,6 @@ TEST_F(UnitsSession, AltSSavesAnOpenEditAlsoWhereTheSaveButtonIsGrey) {
     EXPECT_EQ(File(), kWithElls);
 }
 
-#ifndef _WIN32 // there an open cell that has grown does not scroll back to its first character
 TEST_F(UnitsSession, AnOpenCellHasRoomForALongUnit) {
     Play([&] {
         ClickCell(1, 0);
@@ -220,7 +219,6 @@ TEST_F(UnitsSession, AnOpenCellHasRoomForALongUnit) {
         EXPECT_TRUE(InWindow([&] { return ShowsWholeText(RealEditor()); }));
     });
 }
-#endif
 
 } // namespace
 } // namespace zy::test

@@ -213,9 +213,6 @@ TEST_F(UsersSession, TheContextMenuOpensInAnEmptyGridToo) {
     });
 }
 
-#ifndef _WIN32 // there the toolkit's grid does not hand these keys on, and an open cell that has grown does
-               // not scroll back
-
 TEST_F(UsersSession, ShiftF10OpensTheContextMenuOfTheCurrentRow) {
     Play([&] {
         ClickCell(2, kStatus);
@@ -249,8 +246,6 @@ TEST_F(UsersSession, AnOpenExpiryDateShowsTheWholeDate) {
         EXPECT_TRUE(InWindow([&] { return ShowsWholeText(RealEditor()); }));
     });
 }
-
-#endif
 
 TEST_F(UsersSession, AClickOnTheGreySaveButtonCommitsAnOpenEditWhichTurnsTheButtonOn) {
     Play([&] {
