@@ -55,6 +55,10 @@ bool HoldsFocus(const wxWindow& control);
 /// for the window's whole life. A control that is disabled makes no difference.
 void ObserveMousePress(wxWindow& window, std::function<void()> pressed);
 
+/// Has the menu bar of a window take Alt for itself only where no other key went down with it, also when a
+/// control has taken that key.
+void KeepMenuBarClosed(wxWindow& window);
+
 /// Lets a button be pressed by the mouse alone, without taking the focus from where it is.
 void KeepFocusAway(wxButton& button);
 /// Goes on with an access key, such as Alt+S, when the control that had the keyboard has been taken out of

@@ -230,6 +230,10 @@ void ObserveMousePress(wxWindow& window, std::function<void()> pressed) {
                           G_CONNECT_SWAPPED);
 }
 
+void KeepMenuBarClosed(wxWindow& /*window*/) {
+    // Alt alone does not open it.
+}
+
 bool HoldsFocus(const wxWindow& control) {
     auto* window = reinterpret_cast<_GtkWindow*>(gtk_widget_get_toplevel(control.m_widget));
     GtkWidget* focused = gtk_window_get_focus(window);

@@ -49,35 +49,52 @@ class NamedList : public wxDataViewCtrlAccessible {
     wxString name_;
 };
 
-/// Tells of each press of the mouse in a window. The system hands one on a disabled control to the window
-/// below it.
-class PressFilter : public wxEventFilter {
+/// Shows somebody the events of a window's controls before anything else gets them.
+class WindowFilter : public wxEventFilter {
   public:
-    PressFilter(const wxWindow& window, std::function<void()> pressed)
-        : window_(window), pressed_(std::move(pressed)) {
+    using Look = std::function<void(const wxEvent& event)>;
+
+    WindowFilter(const wxWindow& window, Look look) : window_(window), look_(std::move(look)) {
         wxEvtHandler::AddFilter(this);
     }
-    ~PressFilter() override { wxEvtHandler::RemoveFilter(this); }
-    PressFilter(const PressFilter&) = delete;
-    PressFilter& operator=(const PressFilter&) = delete;
+    ~WindowFilter() override { wxEvtHandler::RemoveFilter(this); }
+    WindowFilter(const WindowFilter&) = delete;
+    WindowFilter& operator=(const WindowFilter&) = delete;
 
     int FilterEvent(wxEvent& event) override {
-        const auto* mouse = dynamic_cast<const wxMouseEvent*>(&event);
-        if (mouse != nullptr && (mouse->ButtonDown() || mouse->ButtonDClick()) && IsInWindow(*mouse)) {
-            pressed_();
+        auto* control = dynamic_cast<wxWindow*>(event.GetEventObject());
+        if (control != nullptr && wxGetTopLevelParent(control) == &window_) {
+            look_(event);
         }
         return Event_Skip;
     }
 
   private:
-    bool IsInWindow(const wxMouseEvent& event) const {
-        auto* control = dynamic_cast<wxWindow*>(event.GetEventObject());
-        return control != nullptr && wxGetTopLevelParent(control) == &window_;
-    }
-
     const wxWindow& window_;
-    std::function<void()> pressed_;
+    Look look_;
 };
+
+void Watch(wxWindow& window, WindowFilter::Look look) {
+    // The filter lives as long as what is bound to the window.
+    window.Bind(wxEVT_DESTROY, [filter = std::make_shared<WindowFilter>(window, std::move(look))](
+                                   wxWindowDestroyEvent& event) { event.Skip(); });
+}
+
+bool IsMousePress(const wxEvent& event) {
+    const auto* mouse = dynamic_cast<const wxMouseEvent*>(&event);
+    return mouse != nullptr && (mouse->ButtonDown() || mouse->ButtonDClick());
+}
+
+/// A key that is pressed with Alt. Alt+F4 the system takes as soon as it learns of it.
+bool IsKeyWithAlt(const wxKeyEvent& key) {
+    return key.GetEventType() == wxEVT_KEY_DOWN && key.AltDown() && key.GetRawKeyCode() != VK_MENU &&
+           key.GetRawKeyCode() != VK_F4;
+}
+
+void TellSystem(const wxKeyEvent& key) {
+    auto* control = static_cast<wxWindow*>(key.GetEventObject());
+    ::DefWindowProcW(control->GetHandle(), WM_SYSKEYDOWN, key.GetRawKeyCode(), key.GetRawKeyFlags());
+}
 
 wxString TextOnClipboard() {
     wxTextDataObject text;
@@ -151,9 +168,21 @@ void ObserveFocus(wxWindow& window, std::function<void()> moved) {
 }
 
 void ObserveMousePress(wxWindow& window, std::function<void()> pressed) {
-    // The filter lives as long as what is bound to the window.
-    window.Bind(wxEVT_DESTROY, [filter = std::make_shared<PressFilter>(window, std::move(pressed))](
-                                   wxWindowDestroyEvent& event) { event.Skip(); });
+    // The system hands a press on a disabled control to the window below it.
+    Watch(window, [pressed = std::move(pressed)](const wxEvent& event) {
+        if (IsMousePress(event)) {
+            pressed();
+        }
+    });
+}
+
+void KeepMenuBarClosed(wxWindow& window) {
+    Watch(window, [](const wxEvent& event) {
+        const auto* key = dynamic_cast<const wxKeyEvent*>(&event);
+        if (key != nullptr && IsKeyWithAlt(*key)) {
+            TellSystem(*key);
+        }
+    });
 }
 
 bool HoldsFocus(const wxWindow& control) {

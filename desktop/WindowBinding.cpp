@@ -63,6 +63,7 @@ void WindowBinding::ConnectFrame(std::function<void()> close) {
         event.Veto();
         context_.gate.Tell(close);
     });
+    KeepMenuBarClosed(*frame_);
     ObserveDotsPerInch(*frame_, [this] { Rescale(); });
     subscriptions_.push_back(form_.appearanceChanged.Observe([this] { ShowAppearance(); }));
     subscriptions_.push_back(form_.stateChanged.Observe([this] { ShowState(); }));

@@ -13,6 +13,12 @@ class MoveWindow : public RulesWindow {
         }
         return codes;
     }
+    void PressAndLetGoOfAltFirst(int key) {
+        hands->HoldKey(WXK_ALT);
+        hands->HoldKey(key);
+        hands->LetGoOfKey(WXK_ALT);
+        hands->LetGoOfKey(key);
+    }
 };
 
 using ::testing::ElementsAre;
@@ -64,6 +70,23 @@ TEST_F(MoveWindow, AltWithAnArrowKeyMovesTheRuleAndTheKeyboardGoesOnFromThere) {
         WaitForSelection(2);
         EXPECT_THAT(Codes(), ElementsAre("R3", "R1", "R2"));
         WaitForFocus(page().lstRulesList);
+    });
+}
+
+TEST_F(MoveWindow, AltThatIsLetGoBeforeTheArrowKeyLeavesTheMenuBarAlone) {
+    PutRules(ThreeRules());
+    Play([&] {
+        ClickRow(1);
+        WaitForFocus(page().lstRulesList);
+        PressAndLetGoOfAltFirst(WXK_DOWN);
+        WaitForSelection(2);
+        Press(WXK_DOWN);
+        WaitForSelection(3);
+        PressAndLetGoOfAltFirst(WXK_UP);
+        WaitForSelection(2);
+        Press(WXK_UP);
+        WaitForSelection(1);
+        EXPECT_THAT(Codes(), ElementsAre("R2", "R3", "R1"));
     });
 }
 
