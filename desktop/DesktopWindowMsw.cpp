@@ -37,7 +37,11 @@ WindowHandle DesktopWindowMsw::Handle() {
 }
 
 WindowProcedure DesktopWindowMsw::SetProcedure(WindowProcedure procedure) {
-    return std::exchange(procedure_, std::move(procedure));
+    auto before = std::exchange(procedure_, std::move(procedure));
+    if (window_ != nullptr) {
+        InstallProcedure();
+    }
+    return before;
 }
 
 PixelRect DesktopWindowMsw::NormalRectangle() {
@@ -78,8 +82,14 @@ double DesktopWindowMsw::TwipsPerPixelY() {
 void DesktopWindowMsw::Attach(wxFrame& frame) {
     window_ = frame.GetHandle();
     ::SetPropW(window_, kOwner, this);
-    toolkits_ =
-        std::bit_cast<WNDPROC>(::SetWindowLongPtrW(window_, GWLP_WNDPROC, std::bit_cast<LONG_PTR>(&Receive)));
+    toolkits_ = std::bit_cast<WNDPROC>(::GetWindowLongPtrW(window_, GWLP_WNDPROC));
+    InstallProcedure();
+    frame.Bind(wxEVT_DESTROY, [this, &frame](wxWindowDestroyEvent& event) {
+        event.Skip();
+        if (event.GetEventObject() == &frame) {
+            LetGo();
+        }
+    });
     const wxRect wanted(Place().GetPosition(), WithinBounds(Place().GetSize()));
     SetPlace(Reachable(wanted, RoomOnScreens()));
     Move();
@@ -101,19 +111,28 @@ void DesktopWindowMsw::Move() {
                    flags_ | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+void DesktopWindowMsw::InstallProcedure() {
+    InstallProcedure(procedure_.target<Own>() == nullptr ? &Receive : toolkits_);
+}
+
+void DesktopWindowMsw::InstallProcedure(WNDPROC procedure) {
+    ::SetWindowLongPtrW(window_, GWLP_WNDPROC, std::bit_cast<LONG_PTR>(procedure));
+}
+
+void DesktopWindowMsw::LetGo() {
+    InstallProcedure(toolkits_);
+    ::RemovePropW(window_, kOwner);
+    window_ = nullptr;
+}
+
 LRESULT CALLBACK DesktopWindowMsw::Receive(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    auto* const owner = static_cast<DesktopWindowMsw*>(::GetPropW(window, kOwner));
+    const auto* const owner = static_cast<DesktopWindowMsw*>(::GetPropW(window, kOwner));
     // Copied, for a message that closes the window puts another one in its place.
     const auto procedure = owner->procedure_;
-    const auto result = procedure({.window = std::bit_cast<WindowHandle>(window),
-                                   .message = message,
-                                   .wParam = wParam,
-                                   .lParam = lParam});
-    if (message == WM_NCDESTROY) {
-        ::RemovePropW(window, kOwner);
-        owner->window_ = nullptr;
-    }
-    return result;
+    return procedure({.window = std::bit_cast<WindowHandle>(window),
+                      .message = message,
+                      .wParam = wParam,
+                      .lParam = lParam});
 }
 
 std::intptr_t DesktopWindowMsw::PassOn(const WindowMessage& message) const {

@@ -25,13 +25,23 @@ class DesktopWindowMsw final : public DesktopWindow {
     void Attach(wxFrame& frame) override;
 
   private:
+    /// The procedure that the toolkit has given the window, for somebody else to call and to put back.
+    struct Own {
+        const DesktopWindowMsw* window;
+        std::intptr_t operator()(const WindowMessage& message) const { return window->PassOn(message); }
+    };
+
     static LRESULT CALLBACK Receive(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    /// Hands a message on to the procedure that the toolkit has given the window.
     std::intptr_t PassOn(const WindowMessage& message) const;
+    /// Gives the real window the procedure that was set.
+    void InstallProcedure();
+    void InstallProcedure(WNDPROC procedure);
+    /// The real window goes, and with its own procedure.
+    void LetGo();
     wxSize WithinBounds(wxSize size) const;
     void Move();
 
-    WindowProcedure procedure_ = [this](const WindowMessage& message) { return PassOn(message); };
+    WindowProcedure procedure_ = Own{this};
     WNDPROC toolkits_ = nullptr;
     HWND window_ = nullptr;   ///< the real one, while there is one
     std::uint32_t flags_ = 0; ///< those that the place was asked for with
