@@ -54,6 +54,11 @@ class Control {
     bool TakeFocus();
     bool HasFocus();
 
+    /// Whether moving the focus here asks the control that is left. Help is to be had before a mistake is
+    /// mended.
+    bool CausesValidation() const { return causesValidation_; }
+    void SetCausesValidation(bool causes) { causesValidation_ = causes; }
+
     Container* Parent() const { return parent_; }
     Form& Window();
 
@@ -68,6 +73,7 @@ class Control {
     std::string caption_;
     bool enabled_ = true;
     bool visible_ = true;
+    bool causesValidation_ = true;
     Rect bounds_;
     Size preferred_;
 };

@@ -10,6 +10,7 @@ Form::Form(std::string name) : Container(nullptr, std::move(name)) {
 
 void Form::GiveFocus(Control& control) {
     focused_ = &control;
+    unasked_ = nullptr;
     focusChanged.Raise();
 }
 
@@ -20,17 +21,24 @@ bool Form::MoveFocus(Control& control) {
     if (asking_) {
         return false;
     }
-    if (focused_ != nullptr && focused_->IsUsable() && focused_->validate) {
-        asking_ = true;
-        const bool mayLeave = focused_->validate();
-        asking_ = false;
-        if (!mayLeave) {
-            focusChanged.Raise();
-            return false;
-        }
+    Control* const left = unasked_ != nullptr ? unasked_ : focused_;
+    if (control.CausesValidation() && left != &control && !MayLeave(left)) {
+        GiveFocus(*left);
+        return false;
     }
     GiveFocus(control);
+    unasked_ = control.CausesValidation() ? nullptr : left;
     return true;
+}
+
+bool Form::MayLeave(const Control* control) {
+    if (control == nullptr || !control->IsUsable() || !control->validate) {
+        return true;
+    }
+    asking_ = true;
+    const bool mayLeave = control->validate();
+    asking_ = false;
+    return mayLeave;
 }
 
 void Form::SetKeyButtons(CommandButton* onEnter, CommandButton* onEscape) {

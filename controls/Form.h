@@ -17,7 +17,8 @@ class Form : public Container {
     Control* Focused() const { return focused_; }
     void GiveFocus(Control& control);
     /// Asks the control that is left whether it may be; false when it keeps the focus. A control that is not
-    /// usable any more is not asked, and no second question starts while one is being asked.
+    /// usable any more is not asked, and no second question starts while one is being asked. On the way to a
+    /// control that causes no validation nothing is asked: that waits until the focus goes on from there.
     bool MoveFocus(Control& control);
 
     /// The buttons of a dialog that Enter and Escape press; none in other windows.
@@ -39,7 +40,10 @@ class Form : public Container {
     Event<> resize;
 
   private:
+    bool MayLeave(const Control* control);
+
     Control* focused_ = nullptr;
+    Control* unasked_ = nullptr; ///< left for a control that causes no validation, and not asked yet
     bool asking_ = false;
     CommandButton* onEnter_ = nullptr;
     CommandButton* onEscape_ = nullptr;

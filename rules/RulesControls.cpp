@@ -101,6 +101,7 @@ RulesControls::RulesControls(Frame& fraRules, ListView::Source rules)
       lblDescription(&FraRuleDetails, "lblDescription", "Description:", 'D', txtDescription),
       fraGridMode(&fraRules, "fraGridMode", "Grid Mode"), grdRules(&fraGridMode, "grdRules", kRuleColumns) {
     cmdUpDown.SetCaption("Move rule");
+    cmdHelpRules.SetCausesValidation(false); // a field that is wrong is what help is needed for
     grdRules.SetColumnList(kCondColumn, GridConditions());
     grdRules.SetColumnList(kZoneColumn, GridZones());
 }

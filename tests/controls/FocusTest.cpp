@@ -113,6 +113,48 @@ TEST_F(FocusTest, TellsItsViewAlsoWhenItWasRefused) {
     EXPECT_EQ(told, 1);
 }
 
+TEST_F(FocusTest, GoesUnaskedToAButtonThatCausesNoValidation) {
+    button.SetCausesValidation(false);
+    first.Type("x");
+    mayLeave = false;
+    button.Click();
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(asked, 0);
+    EXPECT_TRUE(button.HasFocus());
+}
+
+TEST_F(FocusTest, AsksTheControlThatWasLeftUnaskedAsSoonAsTheFocusGoesOn) {
+    button.SetCausesValidation(false);
+    first.Type("x");
+    mayLeave = false;
+    button.Click();
+    EXPECT_FALSE(second.TakeFocus());
+    EXPECT_EQ(asked, 1);
+    EXPECT_TRUE(first.HasFocus());
+    mayLeave = true;
+    EXPECT_TRUE(second.TakeFocus());
+}
+
+TEST_F(FocusTest, AsksNothingOnTheWayBackToTheControlThatWasLeftUnasked) {
+    button.SetCausesValidation(false);
+    first.Type("x");
+    mayLeave = false;
+    button.Click();
+    EXPECT_TRUE(first.TakeFocus());
+    EXPECT_EQ(asked, 0);
+    EXPECT_FALSE(second.TakeFocus());
+    EXPECT_EQ(asked, 1);
+}
+
+TEST_F(FocusTest, AsksNothingMoreOfAControlFromWhichTheProgramMovedTheFocusMeanwhile) {
+    button.SetCausesValidation(false);
+    first.Type("x");
+    button.Click();
+    button.SetFocus();
+    EXPECT_TRUE(second.TakeFocus());
+    EXPECT_EQ(asked, 0);
+}
+
 TEST_F(FocusTest, PassesOverControlsThatAreDisabledOrHiddenWithWhatContainsThem) {
     button.SetEnabled(false);
     button.Click();

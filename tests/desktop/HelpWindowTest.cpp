@@ -100,6 +100,27 @@ TEST_F(HelpWindow, OpensAtItsContentsByF1AndByTheHelpButton) {
     });
 }
 
+TEST_F(HelpWindow, OpensWhileAFieldIsWrongWhichIsAskedAboutAfterwards) {
+    PutHelp(Book());
+    PutRules(ThreeRules());
+    Play([&] {
+        Fill(page().txtMin, "0");
+        Press(WXK_F1);
+        WaitForPage("ZY Setup Help");
+        CloseHelp();
+        WaitForWindow();
+        Click(page().cmdHelpRules);
+        WaitForPage("ZY Setup Help");
+        CloseHelp();
+        WaitForWindow();
+        EXPECT_TRUE(BoxesSeen().empty());
+        Click(page().txtDescription);
+        ExpectBox("Min Must be between 1 and 100", "Invalid Rule Min Value");
+        PressInBox(WXK_RETURN);
+        WaitForFocus(page().txtMin);
+    });
+}
+
 TEST_F(HelpWindow, OpensAtItsIndexByTheMenu) {
     PutHelp(Book());
     Play([&] {
