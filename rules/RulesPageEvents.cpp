@@ -113,6 +113,7 @@ void RulesPage::cmdAddList_Click() {
     form_.ChangeFlag = true;
     LoadRulesListMode();
     SelectAndEdit(controls.lstRulesList.Count());
+    SelectAllText(controls.txtCode); // what is typed next is the rule's own name
 }
 
 void RulesPage::RefuseToAdd() {

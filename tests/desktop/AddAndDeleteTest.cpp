@@ -34,6 +34,16 @@ TEST_F(AddAndDeleteWindow, AddPutsANewRuleAtTheEndAndShowsIt) {
     });
 }
 
+TEST_F(AddAndDeleteWindow, AddLeavesTheKeyboardInTheRuleIdWithItsTextSelected) {
+    PutRules(ThreeRules());
+    Play([&] {
+        Click(page().cmdAddList);
+        WaitForFocus(page().txtCode);
+        Type("A7"); // in place of what is selected
+        WaitUntil("the new name is taken", [&] { return page().txtCode.Text() == "A7"; });
+    });
+}
+
 TEST_F(AddAndDeleteWindow, AddScrollsALongListToItsEnd) {
     PutRules(ManyRules(500));
     Play([&] {
