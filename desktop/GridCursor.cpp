@@ -34,7 +34,7 @@ wxGridBlockCoords BlockBetween(const Cell& one, const Cell& other) {
 } // namespace
 
 GridCursor::GridCursor(const ViewContext& context, Grid& model, GridWidget& grid)
-    : context_(context), model_(model), grid_(grid),
+    : context_(context), model_(model), grid_(grid), isStart_(model.HasFocus()),
       blockChanged_(model.blockChanged.Observe([this] { Touch(); })) {
     grid_.Bind(wxEVT_GRID_SELECT_CELL, [this](wxGridEvent& event) {
         event.Skip();
@@ -50,7 +50,7 @@ GridCursor::GridCursor(const ViewContext& context, Grid& model, GridWidget& grid
         event.Skip();
         // A click picks a cell of its own, and so does a program that moves the focus here. In a window that
         // opens on the grid, the model may know of the focus already.
-        const bool opens = event.GetWindow() == nullptr;
+        const bool opens = event.GetWindow() == nullptr && !isStart_;
         if ((opens || !model_.HasFocus()) && !wxGetMouseState().LeftIsDown()) {
             context_.gate.ActLater([this] { return TakeFirstCell(); });
         }

@@ -37,6 +37,7 @@ class GridCursor {
     Grid& model_;
     GridWidget& grid_;
     bool changed_ = true;
+    const bool isStart_;   ///< the program starts here, and picks a cell of its own or none
     int shownRow_ = -1;    ///< where the current row was shown last
     bool showing_ = false; ///< the toolkit tells of a move because the model's is shown
     Subscription blockChanged_;

@@ -48,6 +48,11 @@ void UnitsPage::Connect() {
     units.reported.Connect([this](const std::string& report) { form_.zyStatusBar.SetText(report); });
 }
 
+void UnitsPage::Show() {
+    units.LoadUnitsData();
+    controls.grdUnits.SetFocus(); // on an arrow, the first key would mark the list as changed
+}
+
 void UnitsPage::Trace(std::string_view procedure, std::string_view message) {
     trace_.DebugTrace("frmGlobalSettings", procedure, message);
 }

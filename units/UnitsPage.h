@@ -34,7 +34,7 @@ class UnitsPage : public Editor {
     void ResizeUnits();
 
     // Editor
-    void Show() override { units.LoadUnitsData(); }
+    void Show() override;
     void Resize() override { ResizeUnits(); }
     void CommitOpenCell() override { controls.grdUnits.CommitEdit(); }
     bool HasUnsavedChanges() const override { return form_.ChangeFlag; }

@@ -50,6 +50,30 @@ TEST_F(UnitsSession, UnitsAreAddedEditedMovedDeletedAndSaved) {
     EXPECT_EQ(File(), "Metres,m\r\nSquare metres,m\xB2\r\nSeconds,s\r\n");
 }
 
+TEST_F(UnitsSession, TheKeyboardStartsInTheGridWithoutACurrentCell) {
+    Play([&] {
+        WaitForFocus(page().grdUnits);
+        Press(WXK_SPACE);
+        Press(WXK_DELETE);
+        Press(WXK_TAB);
+        WaitForFocus(page().cmdAddUNit);
+        EXPECT_EQ(InWindow([&] { return grid().Row(); }), -1);
+        EXPECT_FALSE(IsEnabled(page().cmdDeleteUnit));
+        EXPECT_FALSE(IsEnabled(page().cmdSaveUnits));
+        Press(WXK_TAB, wxMOD_SHIFT);
+        WaitForCell(1, 0);
+        EXPECT_TRUE(IsEnabled(page().cmdDeleteUnit));
+    });
+}
+
+TEST_F(UnitsSession, TheFirstArrowKeyChoosesTheFirstCell) {
+    Play([&] {
+        WaitForFocus(page().grdUnits);
+        Press(WXK_DOWN);
+        WaitForCell(1, 0);
+    });
+}
+
 TEST_F(UnitsSession, ARefusedUnitIsToldAndNothingIsWritten) {
     const auto before = File();
     Play([&] {
