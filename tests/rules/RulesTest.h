@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "support/RulesOnDisk.h"
 #include "rules/mRules.h"
+#include "support/RulesOnDisk.h"
 #include "support/WorldTest.h"
 
 namespace zy::test {
