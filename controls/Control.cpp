@@ -65,4 +65,14 @@ bool Control::HasFocus() {
     return Window().Focused() == this;
 }
 
+Label* FindLabelOf(const Control& control) {
+    for (auto* sibling : control.Parent()->Children()) {
+        auto* label = dynamic_cast<Label*>(sibling);
+        if (label != nullptr && &label->Buddy() == &control) {
+            return label;
+        }
+    }
+    return nullptr;
+}
+
 } // namespace zy

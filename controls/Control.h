@@ -111,4 +111,7 @@ class Label : public Control {
     Control& buddy_;
 };
 
+/// The label that names a control; null when none does.
+Label* FindLabelOf(const Control& control);
+
 } // namespace zy

@@ -55,23 +55,13 @@ Made MakeBinding(const ViewContext& context, const Inside& inside, Control& cont
 
 } // namespace
 
-Label* FindLabelOf(const Container& container, const Control& control) {
-    for (auto* child : container.Children()) {
-        auto* label = dynamic_cast<Label*>(child);
-        if (label != nullptr && &label->Buddy() == &control) {
-            return label;
-        }
-    }
-    return nullptr;
-}
-
 Bindings BindChildren(const ViewContext& context, const Inside& inside, const Container& container) {
     Bindings bindings;
     for (auto* child : container.Children()) {
         if (dynamic_cast<Label*>(child) != nullptr) {
             continue;
         }
-        if (auto* label = FindLabelOf(container, *child)) {
+        if (auto* label = FindLabelOf(*child)) {
             bindings.push_back(MakeBinding(context, inside, *label));
         }
         bindings.push_back(MakeBinding(context, inside, *child));

@@ -10,9 +10,6 @@ namespace zy {
 
 class ControlBinding;
 
-/// The label of a container that names this control; null when there is none.
-Label* FindLabelOf(const Container& container, const Control& control);
-
 using Bindings = std::vector<std::unique_ptr<ControlBinding>>;
 
 /// Makes a real control for each child of a container, in tab order. A label stands right before the control

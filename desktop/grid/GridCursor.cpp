@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "desktop/GridKeys.h"
+#include "desktop/CellKeys.h"
 
 namespace zy {
 namespace {

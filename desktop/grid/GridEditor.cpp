@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "desktop/GridKeys.h"
+#include "desktop/CellKeys.h"
 #include "desktop/GridNative.h"
 #include "desktop/Native.h"
 #include "desktop/Refusals.h"

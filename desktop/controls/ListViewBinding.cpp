@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "desktop/GridClipboard.h"
-#include "desktop/GridKeys.h"
+#include "desktop/CellClipboard.h"
+#include "desktop/CellKeys.h"
 #include "desktop/Keys.h"
 #include "desktop/ListText.h"
 #include "desktop/Native.h"

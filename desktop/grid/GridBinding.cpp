@@ -5,8 +5,8 @@
 
 #include <utility>
 
-#include "desktop/GridClipboard.h"
-#include "desktop/GridKeys.h"
+#include "desktop/CellClipboard.h"
+#include "desktop/CellKeys.h"
 #include "desktop/GridNative.h"
 #include "desktop/Native.h"
 #include "desktop/Refusals.h"

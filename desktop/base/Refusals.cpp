@@ -1,6 +1,5 @@
 #include "desktop/Refusals.h"
 
-#include "desktop/Bindings.h"
 #include "desktop/ShownText.h"
 #include "shell/StatusTexts.h"
 
@@ -13,7 +12,7 @@ std::string NameOf(const Grid& grid, const Cell& cell) {
 }
 
 std::string NameOf(const Control& field) {
-    const Label* label = FindLabelOf(*field.Parent(), field);
+    const Label* label = FindLabelOf(field);
     const std::string caption = label == nullptr ? field.Name() : label->Caption();
     return caption.substr(0, caption.find(':'));
 }

@@ -1,4 +1,4 @@
-#include "desktop/GridClipboard.h"
+#include "desktop/CellClipboard.h"
 
 #include <wx/clipbrd.h>
 #include <wx/dataobj.h>

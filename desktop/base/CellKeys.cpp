@@ -1,4 +1,4 @@
-#include "desktop/GridKeys.h"
+#include "desktop/CellKeys.h"
 
 #include <algorithm>
 #include <array>
