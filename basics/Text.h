@@ -9,6 +9,9 @@ namespace zy {
 // Text is one byte a character, in the ANSI code page. "Blank" below means the space, character 32, alone: a
 // TAB or a line end is never trimmed.
 
+/// What ends a line of a file, and of a text of several lines.
+inline constexpr std::string_view kLineEnd = "\r\n";
+
 /// The text without its leading blanks.
 std::string_view LTrim(std::string_view text);
 /// The text without its trailing blanks.

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "basics/Text.h"
+
 namespace zy {
 namespace {
 
@@ -37,7 +39,7 @@ std::size_t QuotedLength(std::string_view text) {
         return 0;
     }
     const auto behind = text.substr(quote + 1);
-    const bool closed = behind.empty() || EndsCell(behind.front()) || behind.starts_with("\r\n");
+    const bool closed = behind.empty() || EndsCell(behind.front()) || behind.starts_with(kLineEnd);
     return closed ? quote + 1 : 0;
 }
 
@@ -52,7 +54,7 @@ void AssignUnquoted(std::string& cell, std::string_view quoted) {
 }
 
 void PutOnOneLine(std::string& cell) {
-    for (auto at = cell.find("\r\n"); at != kNone; at = cell.find("\r\n", at)) {
+    for (auto at = cell.find(kLineEnd); at != kNone; at = cell.find(kLineEnd, at)) {
         cell.erase(at, 1);
     }
     std::replace_if(cell.begin(), cell.end(), IsSeparator, ' ');
@@ -87,7 +89,7 @@ std::string_view CopiedCells::Take() {
 
 void CopiedCells::TakeSeparator() {
     endedRow_ = !rest_.starts_with('\t');
-    const auto length = rest_.starts_with("\r\n") ? 2U : 1U;
+    const auto length = rest_.starts_with(kLineEnd) ? kLineEnd.size() : 1U;
     rest_.remove_prefix(std::min<std::size_t>(length, rest_.size()));
 }
 

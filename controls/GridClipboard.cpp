@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "basics/Int16.h"
+#include "basics/Text.h"
 #include "controls/CopiedCells.h"
 #include "controls/Grid.h"
 
@@ -42,7 +43,7 @@ std::string Grid::Copy() const {
     for (int row = block.first.row; row <= block.last.row; ++row) {
         for (int column = block.first.column; column <= block.last.column; ++column) {
             AppendCopied(text, Text(row, column));
-            text += column < block.last.column ? "\t" : "\r\n";
+            text += column < block.last.column ? "\t" : kLineEnd;
         }
     }
     return text;

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "basics/RuntimeError.h"
+#include "basics/Text.h"
 #include "controls/CopiedCells.h"
 
 namespace zy {
@@ -45,7 +46,7 @@ std::string ListView::Copy() const {
     const int columns = selected_ == 0 ? 0 : static_cast<int>(columns_.size());
     for (int column = 0; column < columns; ++column) {
         AppendCopied(text, CellText(selected_, column));
-        text += column + 1 < columns ? "\t" : "\r\n";
+        text += column + 1 < columns ? "\t" : kLineEnd;
     }
     return text;
 }

@@ -5,12 +5,12 @@
 #include <string>
 
 #include "basics/RuntimeError.h"
+#include "basics/Text.h"
 #include "ini/CharacterBlock.h"
 
 namespace zy {
 namespace {
 
-constexpr std::string_view kLineEnd = "\r\n";
 /// Positions in a line are 16-bit.
 constexpr std::ptrdiff_t kLongestLine = std::numeric_limits<std::int16_t>::max();
 

@@ -13,7 +13,6 @@ namespace zy {
 namespace {
 
 constexpr std::string_view kEquals = "= ";
-constexpr std::string_view kLineEnd = "\r\n";
 /// No line of a file is longer.
 constexpr std::size_t kLongestLine = 32767;
 

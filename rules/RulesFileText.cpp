@@ -4,12 +4,11 @@
 #include <array>
 #include <string_view>
 
+#include "basics/Text.h"
 #include "rules/RulesFormat.h"
 
 namespace zy {
 namespace {
-
-constexpr std::string_view kLineEnd = "\r\n";
 
 /// What stands in front of a value: the end of the line before, and the key. It is as long for every key, and
 /// a size that the compiler knows makes copying it a matter of a few instructions.

@@ -4,6 +4,7 @@
 #include <initializer_list>
 #include <utility>
 
+#include "basics/Text.h"
 #include "shell/Maker.h"
 
 namespace zy {
@@ -16,7 +17,6 @@ std::string VersionText(const Application& application) {
 
 /// The contact lines. The name keeps the blank behind it, which is meant.
 std::string CompanyInfo() {
-    constexpr std::string_view kLineEnd = "\r\n";
     std::string text = std::string(kMakerName) + " ";
     for (const auto line : kMakerAddress) {
         text.append(kLineEnd).append(line);
