@@ -24,6 +24,13 @@ inline bool Contains(std::string_view text, char character) {
     return text.find(character) != std::string_view::npos;
 }
 
+/// Copies a text to a place that has room for it and returns where it ends there. A text whose size the
+/// compiler knows takes a few instructions.
+template <typename Text>
+char* Put(const Text& text, char* at) {
+    return std::copy(text.begin(), text.end(), at);
+}
+
 // Names of fields, keywords and keys of files are ASCII, whatever the code page.
 
 /// The capital of a letter "a" to "z"; any other character as it is.

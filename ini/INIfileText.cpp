@@ -13,6 +13,7 @@ namespace zy {
 namespace {
 
 constexpr std::string_view kEquals = "= ";
+constexpr std::string_view kBareEquals = "="; // in front of no value
 /// No line of a file is longer.
 constexpr std::size_t kLongestLine = 32767;
 
@@ -20,10 +21,6 @@ constexpr std::size_t kLongestLine = 32767;
 /// much is written over.
 constexpr std::size_t kBlock = 16;
 static_assert(kBlock <= FileText::kMargin);
-
-char* Put(std::string_view text, char* at) {
-    return std::copy(text.begin(), text.end(), at);
-}
 
 /// Writes a text that stands in a file's.
 char* PutLoaded(std::string_view text, char* at) {
@@ -81,7 +78,7 @@ class LineLayout {
         char* const keyEnd = PutLoaded(key, at + indent_);
         std::memset(keyEnd, ' ', kBlock);
         at = std::max(keyEnd, at + equalAt_);
-        return Put(kLineEnd, value.empty() ? Put("=", at) : PutLoaded(value, Put(kEquals, at)));
+        return Put(kLineEnd, value.empty() ? Put(kBareEquals, at) : PutLoaded(value, Put(kEquals, at)));
     }
 
     char* PutPair(std::string_view key, std::string_view value, char* at) const {
@@ -89,7 +86,7 @@ class LineLayout {
         at = std::fill_n(at, indent_, ' ');
         at = ucaseSection_ ? PutCapitals(key, at) : Put(key, at);
         at = std::fill_n(at, std::max<std::ptrdiff_t>(equals - at, 0), ' ');
-        return value.empty() ? Put("=", at) : Put(value, Put(kEquals, at));
+        return value.empty() ? Put(kBareEquals, at) : Put(value, Put(kEquals, at));
     }
 
     char* PutCapitals(std::string_view text, char* at) const {

@@ -1,6 +1,5 @@
 #include "rules/RulesFileText.h"
 
-#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -20,12 +19,6 @@ std::array<Front, kRuleKeys.size()> AllFronts() {
         (std::string(kLineEnd) + FormatRuleLine(kRuleKeys[i].key, "")).copy(fronts[i].data(), sizeof(Front));
     }
     return fronts;
-}
-
-/// Copies a text to where `at` points. Returns the place behind it.
-template <typename Text>
-char* Put(const Text& text, char* at) {
-    return std::copy(text.begin(), text.end(), at);
 }
 
 /// Lays rules out as the lines of the file.
