@@ -17,11 +17,6 @@ namespace {
 /// The comma and the line end.
 constexpr std::size_t kSeparators = 3;
 
-/// Copies a text to a place and returns where it ends there.
-char* Put(std::string_view text, char* at) {
-    return std::copy(text.begin(), text.end(), at);
-}
-
 /// Where the CR LF of the line that begins here ends; the end of the text when there is none.
 inline const char* FindLineFeed(const char* begin, const char* end, Marks& lineFeeds) {
     const char* lineFeed = lineFeeds.From(begin);
