@@ -1,7 +1,6 @@
 #include "basics/Int16.h"
 
 #include <charconv>
-#include <limits>
 #include <system_error>
 
 #include "basics/RuntimeError.h"
@@ -16,7 +15,7 @@ Int16::Int16(std::int64_t value) : value_(static_cast<std::int16_t>(value)) {
 }
 
 Int16::Int16(std::size_t value) : value_(static_cast<std::int16_t>(value)) {
-    if (value > static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max())) {
+    if (value > std::size_t{kMost}) {
         RaiseOverflow();
     }
 }

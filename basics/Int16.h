@@ -6,12 +6,11 @@
 
 namespace zy {
 
-/// The number of items that a list can hold: list counters are 16-bit signed.
-inline constexpr int kMaxItems = 32767;
-
 /// A 16-bit signed integer that refuses to overflow: any result outside -32768..32767 is run-time error 6.
 class Int16 {
   public:
+    static constexpr int kMost = 32767;
+
     constexpr Int16() = default;
     Int16(std::int64_t value);
     Int16(std::size_t value);
@@ -29,5 +28,8 @@ class Int16 {
   private:
     std::int16_t value_ = 0;
 };
+
+/// The number of items that a list can hold: list counters are 16-bit signed.
+inline constexpr int kMaxItems = Int16::kMost;
 
 } // namespace zy

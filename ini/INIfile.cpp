@@ -1,7 +1,6 @@
 #include "ini/INIfile.h"
 
 #include <cstring>
-#include <limits>
 #include <string>
 
 #include "basics/RuntimeError.h"
@@ -10,9 +9,6 @@
 
 namespace zy {
 namespace {
-
-/// Positions in a line are 16-bit.
-constexpr std::ptrdiff_t kLongestLine = std::numeric_limits<std::int16_t>::max();
 
 constexpr char kFirstPlain = '\r' + 1;
 

@@ -14,8 +14,6 @@ namespace {
 
 constexpr std::string_view kEquals = "= ";
 constexpr std::string_view kBareEquals = "="; // in front of no value
-/// No line of a file is longer.
-constexpr std::size_t kLongestLine = 32767;
 
 /// As many characters as are written in one go where the right number is known to be no more. What is too
 /// much is written over.

@@ -4,10 +4,15 @@
 #include <string>
 #include <string_view>
 
+#include "basics/Int16.h"
+
 namespace zy {
 
+/// The most characters of a line: positions in one are 16-bit.
+inline constexpr int kLongestLine = Int16::kMost;
+
 /// The texts of a line, as they stand in the text of a loaded file: the group is the section itself or stands
-/// before it, the value stands behind it. None is longer than a line can be, 32,767 characters.
+/// before it, the value stands behind it. None is longer than kLongestLine.
 struct INIplaces {
     std::string_view group;
     std::string_view section;
