@@ -16,7 +16,7 @@ RuleChecks::RuleChecks(const RuleList& rules, const World& world, TraceChannel& 
     : rules_(rules), world_(world), trace_(trace) {}
 
 void RuleChecks::Start(std::string_view procedure) {
-    trace_.DebugTrace("mRules", procedure, "Start");
+    trace_.DebugTrace(kRulesModule, procedure, "Start");
 }
 
 void RuleChecks::ShowRuleError(std::string_view message, std::string_view title) {

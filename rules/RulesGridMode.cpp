@@ -9,9 +9,6 @@
 namespace zy {
 namespace {
 
-constexpr std::string_view kModule = "mRules";
-constexpr std::string_view kForm = "frmGlobalSettings";
-
 std::string TabJoined(const RunRule& rule) {
     std::string row;
     for (const auto property : kColumnProperties) {
@@ -74,7 +71,7 @@ void RulesGridMode::AddRows() {
 }
 
 void RulesGridMode::AddtoGrid() {
-    Trace(kModule, "AddtoGrid");
+    Trace(kRulesModule, "AddtoGrid");
     grid_.AddItem(TabJoined(rules_.gaRules(rules_.gaRules.UBound())));
     SelectRow(grid_.Rows() - 1);
 }
@@ -85,7 +82,7 @@ void RulesGridMode::SelectRow(int row) {
 }
 
 void RulesGridMode::Save_RulesGrid() {
-    Trace(kModule, "Save_RulesGrid");
+    Trace(kRulesModule, "Save_RulesGrid");
     bool changed = false;
     for (int row = 1; row < grid_.Rows(); ++row) {
         changed = StoreRow(row) || changed;
@@ -123,7 +120,7 @@ bool RulesGridMode::StoreIfChanged() {
 }
 
 void RulesGridMode::mnuAddRule_Click() {
-    Trace(kForm, "mnuAddRule_Click");
+    Trace(kMainForm, "mnuAddRule_Click");
     if (rules_.gaRules.IsFull()) {
         addRefused.Raise();
         return;
@@ -134,7 +131,7 @@ void RulesGridMode::mnuAddRule_Click() {
 }
 
 void RulesGridMode::mnuDeleteRule_Click() {
-    Trace(kForm, "mnuDeleteRule_Click");
+    Trace(kMainForm, "mnuDeleteRule_Click");
     const int row = grid_.Row();
     if (row < 1) {
         return;
@@ -161,7 +158,7 @@ void RulesGridMode::TellCountChanged() {
 
 void RulesGridMode::grdRules_MouseDown(int button) {
     constexpr int kRightButton = 2;
-    Trace(kForm, "grdRules_MouseDown");
+    Trace(kMainForm, "grdRules_MouseDown");
     if (button != kRightButton) {
         return;
     }
@@ -174,7 +171,7 @@ void RulesGridMode::grdRules_MouseDown(int button) {
 }
 
 void RulesGridMode::grdRules_AfterEdit() {
-    Trace(kForm, "grdRules_AfterEdit");
+    Trace(kMainForm, "grdRules_AfterEdit");
     grid_.FitColumns(0);
 }
 

@@ -9,8 +9,6 @@
 namespace zy {
 namespace {
 
-constexpr std::string_view kModule = "mRules";
-
 /// The three pieces joined by single blanks. Empty pieces leave their blanks at the end, which is meant: that
 /// text is what the editor shows and what the next save writes.
 std::string JoinedDescription(const RunRule& rule) {
@@ -36,7 +34,7 @@ SettingsLibrary& mRules::Settings() {
 
 void mRules::Build_Rules_Array() {
     goSettings_ = std::make_unique<SettingsLibrary>(world_);
-    trace_.DebugTrace(kModule, "Build_Rules_Array", "Start");
+    trace_.DebugTrace(kRulesModule, "Build_Rules_Array", "Start");
     const auto collection = goSettings_->Rules();
     const Int16 count = collection.Count();
     gaRules.Reset(count);
@@ -59,7 +57,7 @@ void mRules::LookForDangers() {
 }
 
 void mRules::Add_New_Rule() {
-    trace_.DebugTrace(kModule, "Add_New_Rule", "Start");
+    trace_.DebugTrace(kRulesModule, "Add_New_Rule", "Start");
     RunRule& rule = Settings().NewRule();
     rule.Code = "NEW";
     rule.Cond = "=";
@@ -72,7 +70,7 @@ void mRules::Add_New_Rule() {
 }
 
 void mRules::Delete_Rule(Int16 index) {
-    trace_.DebugTrace(kModule, "Delete_Rule", "Start item: " + std::to_string(index));
+    trace_.DebugTrace(kRulesModule, "Delete_Rule", "Start item: " + std::to_string(index));
     gaRules.Remove(index);
 }
 
@@ -126,7 +124,7 @@ bool mRules::Write_Rules_File() {
 }
 
 void mRules::ReplaceFile() {
-    trace_.DebugTrace(kModule, "Write_Rules_File", "Start");
+    trace_.DebugTrace(kRulesModule, "Write_Rules_File", "Start");
     auto& files = world_.files;
     const std::string temporary = TemporaryFile();
     if (files.Exists(temporary) && files.Delete(temporary) == FileError::None) {
@@ -152,7 +150,7 @@ void mRules::ReplaceFile() {
         const bool stayed = renamed == FileError::Exists && deleted != FileError::None;
         ReportNotReplaced(temporary, text, stayed ? deleted : renamed);
     }
-    trace_.DebugTrace(kModule, "Write_Rules_File", "Finished");
+    trace_.DebugTrace(kRulesModule, "Write_Rules_File", "Finished");
     gbRulesChanged = false;
 }
 

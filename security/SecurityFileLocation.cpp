@@ -20,7 +20,7 @@ std::string_view WithoutQuotes(std::string_view value) {
 } // namespace
 
 std::string SecurityFileLocation(const World& world, TraceChannel& trace) {
-    trace.DebugTrace("mSecurity", "SecurityFileLocation", "Start");
+    trace.DebugTrace(kSecurityModule, "SecurityFileLocation", "Start");
     const std::string systemDir = GetSystemDir(world.system);
     std::string location = UserFiles(systemDir).table;
 

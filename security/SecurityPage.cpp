@@ -14,7 +14,6 @@
 namespace zy {
 namespace {
 
-constexpr std::string_view kForm = "frmGlobalSettings";
 constexpr std::string_view kDialogButton = "...";
 
 /// What the status bar says of a row with single quotes.
@@ -57,7 +56,7 @@ void SecurityPage::Connect() {
 }
 
 void SecurityPage::Trace(std::string_view procedure, std::string_view message) {
-    trace_.DebugTrace(kForm, procedure, message);
+    trace_.DebugTrace(kMainForm, procedure, message);
 }
 
 void SecurityPage::LoadSecurity() {

@@ -17,7 +17,6 @@
 namespace zy {
 namespace {
 
-constexpr std::string_view kModule = "mSecurity";
 constexpr std::string_view kConnect = "dBase III";
 
 /// The engine would raise the same error, without a word about the table.
@@ -48,7 +47,7 @@ void mSecurity::Start(std::string_view procedure) {
 }
 
 void mSecurity::Trace(std::string_view procedure, std::string_view message) {
-    trace_.DebugTrace(kModule, procedure, message);
+    trace_.DebugTrace(kSecurityModule, procedure, message);
 }
 
 std::string mSecurity::TablePath() const {

@@ -8,6 +8,11 @@
 
 namespace zy {
 
+// The modules as which several classes trace: a viewer knows a step by this name, whichever class takes it.
+inline constexpr std::string_view kRulesModule = "mRules";
+inline constexpr std::string_view kSecurityModule = "mSecurity";
+inline constexpr std::string_view kMainForm = "frmGlobalSettings"; ///< the window's own name
+
 /// Reports what the program does to an external trace viewer, when one is running, and is silent otherwise.
 ///
 /// The viewer is looked up afresh for every record. When the very first look-up finds none, no later one is
