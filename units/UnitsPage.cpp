@@ -54,7 +54,7 @@ void UnitsPage::Show() {
 }
 
 void UnitsPage::Trace(std::string_view procedure, std::string_view message) {
-    trace_.DebugTrace("frmGlobalSettings", procedure, message);
+    trace_.DebugTrace(kMainForm, procedure, message);
 }
 
 void UnitsPage::MarkUnitsChanged() {

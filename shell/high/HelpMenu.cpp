@@ -26,7 +26,7 @@ void HelpMenu::ConnectButton(CommandButton& button) {
 }
 
 void HelpMenu::Start(std::string_view procedure) {
-    trace_.DebugTrace("frmGlobalSettings", procedure, "Start");
+    trace_.DebugTrace(kMainForm, procedure, "Start");
 }
 
 void HelpMenu::ShowHelp(HelpCommand command) {

@@ -7,11 +7,6 @@
 #include "shell/mRegistryEdit.h"
 
 namespace zy {
-namespace {
-
-constexpr std::string_view kModule = "frmGlobalSettings";
-
-} // namespace
 
 frmGlobalSettings::frmGlobalSettings(const Parts& parts)
     : menu(parts.form.menu),
@@ -24,7 +19,7 @@ frmGlobalSettings::frmGlobalSettings(const Parts& parts)
 }
 
 void frmGlobalSettings::Trace(std::string_view procedure, std::string_view message) {
-    parts_.trace.DebugTrace(kModule, procedure, message);
+    parts_.trace.DebugTrace(kMainForm, procedure, message);
 }
 
 void frmGlobalSettings::Load() {
