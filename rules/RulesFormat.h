@@ -10,6 +10,10 @@ namespace zy {
 
 // How a rule stands in the rules file: what its reader and its writer have to agree on.
 
+inline constexpr std::string_view kRulesFileName = "ZYRules.sys";
+/// The file beside it that a save writes first.
+inline constexpr std::string_view kRulesTemporaryName = "Rules.tmp";
+
 /// The line that begins a rule.
 inline constexpr std::string_view kRuleHeader = "[RULE]";
 

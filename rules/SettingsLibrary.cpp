@@ -1,6 +1,7 @@
 #include "rules/SettingsLibrary.h"
 
 #include "basics/RuntimeError.h"
+#include "rules/RulesFormat.h"
 #include "shell/mZYGlobal.h"
 
 namespace zy {
@@ -13,7 +14,7 @@ RunRule& SettingsLibrary::RuleCollection::Item(Int16 index) const {
 }
 
 std::string SettingsLibrary::RulesFile() const {
-    return GetSystemDir(world_.system) + "ZYRules.sys";
+    return GetSystemDir(world_.system).append(kRulesFileName);
 }
 
 SettingsLibrary::RuleCollection SettingsLibrary::Rules() {

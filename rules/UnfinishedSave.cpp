@@ -4,6 +4,7 @@
 
 #include "basics/Int16.h"
 #include "rules/RulesFileText.h"
+#include "rules/RulesFormat.h"
 #include "rules/RulesReader.h"
 #include "shell/StatusTexts.h"
 #include "shell/mZYGlobal.h"
@@ -29,9 +30,9 @@ std::string DescribeRules(FileSystem& files, std::string_view path, std::deque<R
 }
 
 /// The only copy there is, or one beside the rules file.
-std::string_view Advice(FileSystem& files, std::string_view rulesFile) {
+std::string Advice(FileSystem& files, std::string_view rulesFile) {
     return files.OpenForReading(rulesFile).error == FileError::NotFound
-               ? ", saving deletes it: close and rename it to ZYRules.sys"
+               ? ", saving deletes it: close and rename it to " + std::string(kRulesFileName)
                : ", saving deletes it: copy it away if you need it";
 }
 
@@ -52,7 +53,7 @@ std::string DescribeUnfinishedSave(FileSystem& files, std::string_view temporary
     if (rules.empty()) {
         return subject + "holds no rules";
     }
-    return subject + DescribeRules(files, temporary, rules) + std::string(Advice(files, rulesFile));
+    return subject + DescribeRules(files, temporary, rules) + Advice(files, rulesFile);
 }
 
 } // namespace zy

@@ -2,6 +2,7 @@
 
 #include "basics/Text.h"
 #include "rules/RulesFileText.h"
+#include "rules/RulesFormat.h"
 #include "rules/UnfinishedSave.h"
 #include "shell/StatusTexts.h"
 #include "shell/mZYGlobal.h"
@@ -91,21 +92,22 @@ void mRules::ReportFailure(std::string_view what, FileError error) {
 bool mRules::WriteTemporary(const std::string& temporary, const std::string& text) {
     auto created = world_.files.Create(temporary);
     if (!created.handle) {
-        ReportFailure("Not saved, Rules.tmp could not be created", created.error);
+        ReportFailure("Not saved, " + std::string(kRulesTemporaryName) + " could not be created",
+                      created.error);
         return false;
     }
     dangers_.clear();
     const auto error = WriteAndClose(*created.handle, text);
     if (error != FileError::None) {
         world_.files.Delete(temporary);
-        ReportFailure("Not saved, Rules.tmp could not be written", error);
+        ReportFailure("Not saved, " + std::string(kRulesTemporaryName) + " could not be written", error);
         return false;
     }
     return true;
 }
 
 std::string mRules::TemporaryFile() {
-    return std::string(FolderOf(Settings().RulesFile())) + "Rules.tmp";
+    return std::string(FolderOf(Settings().RulesFile())).append(kRulesTemporaryName);
 }
 
 std::string mRules::WhyNotToSaveRules(const SaveTurn& turn) {
@@ -157,11 +159,12 @@ void mRules::ReplaceFile() {
 /// Another program may have taken the temporary file, or the disk may have gone away with it, so that it is
 /// looked up.
 void mRules::ReportNotReplaced(const std::string& temporary, const std::string& text, FileError error) {
-    ReportFailure(
-        HoldsText(world_.files, temporary, text)
-            ? "The rules stand in Rules.tmp, ZYRules.sys could not be replaced"
-            : "Not saved, ZYRules.sys could not be replaced, and the rules were not found in Rules.tmp",
-        error);
+    const std::string notReplaced = std::string(kRulesFileName) + " could not be replaced";
+    const std::string beside(kRulesTemporaryName);
+    ReportFailure(HoldsText(world_.files, temporary, text)
+                      ? "The rules stand in " + beside + ", " + notReplaced
+                      : "Not saved, " + notReplaced + ", and the rules were not found in " + beside,
+                  error);
 }
 
 } // namespace zy

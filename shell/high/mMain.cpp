@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "rules/RulesFormat.h"
 #include "security/SecurityFileLocation.h"
 #include "shell/Program.h"
 #include "shell/SaveTurn.h"
@@ -16,7 +17,7 @@ constexpr std::string_view kProcedure = "mMain";
 void ComputePaths(Program& program) {
     const std::string systemDir = GetSystemDir(program.world.system);
     auto& state = program.state;
-    state.gsRulesFile = systemDir + "ZYRules.sys";
+    state.gsRulesFile = systemDir + std::string(kRulesFileName);
     // In every mode, and before gsSystemDir is set: the look-up asks for the system directory itself.
     state.gsSecurityFile = SecurityFileLocation(program.world, program.trace);
     state.gsUnitsFile = systemDir + "ZYUNITS.SYS";
