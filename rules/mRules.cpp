@@ -84,7 +84,7 @@ std::string mRules::Dangers() const {
 
 void mRules::ReportFailure(std::string_view what, FileError error) {
     lastSaveFailed_ = true;
-    reported.Raise(std::string(what) + ": " + std::string(Describe(error)));
+    reported.Raise(Failure(what, error));
 }
 
 /// Writes the temporary file whole, down to the disk. A file that came out short is removed: it holds half a

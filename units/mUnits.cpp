@@ -100,7 +100,7 @@ void mUnits::ReplaceFile() {
     const auto created = world_.files.Create(path);
     if (!created.handle) {
         leftOut_ = deleted ? kLastSaveFailed : leftOut_;
-        Report("Not saved, " + FileName() + " could not be created", created.error);
+        reported.Raise(Failure("Not saved, " + FileName() + " could not be created", created.error));
         return;
     }
     const auto error = WriteAndClose(*created.handle, text.Get());
@@ -108,16 +108,12 @@ void mUnits::ReplaceFile() {
     if (error == FileError::None) {
         reported.Raise("Saved");
     } else {
-        Report("Not saved, " + FileName() + " could not be written", error);
+        reported.Raise(Failure("Not saved, " + FileName() + " could not be written", error));
     }
 }
 
 std::string mUnits::FileName() const {
     return std::string(FileNameOf(state_.gsUnitsFile));
-}
-
-void mUnits::Report(const std::string& what, FileError error) {
-    reported.Raise(what + ": " + std::string(Describe(error)));
 }
 
 void mUnits::ReportCount() {

@@ -59,7 +59,6 @@ class mUnits {
     std::string DescribeUncertainty();
     /// Why a save could neither replace the file nor write over it.
     FileError ObstacleToSave();
-    void Report(const std::string& what, FileError error);
 
     UnitsControls& controls_;
     SharedState& state_;

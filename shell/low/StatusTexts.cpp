@@ -25,6 +25,10 @@ std::string DescribeRefused(const PasteReport& paste, const Grid& grid) {
 
 } // namespace
 
+std::string Failure(std::string_view what, FileError error) {
+    return std::string(what).append(": ").append(Describe(error));
+}
+
 std::string Counted(std::size_t count, std::string_view noun) {
     return std::to_string(count) + " " + std::string(noun) + (count == 1 ? "" : "s");
 }

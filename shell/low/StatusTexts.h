@@ -6,6 +6,7 @@
 
 #include "controls/Grid.h"
 #include "controls/StatusBar.h"
+#include "platform/FileError.h"
 
 namespace zy {
 
@@ -18,6 +19,9 @@ inline constexpr std::string_view kFieldFull = "Not taken: the field would get l
 
 /// Told when a person adds to a list that is as long as it can be.
 inline constexpr std::string_view kListFull = "Not added: the list is as long as it can be";
+
+/// What went wrong, with the reason that the file system gave.
+std::string Failure(std::string_view what, FileError error);
 
 /// A number with what it counts: "1 rule", "2 rules".
 std::string Counted(std::size_t count, std::string_view noun);
