@@ -3,8 +3,6 @@
 #include <string>
 #include <string_view>
 
-#include "platform/FileSystem.h"
-
 namespace zy {
 
 // The names of the users' files. The table is always written under this one, whatever it was called when it
@@ -30,9 +28,5 @@ struct UserFiles {
     std::string temporary; ///< the new table until it takes the place of the old one
     std::string index;
 };
-
-/// Run-time error 75 when it is not certain which file a path means: a table of somebody else's could be read
-/// or replaced. The error says what a person can do about it.
-void RequireCertain(FileSystem& files, std::string_view path);
 
 } // namespace zy

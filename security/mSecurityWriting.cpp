@@ -3,6 +3,7 @@
 #include "security/UserFiles.h"
 #include "security/UserStatement.h"
 #include "security/mSecurity.h"
+#include "shell/SaveTurn.h"
 #include "shell/mRecycleBin.h"
 
 namespace zy {

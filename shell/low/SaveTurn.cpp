@@ -1,5 +1,6 @@
 #include "shell/SaveTurn.h"
 
+#include "basics/RuntimeError.h"
 #include "shell/mZYGlobal.h"
 
 namespace zy {
@@ -14,6 +15,18 @@ std::string Uncertainty(FileSystem& files, std::string_view path) {
     }
     return "it is not certain which file " + std::string(FileNameOf(path)) +
            " is: " + std::string(Describe(error));
+}
+
+void RequireCertain(FileSystem& files, std::string_view path) {
+    const auto error = files.Locate(path);
+    if (error == FileError::None) {
+        return;
+    }
+    const std::string_view help = error == FileError::Ambiguous
+                                      ? "Rename or remove all of them but one."
+                                      : "Get the right to list the folders on the way to it.";
+    RaisePathRefused(files.DisplayPath(path) + " was not touched, " + std::string(Describe(error)) + ". " +
+                     std::string(help));
 }
 
 std::string Obstacle(std::string_view path, FileError error) {

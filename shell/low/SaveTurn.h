@@ -29,6 +29,9 @@ class SaveTurn {
 
 /// Says that nobody can tell which file of several a path means, and why; empty when it is certain.
 std::string Uncertainty(FileSystem& files, std::string_view path);
+/// The same as run-time error 75, where a file of somebody else's could be read or replaced. The error says
+/// what a person can do about it.
+void RequireCertain(FileSystem& files, std::string_view path);
 
 /// Says for the status bar that a save of this file would fail for this reason, and what to do about it
 /// before one edits; empty for none.
