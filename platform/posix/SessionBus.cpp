@@ -4,11 +4,9 @@
 
 #include <algorithm>
 #include <array>
-#include <condition_variable>
-#include <mutex>
 #include <string_view>
-#include <thread>
 
+#include "platform/glib/Waiting.h"
 #include "platform/posix/UserFolders.h"
 
 namespace zy {
@@ -17,27 +15,65 @@ namespace {
 constexpr std::string_view kDisabled = "disabled:";
 constexpr std::array<std::string_view, 2> kStartABus{"autolaunch:", "unixexec:"};
 
-/// Cancels an operation that takes too long.
-class Deadline {
+/// A context of the main loop's kind that is this thread's own for a while: what begins meanwhile ends in it,
+/// and nothing else of the program goes on.
+class OwnContext {
   public:
-    explicit Deadline(std::chrono::milliseconds patience)
-        : watch_([this, patience](const std::stop_token& stop) { Watch(stop, patience); }) {}
-
-    GCancellable* Cancellable() const { return cancellable_.get(); }
-
-  private:
-    void Watch(const std::stop_token& stop, std::chrono::milliseconds patience) {
-        std::unique_lock lock(mutex_);
-        if (!finished_.wait_for(lock, stop, patience, [&stop] { return stop.stop_requested(); })) {
-            g_cancellable_cancel(cancellable_.get());
-        }
+    OwnContext() { g_main_context_push_thread_default(context_); }
+    OwnContext(const OwnContext&) = delete;
+    OwnContext& operator=(const OwnContext&) = delete;
+    ~OwnContext() {
+        g_main_context_pop_thread_default(context_);
+        g_main_context_unref(context_);
     }
 
-    GlibPointer<GCancellable> cancellable_{g_cancellable_new()};
-    std::mutex mutex_;
-    std::condition_variable_any finished_;
-    std::jthread watch_; // the last member: it starts when the others stand, and is joined before they go
+    GMainContext* Get() const { return context_; }
+
+  private:
+    GMainContext* context_ = g_main_context_new();
 };
+
+/// The end of an operation that was begun, whenever it comes.
+class Ending {
+  public:
+    /// To be handed over with the ending itself as its data.
+    static void Come(GObject* /*source*/, GAsyncResult* result, gpointer ending) {
+        static_cast<Ending*>(ending)->result_.reset(G_ASYNC_RESULT(g_object_ref(result)));
+    }
+
+    /// Waits for the end. What takes too long is told to give up, and ends at once then.
+    GAsyncResult* Await(const OwnContext& context, GCancellable* operation) {
+        if (!WaitOn(context.Get(), kBusPatience, [this] { return result_ != nullptr; })) {
+            g_cancellable_cancel(operation);
+        }
+        while (!result_) {
+            g_main_context_iteration(context.Get(), TRUE);
+        }
+        return result_.get();
+    }
+
+  private:
+    GlibPointer<GAsyncResult> result_;
+};
+
+/// A connection that has not begun to connect. It tells of its end in the context that it is made in.
+GlibPointer<GDBusConnection> MakeConnection(const std::string& address) {
+    constexpr auto kFlags = static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
+                                                              G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION);
+    return GlibPointer<GDBusConnection>(G_DBUS_CONNECTION(
+        g_object_new(G_TYPE_DBUS_CONNECTION, "address", address.c_str(), "flags", kFlags, nullptr)));
+}
+
+/// A connection is asked for in the midst of the program's work, so no event of a window may happen
+/// meanwhile.
+bool Connect(GDBusConnection* connection) {
+    const OwnContext context;
+    Ending ending;
+    const GlibPointer<GCancellable> cancellable(g_cancellable_new());
+    auto* initable = G_ASYNC_INITABLE(connection);
+    g_async_initable_init_async(initable, G_PRIORITY_DEFAULT, cancellable.get(), &Ending::Come, &ending);
+    return g_async_initable_init_finish(initable, ending.Await(context, cancellable.get()), nullptr) != FALSE;
+}
 
 bool StartsABus(std::string_view address) {
     return std::any_of(kStartABus.begin(), kStartABus.end(),
@@ -88,14 +124,11 @@ GlibPointer<GDBusConnection> ConnectToSessionBus() {
     if (address.empty()) {
         return nullptr;
     }
-    constexpr auto kFlags = static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
-                                                              G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION);
-    const Deadline deadline(kBusPatience);
-    GlibPointer<GDBusConnection> connection(g_dbus_connection_new_for_address_sync(
-        address.c_str(), kFlags, nullptr, deadline.Cancellable(), nullptr));
-    if (connection) {
-        g_dbus_connection_set_exit_on_close(connection.get(), FALSE);
+    auto connection = MakeConnection(address);
+    if (!Connect(connection.get())) {
+        return nullptr;
     }
+    g_dbus_connection_set_exit_on_close(connection.get(), FALSE);
     return connection;
 }
 

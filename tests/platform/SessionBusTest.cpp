@@ -6,8 +6,10 @@
 
 #include <cstring>
 
+#include "platform/glib/Waiting.h"
 #include "platform/posix/FileDescriptor.h"
 #include "support/EnvironmentVariable.h"
+#include "support/PrivateBus.h"
 #include "support/TemporaryFolder.h"
 
 namespace zy::test {
@@ -93,6 +95,36 @@ TEST(ConnectToSessionBusTest, GivesUpOnAnAddressThatIsNone) {
         const EnvironmentVariable address("DBUS_SESSION_BUS_ADDRESS", value);
         EXPECT_FALSE(ConnectToSessionBus()) << value;
     }
+}
+
+gboolean Count(gpointer events) {
+    ++*static_cast<int*>(events);
+    return G_SOURCE_CONTINUE;
+}
+
+TEST(ConnectToSessionBusTest, LetsNoEventOfTheProgramHappenMeanwhile) {
+    PrivateBus bus;
+    bus.Start();
+    int events = 0;
+    const auto source = g_idle_add(Count, &events);
+    EXPECT_TRUE(ConnectToSessionBus());
+    EXPECT_EQ(events, 0);
+    g_source_remove(source);
+}
+
+void NoteClosed(GDBusConnection* /*connection*/, gboolean /*vanished*/, GError* /*error*/, gpointer closed) {
+    *static_cast<bool*>(closed) = true;
+}
+
+TEST(ConnectToSessionBusTest, TellsOfTheEndOfTheBusAmongTheProgramsEvents) {
+    PrivateBus bus;
+    bus.Start();
+    const auto connection = ConnectToSessionBus();
+    ASSERT_TRUE(connection);
+    bool closed = false;
+    g_signal_connect(connection.get(), "closed", G_CALLBACK(NoteClosed), &closed);
+    bus.Stop();
+    EXPECT_TRUE(WaitOn(nullptr, std::chrono::seconds(20), [&] { return closed; }));
 }
 
 TEST(ObjectPathOfTest, HasSlashesInPlaceOfDots) {
