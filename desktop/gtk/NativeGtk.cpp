@@ -9,16 +9,21 @@
 #include <wx/utils.h>
 
 #include <algorithm>
+#include <chrono>
 #include <memory>
 #include <utility>
 
 #include "desktop/GtkFunctions.h"
 #include "desktop/Native.h"
+#include "platform/glib/Waiting.h"
 
 namespace zy {
 namespace {
 
 constexpr double kUsualDotsPerInch = 96;
+
+/// How long a window manager has to answer: as long as the toolkit itself waits for it.
+constexpr std::chrono::seconds kWindowManagersTime{1};
 
 struct FreePath {
     void operator()(_GtkTreePath* path) const { gtk_tree_path_free(path); }
@@ -104,32 +109,6 @@ bool CanAskForBorders() {
                                                gdk_atom_intern("_NET_REQUEST_FRAME_EXTENTS", 0)) != 0;
 }
 
-/// How long a window manager has to answer: as long as the toolkit itself waits for it.
-class Deadline {
-  public:
-    Deadline() : timer_(g_timeout_add(kMilliseconds, &Pass, this)) {}
-    Deadline(const Deadline&) = delete;
-    Deadline& operator=(const Deadline&) = delete;
-    ~Deadline() {
-        if (!passed_) {
-            g_source_remove(timer_);
-        }
-    }
-
-    bool HasPassed() const { return passed_; }
-
-  private:
-    static constexpr guint kMilliseconds = 1000;
-
-    static gboolean Pass(gpointer deadline) {
-        static_cast<Deadline*>(deadline)->passed_ = true;
-        return G_SOURCE_REMOVE;
-    }
-
-    bool passed_ = false;
-    guint timer_;
-};
-
 } // namespace
 
 double DotsPerInch() {
@@ -154,10 +133,7 @@ void LearnBorders() {
     // any more.
     probe->Show();
     probe->Hide();
-    const Deadline end;
-    while (probe->m_decorSize.top == 0 && !end.HasPassed()) {
-        g_main_context_iteration(nullptr, TRUE);
-    }
+    WaitOn(nullptr, kWindowManagersTime, [&] { return probe->m_decorSize.top != 0; });
     delete probe;
 }
 
