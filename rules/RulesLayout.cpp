@@ -3,12 +3,11 @@
 #include <algorithm>
 #include <initializer_list>
 
+#include "shell/PageLayout.h"
+
 namespace zy {
 namespace {
 
-constexpr int kMargin = 120;       // round the frames
-constexpr int kPad = 150;          // inside a frame
-constexpr int kGap = 90;           // between controls that belong together
 constexpr int kColumnGap = 240;    // between two fields of a row
 constexpr int kButtonWidth = 1215; // the classic button
 constexpr int kButtonHeight = 375;
@@ -16,16 +15,18 @@ constexpr int kFieldHeight = 315;
 constexpr int kShortField = 900; // a code or a count
 constexpr int kListBorder = 360; // the list's scroll bar and frame
 constexpr int kLeastDescription = 1500;
+constexpr int kLeastListWidth = 4500;
 
-int Widest(std::initializer_list<const Control*> controls) {
-    int width = 0;
+using Controls = std::initializer_list<const Control*>;
+
+int Widest(Controls controls, int least) {
     for (const auto* control : controls) {
-        width = std::max(width, control->Preferred().width);
+        least = std::max(least, control->Preferred().width);
     }
-    return width;
+    return least;
 }
 
-int Tallest(std::initializer_list<const Control*> controls, int least) {
+int Tallest(Controls controls, int least) {
     for (const auto* control : controls) {
         least = std::max(least, control->Preferred().height);
     }
@@ -37,14 +38,36 @@ int FieldHeight(const RulesControls& c) {
                    kFieldHeight);
 }
 
-/// Where the content of a frame begins, below its caption.
-int ContentTop(const Frame& frame) {
-    return frame.Preferred().height + kGap;
+int LabelsWidth(const RulesControls& c) {
+    return Widest({&c.lblCode, &c.lblCondition, &c.lblZone, &c.lblDescription}, 0);
 }
 
-int DetailsHeight(const RulesControls& c) {
+Size LeastDetails(const RulesControls& c) {
     constexpr int kRows = 4;
-    return ContentTop(c.FraRuleDetails) + kRows * FieldHeight(c) + (kRows - 1) * kGap + kPad;
+    const int labels = LabelsWidth(c);
+    const int besideCode = c.lblMin.Preferred().width + c.lblMax.Preferred().width;
+    const int shortFields = 3 * (kGap + kShortField) + 2 * kColumnGap + besideCode;
+    const int lists = kGap + Widest({&c.cboCondition, &c.cboZone}, 0);
+    return {kGap + labels + std::max(shortFields, lists) + kGap,
+            ContentTop(c.FraRuleDetails) + kRows * (FieldHeight(c) + kGap)};
+}
+
+Size ButtonSize(const RulesControls& c) {
+    const Controls buttons{&c.cmdAddList, &c.cmdDeleteList, &c.cmdSaveRules, &c.cmdHelpRules};
+    return {Widest(buttons, kButtonWidth), Tallest(buttons, kButtonHeight)};
+}
+
+Size ArrowsSize(const RulesControls& c) {
+    const int button = ButtonSize(c).height;
+    return {Widest({&c.cmdUpDown}, button), Tallest({&c.cmdUpDown}, 2 * button)};
+}
+
+Size LeastList(const RulesControls& c) {
+    constexpr int kButtons = 4;
+    const Size button = ButtonSize(c);
+    return {kGap + kLeastListWidth + kColumnGap + button.width + kGap,
+            ContentTop(c.fraRulesList) + ArrowsSize(c).height + kGap + kButtons * (button.height + kGap) +
+                kGap};
 }
 
 /// Puts a label in front of a row, centred on its height.
@@ -58,78 +81,85 @@ void PlaceField(Control& field, int left, int rowTop, int rowHeight, int width) 
     field.SetBounds({left, rowTop + (rowHeight - height) / 2, std::max(width, 0), height});
 }
 
+/// Places the buttons from that line down.
+void PlaceButtons(RulesControls& c, int left, int top) {
+    const Size button = ButtonSize(c);
+    const Size arrows = ArrowsSize(c);
+    c.cmdUpDown.SetBounds({left + (button.width - arrows.width) / 2, top, arrows.width, arrows.height});
+    top += arrows.height + 2 * kGap;
+    for (auto* each : {&c.cmdAddList, &c.cmdDeleteList, &c.cmdSaveRules, &c.cmdHelpRules}) {
+        each->SetBounds({left, top, button.width, button.height});
+        top += button.height + kGap;
+    }
+}
+
+/// Gives the last column what the others leave of the list's width.
+void FillWithLastColumn(ListView& list) {
+    const std::size_t last = list.Columns().size() - 1;
+    int left = list.Bounds().width - kListBorder;
+    for (std::size_t column = 0; column < last; ++column) {
+        left -= list.Columns()[column].width;
+    }
+    list.SetColumnWidth(last, std::max(left, kLeastDescription));
+}
+
 } // namespace
 
-void LayOutRuleFrames(RulesControls& c, const Size& page) {
-    const int width = std::max(page.width - 2 * kMargin, 0);
-    const int details = DetailsHeight(c);
-    const int list = std::max(page.height - details - 3 * kMargin, 0);
-    c.fraRulesList.SetBounds({kMargin, kMargin, width, list});
-    c.FraRuleDetails.SetBounds({kMargin, kMargin + list + kMargin, width, details});
-    c.fraGridMode.SetBounds({kMargin, kMargin, width, std::max(page.height - 2 * kMargin, 0)});
+Size LeastRulesPage(const RulesControls& c) {
+    const Size list = LeastList(c);
+    const Size details = LeastDetails(c);
+    return {std::max(list.width, details.width) + 2 * kPageMargin,
+            list.height + kGap + details.height + 2 * kPageMargin};
+}
 
-    const auto& grid = c.fraGridMode.Bounds();
+void LayOutRuleFrames(RulesControls& c, const Size& page) {
+    const int width = std::max(page.width - 2 * kPageMargin, 0);
+    const int height = std::max(page.height - 2 * kPageMargin, 0);
+    const int details = LeastDetails(c).height;
+    const int list = std::max(height - kGap - details, 0);
+    c.fraRulesList.SetBounds({kPageMargin, kPageMargin, width, list});
+    c.FraRuleDetails.SetBounds({kPageMargin, kPageMargin + list + kGap, width, details});
+    c.fraGridMode.SetBounds({kPageMargin, kPageMargin, width, height});
+
     const int top = ContentTop(c.fraGridMode);
-    c.grdRules.SetBounds(
-        {kPad, top, std::max(grid.width - 2 * kPad, 0), std::max(grid.height - top - kPad, 0)});
+    c.grdRules.SetBounds({kGap, top, std::max(width - 2 * kGap, 0), std::max(height - top - kGap, 0)});
 }
 
 void LayOutRuleList(RulesControls& c) {
     const auto& frame = c.fraRulesList.Bounds();
     const int top = ContentTop(c.fraRulesList);
-    const auto buttons = {&c.cmdAddList, &c.cmdDeleteList, &c.cmdSaveRules, &c.cmdHelpRules};
-
-    int buttonWidth = kButtonWidth;
-    int buttonHeight = kButtonHeight;
-    for (const auto* button : buttons) {
-        buttonWidth = std::max(buttonWidth, button->Preferred().width);
-        buttonHeight = std::max(buttonHeight, button->Preferred().height);
-    }
-    const int buttonLeft = frame.width - kPad - buttonWidth;
-    const int arrowsHeight = std::max(c.cmdUpDown.Preferred().height, 2 * buttonHeight);
-    const int arrowsWidth = std::max(c.cmdUpDown.Preferred().width, buttonHeight);
-    c.cmdUpDown.SetBounds({buttonLeft + (buttonWidth - arrowsWidth) / 2, top, arrowsWidth, arrowsHeight});
-    int buttonTop = c.cmdUpDown.Bounds().Bottom() + 2 * kGap;
-    for (auto* button : buttons) {
-        button->SetBounds({buttonLeft, buttonTop, buttonWidth, buttonHeight});
-        buttonTop += buttonHeight + kGap;
-    }
-
-    const int listWidth = std::max(buttonLeft - kColumnGap - kPad, 0);
-    c.lstRulesList.SetBounds({kPad, top, listWidth, std::max(frame.height - top - kPad, 0)});
-    int others = kListBorder;
-    for (std::size_t column = 0; column + 1 < c.lstRulesList.Columns().size(); ++column) {
-        others += c.lstRulesList.Columns()[column].width;
-    }
-    c.lstRulesList.SetColumnWidth(c.lstRulesList.Columns().size() - 1,
-                                  std::max(listWidth - others, kLeastDescription));
+    const int buttonsLeft = frame.width - kGap - ButtonSize(c).width;
+    PlaceButtons(c, buttonsLeft, top);
+    c.lstRulesList.SetBounds(
+        {kGap, top, std::max(buttonsLeft - kColumnGap - kGap, 0), std::max(frame.height - top - kGap, 0)});
+    FillWithLastColumn(c.lstRulesList);
 }
 
 void LayOutRuleDetails(RulesControls& c) {
     const int height = FieldHeight(c);
-    const int right = c.FraRuleDetails.Bounds().width - kPad;
-    const int labels = Widest({&c.lblCode, &c.lblCondition, &c.lblZone, &c.lblDescription});
-    const int fields = kPad + labels + kGap;
+    const int right = c.FraRuleDetails.Bounds().width - kGap;
+    const int labels = LabelsWidth(c);
+    const int fields = kGap + labels + kGap;
     int top = ContentTop(c.FraRuleDetails);
 
     int left = fields;
     const auto placeShort = [&](Label& label, TextBox& box, int labelLeft) {
-        const int labelWidth = labelLeft == kPad ? labels : label.Preferred().width;
+        const int labelWidth = labelLeft == kGap ? labels : label.Preferred().width;
         PlaceLabel(label, labelLeft, top, height, labelWidth);
         left = labelLeft + labelWidth + kGap;
         PlaceField(box, left, top, height, kShortField);
         left = box.Bounds().Right() + kColumnGap;
     };
-    placeShort(c.lblCode, c.txtCode, kPad);
+    placeShort(c.lblCode, c.txtCode, kGap);
     placeShort(c.lblMin, c.txtMin, left);
     placeShort(c.lblMax, c.txtMax, left);
 
     const auto placeLong = [&](Label& label, Control& field, int width) {
         top += height + kGap;
-        PlaceLabel(label, kPad, top, height, labels);
+        PlaceLabel(label, kGap, top, height, labels);
         PlaceField(field, fields, top, height, std::min(width, right - fields));
     };
-    const int listWidth = Widest({&c.cboCondition, &c.cboZone});
+    const int listWidth = Widest({&c.cboCondition, &c.cboZone}, 0);
     placeLong(c.lblCondition, c.cboCondition, std::max(listWidth, c.txtMax.Bounds().Right() - fields));
     placeLong(c.lblZone, c.cboZone, std::max(listWidth, c.txtMax.Bounds().Right() - fields));
     placeLong(c.lblDescription, c.txtDescription, right - fields);

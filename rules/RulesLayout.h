@@ -10,6 +10,8 @@ namespace zy {
 
 /// Lays out the list frame and the detail frame inside a page of that size, and the grid frame over both.
 void LayOutRuleFrames(RulesControls& controls, const Size& page);
+/// The least size of the page in which every control has what it needs.
+Size LeastRulesPage(const RulesControls& controls);
 /// Lays out the list and the buttons beside it.
 void LayOutRuleList(RulesControls& controls);
 /// Lays out the detail form.

@@ -10,4 +10,7 @@ namespace zy {
 /// A size that would not be positive is left as it is.
 void LayOutUnits(UnitsControls& controls, SettingsForm& form);
 
+/// The least inner size of the window in which the page's controls have what they need.
+Size LeastInnerSizeForUnits(UnitsControls& controls, const SettingsForm& form);
+
 } // namespace zy

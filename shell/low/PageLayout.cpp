@@ -6,11 +6,12 @@ namespace zy {
 namespace {
 
 constexpr int kStripLeft = 300;
+constexpr int kBesideStrip = 500; // left and right of it
 constexpr int kStripHeight = 550;
-constexpr int kBelowStrip = 100;
 constexpr int kButtonTop = 150;
 constexpr int kButtonHeight = 350;
 constexpr int kBelowButtons = 50;
+constexpr int kLeastBetweenButtons = 50;
 
 /// The size of all buttons.
 Size ButtonSize(std::span<CommandButton* const> buttons, int stripWidth) {
@@ -20,6 +21,10 @@ Size ButtonSize(std::span<CommandButton* const> buttons, int stripWidth) {
         size.height = std::max(size.height, button->Preferred().height);
     }
     return size;
+}
+
+int StripHeight(const Size& button) {
+    return std::max(kStripHeight, kButtonTop + button.height + kBelowButtons);
 }
 
 } // namespace
@@ -37,11 +42,27 @@ void PlacePageFrame(Frame& frame, const SettingsForm& form) {
                   inner.height - 2 * kPageMargin - statusBar});
 }
 
+Size LeastInnerSize(const Size& frame, const SettingsForm& form) {
+    return {frame.width + 2 * kPageMargin,
+            frame.height + 2 * kPageMargin + form.zyStatusBar.Preferred().height};
+}
+
+int ContentTop(const Frame& frame) {
+    return std::max(frame.Preferred().height, kGap) + kGap;
+}
+
+Size ButtonStrip::LeastFrame(std::span<CommandButton* const> buttons, const Size& above) {
+    const int count = static_cast<int>(buttons.size());
+    const Size button = ButtonSize(buttons, 0);
+    const int width = kBesideStrip + count * button.width + (count + 1) * kLeastBetweenButtons;
+    return {std::max(width, above.width), above.height + StripHeight(button) + kGap};
+}
+
 ButtonStrip::ButtonStrip(std::span<CommandButton* const> buttons, const Rect& frame) : buttons_(buttons) {
-    const int width = frame.width - 500;
+    const int width = frame.width - kBesideStrip;
     button_ = ButtonSize(buttons, width);
-    const int height = std::max(kStripHeight, kButtonTop + button_.height + kBelowButtons);
-    bounds_ = {kStripLeft, frame.height - kBelowStrip - height, width, height};
+    const int height = StripHeight(button_);
+    bounds_ = {kStripLeft, frame.height - kGap - height, width, height};
 }
 
 void ButtonStrip::PlaceButtons(int left, int top) const {
