@@ -32,9 +32,13 @@ class Form : public Container {
 
     /// The room for controls, without menu bar and borders but with the status bar's.
     const Size& InnerSize() const { return innerSize_; }
+    /// The least inner size in which all controls have the room that they need; none when nobody tells. A
+    /// view that has less room pretends to have this much, and lets a person scroll.
+    Size LeastInnerSize() const { return leastInnerSize ? leastInnerSize() : Size(); }
     /// Takes the size from the window system and raises `resize`, also when only the state changed.
     void SetInnerSize(const Size& size);
 
+    std::function<Size()> leastInnerSize;
     Event<> focusChanged;
     Event<> stateChanged;
     Event<> resize;

@@ -184,6 +184,11 @@ bool RulesPage::SaveAtClosing() {
     return rules_.Write_Rules_File();
 }
 
+Size RulesPage::LeastInnerSize() {
+    const Size page = LeastRulesPage(controls);
+    return {page.width, page.height + form_.zyStatusBar.Preferred().height};
+}
+
 void RulesPage::ResizeRuleTab() {
     const auto& inner = form_.InnerSize();
     const int height = std::max(inner.height - form_.zyStatusBar.Preferred().height, 0);

@@ -63,6 +63,7 @@ class RulesPage : public Editor {
     void Show() override;
     void Resize() override { ResizeRuleTab(); }
     void CommitOpenCell() override {} // the list has no cells
+    Size LeastInnerSize() override;
     bool HasUnsavedChanges() const override { return form_.ChangeFlag; }
     void Save() override;
     bool SaveAtClosing() override;

@@ -292,4 +292,8 @@ void SecurityPage::ResizeSecurity() {
     LayOutSecurity(controls, form_);
 }
 
+Size SecurityPage::LeastInnerSize() {
+    return LeastInnerSizeForSecurity(controls, form_);
+}
+
 } // namespace zy

@@ -38,6 +38,7 @@ class SecurityPage : public Editor {
     void Show() override { LoadSecurity(); }
     void Resize() override { ResizeSecurity(); }
     void CommitOpenCell() override { controls.grdSecurity.CommitEdit(); }
+    Size LeastInnerSize() override;
     bool HasUnsavedChanges() const override { return state_.gbChanged; }
     void Save() override;
     bool SaveAtClosing() override;

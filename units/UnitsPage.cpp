@@ -219,4 +219,8 @@ void UnitsPage::ResizeUnits() {
     LayOutUnits(controls, form_);
 }
 
+Size UnitsPage::LeastInnerSize() {
+    return LeastInnerSizeForUnits(controls, form_);
+}
+
 } // namespace zy

@@ -37,6 +37,7 @@ class UnitsPage : public Editor {
     void Show() override;
     void Resize() override { ResizeUnits(); }
     void CommitOpenCell() override { controls.grdUnits.CommitEdit(); }
+    Size LeastInnerSize() override;
     bool HasUnsavedChanges() const override { return form_.ChangeFlag; }
     void Save() override;
     bool SaveAtClosing() override;

@@ -14,6 +14,10 @@ frmGlobalSettings::frmGlobalSettings(const Parts& parts)
                              {&SharedState::gbSecurityMode, "Security", &parts.security},
                              {&SharedState::gbUnitsMode, "Units", &parts.units}}} {
     parts_.form.resize.Connect([this] { Form_Resize(); });
+    parts_.form.leastInnerSize = [this] {
+        const Mode* mode = InCharge();
+        return mode == nullptr ? Size() : mode->editor->LeastInnerSize();
+    };
     menu.mnuSave.click.Connect([this] { mnuSave_Click(); });
     menu.mnuExit.click.Connect([this] { mnuExit_Click(); });
 }

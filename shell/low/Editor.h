@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controls/Geometry.h"
+
 namespace zy {
 
 /// One of the three editors, as the main window knows it: a page of the window with its controls, over a list
@@ -12,6 +14,8 @@ class Editor {
     virtual void Show() = 0;
     /// Lays the page out in the window's present size.
     virtual void Resize() = 0;
+    /// The least inner size of the window in which the page's controls have what they need.
+    virtual Size LeastInnerSize() = 0;
     /// Takes over the text of a cell that is being edited; nothing when none is.
     virtual void CommitOpenCell() = 0;
     /// Whether closing has to ask about changes first.

@@ -1,4 +1,5 @@
 #include "RulesForm.h"
+#include "shell/PageLayout.h"
 
 namespace zy::test {
 namespace {
@@ -75,6 +76,12 @@ class Layout : public RulesForm {
         }
     }
 
+    /// The frame ends right below and right of what stands in it.
+    static void ExpectToEnd(const Frame& frame, const Control& last) {
+        EXPECT_EQ(frame.Bounds().height - last.Bounds().Bottom(), kGap) << frame.Name();
+        EXPECT_EQ(frame.Bounds().width - last.Bounds().Right(), kGap) << frame.Name();
+    }
+
   private:
     static void ExpectInside(const Control& control, const Rect& outer) {
         const Rect& inner = control.Bounds();
@@ -120,6 +127,35 @@ TEST_F(Layout, HoldsForTheGridToo) {
         ExpectRight(form().fraRules);
         ExpectRight(page().fraGridMode);
     }
+}
+
+TEST_F(Layout, HoldsInTheLeastSizeThatThePageAsksFor) {
+    for (const auto& theme : kThemes) {
+        SCOPED_TRACE(theme.name);
+        Use(theme);
+        form().SetInnerSize(form().LeastInnerSize());
+        ExpectRight(form().fraRules);
+        ExpectRight(page().fraRulesList);
+        ExpectRight(page().FraRuleDetails);
+        EXPECT_GE(page().lstRulesList.Bounds().width, 4500);
+        ExpectToEnd(page().fraRulesList, page().cmdHelpRules);
+        ExpectToEnd(page().FraRuleDetails, page().txtDescription);
+    }
+}
+
+TEST_F(Layout, AsksForNoMoreThanTheLeastWindowHasWhereTextIsOfTheUsualSize) {
+    for (const auto& theme : {kThemes[0], kThemes[3]}) {
+        Use(theme);
+        EXPECT_LT(form().LeastInnerSize().width, kLeast.width - 240);
+        EXPECT_LT(form().LeastInnerSize().height, kLeast.height - 900);
+    }
+}
+
+TEST_F(Layout, AsksForTheRoomThatWideLabelsTake) {
+    Use(kThemes[0]);
+    page().lblMin.SetPreferred({9000, 195});
+    form().SetInnerSize(form().LeastInnerSize());
+    ExpectRight(page().FraRuleDetails);
 }
 
 TEST_F(Layout, GivesThePageAllRoomAboveTheStatusBar) {

@@ -54,6 +54,30 @@ TEST_F(UsersLayout, FillsTheWindowDownToTheStatusBarWithTheFrame) {
     });
 }
 
+TEST_F(UsersLayout, LeavesNothingOutOfTheLeastSizeThatThePageAsksFor) {
+    for (const auto& fonts : kFonts) {
+        for (const Size cells : {Size{1200, 1500}, Size{12000, 1500}}) {
+            SCOPED_TRACE(fonts.name);
+            for (auto* button : Buttons()) {
+                button->SetPreferred(fonts.button);
+            }
+            form().zyStatusBar.SetPreferred({0, fonts.statusBar});
+            grid().SetPreferred(cells);
+            form().SetInnerSize(form().LeastInnerSize());
+            EXPECT_GE(Cells().width, cells.width);
+            EXPECT_GE(Cells().height, cells.height);
+            EXPECT_LE(Cells().Right(), Frame().width - 50);
+            int right = 300;
+            for (const auto* button : Buttons()) {
+                EXPECT_GT(button->Bounds().left, right);
+                right = button->Bounds().Right();
+                EXPECT_LE(button->Bounds().Bottom(), Frame().height);
+            }
+            EXPECT_LT(right, Frame().width - 200);
+        }
+    }
+}
+
 TEST_F(UsersLayout, PutsTheGridAtFiftyAndFiftyAsWideAsTheFrameAllowsAndDownToTheButtons) {
     ForAllSizes([this](const Fonts&) {
         EXPECT_EQ(Cells().left, 50);

@@ -207,6 +207,20 @@ TEST_F(frmGlobalSettingsTest, LaysOutThePageInChargeAlone) {
     expectWidths("@UNITS", 0, 0, 9900);
 }
 
+TEST_F(frmGlobalSettingsTest, NeedsTheRoomThatTheEditorInChargeNeeds) {
+    EXPECT_EQ(SettingsForm().LeastInnerSize(), Size());
+    Start("");
+    EXPECT_EQ(form().LeastInnerSize(), Size());
+    StartAndForget("@SECURITY");
+    EXPECT_EQ(form().LeastInnerSize(), program().securityPage.LeastInnerSize());
+    StartAndForget("@UNITS");
+    EXPECT_EQ(form().LeastInnerSize(), program().unitsPage.LeastInnerSize());
+    EXPECT_NE(form().LeastInnerSize(), program().rulesPage.LeastInnerSize());
+    StartAndForget("@RULES");
+    EXPECT_EQ(form().LeastInnerSize(), program().rulesPage.LeastInnerSize());
+    EXPECT_GT(form().LeastInnerSize().height, 0);
+}
+
 TEST_F(frmGlobalSettingsTest, RunsNoLayoutWhileItIsMinimized) {
     StartAndForget("@UNITS");
     form().SetState(WindowState::Minimized);

@@ -54,6 +54,15 @@ class UnitsLayout : public UnitsTest {
             }
         }
     }
+    /// The buttons stand side by side in their strip.
+    void ExpectApart() {
+        int right = 0;
+        for (const auto* button : Buttons()) {
+            EXPECT_GT(button->Bounds().left, right);
+            right = button->Bounds().Right();
+            ExpectInside(button->Bounds(), {Strip().width, Strip().height});
+        }
+    }
     static bool Overlap(const Rect& a, const Rect& b) {
         return a.left < b.Right() && b.left < a.Right() && a.top < b.Bottom() && b.top < a.Bottom();
     }
@@ -124,6 +133,32 @@ TEST_F(UnitsLayout, GivesTheButtonsTheRoomThatTheirTextsNeed) {
             EXPECT_EQ(button->Bounds().height, std::max(350, fonts.button.height));
         }
     });
+}
+
+TEST_F(UnitsLayout, LeavesNothingOutOfTheLeastSizeThatThePageAsksFor) {
+    for (const auto& fonts : {kNone, kOrdinary, kLarge}) {
+        SCOPED_TRACE(fonts.name);
+        for (const Size cells : {Size{1200, 1500}, Size{1200, 0}, Size{12000, 1500}}) {
+            Use(fonts);
+            grid.SetPreferred(cells);
+            form.SetInnerSize(form.LeastInnerSize());
+            EXPECT_GE(Cells().width, cells.width);
+            EXPECT_GE(Cells().height, cells.height);
+            EXPECT_GE(Arrows().top, fonts.frameCaption);
+            ExpectInside(Arrows(), {Frame().width, Frame().height});
+            ExpectInside(Strip(), {Frame().width, Frame().height});
+            ExpectApart();
+        }
+    }
+}
+
+TEST_F(UnitsLayout, AsksForNoMoreThanTheLeastWindowHasWhereTextIsOfTheUsualSize) {
+    for (const auto& fonts : {kNone, kOrdinary}) {
+        Use(fonts);
+        grid.SetPreferred({1200, 1500});
+        EXPECT_LT(form.LeastInnerSize().width, kLeastWindow.width);
+        EXPECT_LT(form.LeastInnerSize().height, kLeastWindow.height);
+    }
 }
 
 TEST_F(UnitsLayout, GivesTheGridWhatIsLeftBetweenArrowsAndStrip) {
