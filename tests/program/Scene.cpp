@@ -6,12 +6,15 @@
 #include <sstream>
 
 #include "Screen.h"
+#include "support/NeedsDisplay.h"
 
 namespace zy::test {
 
 namespace {
 /// What every record of the program begins with.
 constexpr std::string_view kProgramName = "zyGlobal\t";
+
+const auto* const kNeedsDisplay = ::testing::AddGlobalTestEnvironment(new NeedsDisplay);
 
 /// The lines as they are read from a text file, whatever ends them.
 std::vector<std::string> LinesOf(const std::string& text) {

@@ -146,5 +146,8 @@ class GridTest(ScreenReader):
 
 
 if __name__ == "__main__":
+    if "DISPLAY" not in os.environ:
+        sys.exit("The program's windows need an X display with a window manager: start this with tests/with-display "
+                 "in front of the command, as ./test does.")
     PROGRAM = os.path.abspath(sys.argv.pop(1))
     unittest.main()
