@@ -15,7 +15,8 @@ class CopiedCells {
   public:
     explicit CopiedCells(std::string_view text) : rest_(text) {}
 
-    bool AtEnd() const { return rest_.empty(); }
+    /// Behind a TAB there is one more, be it an empty one at the text's end.
+    bool AtEnd() const { return rest_.empty() && endedRow_; }
     /// The text of the cells that are not taken yet.
     std::string_view Rest() const { return rest_; }
     /// The next cell on one line: a blank stands for each line end and TAB in it. Valid until the next one is

@@ -48,6 +48,15 @@ TEST(CopiedCells, MayBeEmpty) {
     EXPECT_THAT(RowsOf("a\t"), ElementsAre("a||"));
 }
 
+TEST(CopiedCells, AreNotAtTheirEndBehindATab) {
+    CopiedCells cells("a\t");
+    EXPECT_EQ(cells.Take(), "a");
+    EXPECT_FALSE(cells.AtEnd()) << "a TAB has a cell behind it, here an empty one";
+    EXPECT_EQ(cells.Take(), "");
+    EXPECT_TRUE(cells.EndedRow());
+    EXPECT_TRUE(cells.AtEnd());
+}
+
 TEST(CopiedCells, GetABlankForACarriageReturnInside) {
     EXPECT_THAT(RowsOf("a\rb\tc\r\td\r\n"), ElementsAre("a b|c |d|"));
 }

@@ -46,6 +46,18 @@ TEST_F(GridTest, AddsPastedRowsOnlyWhereItMayGrow) {
     EXPECT_EQ(grid.Text(3, 0), "2");
 }
 
+TEST_F(GridTest, AddsARowForATextThatEndsInATab) {
+    grid.SetGrowsByPaste(true);
+    grid.SetRows(1);
+    grid.Paste("1\t");
+    ASSERT_EQ(grid.Rows(), 2);
+    EXPECT_THAT(Row(1), ElementsAre("1", "", ""));
+    grid.Paste("2\n3\t");
+    ASSERT_EQ(grid.Rows(), 3);
+    EXPECT_THAT(Row(2), ElementsAre("3", "", ""));
+    ExpectLeftOut(0, 0);
+}
+
 TEST_F(GridTest, RefusesAPasteBeyondTheLastPossibleRowAsAWhole) {
     grid.SetGrowsByPaste(true);
     grid.Select(2, 0);
