@@ -1,5 +1,7 @@
 #include "platform/memory/MemoryWorld.h"
 
+#include "platform/WorldOf.h"
+
 namespace zy {
 
 MemoryWorld::MemoryWorld(const CodePage& page) : codePage(page) {
@@ -7,16 +9,7 @@ MemoryWorld::MemoryWorld(const CodePage& page) : codePage(page) {
 }
 
 World MemoryWorld::Get() {
-    return {.files = files,
-            .system = system,
-            .traceServers = traceServers,
-            .recycleBin = recycleBin,
-            .registry = registry,
-            .links = links,
-            .dialogs = dialogs,
-            .help = help,
-            .window = window,
-            .codePage = codePage};
+    return WorldOf(*this, {.dialogs = dialogs, .help = help, .window = window});
 }
 
 } // namespace zy

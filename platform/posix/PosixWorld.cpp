@@ -2,6 +2,8 @@
 
 #include <csignal>
 
+#include "platform/WorldOf.h"
+
 namespace zy {
 
 PosixWorld::PosixWorld(int argumentCount, const char* const* arguments)
@@ -10,16 +12,7 @@ PosixWorld::PosixWorld(int argumentCount, const char* const* arguments)
 }
 
 World PosixWorld::Get(const ScreenWorld& screen) {
-    return {.files = files,
-            .system = system,
-            .traceServers = traceServers,
-            .recycleBin = recycleBin,
-            .registry = registry,
-            .links = links,
-            .dialogs = screen.dialogs,
-            .help = screen.help,
-            .window = screen.window,
-            .codePage = codePage};
+    return WorldOf(*this, screen);
 }
 
 } // namespace zy

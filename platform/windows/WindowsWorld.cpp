@@ -1,18 +1,11 @@
 #include "platform/windows/WindowsWorld.h"
 
+#include "platform/WorldOf.h"
+
 namespace zy {
 
 World WindowsWorld::Get(const ScreenWorld& screen) {
-    return {.files = files,
-            .system = system,
-            .traceServers = traceServers,
-            .recycleBin = recycleBin,
-            .registry = registry,
-            .links = links,
-            .dialogs = screen.dialogs,
-            .help = screen.help,
-            .window = screen.window,
-            .codePage = codePage};
+    return WorldOf(*this, screen);
 }
 
 } // namespace zy

@@ -14,6 +14,7 @@
 #include "desktop/MainWindowView.h"
 #include "desktop/Native.h"
 #include "desktop/ShownText.h"
+#include "platform/WorldOf.h"
 #include "shell/mMain.h"
 
 namespace zy::test {
@@ -44,17 +45,7 @@ WindowTest::WindowTest(const std::string& argument) : desktop(Windows1252(), wor
 }
 
 World WindowTest::OutsideWorld() {
-    const ScreenWorld screen = desktop.Get();
-    return {.files = world.files,
-            .system = world.system,
-            .traceServers = world.traceServers,
-            .recycleBin = world.recycleBin,
-            .registry = world.registry,
-            .links = world.links,
-            .dialogs = screen.dialogs,
-            .help = screen.help,
-            .window = screen.window,
-            .codePage = world.codePage};
+    return WorldOf(world, desktop.Get());
 }
 
 int WindowTest::Play(const std::function<void()>& script) {
