@@ -89,7 +89,7 @@ TableContent ContentOfTable(std::string_view file, std::string_view path) {
 
 TableImage::TableImage(std::string file, std::string_view path)
     : bytes_(std::move(file)), header_(ParseTableHeader(bytes_, path)), records_(header_.records),
-      uncounted_(0), language_(ByteAt(bytes_, kLanguageAt)) {
+      language_(ByteAt(bytes_, kLanguageAt)) {
     if (const auto content = ContentOf(bytes_, header_); !content.damage.empty()) {
         RaiseBadFormat(path, content.damage);
     }

@@ -106,7 +106,7 @@ class TableImage {
     std::string cut_;   ///< the same with fewer records
     TableHeader header_;
     std::uint32_t records_;
-    std::uint32_t uncounted_;
+    std::uint32_t uncounted_ = 0;
     std::size_t replaced_ = 0;
     std::uint8_t language_; ///< byte 29 of the header as it was read
 };

@@ -61,7 +61,7 @@ class LineLayout {
     }
     /// Writes such lines as many as follow one another, none of them behind `lastPlace`. Moves on to the line
     /// behind them and returns their end.
-    char* PutPlainLines(Line& line, Line end, char* at, const char* lastPlace) const {
+    char* PutPlainLines(Line& line, const Line& end, char* at, const char* lastPlace) const {
         auto next = line;
         for (; next != end && next->IsInFile() && at <= lastPlace; ++next) {
             at = PutPlainLine(next->Section(), next->Value(), at);
