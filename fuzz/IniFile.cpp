@@ -4,7 +4,8 @@
 #include "Targets.h"
 #include "basics/Text.h"
 #include "ini/INIfile.h"
-#include "platform/memory/MemoryWorld.h"
+#include "platform/memory/MemoryFileSystem.h"
+#include "platform/memory/MemoryTraceServers.h"
 
 namespace zy::fuzz {
 namespace {
@@ -43,10 +44,10 @@ std::vector<Line> LinesOf(std::string_view text) {
     return lines;
 }
 
-/// A settings file in a world of its own.
+/// A settings file on a disk of its own.
 struct Document {
     explicit Document(std::string_view bytes) {
-        world.files.Put(kFile, bytes);
+        disk.Put(kFile, bytes);
         file.LoadFile(kFile);
     }
 
@@ -54,12 +55,13 @@ struct Document {
 
     std::string Saved() {
         file.SaveFile(kFile);
-        return world.files.Get(kFile).value_or("nothing was saved");
+        return disk.Get(kFile).value_or("nothing was saved");
     }
 
-    MemoryWorld world;
-    TraceChannel trace{world.traceServers, "fuzz"};
-    INIfile file{world.files, Windows1252(), trace};
+    MemoryFileSystem disk{Windows1252()};
+    MemoryTraceServers servers;
+    TraceChannel trace{servers, "fuzz"};
+    INIfile file{disk, Windows1252(), trace};
 };
 
 void RequireLines(INIlines& lines, const std::vector<Line>& expected) {

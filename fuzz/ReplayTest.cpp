@@ -21,15 +21,17 @@ void PrintTo(const Target& target, std::ostream* out) {
     *out << target.name;
 }
 
-constexpr std::array<Target, 9> kTargets{{{"FileNames", FileNames},
-                                          {"IndexFile", IndexFile},
-                                          {"IniFile", IniFile},
-                                          {"Numbers", Numbers},
-                                          {"RulesBlocks", RulesBlocks},
-                                          {"RulesFile", RulesFile},
-                                          {"SqlStatement", SqlStatement},
-                                          {"TableFile", TableFile},
-                                          {"Texts", Texts}}};
+constexpr std::array<Target, 11> kTargets{{{"FileNames", FileNames},
+                                           {"IndexFile", IndexFile},
+                                           {"IniFile", IniFile},
+                                           {"Numbers", Numbers},
+                                           {"PastedCells", PastedCells},
+                                           {"RulesBlocks", RulesBlocks},
+                                           {"RulesFile", RulesFile},
+                                           {"SqlStatement", SqlStatement},
+                                           {"TableFile", TableFile},
+                                           {"Texts", Texts},
+                                           {"UnitsText", UnitsText}}};
 
 std::string Bytes(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary);

@@ -1,38 +1,13 @@
 #include <algorithm>
 #include <deque>
-#include <memory>
 #include <string>
-#include <utility>
 
+#include "BytesFile.h"
 #include "Targets.h"
 #include "rules/RulesReader.h"
 
 namespace zy::fuzz {
 namespace {
-
-/// A file that is read in small pieces, as a slow medium hands them out.
-class PiecewiseFile final : public FileHandle {
-  public:
-    PiecewiseFile(std::string_view text, std::size_t piece) : text_(text), piece_(piece) {}
-
-    std::uint64_t Size() const override { return text_.size(); }
-
-    std::size_t Read(std::span<char> buffer) override {
-        const auto read = text_.substr(at_, std::min(piece_, buffer.size()));
-        std::copy(read.begin(), read.end(), buffer.begin());
-        at_ += read.size();
-        return read.size();
-    }
-
-    FileError Write(std::string_view) override { return FileError::AccessDenied; }
-    FileError Flush() override { return FileError::None; }
-    FileError Close() override { return FileError::None; }
-
-  private:
-    std::string_view text_;
-    std::size_t piece_;
-    std::size_t at_ = 0;
-};
 
 struct Reading {
     std::deque<RunRule> rules;
@@ -41,7 +16,7 @@ struct Reading {
 
 Reading Read(std::string_view text, std::size_t piece) {
     Reading reading;
-    PiecewiseFile file(text, piece);
+    BytesFile file(text, piece);
     reading.report = ReadRules(file, reading.rules);
     Require(reading.report.complete, "every byte is read");
     return reading;

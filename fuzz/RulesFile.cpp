@@ -1,36 +1,42 @@
 #include <array>
+#include <deque>
 #include <string>
-#include <vector>
 
+#include "BytesFile.h"
 #include "Targets.h"
 #include "basics/Text.h"
-#include "platform/memory/MemoryWorld.h"
-#include "rules/mRules.h"
+#include "rules/RuleList.h"
+#include "rules/RulesFileText.h"
+#include "rules/RulesReader.h"
 
 namespace zy::fuzz {
 namespace {
 
-constexpr std::string_view kRulesFile = R"(C:\SYS\ZYRules.sys)";
-
-/// A run of the rules editor over a file: what it held, and what a save without any edit leaves.
+/// What a load and a save without any edit make of a file.
 struct Run {
-    std::vector<RunRule> rules;
+    std::deque<RunRule> rules;
     std::size_t skippedLines = 0;
     std::string saved;
 };
 
+/// As the editor does on loading.
+std::string JoinedPieces(const RunRule& rule) {
+    return std::string(Trim(rule.Description)) + ' ' + std::string(Trim(rule.Desc2)) + ' ' +
+           std::string(Trim(rule.Desc3));
+}
+
 Run LoadAndSave(std::string_view bytes) {
-    MemoryWorld world;
-    world.files.Put(kRulesFile, bytes);
-    TraceChannel trace(world.traceServers, "fuzz");
-    mRules rules(world.Get(), trace);
-    rules.Build_Rules_Array();
-    Run run{.rules = {}, .skippedLines = rules.SkippedLines(), .saved = {}};
-    for (int i = 1; i <= rules.gaRules.UBound(); ++i) {
-        run.rules.push_back(rules.gaRules(i));
+    Run run;
+    BytesFile file(bytes);
+    const auto report = ReadRules(file, run.rules);
+    Require(report.complete, "every byte is read");
+    run.skippedLines = report.skippedLines;
+    RuleList list;
+    for (auto& rule : run.rules) {
+        rule.Description = JoinedPieces(rule);
+        list.Append(rule);
     }
-    rules.Write_Rules_File();
-    run.saved = world.files.Get(kRulesFile).value_or("nothing was saved");
+    run.saved = RulesFileText(list);
     return run;
 }
 

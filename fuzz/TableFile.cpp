@@ -1,56 +1,39 @@
+#include <chrono>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "Targets.h"
 #include "basics/RuntimeError.h"
-#include "dbase/DBEngine.h"
 #include "dbase/ErrorNumbers.h"
 #include "dbase/IndexBuilder.h"
+#include "dbase/Recordset.h"
+#include "dbase/TableImage.h"
 #include "index/IndexChecks.h"
-#include "platform/memory/MemoryFileSystem.h"
 
 namespace zy::fuzz {
 namespace {
 
-using dbase::Database;
-using dbase::ExecuteOptions;
-using dbase::RecordsetType;
+using dbase::TableImage;
 using Row = std::vector<std::string>;
 
-constexpr std::string_view kTable = R"(C:\SYS\T.DBF)";
-constexpr std::string_view kIndex = R"(C:\SYS\T.NDX)";
-
-/// A database whose only table has any bytes.
-struct World {
-    explicit World(std::string_view bytes) { files.Put(kTable, bytes); }
-
-    MemoryFileSystem files{Windows1252()};
-    dbase::DBEngine engine{files, [] {
-                               using namespace std::chrono;
-                               return year_month_day(2026y / November / 20);
-                           }};
-    std::unique_ptr<Database> database = engine.OpenDatabase(R"(C:\SYS)", false, false, "dBase III");
-};
-
-/// True when the action is done, false when a table or an index is refused. Nothing else may be raised.
-template <typename Action>
-bool IsDone(const Action& action) {
+/// The table of a file; nothing when it is refused. Nothing else may be raised.
+std::optional<TableImage> TableIn(std::string_view bytes) {
     try {
-        action();
-        return true;
+        return TableImage(std::string(bytes), "T.DBF");
     } catch (const RuntimeError& error) {
         Require(error.Number() == dbase::kBadFormat, "what is no table is refused as such");
-        return false;
+        return std::nullopt;
     }
 }
 
-std::vector<Row> RowsOf(Database& database) {
-    const auto records = database.OpenRecordset("T", RecordsetType::Dynaset);
+std::vector<Row> RowsOf(TableImage table) {
+    dbase::Recordset records(std::move(table));
     std::vector<Row> rows;
-    for (; !records->Eof(); records->MoveNext()) {
+    for (; !records.Eof(); records.MoveNext()) {
         Row row;
-        for (int i = 0; i < records->Fields().Count(); ++i) {
-            row.emplace_back(records->Fields().Item(i).Value());
+        for (int i = 0; i < records.Fields().Count(); ++i) {
+            row.emplace_back(records.Fields().Item(i).Value());
             Require(!row.back().ends_with(' ') && !row.back().ends_with('\0'),
                     "a value ends before its blanks");
         }
@@ -59,34 +42,36 @@ std::vector<Row> RowsOf(Database& database) {
     return rows;
 }
 
-/// The first text column that a statement can name; nothing when there is none.
-std::string FirstTextColumn(const dbase::TableImage& table) {
-    for (const auto& field : table.Fields()) {
-        const bool canBeNamed = !field.name.empty() && field.name.find(']') == std::string::npos;
-        if (canBeNamed && dbase::CanBeIndexed(field) &&
-            &table.Fields()[*table.FindField(field.name)] == &field) {
-            return field.name;
+/// The first text column; nothing when there is none.
+std::optional<std::size_t> FirstTextColumn(const TableImage& table) {
+    for (std::size_t i = 0; i != table.Fields().size(); ++i) {
+        if (dbase::CanBeIndexed(table.Fields()[i])) {
+            return i;
         }
     }
-    return {};
+    return std::nullopt;
 }
 
-/// A row is added behind those that are there, and they stay.
-void CheckAdding(World& world, const std::string& column, std::vector<Row> rows) {
-    const auto before = world.files.Get(kTable);
-    world.database->Execute("INSERT INTO T ([" + column + "]) VALUES ('x')", ExecuteOptions::FailOnError);
-    const auto after = RowsOf(*world.database);
+/// A row is added behind those that are there, and they stay. Returns the table as its file then has it.
+TableImage CheckAdding(TableImage table, std::size_t column) {
+    using namespace std::chrono;
+    const auto rows = RowsOf(table);
+    std::vector<std::string_view> values(table.Fields().size());
+    values[column] = "x";
+    table.Append(values);
+    auto written = TableIn(table.FileBytes(table.Records(), year_month_day(2026y / November / 20)));
+    Require(written.has_value(), "what was written is a table");
+    const auto after = RowsOf(*written);
     Require(after.size() == rows.size() + 1, "one row is added");
     Require(std::equal(rows.begin(), rows.end(), after.begin()), "the other rows stay");
-    Require(world.files.Names(R"(C:\SYS)").size() == 1, "no other file is left behind");
+    return std::move(*written);
 }
 
 /// An index of the table is sound.
-void CheckIndexing(World& world, const std::string& column) {
-    world.database->Execute("CREATE INDEX T ON T ([" + column + "])");
-    const dbase::TableImage table(world.files.Get(kTable).value(), kTable);
-    const dbase::IndexFile index(world.files.Get(kIndex).value(), std::string(kIndex));
-    if (index.Expression() == column) {
+void CheckIndexing(const TableImage& table, std::size_t column) {
+    const dbase::IndexFile index(dbase::BuildIndex(table, column), "T.NDX");
+    const auto named = table.FindField(index.Expression());
+    if (named == column) {
         dbase::RequireIndexOf(table, index);
     }
     for (const auto& entry : index.Walk()) {
@@ -97,16 +82,12 @@ void CheckIndexing(World& world, const std::string& column) {
 } // namespace
 
 void TableFile(std::string_view input) {
-    World world(input);
-    std::vector<Row> rows;
-    if (!IsDone([&] { rows = RowsOf(*world.database); })) {
-        Require(world.files.Get(kTable) == input, "what is refused is left alone");
+    auto table = TableIn(input);
+    if (!table) {
         return;
     }
-    const auto column = FirstTextColumn(dbase::TableImage(std::string(input), kTable));
-    if (!column.empty()) {
-        CheckAdding(world, column, std::move(rows));
-        CheckIndexing(world, column);
+    if (const auto column = FirstTextColumn(*table)) {
+        CheckIndexing(CheckAdding(std::move(*table), *column), *column);
     }
 }
 

@@ -17,6 +17,8 @@ void IndexFile(std::string_view input);
 void IniFile(std::string_view input);
 /// The parser of numbers, against the C library's.
 void Numbers(std::string_view input);
+/// A text pasted into a grid, copied from there, and pasted into another one.
+void PastedCells(std::string_view input);
 /// Reading a rules file block by block, against reading it whole.
 void RulesBlocks(std::string_view input);
 /// A rules file through load, save and load again.
@@ -27,6 +29,8 @@ void SqlStatement(std::string_view input);
 void TableFile(std::string_view input);
 /// Fields, quotes, NULs and paths.
 void Texts(std::string_view input);
+/// The text of a units file, against the plainest way to read it, and written again from a grid.
+void UnitsText(std::string_view input);
 
 class BrokenPromise : public std::logic_error {
   public:

@@ -1,0 +1,72 @@
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "Targets.h"
+#include "controls/Form.h"
+#include "controls/Grid.h"
+
+namespace zy::fuzz {
+namespace {
+
+constexpr int kColumns = 3;
+constexpr int kListColumn = 1;
+
+/// An empty grid that grows, one column of which takes the items of a list alone.
+struct Sheet {
+    Sheet() {
+        form.SetVisible(true);
+        grid.SetGrowsByPaste(true);
+        grid.SetColumnList(kListColumn, "A|I");
+        grid.pasted.Connect([this](const PasteReport& paste) { report = paste; });
+    }
+
+    std::vector<std::string> Cells() const {
+        std::vector<std::string> cells;
+        for (int row = 1; row < grid.Rows(); ++row) {
+            const auto texts = grid.RowTexts(row);
+            cells.insert(cells.end(), texts.begin(), texts.end());
+        }
+        return cells;
+    }
+
+    Form form{"frmSheet"};
+    Grid grid{&form, "grdSheet", kColumns};
+    PasteReport report;
+};
+
+void RequirePlainCells(const Grid& grid) {
+    for (int row = 1; row < grid.Rows(); ++row) {
+        const auto texts = grid.RowTexts(row);
+        Require(
+            std::none_of(texts.begin(), texts.end(),
+                         [](auto text) { return text.find_first_of("\t\n\r") != std::string_view::npos; }),
+            "a cell is one line without TAB");
+        const auto choice = texts[kListColumn];
+        Require(choice.empty() || choice == "A" || choice == "I", "a list's cell holds an item or nothing");
+    }
+}
+
+void RequireSaneReport(const Sheet& sheet, std::string_view input) {
+    const auto& report = sheet.report;
+    Require(report.rowsLeftOut == 0 && report.columnsLeftOut >= 0, "a grid that grows takes every row");
+    Require(report.tooLong == (!input.empty() && sheet.grid.Rows() == 1), "all is pasted or nothing");
+    Require((report.cellsRefused == 0) == report.textRefused.empty(), "a refused text is named");
+}
+
+} // namespace
+
+void PastedCells(std::string_view input) {
+    Sheet first;
+    first.grid.Paste(input);
+    RequirePlainCells(first.grid);
+    RequireSaneReport(first, input);
+
+    first.grid.SelectAll();
+    Sheet second;
+    second.grid.Paste(first.grid.Copy());
+    Require(second.Cells() == first.Cells(), "what is copied is pasted as it was");
+    Require(second.report.cellsRefused == 0 && second.report.columnsLeftOut == 0, "and nothing is left out");
+}
+
+} // namespace zy::fuzz
