@@ -6,7 +6,7 @@
 namespace zy {
 
 // The names of the users' files. The table is always written under this one, whatever it was called when it
-// was read: the product's other programs look for it there.
+// was read, which is meant.
 inline constexpr std::string_view kUsersTableName = "ZYSECURE.DBF";
 inline constexpr std::string_view kUsersTemporaryName = "ZYSECURE.TMP";
 inline constexpr std::string_view kUsersIndexName = "ZYSECURE.NDX";
