@@ -20,7 +20,7 @@ class RulesEditor {
     explicit RulesEditor(std::string_view folder) : world_(folder) {}
 
     std::unique_ptr<mRules> Load() {
-        auto rules = std::make_unique<mRules>(world_.Get(), world_.Trace());
+        auto rules = std::make_unique<mRules>(world_.Get().files, world_.Get().system, world_.Trace());
         rules->Build_Rules_Array();
         return rules;
     }

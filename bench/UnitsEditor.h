@@ -12,7 +12,8 @@ namespace zy::bench {
 
 /// The units page without a window.
 struct Units {
-    Units(FileWorld& world, const std::string& file) : page(form, state, world.Trace(), world.Get()) {
+    Units(FileWorld& world, const std::string& file)
+        : page(form, state, world.Trace(), world.Get().files, world.Get().dialogs) {
         state.gsUnitsFile = file;
         form.SetVisible(true);
         form.FraUnits.SetVisible(true);

@@ -12,7 +12,9 @@ namespace zy::bench {
 
 /// The users page without a window.
 struct Users {
-    Users(FileWorld& world, const std::string& file) : page(form, state, world.Trace(), world.Get()) {
+    Users(FileWorld& world, const std::string& file)
+        : page(form, state, world.Trace(), world.Get().files, world.Get().recycleBin, world.Get().system,
+               world.Get().dialogs, world.Get().codePage) {
         state.gsSecurityFile = file;
         form.SetVisible(true);
         form.fraSecurity.SetVisible(true);
@@ -35,7 +37,7 @@ class UsersEditor {
         : world_(folder), file_(std::string(folder) + '\\' + kFile.name) {}
 
     std::unique_ptr<Users> Load() { return std::make_unique<Users>(world_, file_); }
-    static int Count(const Users& users) { return users.page.GridRows() - 1; }
+    static int Count(const Users& users) { return users.page.controls.grdSecurity.Rows() - 1; }
     static void Save(Users& users) { users.page.cmdSaveUsers_Click(); }
 
   private:

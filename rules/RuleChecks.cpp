@@ -12,19 +12,20 @@ constexpr char kQuote = '"';
 
 } // namespace
 
-RuleChecks::RuleChecks(const RuleList& rules, const World& world, TraceChannel& trace)
-    : rules_(rules), world_(world), trace_(trace) {}
+RuleChecks::RuleChecks(const RuleList& rules, SystemInfo& system, Dialogs& dialogs, const CodePage& codePage,
+                       TraceChannel& trace)
+    : rules_(rules), system_(system), dialogs_(dialogs), codePage_(codePage), trace_(trace) {}
 
 void RuleChecks::Start(std::string_view procedure) {
     trace_.DebugTrace(kRulesModule, procedure, "Start");
 }
 
 void RuleChecks::ShowRuleError(std::string_view message, std::string_view title) {
-    world_.dialogs.ShowMessage(message, title);
+    dialogs_.ShowMessage(message, title);
 }
 
 std::string RuleChecks::ComparedCode(std::string_view code) const {
-    return world_.codePage.UCase(Trim(code));
+    return codePage_.UCase(Trim(code));
 }
 
 RuleChecks::CodeCounts RuleChecks::CountCodes() const {
@@ -86,7 +87,7 @@ bool RuleChecks::CheckCount(std::string_view text, std::string_view name) {
         return true;
     }
     const std::string field(name);
-    const bool isNumber = ParseNumber(text, world_.system.DecimalSeparator()).has_value();
+    const bool isNumber = ParseNumber(text, system_.DecimalSeparator()).has_value();
     ShowRuleError(field + (isNumber ? " Must be between 1 and 100" : " Must be a Numeric Value"),
                   "Invalid Rule " + field + " Value");
     return false;
@@ -95,12 +96,12 @@ bool RuleChecks::CheckCount(std::string_view text, std::string_view name) {
 bool RuleChecks::IsCount(std::string_view text) const {
     constexpr double kLeast = 1;
     constexpr double kMost = 100;
-    const auto number = ParseNumber(text, world_.system.DecimalSeparator());
+    const auto number = ParseNumber(text, system_.DecimalSeparator());
     return number && *number >= kLeast && *number <= kMost;
 }
 
 double RuleChecks::NumberOf(std::string_view text) const {
-    return ParseNumber(text, world_.system.DecimalSeparator()).value_or(0);
+    return ParseNumber(text, system_.DecimalSeparator()).value_or(0);
 }
 
 bool RuleChecks::Verify_MinMax(std::string_view minText, std::string_view maxText) {

@@ -8,7 +8,9 @@
 #include "basics/Int16.h"
 #include "controls/Grid.h"
 #include "controls/TextBox.h"
-#include "platform/World.h"
+#include "platform/CodePage.h"
+#include "platform/Dialogs.h"
+#include "platform/SystemInfo.h"
 #include "rules/RuleList.h"
 #include "shell/TraceChannel.h"
 
@@ -17,7 +19,8 @@ namespace zy {
 /// The checks of a rule's fields. Each shows its own message on failure; none changes a rule.
 class RuleChecks {
   public:
-    RuleChecks(const RuleList& rules, const World& world, TraceChannel& trace);
+    RuleChecks(const RuleList& rules, SystemInfo& system, Dialogs& dialogs, const CodePage& codePage,
+               TraceChannel& trace);
 
     /// True when the code is acceptable for the rule at `index`: 1 to 3 characters, no double quote, and no
     /// other rule has it, whatever the case and the blanks around.
@@ -53,7 +56,9 @@ class RuleChecks {
     void Start(std::string_view procedure);
 
     const RuleList& rules_;
-    World world_;
+    SystemInfo& system_;
+    Dialogs& dialogs_;
+    const CodePage& codePage_;
     TraceChannel& trace_;
 };
 

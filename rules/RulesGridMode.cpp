@@ -22,9 +22,8 @@ std::string TabJoined(const RunRule& rule) {
 } // namespace
 
 RulesGridMode::RulesGridMode(mRules& rules, RulesControls& controls, SettingsForm& form, SharedState& state,
-                             TraceChannel& trace, const World& world)
-    : rules_(rules), grid_(controls.grdRules), form_(form), state_(state), trace_(trace),
-      checks_(rules.gaRules, world, trace) {
+                             TraceChannel& trace, RuleChecks& checks)
+    : rules_(rules), grid_(controls.grdRules), form_(form), state_(state), trace_(trace), checks_(checks) {
     Connect();
 }
 

@@ -19,7 +19,7 @@ class mRules;
 class RulesGridMode {
   public:
     RulesGridMode(mRules& rules, RulesControls& controls, SettingsForm& form, SharedState& state,
-                  TraceChannel& trace, const World& world);
+                  TraceChannel& trace, RuleChecks& checks);
 
     /// Fills the grid anew from the rules, in time linear in them. Text that is being typed is dropped, no
     /// cell is current, and no mark is set.
@@ -57,7 +57,7 @@ class RulesGridMode {
     SettingsForm& form_;
     SharedState& state_;
     TraceChannel& trace_;
-    RuleChecks checks_;
+    RuleChecks& checks_;
 };
 
 } // namespace zy

@@ -18,11 +18,11 @@ std::string_view CellOf(const RunRule& rule, int column) {
 
 } // namespace
 
-RulesPage::RulesPage(mRules& rules, SettingsForm& form, SharedState& state, TraceChannel& trace,
-                     const World& world)
+RulesPage::RulesPage(mRules& rules, RuleChecks& checks, SettingsForm& form, SharedState& state,
+                     TraceChannel& trace, Dialogs& dialogs, const CodePage& codePage)
     : controls(form.fraRules, [&rules](int item, int column) { return CellOf(rules.gaRules(item), column); }),
-      gridMode(rules, controls, form, state, trace, world), rules_(rules), form_(form), state_(state),
-      trace_(trace), world_(world), checks_(rules.gaRules, world, trace) {
+      gridMode(rules, controls, form, state, trace, checks), rules_(rules), form_(form), state_(state),
+      trace_(trace), dialogs_(dialogs), codePage_(codePage), checks_(checks) {
     ConnectButtons();
     ConnectDetails();
     gridMode.countChanged.Connect([this] { ShowStatus(CountText()); });
@@ -92,10 +92,10 @@ void RulesPage::FillDetails(int index) {
             controls.cboCondition.SetListIndex(static_cast<int>(item));
         }
     }
-    const auto zone = world_.codePage.UCase(rule.Zone);
+    const auto zone = codePage_.UCase(rule.Zone);
     const auto& zones = controls.cboZone.Items();
     for (std::size_t item = 0; item < zones.size(); ++item) {
-        if (world_.codePage.UCase(zones[item]).find(zone) != std::string::npos) {
+        if (codePage_.UCase(zones[item]).find(zone) != std::string::npos) {
             controls.cboZone.SetListIndex(static_cast<int>(item));
             break;
         }

@@ -4,7 +4,8 @@
 #include <string_view>
 
 #include "basics/Int16.h"
-#include "platform/World.h"
+#include "platform/CodePage.h"
+#include "platform/Dialogs.h"
 #include "rules/RuleChecks.h"
 #include "rules/RulesControls.h"
 #include "rules/RulesGridMode.h"
@@ -21,7 +22,8 @@ class mRules;
 /// mode.
 class RulesPage : public Editor {
   public:
-    RulesPage(mRules& rules, SettingsForm& form, SharedState& state, TraceChannel& trace, const World& world);
+    RulesPage(mRules& rules, RuleChecks& checks, SettingsForm& form, SharedState& state, TraceChannel& trace,
+              Dialogs& dialogs, const CodePage& codePage);
 
     /// Shows the list and the detail form as they stand, to be filled by LoadRulesListMode; the grid is
     /// hidden.
@@ -107,8 +109,9 @@ class RulesPage : public Editor {
     SettingsForm& form_;
     SharedState& state_;
     TraceChannel& trace_;
-    World world_;
-    RuleChecks checks_;
+    Dialogs& dialogs_;
+    const CodePage& codePage_;
+    RuleChecks& checks_;
     std::string report_; ///< the one shown last
 };
 

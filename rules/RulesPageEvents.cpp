@@ -126,8 +126,7 @@ void RulesPage::cmdDeleteList_Click() {
     if (controls.lstRulesList.Selected() == 0) {
         return;
     }
-    if (world_.dialogs.AskYesNo("Are you Sure you want to Delete this Rule", "Confirm Delete",
-                                Escape::AnswersNo)) {
+    if (dialogs_.AskYesNo("Are you Sure you want to Delete this Rule", "Confirm Delete", Escape::AnswersNo)) {
         DeleteSelected();
     }
     Trace(kForm, "cmdDeleteList_Click", "Rule Deleted"); // after No as well, which is meant

@@ -14,21 +14,21 @@ RunRule& SettingsLibrary::RuleCollection::Item(Int16 index) const {
 }
 
 std::string SettingsLibrary::RulesFile() const {
-    return GetSystemDir(world_.system).append(kRulesFileName);
+    return GetSystemDir(system_).append(kRulesFileName);
 }
 
 SettingsLibrary::RuleCollection SettingsLibrary::Rules() {
     const std::string path = RulesFile();
     read_.clear();
     report_ = {};
-    if (world_.files.Exists(path)) {
-        const auto opened = world_.files.OpenForReading(path);
+    if (files_.Exists(path)) {
+        const auto opened = files_.OpenForReading(path);
         if (!opened.handle) {
-            RaisePathRefused(world_.files.DisplayPath(path) + ", " + std::string(Describe(opened.error)));
+            RaisePathRefused(files_.DisplayPath(path) + ", " + std::string(Describe(opened.error)));
         }
         report_ = ReadRules(*opened.handle, read_);
         if (!report_.complete) {
-            RaiseDeviceFailed(world_.files.DisplayPath(path) + " could not be read to its end");
+            RaiseDeviceFailed(files_.DisplayPath(path) + " could not be read to its end");
         }
     }
     return RuleCollection(read_);

@@ -5,7 +5,8 @@
 #include <string>
 
 #include "basics/Int16.h"
-#include "platform/World.h"
+#include "platform/FileSystem.h"
+#include "platform/SystemInfo.h"
 #include "rules/RulesReader.h"
 #include "rules/RunRule.h"
 
@@ -29,7 +30,7 @@ class SettingsLibrary {
         std::deque<RunRule>& rules_;
     };
 
-    explicit SettingsLibrary(const World& world) : world_(world) {}
+    SettingsLibrary(FileSystem& files, SystemInfo& system) : files_(files), system_(system) {}
 
     /// The full path of the rules file.
     std::string RulesFile() const;
@@ -45,7 +46,8 @@ class SettingsLibrary {
     RunRule& NewRule() { return added_.emplace_back(); }
 
   private:
-    World world_;
+    FileSystem& files_;
+    SystemInfo& system_;
     std::deque<RunRule> read_;
     std::deque<RunRule> added_;
     RulesReadReport report_;

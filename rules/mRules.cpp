@@ -24,17 +24,18 @@ std::string JoinedDescription(const RunRule& rule) {
 
 } // namespace
 
-mRules::mRules(const World& world, TraceChannel& trace) : world_(world), trace_(trace) {}
+mRules::mRules(FileSystem& files, SystemInfo& system, TraceChannel& trace)
+    : files_(files), system_(system), trace_(trace) {}
 
 SettingsLibrary& mRules::Settings() {
     if (!goSettings_) {
-        goSettings_ = std::make_unique<SettingsLibrary>(world_);
+        goSettings_ = std::make_unique<SettingsLibrary>(files_, system_);
     }
     return *goSettings_;
 }
 
 void mRules::Build_Rules_Array() {
-    goSettings_ = std::make_unique<SettingsLibrary>(world_);
+    goSettings_ = std::make_unique<SettingsLibrary>(files_, system_);
     trace_.DebugTrace(kRulesModule, "Build_Rules_Array", "Start");
     const auto collection = goSettings_->Rules();
     const Int16 count = collection.Count();
@@ -49,12 +50,12 @@ void mRules::Build_Rules_Array() {
 
 void mRules::LookForDangers() {
     const auto rulesFile = Settings().RulesFile();
-    dangers_ = DescribeUnfinishedSave(world_.files, TemporaryFile(), rulesFile);
+    dangers_ = DescribeUnfinishedSave(files_, TemporaryFile(), rulesFile);
     for (const auto& path : {rulesFile, TemporaryFile()}) {
-        const auto uncertainty = Uncertainty(world_.files, path);
+        const auto uncertainty = Uncertainty(files_, path);
         Join(dangers_, "; ", uncertainty.empty() ? uncertainty : "saving is refused, " + uncertainty);
     }
-    Join(dangers_, "; ", Obstacle(rulesFile, world_.files.MayReplace(rulesFile)));
+    Join(dangers_, "; ", Obstacle(rulesFile, files_.MayReplace(rulesFile)));
 }
 
 void mRules::Add_New_Rule() {
@@ -90,7 +91,7 @@ void mRules::ReportFailure(std::string_view what, FileError error) {
 /// Writes the temporary file whole, down to the disk. A file that came out short is removed: it holds half a
 /// list.
 bool mRules::WriteTemporary(const std::string& temporary, const std::string& text) {
-    auto created = world_.files.Create(temporary);
+    auto created = files_.Create(temporary);
     if (!created.handle) {
         ReportFailure("Not saved, " + std::string(kRulesTemporaryName) + " could not be created",
                       created.error);
@@ -99,7 +100,7 @@ bool mRules::WriteTemporary(const std::string& temporary, const std::string& tex
     dangers_.clear();
     const auto error = WriteAndClose(*created.handle, text);
     if (error != FileError::None) {
-        world_.files.Delete(temporary);
+        files_.Delete(temporary);
         ReportFailure("Not saved, " + std::string(kRulesTemporaryName) + " could not be written", error);
         return false;
     }
@@ -111,12 +112,12 @@ std::string mRules::TemporaryFile() {
 }
 
 std::string mRules::WhyNotToSaveRules(const SaveTurn& turn) {
-    const auto refusal = WhyNotToSave(world_.files, Settings().RulesFile(), turn);
-    return refusal.empty() ? WhyNotToSave(world_.files, TemporaryFile(), turn) : refusal;
+    const auto refusal = WhyNotToSave(files_, Settings().RulesFile(), turn);
+    return refusal.empty() ? WhyNotToSave(files_, TemporaryFile(), turn) : refusal;
 }
 
 bool mRules::Write_Rules_File() {
-    const SaveTurn turn(world_.files, Settings().RulesFile());
+    const SaveTurn turn(files_, Settings().RulesFile());
     if (const auto refusal = WhyNotToSaveRules(turn); !refusal.empty()) {
         reported.Raise(refusal);
         return false;
@@ -127,7 +128,7 @@ bool mRules::Write_Rules_File() {
 
 void mRules::ReplaceFile() {
     trace_.DebugTrace(kRulesModule, "Write_Rules_File", "Start");
-    auto& files = world_.files;
+    auto& files = files_;
     const std::string temporary = TemporaryFile();
     if (files.Exists(temporary) && files.Delete(temporary) == FileError::None) {
         dangers_.clear();
@@ -161,7 +162,7 @@ void mRules::ReplaceFile() {
 void mRules::ReportNotReplaced(const std::string& temporary, const std::string& text, FileError error) {
     const std::string notReplaced = std::string(kRulesFileName) + " could not be replaced";
     const std::string beside(kRulesTemporaryName);
-    ReportFailure(HoldsText(world_.files, temporary, text)
+    ReportFailure(HoldsText(files_, temporary, text)
                       ? "The rules stand in " + beside + ", " + notReplaced
                       : "Not saved, " + notReplaced + ", and the rules were not found in " + beside,
                   error);

@@ -7,7 +7,8 @@
 #include "basics/Bool16.h"
 #include "basics/Int16.h"
 #include "controls/Event.h"
-#include "platform/World.h"
+#include "platform/FileSystem.h"
+#include "platform/SystemInfo.h"
 #include "rules/RuleList.h"
 #include "rules/SettingsLibrary.h"
 #include "shell/SaveTurn.h"
@@ -22,7 +23,7 @@ namespace zy {
 /// The rule list, its file, and the state that belongs with them.
 class mRules {
   public:
-    mRules(const World& world, TraceChannel& trace);
+    mRules(FileSystem& files, SystemInfo& system, TraceChannel& trace);
 
     /// Takes the rule list from the settings library. Run-time error 6 when it holds more than 32,767 rules.
     void Build_Rules_Array();
@@ -72,7 +73,8 @@ class mRules {
     bool WriteTemporary(const std::string& temporary, const std::string& text);
     void ReportNotReplaced(const std::string& temporary, const std::string& text, FileError error);
 
-    World world_;
+    FileSystem& files_;
+    SystemInfo& system_;
     TraceChannel& trace_;
     std::unique_ptr<SettingsLibrary> goSettings_;
     std::size_t skippedLines_ = 0;

@@ -19,22 +19,23 @@ std::string_view WithoutQuotes(std::string_view value) {
 
 } // namespace
 
-std::string SecurityFileLocation(const World& world, TraceChannel& trace) {
+std::string SecurityFileLocation(FileSystem& files, SystemInfo& system, const CodePage& codePage,
+                                 TraceChannel& trace) {
     trace.DebugTrace(kSecurityModule, "SecurityFileLocation", "Start");
-    const std::string systemDir = GetSystemDir(world.system);
+    const std::string systemDir = GetSystemDir(system);
     std::string location = UserFiles(systemDir).table;
 
-    INIfile settings(world.files, world.codePage, trace);
+    INIfile settings(files, codePage, trace);
     settings.LoadFile(systemDir + std::string(kSecurityLocationFile));
     auto& lines = *settings.INIlines();
     const Int16 count = lines.Count();
     for (int i = 1; i <= count; ++i) {
         const auto& line = lines.Item(i);
-        if (world.codePage.UCase(Trim(line.Section())) == "ZYSECURE.SECURITYFILE") {
+        if (codePage.UCase(Trim(line.Section())) == "ZYSECURE.SECURITYFILE") {
             location = WithoutQuotes(line.Value());
         }
     }
-    return world.codePage.UCase(Trim(location));
+    return codePage.UCase(Trim(location));
 }
 
 } // namespace zy

@@ -2,7 +2,9 @@
 
 #include <string>
 
-#include "platform/World.h"
+#include "platform/CodePage.h"
+#include "platform/FileSystem.h"
+#include "platform/SystemInfo.h"
 #include "shell/TraceChannel.h"
 
 namespace zy {
@@ -13,6 +15,7 @@ namespace zy {
 /// The last of several such keys counts. A value that starts with a double quote loses its first and its last
 /// character, whatever the last one is; a double quote alone is an empty path. More than 32,767 lines are
 /// run-time error 6.
-std::string SecurityFileLocation(const World& world, TraceChannel& trace);
+std::string SecurityFileLocation(FileSystem& files, SystemInfo& system, const CodePage& codePage,
+                                 TraceChannel& trace);
 
 } // namespace zy

@@ -32,9 +32,12 @@ std::string_view Describe(QuotesEffect effect) {
 
 } // namespace
 
-SecurityPage::SecurityPage(SettingsForm& form, SharedState& state, TraceChannel& trace, const World& world)
-    : controls(form.fraSecurity), users(controls, form, state, trace, world), form_(form), state_(state),
-      trace_(trace), world_(world) {
+SecurityPage::SecurityPage(SettingsForm& form, SharedState& state, TraceChannel& trace, FileSystem& files,
+                           RecycleBin& recycleBin, SystemInfo& system, Dialogs& dialogs,
+                           const CodePage& codePage)
+    : controls(form.fraSecurity),
+      users(controls, form, state, trace, files, recycleBin, system, dialogs, codePage), form_(form),
+      state_(state), trace_(trace), files_(files), system_(system), dialogs_(dialogs) {
     Connect();
 }
 
@@ -143,8 +146,8 @@ bool SecurityPage::AddUser() {
 
 void SecurityPage::cmdDeleteUser_Click() {
     Trace("cmdDeleteUser_Click", "Start");
-    if (world_.dialogs.AskYesNo("Are you sure you wish to delete this User?", "Confirm Delete",
-                                Escape::AnswersNo)) {
+    if (dialogs_.AskYesNo("Are you sure you wish to delete this User?", "Confirm Delete",
+                          Escape::AnswersNo)) {
         DeleteCurrentUser();
     }
     Trace("cmdDeleteUser_Click", "User deleted"); // after No as well, which is meant
@@ -200,7 +203,7 @@ bool SecurityPage::CheckAndWrite(std::string_view folderWithoutUsers) {
 
 bool SecurityPage::WriteUsers(std::string_view folderWithoutUsers) {
     const std::string folder = HasUsers() ? users.SecurityFolder() : std::string(folderWithoutUsers);
-    const SaveTurn turn(world_.files, UserFiles(folder).table);
+    const SaveTurn turn(files_, UserFiles(folder).table);
     if (!turn.IsMine()) {
         form_.zyStatusBar.SetText(SaveTurn::kRefusal);
         return false;
@@ -249,7 +252,7 @@ void SecurityPage::grdSecurity_CellButtonClick(int row, int column) {
     }
     grid.CancelEdit();
 
-    frmDatePicker picker(trace_, world_);
+    frmDatePicker picker(trace_, system_);
     picker.picked.Connect([this, row](const std::string& text) { SetDate(row, text); });
     const auto& frame = form_.fraSecurity.Bounds();
     const auto cell = grid.CellPlace(row, column);
@@ -257,7 +260,7 @@ void SecurityPage::grdSecurity_CellButtonClick(int row, int column) {
                       frame.top + grid.Bounds().top + cell.top + cell.height, 0, 0});
     picker.Form_Load(grid.Text(row, column));
     picker.SetVisible(true);
-    world_.dialogs.ShowForm(picker);
+    dialogs_.ShowForm(picker);
 }
 
 void SecurityPage::SetDate(int row, const std::string& text) {

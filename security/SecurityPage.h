@@ -1,6 +1,10 @@
 #pragma once
 
-#include "platform/World.h"
+#include "platform/CodePage.h"
+#include "platform/Dialogs.h"
+#include "platform/FileSystem.h"
+#include "platform/RecycleBin.h"
+#include "platform/SystemInfo.h"
 #include "security/mSecurity.h"
 #include "shell/Editor.h"
 #include "shell/SettingsForm.h"
@@ -10,7 +14,8 @@ namespace zy {
 /// The users page: its controls and their handlers.
 class SecurityPage : public Editor {
   public:
-    SecurityPage(SettingsForm& form, SharedState& state, TraceChannel& trace, const World& world);
+    SecurityPage(SettingsForm& form, SharedState& state, TraceChannel& trace, FileSystem& files,
+                 RecycleBin& recycleBin, SystemInfo& system, Dialogs& dialogs, const CodePage& codePage);
 
     void cmdAddUser_Click();
     void cmdDeleteUser_Click();
@@ -75,7 +80,9 @@ class SecurityPage : public Editor {
     SettingsForm& form_;
     SharedState& state_;
     TraceChannel& trace_;
-    World world_;
+    FileSystem& files_;
+    SystemInfo& system_;
+    Dialogs& dialogs_;
     std::string report_; ///< what loading told; empty once the users are saved
 };
 

@@ -11,7 +11,8 @@
 
 namespace zy {
 
-UserChecks::UserChecks(Grid& grid, const World& world) : grid_(grid), world_(world) {}
+UserChecks::UserChecks(Grid& grid, Dialogs& dialogs, const CodePage& codePage)
+    : grid_(grid), dialogs_(dialogs), codePage_(codePage) {}
 
 std::optional<Cell> UserChecks::FirstFailure() {
     const auto sameNames = RowsOfSameName();
@@ -29,8 +30,7 @@ std::vector<int> UserChecks::RowsOfSameName() const {
     std::unordered_map<std::string, int> firstRows;
     firstRows.reserve(others.size());
     for (int row = 1; row < grid_.Rows(); ++row) {
-        const auto [name, isNew] =
-            firstRows.try_emplace(world_.codePage.UCase(grid_.Text(row, kUserName)), row);
+        const auto [name, isNew] = firstRows.try_emplace(codePage_.UCase(grid_.Text(row, kUserName)), row);
         if (!isNew) {
             others[static_cast<std::size_t>(row)] = name->second;
             auto& ofFirst = others[static_cast<std::size_t>(name->second)];
@@ -93,7 +93,7 @@ bool UserChecks::CheckIdentification(int row) {
 }
 
 void UserChecks::DropUnfilledDate(int row) {
-    if (world_.codePage.UCase(grid_.Text(row, kExpiryDate)) == kNoDateYet) {
+    if (codePage_.UCase(grid_.Text(row, kExpiryDate)) == kNoDateYet) {
         grid_.SetText(row, kExpiryDate, "");
     }
 }
@@ -114,7 +114,7 @@ bool UserChecks::FailsIfTooLong(int row, UsersColumn column, std::string_view fr
 
 bool UserChecks::FailsIf(bool condition, std::string_view message) {
     if (condition) {
-        world_.dialogs.ShowMessage(message, kApplicationTitle);
+        dialogs_.ShowMessage(message, kApplicationTitle);
     }
     return condition;
 }

@@ -5,7 +5,8 @@
 #include <vector>
 
 #include "controls/Grid.h"
-#include "platform/World.h"
+#include "platform/CodePage.h"
+#include "platform/Dialogs.h"
 #include "security/UserRecord.h"
 
 namespace zy {
@@ -16,7 +17,7 @@ namespace zy {
 /// empty status and a date that was never filled in are no failures: they are set right in the grid.
 class UserChecks {
   public:
-    UserChecks(Grid& grid, const World& world);
+    UserChecks(Grid& grid, Dialogs& dialogs, const CodePage& codePage);
 
     /// Checks the rows from the first to the last, in time linear in their number. Returns the cell of the
     /// first failure; nothing when all rows pass.
@@ -39,7 +40,8 @@ class UserChecks {
     bool FailsIf(bool condition, std::string_view message);
 
     Grid& grid_;
-    World world_;
+    Dialogs& dialogs_;
+    const CodePage& codePage_;
 };
 
 } // namespace zy

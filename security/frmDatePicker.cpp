@@ -6,11 +6,11 @@
 
 namespace zy {
 
-frmDatePicker::frmDatePicker(TraceChannel& trace, const World& world)
+frmDatePicker::frmDatePicker(TraceChannel& trace, SystemInfo& system)
     : Form("frmDatePicker"),
       dpZYSecurity(this, "dpZYSecurity", "Expiry Date", kFirstShortDate, kLastShortDate),
       cmdClear(this, "cmdClear", "Clear", 'C'), cmdcancel(this, "cmdcancel", "Cancel"), trace_(trace),
-      world_(world) {
+      system_(system) {
     SetCaption("Expiry Date");
     SetKeyButtons(nullptr, &cmdcancel);
     dpZYSecurity.dateClick.Connect([this] { dpZYSecurity_DateClick(); });
@@ -25,7 +25,7 @@ void frmDatePicker::Start(std::string_view procedure) {
 
 void frmDatePicker::Form_Load(std::string_view cell) {
     Start("Form_Load");
-    dpZYSecurity.SetValue(ParseShortDate(cell).value_or(world_.system.Today()));
+    dpZYSecurity.SetValue(ParseShortDate(cell).value_or(system_.Today()));
 }
 
 void frmDatePicker::dpZYSecurity_DateClick() {

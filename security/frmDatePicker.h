@@ -6,7 +6,7 @@
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
 #include "controls/MonthCalendar.h"
-#include "platform/World.h"
+#include "platform/SystemInfo.h"
 #include "shell/TraceChannel.h"
 
 namespace zy {
@@ -15,7 +15,7 @@ namespace zy {
 /// can mean.
 class frmDatePicker : public Form {
   public:
-    frmDatePicker(TraceChannel& trace, const World& world);
+    frmDatePicker(TraceChannel& trace, SystemInfo& system);
 
     /// Shows the date of the cell that is edited; today when the cell holds none of the shape "yy-mm-dd".
     void Form_Load(std::string_view cell);
@@ -37,7 +37,7 @@ class frmDatePicker : public Form {
     void Finish(const std::string& text);
 
     TraceChannel& trace_;
-    World world_;
+    SystemInfo& system_;
 };
 
 } // namespace zy

@@ -4,11 +4,13 @@
 
 namespace zy {
 
-frmLogin::frmLogin(std::string_view adminPassword, TraceChannel& trace, const World& world)
+frmLogin::frmLogin(std::string_view adminPassword, TraceChannel& trace, Dialogs& dialogs,
+                   const CodePage& codePage)
     : Form("frmLogin"), lblLabels{Label(this, "lblLabels", "&User Name:", 'U', txtUserName),
                                   Label(this, "lblLabels", "&Password:", 'P', txtPassword)},
       txtUserName(this, "txtUserName"), txtPassword(this, "txtPassword"), cmdOK(this, "cmdOK", "OK"),
-      cmdCancel(this, "cmdCancel", "Cancel"), adminPassword_(adminPassword), trace_(trace), world_(world) {
+      cmdCancel(this, "cmdCancel", "Cancel"), adminPassword_(adminPassword), trace_(trace), dialogs_(dialogs),
+      codePage_(codePage) {
     SetCaption("ZY Setup Security Login");
     txtPassword.SetPasswordChar('*');
     SetKeyButtons(&cmdOK, &cmdCancel);
@@ -28,15 +30,15 @@ void frmLogin::Form_Load() {
 
 void frmLogin::cmdOK_Click() {
     Start("cmdOK_Click");
-    const auto password = world_.codePage.UCase(txtPassword.Text());
-    const auto userName = world_.codePage.UCase(txtUserName.Text());
+    const auto password = codePage_.UCase(txtPassword.Text());
+    const auto userName = codePage_.UCase(txtUserName.Text());
     if (password == adminPassword_ && userName == "ADMIN") {
         LoginSucceeded = true;
         SetVisible(false);
         return;
     }
     // The same words for a wrong name: nobody learns which of the two was wrong.
-    world_.dialogs.ShowMessage("Invalid Password, try again!", "Login");
+    dialogs_.ShowMessage("Invalid Password, try again!", "Login");
     txtPassword.SetFocus();
     txtPassword.Select(0, txtPassword.Text().size());
 }

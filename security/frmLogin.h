@@ -8,7 +8,8 @@
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
 #include "controls/TextBox.h"
-#include "platform/World.h"
+#include "platform/CodePage.h"
+#include "platform/Dialogs.h"
 #include "shell/TraceChannel.h"
 
 namespace zy {
@@ -20,7 +21,7 @@ namespace zy {
 class frmLogin : public Form {
   public:
     /// The password in capitals.
-    frmLogin(std::string_view adminPassword, TraceChannel& trace, const World& world);
+    frmLogin(std::string_view adminPassword, TraceChannel& trace, Dialogs& dialogs, const CodePage& codePage);
 
     void Form_Load();
     void cmdOK_Click();
@@ -44,7 +45,8 @@ class frmLogin : public Form {
 
     std::string adminPassword_;
     TraceChannel& trace_;
-    World world_;
+    Dialogs& dialogs_;
+    const CodePage& codePage_;
 };
 
 } // namespace zy

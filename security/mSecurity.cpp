@@ -38,9 +38,11 @@ UserRecord UserIn(const dbase::Fields& fields) {
 } // namespace
 
 mSecurity::mSecurity(SecurityControls& controls, SettingsForm& form, SharedState& state, TraceChannel& trace,
-                     const World& world)
-    : controls_(controls), form_(form), state_(state), trace_(trace), world_(world),
-      engine_(world.files, [&system = world.system] { return system.Today(); }) {}
+                     FileSystem& files, RecycleBin& recycleBin, SystemInfo& system, Dialogs& dialogs,
+                     const CodePage& codePage)
+    : controls_(controls), form_(form), state_(state), trace_(trace), files_(files), recycleBin_(recycleBin),
+      system_(system), dialogs_(dialogs), codePage_(codePage),
+      engine_(files, [&system] { return system.Today(); }) {}
 
 void mSecurity::Start(std::string_view procedure) {
     Trace(procedure, "Start");
@@ -68,9 +70,9 @@ std::string mSecurity::TableName() const {
 Bool16 mSecurity::LoadSecurityData() {
     constexpr std::string_view kProcedure = "LoadSecurityData";
     Start(kProcedure);
-    RequireCertain(world_.files, state_.gsSystemDir + std::string(kSecurityLocationFile));
-    RequireCertain(world_.files, TablePath());
-    if (!world_.files.Exists(TablePath())) {
+    RequireCertain(files_, state_.gsSystemDir + std::string(kSecurityLocationFile));
+    RequireCertain(files_, TablePath());
+    if (!files_.Exists(TablePath())) {
         StartNewList();
         Report("");
         Trace(kProcedure, "Load New Sec FIle Complete"); // spelled so
@@ -92,12 +94,12 @@ void mSecurity::StartNewList() {
 void mSecurity::OpenDatabase() {
     // The engine would look in the root of the drive.
     if (SecurityFolder().empty()) {
-        throw RuntimeError(dbase::kBadPath, "'" + state_.gsSecurityFile +
-                                                "' isn't a valid path for the table of users: it names no "
-                                                "folder. " +
-                                                world_.files.DisplayPath(state_.gsSystemDir +
-                                                                         std::string(kSecurityLocationFile)) +
-                                                " names the table.");
+        throw RuntimeError(dbase::kBadPath,
+                           "'" + state_.gsSecurityFile +
+                               "' isn't a valid path for the table of users: it names no "
+                               "folder. " +
+                               files_.DisplayPath(state_.gsSystemDir + std::string(kSecurityLocationFile)) +
+                               " names the table.");
     }
     database_ = engine_.OpenDatabase(SecurityFolder(), false, false, kConnect);
 }
@@ -109,15 +111,15 @@ bool mSecurity::ReadTable() {
     bool hasAdmin = false;
     records->MoveFirst();
     if (!records->Eof()) {
-        RequireFields(records->Fields(), world_.files.DisplayPath(state_.gsSecurityFile));
+        RequireFields(records->Fields(), files_.DisplayPath(state_.gsSecurityFile));
     }
     for (Int16 i = 0; !records->Eof(); i = i + 1) {
         zySecure.resize(static_cast<std::size_t>(i) + 1);
         auto& user = zySecure.back();
         user = UserIn(records->Fields());
-        if (world_.codePage.UCase(Trim(user.USERID)) == "ADMIN") {
+        if (codePage_.UCase(Trim(user.USERID)) == "ADMIN") {
             // Of several administrators the last one counts.
-            adminPassword_ = world_.codePage.UCase(user.PASSWORD);
+            adminPassword_ = codePage_.UCase(user.PASSWORD);
             hasAdmin = true;
         }
         records->MoveNext();
@@ -131,19 +133,19 @@ void mSecurity::Report(std::string_view losses) {
     std::string report;
     if (const auto folder = SecurityFolder(); !folder.empty()) {
         const UserFiles files(folder);
-        report = UnfinishedSave(world_.files, files).Notice();
-        Join(report, "; ", Obstacle(files.table, world_.files.MayReplace(files.table)));
+        report = UnfinishedSave(files_, files).Notice();
+        Join(report, "; ", Obstacle(files.table, files_.MayReplace(files.table)));
     }
     Join(report, "; ", losses);
     reported.Raise(report);
 }
 
 Bool16 mSecurity::LogIn() {
-    frmLogin login(adminPassword_, trace_, world_);
+    frmLogin login(adminPassword_, trace_, dialogs_, codePage_);
     form_.SetEnabled(!form_.Visible()); // behind the login nothing can be done
     login.Form_Load();
     login.SetVisible(true);
-    world_.dialogs.ShowForm(login);
+    dialogs_.ShowForm(login);
     form_.SetEnabled(true);
 
     if (!login.LoginSucceeded && login.CancelClicked) {
@@ -179,7 +181,7 @@ void mSecurity::DeleteUser(int row) {
 Bool16 mSecurity::Validate_Security() {
     Start("Validate_Security");
     auto& grid = controls_.grdSecurity;
-    const auto failure = UserChecks(grid, world_).FirstFailure();
+    const auto failure = UserChecks(grid, dialogs_, codePage_).FirstFailure();
     if (failure) {
         grid.Select(failure->row, failure->column);
     }

@@ -8,7 +8,11 @@
 #include "basics/Bool16.h"
 #include "controls/Event.h"
 #include "dbase/DBEngine.h"
-#include "platform/World.h"
+#include "platform/CodePage.h"
+#include "platform/Dialogs.h"
+#include "platform/FileSystem.h"
+#include "platform/RecycleBin.h"
+#include "platform/SystemInfo.h"
 #include "security/SecurityControls.h"
 #include "security/UnfinishedSave.h"
 #include "security/UserRecord.h"
@@ -26,7 +30,8 @@ namespace zy {
 class mSecurity {
   public:
     mSecurity(SecurityControls& controls, SettingsForm& form, SharedState& state, TraceChannel& trace,
-              const World& world);
+              FileSystem& files, RecycleBin& recycleBin, SystemInfo& system, Dialogs& dialogs,
+              const CodePage& codePage);
 
     /// Reads the table, or starts with one new user when there is none, and asks the administrator to log in
     /// where the table names one. True when the editor may open.
@@ -94,7 +99,11 @@ class mSecurity {
     SettingsForm& form_;
     SharedState& state_;
     TraceChannel& trace_;
-    World world_;
+    FileSystem& files_;
+    RecycleBin& recycleBin_;
+    SystemInfo& system_;
+    Dialogs& dialogs_;
+    const CodePage& codePage_;
     dbase::DBEngine engine_;
     std::unique_ptr<dbase::Database> database_;
     std::string adminPassword_; ///< in capitals

@@ -24,7 +24,7 @@ void mSecurity::Write_Security() {
     Start(kProcedure);
     const UserFiles files(SecurityFolder());
     for (const auto& path : {TablePath(), files.table, files.temporary, files.index}) {
-        RequireCertain(world_.files, path);
+        RequireCertain(files_, path);
     }
     FailedSave save{.users = zySecure.size()};
     try {
@@ -33,8 +33,7 @@ void mSecurity::Write_Security() {
         // The file that is left behind makes the next attempt fail, which is meant: a person has to look at
         // it.
         save.foundTemporary = error.Number() == dbase::kTableExists;
-        throw RuntimeError(error.Number(),
-                           error.Description() + UnfinishedSave(world_.files, files).Account(save));
+        throw RuntimeError(error.Number(), error.Description() + UnfinishedSave(files_, files).Account(save));
     }
     database_.reset();
     Trace(kProcedure, "Security File Write Success");
@@ -52,8 +51,8 @@ void mSecurity::WriteTable(FailedSave& save) {
 void mSecurity::CreateTemporary() {
     database_->Execute(CreateStatement());
     const UserFiles files(SecurityFolder());
-    if (world_.files.Exists(files.table)) {
-        world_.files.CopyPermissions(files.table, files.temporary);
+    if (files_.Exists(files.table)) {
+        files_.CopyPermissions(files.table, files.temporary);
     }
 }
 
@@ -83,14 +82,14 @@ void mSecurity::InsertUsers(const std::string& columns) {
 
 void mSecurity::ReplaceTable(FailedSave& save) {
     const UserFiles files(SecurityFolder());
-    const auto recycling = RecycleIfThere(world_.files, world_.recycleBin, files.table);
+    const auto recycling = RecycleIfThere(files_, recycleBin_, files.table);
     save.tableIsRecycled = recycling == Recycling::Done;
-    const auto error = world_.files.Rename(files.temporary, files.table);
+    const auto error = files_.Rename(files.temporary, files.table);
     if (error != FileError::None) {
         const std::string_view refused =
             recycling == Recycling::Refused ? " could not be moved to the recycle bin and" : "";
-        RaisePathRefused(world_.files.DisplayPath(files.table) + std::string(refused) +
-                         " could not be replaced, " + std::string(Describe(error)));
+        RaisePathRefused(files_.DisplayPath(files.table) + std::string(refused) + " could not be replaced, " +
+                         std::string(Describe(error)));
     }
 }
 
@@ -100,17 +99,17 @@ void mSecurity::WriteDBIndex() {
     const auto records = database_->OpenRecordset(kUsersTableName, dbase::RecordsetType::Dynaset);
     const std::string field(records->Fields().Item(0).Name());
     records->Close();
-    RecycleIfThere(world_.files, world_.recycleBin, UserFiles(SecurityFolder()).index);
+    RecycleIfThere(files_, recycleBin_, UserFiles(SecurityFolder()).index);
     database_->Execute(IndexStatement(field));
 }
 
 void mSecurity::RecycleTable(std::string_view folder) {
     const std::string index = std::string(folder).append(kRecycledIndexName);
     const UserFiles files(folder);
-    RequireCertain(world_.files, files.table);
-    RequireCertain(world_.files, index);
-    RecycleIfThere(world_.files, world_.recycleBin, files.table);
-    RecycleIfThere(world_.files, world_.recycleBin, index);
+    RequireCertain(files_, files.table);
+    RequireCertain(files_, index);
+    RecycleIfThere(files_, recycleBin_, files.table);
+    RecycleIfThere(files_, recycleBin_, index);
 }
 
 } // namespace zy

@@ -26,9 +26,10 @@ std::string_view SpecialCharacter(Key key) {
 
 } // namespace
 
-UnitsPage::UnitsPage(SettingsForm& form, SharedState& state, TraceChannel& trace, const World& world)
-    : controls(form.FraUnits), units(controls, state, trace, world), form_(form), trace_(trace),
-      world_(world) {
+UnitsPage::UnitsPage(SettingsForm& form, SharedState& state, TraceChannel& trace, FileSystem& files,
+                     Dialogs& dialogs)
+    : controls(form.FraUnits), units(controls, state, trace, files, dialogs), form_(form), trace_(trace),
+      dialogs_(dialogs) {
     Connect();
 }
 
@@ -108,8 +109,8 @@ void UnitsPage::cmdAddUNit_Click() {
 
 void UnitsPage::cmdDeleteUnit_Click() {
     Trace("cmdDeleteUnit_Click", "Start");
-    if (world_.dialogs.AskYesNo("Are you sure you wish to delete this Unit of Measure?", "Confirm Delete",
-                                Escape::AnswersNo)) {
+    if (dialogs_.AskYesNo("Are you sure you wish to delete this Unit of Measure?", "Confirm Delete",
+                          Escape::AnswersNo)) {
         DeleteCurrentRow();
     }
     // After No as well, which is meant.

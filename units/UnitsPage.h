@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/World.h"
+#include "platform/Dialogs.h"
+#include "platform/FileSystem.h"
 #include "shell/Editor.h"
 #include "shell/SettingsForm.h"
 #include "units/mUnits.h"
@@ -10,7 +11,8 @@ namespace zy {
 /// The units page: its controls and their handlers.
 class UnitsPage : public Editor {
   public:
-    UnitsPage(SettingsForm& form, SharedState& state, TraceChannel& trace, const World& world);
+    UnitsPage(SettingsForm& form, SharedState& state, TraceChannel& trace, FileSystem& files,
+              Dialogs& dialogs);
 
     /// Marks the list as changed and lets it be saved.
     void MarkUnitsChanged();
@@ -56,7 +58,7 @@ class UnitsPage : public Editor {
 
     SettingsForm& form_;
     TraceChannel& trace_;
-    World world_;
+    Dialogs& dialogs_;
 };
 
 } // namespace zy

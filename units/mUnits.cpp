@@ -18,8 +18,9 @@ constexpr auto kLastSaveFailed = "the last save failed, save again";
 
 } // namespace
 
-mUnits::mUnits(UnitsControls& controls, SharedState& state, TraceChannel& trace, const World& world)
-    : controls_(controls), state_(state), trace_(trace), world_(world) {}
+mUnits::mUnits(UnitsControls& controls, SharedState& state, TraceChannel& trace, FileSystem& files,
+               Dialogs& dialogs)
+    : controls_(controls), state_(state), trace_(trace), files_(files), dialogs_(dialogs) {}
 
 void mUnits::Start(std::string_view procedure) {
     trace_.DebugTrace("mUnits", procedure, "Start");
@@ -27,12 +28,12 @@ void mUnits::Start(std::string_view procedure) {
 
 void mUnits::LoadUnitsData() {
     Start("LoadUnitsData");
-    const SaveTurn turn(world_.files, state_.gsUnitsFile); // what somebody else saves is read whole
+    const SaveTurn turn(files_, state_.gsUnitsFile); // what somebody else saves is read whole
     leftOut_.clear();
     auto& grid = controls_.grdUnits;
     grid.SetRedraw(false);
     ResetGrid();
-    if (world_.files.Exists(state_.gsUnitsFile)) {
+    if (files_.Exists(state_.gsUnitsFile)) {
         ReadUnits();
         controls_.cmdSaveUnits.SetEnabled(false);
     } else {
@@ -52,7 +53,7 @@ void mUnits::ResetGrid() {
 }
 
 void mUnits::ReadUnits() {
-    const auto opened = world_.files.OpenAlwaysForReading(state_.gsUnitsFile);
+    const auto opened = files_.OpenAlwaysForReading(state_.gsUnitsFile);
     if (!opened.handle) {
         leftOut_ = FileName() + " could not be read: " + std::string(Describe(opened.error)) +
                    "; saving replaces all that it holds";
@@ -62,7 +63,7 @@ void mUnits::ReadUnits() {
     auto text = ReadFileText(*opened.handle, size);
     opened.handle->Close();
     const bool whole = text.size() == size;
-    const auto path = world_.files.DisplayPath(state_.gsUnitsFile);
+    const auto path = files_.DisplayPath(state_.gsUnitsFile);
     controls_.grdUnits.AddRowsOf(std::move(text), [&](auto lines, auto& cells) {
         leftOut_ = Describe(AppendUnitCells(lines, path, cells));
     });
@@ -73,18 +74,18 @@ void mUnits::ReadUnits() {
 }
 
 std::string mUnits::DescribeUncertainty() {
-    const auto uncertainty = Uncertainty(world_.files, state_.gsUnitsFile);
+    const auto uncertainty = Uncertainty(files_, state_.gsUnitsFile);
     return uncertainty.empty() ? uncertainty : "saving is refused, " + uncertainty;
 }
 
 FileError mUnits::ObstacleToSave() {
-    const auto error = world_.files.MayReplace(state_.gsUnitsFile);
-    return error == FileError::None ? error : world_.files.MayOverwrite(state_.gsUnitsFile);
+    const auto error = files_.MayReplace(state_.gsUnitsFile);
+    return error == FileError::None ? error : files_.MayOverwrite(state_.gsUnitsFile);
 }
 
 bool mUnits::Write_Units() {
-    const SaveTurn turn(world_.files, state_.gsUnitsFile);
-    if (const auto refusal = WhyNotToSave(world_.files, state_.gsUnitsFile, turn); !refusal.empty()) {
+    const SaveTurn turn(files_, state_.gsUnitsFile);
+    if (const auto refusal = WhyNotToSave(files_, state_.gsUnitsFile, turn); !refusal.empty()) {
         reported.Raise(refusal);
         return false;
     }
@@ -96,8 +97,8 @@ void mUnits::ReplaceFile() {
     Start("Write_Units");
     const UnitsFileText text(controls_.grdUnits); // an error here leaves the file as it is
     const auto& path = state_.gsUnitsFile;
-    const bool deleted = world_.files.Exists(path) && world_.files.Delete(path) == FileError::None;
-    const auto created = world_.files.Create(path);
+    const bool deleted = files_.Exists(path) && files_.Delete(path) == FileError::None;
+    const auto created = files_.Create(path);
     if (!created.handle) {
         leftOut_ = deleted ? kLastSaveFailed : leftOut_;
         reported.Raise(Failure("Not saved, " + FileName() + " could not be created", created.error));
@@ -135,7 +136,7 @@ bool mUnits::ValidateUnits() {
 }
 
 bool mUnits::Refuse(std::string_view message) {
-    world_.dialogs.ShowMessage(message, "Invalid Unit");
+    dialogs_.ShowMessage(message, "Invalid Unit");
     return false;
 }
 

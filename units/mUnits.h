@@ -4,7 +4,8 @@
 #include <string_view>
 
 #include "controls/Event.h"
-#include "platform/World.h"
+#include "platform/Dialogs.h"
+#include "platform/FileSystem.h"
 #include "shell/TraceChannel.h"
 #include "shell/mZYGlobal.h"
 #include "units/UnitsControls.h"
@@ -19,7 +20,8 @@ namespace zy {
 /// the other way round, which is meant.
 class mUnits {
   public:
-    mUnits(UnitsControls& controls, SharedState& state, TraceChannel& trace, const World& world);
+    mUnits(UnitsControls& controls, SharedState& state, TraceChannel& trace, FileSystem& files,
+           Dialogs& dialogs);
 
     /// Empties the grid and fills it from the units file. Without a file the list is empty and can be saved
     /// at once; of a file that cannot be read, the part that could be is taken.
@@ -63,7 +65,8 @@ class mUnits {
     UnitsControls& controls_;
     SharedState& state_;
     TraceChannel& trace_;
-    World world_;
+    FileSystem& files_;
+    Dialogs& dialogs_;
     std::string leftOut_; ///< what a save would drop
 };
 

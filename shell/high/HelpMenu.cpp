@@ -8,7 +8,9 @@
 
 namespace zy {
 
-HelpMenu::HelpMenu(MainMenu& menu, TraceChannel& trace, const World& world) : trace_(trace), world_(world) {
+HelpMenu::HelpMenu(MainMenu& menu, TraceChannel& trace, SystemInfo& system, Dialogs& dialogs,
+                   HelpSystem& help, ShellLinks& links)
+    : trace_(trace), system_(system), dialogs_(dialogs), help_(help), links_(links) {
     menu.mnuContents.click.Connect([this] { mnuContents_Click(); });
     menu.mnuIndex.click.Connect([this] { mnuIndex_Click(); });
     menu.mnuWebProducts.click.Connect([this] { mnuWebProducts_Click(); });
@@ -31,7 +33,7 @@ void HelpMenu::Start(std::string_view procedure) {
 
 void HelpMenu::ShowHelp(HelpCommand command) {
     constexpr std::uintptr_t kNoData = 0; // no topic, and no keyword
-    world_.help.Show(world_.system.ExecutableFolder() + "\\zysetup.hlp", command, kNoData);
+    help_.Show(system_.ExecutableFolder() + "\\zysetup.hlp", command, kNoData);
 }
 
 void HelpMenu::mnuContents_Click() {
@@ -46,10 +48,10 @@ void HelpMenu::mnuIndex_Click() {
 
 void HelpMenu::OpenPage(std::string_view path) {
     constexpr int kShowNormal = 1;
-    world_.links.Open({.owner = LinkOwner::DesktopWindow,
-                       .verb = "Open",
-                       .target = std::string(kMakerWebSite) + std::string(path),
-                       .showCommand = kShowNormal});
+    links_.Open({.owner = LinkOwner::DesktopWindow,
+                 .verb = "Open",
+                 .target = std::string(kMakerWebSite) + std::string(path),
+                 .showCommand = kShowNormal});
 }
 
 void HelpMenu::mnuWebProducts_Click() {
@@ -74,10 +76,10 @@ void HelpMenu::mnuWebHome_Click() {
 
 void HelpMenu::mnuAbout_Click() {
     Start("mnuAbout_Click");
-    frmAbout about(ThisApplication(), trace_, world_);
+    frmAbout about(ThisApplication(), trace_, links_);
     about.Form_Load();
     about.SetVisible(true);
-    world_.dialogs.ShowForm(about);
+    dialogs_.ShowForm(about);
 }
 
 } // namespace zy

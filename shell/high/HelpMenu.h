@@ -3,7 +3,10 @@
 #include <string_view>
 
 #include "controls/CommandButton.h"
-#include "platform/World.h"
+#include "platform/Dialogs.h"
+#include "platform/HelpSystem.h"
+#include "platform/ShellLinks.h"
+#include "platform/SystemInfo.h"
 #include "shell/MainMenu.h"
 #include "shell/TraceChannel.h"
 
@@ -12,7 +15,8 @@ namespace zy {
 /// The handlers of the main window's Help menu, and of the Help buttons of its pages.
 class HelpMenu {
   public:
-    HelpMenu(MainMenu& menu, TraceChannel& trace, const World& world);
+    HelpMenu(MainMenu& menu, TraceChannel& trace, SystemInfo& system, Dialogs& dialogs, HelpSystem& help,
+             ShellLinks& links);
 
     /// Lets a button open the help file at its contents, not at a topic of its editor.
     void ConnectButton(CommandButton& button);
@@ -32,7 +36,10 @@ class HelpMenu {
     void OpenPage(std::string_view path);
 
     TraceChannel& trace_;
-    World world_;
+    SystemInfo& system_;
+    Dialogs& dialogs_;
+    HelpSystem& help_;
+    ShellLinks& links_;
 };
 
 } // namespace zy

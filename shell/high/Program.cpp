@@ -3,12 +3,16 @@
 namespace zy {
 
 Program::Program(const World& outside)
-    : world(outside), trace(world.traceServers, world.system.ExecutableName()), rules(world, trace),
-      rulesPage(rules, form, state, trace, world), securityPage(form, state, trace, world),
-      unitsPage(form, state, trace, world), registryEdit(world.registry, world.window),
+    : world(outside), trace(world.traceServers, world.system.ExecutableName()),
+      rules(world.files, world.system, trace),
+      ruleChecks(rules.gaRules, world.system, world.dialogs, world.codePage, trace),
+      rulesPage(rules, ruleChecks, form, state, trace, world.dialogs, world.codePage),
+      securityPage(form, state, trace, world.files, world.recycleBin, world.system, world.dialogs,
+                   world.codePage),
+      unitsPage(form, state, trace, world.files, world.dialogs), registryEdit(world.registry, world.window),
       subClasser(world.window, state), window({form, state, trace, world.dialogs, rulesPage, securityPage,
                                                unitsPage, registryEdit, subClasser}),
-      helpMenu(form.menu, trace, world) {
+      helpMenu(form.menu, trace, world.system, world.dialogs, world.help, world.links) {
     securityPage.users.loginCancelled.Connect([this] { window.Unload(); });
     helpMenu.ConnectButton(rulesPage.controls.cmdHelpRules);
     helpMenu.ConnectButton(securityPage.controls.cmdHelpSecurity);

@@ -25,6 +25,7 @@ class Program {
     TraceChannel trace;
     SettingsForm form;
     mRules rules;
+    RuleChecks ruleChecks;
     RulesPage rulesPage;
     SecurityPage securityPage;
     UnitsPage unitsPage;

@@ -28,11 +28,11 @@ std::string CompanyInfo() {
 
 } // namespace
 
-frmAbout::frmAbout(Application application, TraceChannel& trace, const World& world)
+frmAbout::frmAbout(Application application, TraceChannel& trace, ShellLinks& links)
     : Form("frmAbout"), Image1(this, "Image1"), lblAppTitle(this, "lblAppTitle", TextLabel::Style::Heading),
       lblVersion(this, "lblVersion"), Line1(this, "Line1"), lblCompanyInfo(this, "lblCompanyInfo"),
       lblWebsite(this, "lblWebsite"), lblEmail(this, "lblEmail"), Line2(this, "Line2"),
-      cmdOk(this, "cmdOk", "OK"), application_(std::move(application)), trace_(trace), world_(world) {
+      cmdOk(this, "cmdOk", "OK"), application_(std::move(application)), trace_(trace), links_(links) {
     SetKeyButtons(&cmdOk, &cmdOk);
     lblWebsite.click.Connect([this] { lblWebsite_Click(); });
     lblEmail.click.Connect([this] { lblEmail_Click(); });
@@ -57,7 +57,7 @@ void frmAbout::Form_Load() {
 
 void frmAbout::Open(const std::string& link) {
     constexpr int kShowHidden = 0; // unlike the menu's web pages, which is meant
-    world_.links.Open({.owner = LinkOwner::None, .verb = "OPEN", .target = link, .showCommand = kShowHidden});
+    links_.Open({.owner = LinkOwner::None, .verb = "OPEN", .target = link, .showCommand = kShowHidden});
 }
 
 void frmAbout::lblWebsite_Click() {

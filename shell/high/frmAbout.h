@@ -6,7 +6,7 @@
 #include "controls/Decoration.h"
 #include "controls/Form.h"
 #include "controls/LinkLabel.h"
-#include "platform/World.h"
+#include "platform/ShellLinks.h"
 #include "shell/Application.h"
 #include "shell/TraceChannel.h"
 
@@ -15,7 +15,7 @@ namespace zy {
 /// The About box: what the program is and how to reach its maker.
 class frmAbout : public Form {
   public:
-    frmAbout(Application application, TraceChannel& trace, const World& world);
+    frmAbout(Application application, TraceChannel& trace, ShellLinks& links);
 
     /// Fills the labels.
     void Form_Load();
@@ -41,7 +41,7 @@ class frmAbout : public Form {
 
     Application application_;
     TraceChannel& trace_;
-    World world_;
+    ShellLinks& links_;
 };
 
 } // namespace zy

@@ -19,7 +19,8 @@ void ComputePaths(Program& program) {
     auto& state = program.state;
     state.gsRulesFile = systemDir + std::string(kRulesFileName);
     // In every mode, and before gsSystemDir is set: the look-up asks for the system directory itself.
-    state.gsSecurityFile = SecurityFileLocation(program.world, program.trace);
+    state.gsSecurityFile = SecurityFileLocation(program.world.files, program.world.system,
+                                                program.world.codePage, program.trace);
     state.gsUnitsFile = systemDir + "ZYUNITS.SYS";
     state.gsSystemDir = systemDir;
 }

@@ -84,7 +84,7 @@ TEST_F(DeleteRule, RaisesSubscriptOutOfRangeForARuleThatIsNotThere) {
 
 class SettingsLibraryTest : public RulesTest {
   protected:
-    SettingsLibrary settings{world.Get()};
+    SettingsLibrary settings{world.files, world.system};
 };
 
 TEST_F(SettingsLibraryTest, FindsTheRulesFileInTheSystemDirectory) {

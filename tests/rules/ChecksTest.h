@@ -32,7 +32,7 @@ class ChecksTest : public RulesTest {
         return Log();
     }
 
-    RuleChecks checks{rules.gaRules, world.Get(), trace};
+    RuleChecks checks{rules.gaRules, world.system, world.dialogs, world.codePage, trace};
 };
 
 } // namespace zy::test

@@ -12,7 +12,7 @@ class RulesRoundTrip : public RulesTest {
     /// Writes the list and loads it into another program's.
     std::vector<std::string> Reloaded() {
         rules.Write_Rules_File();
-        mRules others{world.Get(), trace};
+        mRules others{world.files, world.system, trace};
         others.Build_Rules_Array();
         EXPECT_EQ(others.SkippedLines(), 0U);
         std::vector<std::string> lines;

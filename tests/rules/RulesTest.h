@@ -102,7 +102,7 @@ class RulesTest : public WorldTest {
 
     TracesAmongOperations viewer{world.files.Operations()};
     TraceChannel trace{viewer, "zyGlobal"};
-    mRules rules{world.Get(), trace};
+    mRules rules{world.files, world.system, trace};
     std::vector<std::string> reports;
 
   private:

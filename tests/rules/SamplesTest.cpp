@@ -33,7 +33,7 @@ class Samples : public WorldTest {
 
     const std::string bytes = SampleBytes("ZYRules.sys");
     TraceChannel trace{world.traceServers, "zyGlobal"};
-    mRules rules{world.Get(), trace};
+    mRules rules{world.files, world.system, trace};
 };
 
 TEST_F(Samples, HoldTheClassicRunRules) {
@@ -48,7 +48,7 @@ TEST_F(Samples, AreTheSameBytesAfterALoadAndASave) {
 }
 
 TEST_F(Samples, PassEveryCheckOfTheDetailForm) {
-    RuleChecks checks(rules.gaRules, world.Get(), trace);
+    RuleChecks checks(rules.gaRules, world.system, world.dialogs, world.codePage, trace);
     for (int i = 1; i <= rules.gaRules.UBound(); ++i) {
         const auto& rule = rules.gaRules(i);
         SCOPED_TRACE(rule.Code);

@@ -109,7 +109,7 @@ TEST_F(FormatsPage, SaysWhereTheLocationFileThatItShowsLeads) {
     }
     world.files.Put(R"(C:\SYS\ZYSECURE.ZYX)", settings);
     TraceChannel trace(world.traceServers, "zyGlobal");
-    const auto location = SecurityFileLocation(world.Get(), trace);
+    const auto location = SecurityFileLocation(world.files, world.system, world.codePage, trace);
     EXPECT_THAT(location, HasSubstr("SHARED"));
     EXPECT_THAT(page, HasSubstr("This means the table `" + location + "`."));
 }

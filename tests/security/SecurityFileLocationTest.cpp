@@ -14,7 +14,7 @@ class SecurityFileLocationTest : public test::WorldTest {
     static constexpr auto kSettings = R"(C:\SYS\ZYSECURE.ZYX)";
     static constexpr auto kDefault = R"(C:\SYS\ZYSECURE.DBF)";
 
-    std::string Location() { return SecurityFileLocation(world.Get(), trace); }
+    std::string Location() { return SecurityFileLocation(world.files, world.system, world.codePage, trace); }
 
     std::string LocationIn(std::string_view settings) {
         world.files.Put(kSettings, settings);

@@ -19,7 +19,7 @@ class AboutTest : public WorldTest {
     AboutTest() { world.traceServers.SetRunning(true); }
 
     frmAbout& Loaded(const std::string& title = "ZY Setup") {
-        box_ = std::make_unique<frmAbout>(Named(title), trace, world.Get());
+        box_ = std::make_unique<frmAbout>(Named(title), trace, world.links);
         box_->Form_Load();
         box_->SetVisible(true);
         return *box_;
