@@ -27,7 +27,9 @@ WindowProcedure DesktopWindowGtk::SetProcedure(WindowProcedure procedure) {
 }
 
 PixelRect DesktopWindowGtk::NormalRectangle() {
-    NotePlace();
+    if (IsNormal()) {
+        SetPlace(frame_->GetRect());
+    }
     return ToPixelRect(Place());
 }
 
@@ -59,16 +61,14 @@ void DesktopWindowGtk::Attach(wxFrame& frame) {
     wanted.SetSize(size);
     SetPlace(Reachable(wanted, RoomOnScreens()));
     frame.SetSize(Place());
-    settled_.emplace();
-    settled_->Bind(wxEVT_TIMER, [this](wxTimerEvent&) { NotePlace(); });
-    frame.Bind(wxEVT_MOVE, [this](wxMoveEvent& event) {
+    const auto follow = [this](wxEvent& event) {
         event.Skip();
         FollowPlace();
-    });
-    frame.Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
-        event.Skip();
-        FollowPlace();
-    });
+    };
+    frame.Bind(wxEVT_MOVE, follow);
+    frame.Bind(wxEVT_SIZE, follow);
+    frame.Bind(wxEVT_MAXIMIZE, follow);
+    frame.Bind(wxEVT_ICONIZE, follow);
 }
 
 void DesktopWindowGtk::SetBounds() {
@@ -94,13 +94,14 @@ bool DesktopWindowGtk::IsNormal() const {
 }
 
 void DesktopWindowGtk::FollowPlace() {
-    constexpr int kUntilSettled = 250; // milliseconds
-    settled_->StartOnce(kUntilSettled);
-}
-
-void DesktopWindowGtk::NotePlace() {
+    constexpr std::chrono::milliseconds kUntilSettled{250};
+    const auto now = Clock::now();
+    if (stand_ && now - stand_->since >= kUntilSettled) {
+        SetPlace(stand_->place);
+    }
+    stand_.reset();
     if (IsNormal()) {
-        SetPlace(frame_->GetRect());
+        stand_ = {.place = frame_->GetRect(), .since = now};
     }
 }
 

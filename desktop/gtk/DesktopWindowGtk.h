@@ -1,8 +1,9 @@
 #pragma once
 
-#include <wx/timer.h>
+#include <wx/event.h>
 #include <wx/weakref.h>
 
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <utility>
@@ -31,15 +32,22 @@ class DesktopWindowGtk final : public DesktopWindow {
     double TwipsPerPixel();
     void SetBounds();
     bool IsNormal() const;
-    /// The window has moved or has another size.
+    /// The window has moved, has another size or another state. A window that is being maximized may tell of
+    /// its new place before it tells that it is maximized, so a place counts once the window has stood there
+    /// for a moment.
     void FollowPlace();
-    /// Some time behind the last event: a window that is being maximized tells of its new place before it
-    /// tells that it is maximized.
-    void NotePlace();
+
+    using Clock = std::chrono::steady_clock;
+
+    /// Where the window stands as neither maximized nor minimized.
+    struct Stand {
+        wxRect place;
+        Clock::time_point since;
+    };
 
     WindowProcedure procedure_ = [](const WindowMessage&) { return 0; };
     wxWeakRef<wxFrame> frame_;
-    std::optional<wxTimer> settled_;
+    std::optional<Stand> stand_;
 };
 
 } // namespace zy
