@@ -8,15 +8,16 @@
 namespace zy {
 namespace {
 
-/// How soon the end of a click is noticed, in milliseconds.
-constexpr int kMousePatience = 20;
-
 bool MouseIsDown() {
     const auto mouse = wxGetMouseState();
     return mouse.LeftIsDown() || mouse.MiddleIsDown() || mouse.RightIsDown();
 }
 
 } // namespace
+
+EventGate::~EventGate() {
+    StopAwaitingMouse();
+}
 
 void EventGate::Act(const std::function<void()>& action) {
     Guard([&] {
@@ -79,18 +80,30 @@ void EventGate::RunPutOff() {
     }
     if (MouseIsDown()) {
         // A control that is held down would not get to know that a message box has taken the mouse.
-        LookAgainSoon();
+        AwaitMouse();
         return;
     }
     Act([] {});
 }
 
-void EventGate::LookAgainSoon() {
-    if (!whileMouseIsDown_) {
-        whileMouseIsDown_.emplace();
-        whileMouseIsDown_->Bind(wxEVT_TIMER, [this](wxTimerEvent&) { RunPutOff(); });
+void EventGate::AwaitMouse() {
+    if (!std::exchange(awaitsMouse_, true)) {
+        wxTheApp->Bind(wxEVT_IDLE, &EventGate::LookForMouse, this);
     }
-    whileMouseIsDown_->StartOnce(kMousePatience);
+}
+
+void EventGate::LookForMouse(wxIdleEvent& event) {
+    event.Skip();
+    if (!MouseIsDown()) {
+        StopAwaitingMouse();
+        Schedule();
+    }
+}
+
+void EventGate::StopAwaitingMouse() {
+    if (std::exchange(awaitsMouse_, false)) {
+        wxTheApp->Unbind(wxEVT_IDLE, &EventGate::LookForMouse, this);
+    }
 }
 
 bool EventGate::Settle() {

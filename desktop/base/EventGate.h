@@ -1,11 +1,10 @@
 #pragma once
 
-#include <wx/timer.h>
+#include <wx/event.h>
 
 #include <deque>
 #include <exception>
 #include <functional>
-#include <optional>
 
 #include "controls/Event.h"
 
@@ -17,6 +16,11 @@ namespace zy {
 /// the event loop and lets nothing more through; whoever ran the loop then calls Rethrow.
 class EventGate {
   public:
+    EventGate() = default;
+    EventGate(const EventGate&) = delete;
+    EventGate& operator=(const EventGate&) = delete;
+    ~EventGate();
+
     /// Work that was put off; false when a control refused to be left.
     using Step = std::function<bool()>;
 
@@ -44,14 +48,17 @@ class EventGate {
 
   private:
     void Guard(const std::function<void()>& work);
-    void LookAgainSoon();
+    void AwaitMouse();
+    /// Behind every event of the toolkit, those among them that only its own widgets get to know.
+    void LookForMouse(wxIdleEvent& event);
+    void StopAwaitingMouse();
     void RunPutOff();
     bool Settle();
     void Schedule();
 
     std::deque<Step> putOff_;
     bool scheduled_ = false;
-    std::optional<wxTimer> whileMouseIsDown_;
+    bool awaitsMouse_ = false;
     int running_ = 0;
     std::exception_ptr failure_;
 };
