@@ -1,14 +1,12 @@
 #include "desktop/WindowBinding.h"
 
 #include <wx/frame.h>
-#include <wx/panel.h>
 #include <wx/statusbr.h>
 
 #include <utility>
 
 #include "desktop/ControlBinding.h"
 #include "desktop/Native.h"
-#include "desktop/Panels.h"
 #include "desktop/Pictures.h"
 #include "desktop/ShownText.h"
 
@@ -24,10 +22,11 @@ WindowState StateOf(const wxFrame& frame) {
 } // namespace
 
 WindowBinding::WindowBinding(ViewContext& context, Form& form, std::function<void()> close)
-    : context_(context), form_(form), frame_(new wxFrame(nullptr, wxID_ANY, "")), firstState_(form.State()) {
+    : context_(context), form_(form), frame_(new wxFrame(nullptr, wxID_ANY, "")),
+      area_(new PageArea(*frame_)), firstState_(form.State()) {
     frame_->SetName(ToShown(context.codePage, form.Name()));
     frame_->SetIcons(ProgramIcon());
-    inside_.window = MakeOuterPanel(*frame_);
+    inside_.window = area_->Page();
     context_.scale = Scale(DotsPerInch(*frame_));
     children_ = BindChildren(context, inside_, form);
     focus_ = std::make_unique<FocusBinding>(context, form, *frame_);
@@ -41,6 +40,10 @@ WindowBinding::~WindowBinding() {
 }
 
 void WindowBinding::ConnectFrame(std::function<void()> close) {
+    area_->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+        event.Skip();
+        FitPage();
+    });
     inside_.window->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
         event.Skip();
         TellSize();
@@ -79,13 +82,23 @@ void WindowBinding::Open() {
     frame_->Show();
 }
 
+void WindowBinding::FitPage() {
+    wxSize least = context_.scale.ToPixels(form_.LeastInnerSize());
+    least.y -= StatusBarHeight();
+    area_->FitPage(least);
+}
+
 void WindowBinding::TellSize() {
     context_.gate.Tell([this] {
         form_.SetState(StateOf(*frame_));
         wxSize size = inside_.window->GetSize();
-        size.y += frame_->GetStatusBar()->GetSize().y;
+        size.y += StatusBarHeight();
         form_.SetInnerSize(context_.scale.ToTwips(size));
     });
+}
+
+int WindowBinding::StatusBarHeight() const {
+    return frame_->GetStatusBar()->GetSize().y;
 }
 
 void WindowBinding::TellState() {
@@ -99,6 +112,7 @@ void WindowBinding::Rescale() {
     for (const auto& child : children_) {
         child->Rescale();
     }
+    FitPage();
 }
 
 void WindowBinding::ShowAppearance() {

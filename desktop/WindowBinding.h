@@ -6,6 +6,7 @@
 #include "controls/Form.h"
 #include "desktop/Bindings.h"
 #include "desktop/FocusBinding.h"
+#include "desktop/PageArea.h"
 #include "desktop/ViewContext.h"
 
 class wxFrame;
@@ -27,8 +28,11 @@ class WindowBinding {
 
   private:
     void ConnectFrame(std::function<void()> close);
+    /// Gives the page the room that there is, but no less than it needs.
+    void FitPage();
     void TellSize();
     void TellState();
+    int StatusBarHeight() const;
     void Rescale();
     void ShowAppearance();
     void ShowState();
@@ -36,6 +40,7 @@ class WindowBinding {
     ViewContext& context_;
     Form& form_;
     wxFrame* frame_;
+    PageArea* area_;
     WindowState firstState_; ///< the form's at first: until it is shown, the real window has none
     Inside inside_;
     Bindings children_;

@@ -49,17 +49,21 @@ wxRect MovedInside(wxRect place, const wxRect& area) {
     return place;
 }
 
-wxRect Reachable(const wxRect& place, const std::vector<wxRect>& screens) {
-    const auto reachable = [&](const wxRect& screen) { return ShowsTitle(screen, place); };
-    if (screens.empty() || std::any_of(screens.begin(), screens.end(), reachable)) {
-        return place;
-    }
+wxRect RoomFor(const wxRect& place, const std::vector<wxRect>& screens) {
     const wxPoint middle(place.x + place.width / 2, place.y + place.height / 2);
     const auto nearest =
         std::min_element(screens.begin(), screens.end(), [&](const auto& one, const auto& other) {
             return DistanceTo(one, middle) < DistanceTo(other, middle);
         });
-    return MovedInside(place, *nearest);
+    return nearest == screens.end() ? place : *nearest;
+}
+
+wxRect Reachable(const wxRect& place, const std::vector<wxRect>& screens) {
+    const auto reachable = [&](const wxRect& screen) { return ShowsTitle(screen, place); };
+    if (screens.empty() || std::any_of(screens.begin(), screens.end(), reachable)) {
+        return place;
+    }
+    return MovedInside(place, RoomFor(place, screens));
 }
 
 } // namespace zy

@@ -1,6 +1,7 @@
 #pragma once
 
 class wxPanel;
+class wxScrolledWindow;
 class wxStaticBox;
 class wxString;
 class wxWindow;
@@ -11,6 +12,9 @@ namespace zy {
 
 /// The panel that fills a window. An access key finds its control in all of it, wherever the focus is.
 wxPanel* MakeOuterPanel(wxWindow& window);
+
+/// Lets the bars of a window that can be scrolled be seen all the time, beside what is scrolled.
+void KeepScrollBarsInSight(wxScrolledWindow& window);
 
 /// A panel in another one, and a box with a caption.
 wxPanel* MakeInnerPanel(wxWindow& parent);

@@ -13,6 +13,11 @@ wxRect Scale::ToPixels(const Rect& rect) const {
     return {topLeft.x, topLeft.y, ToPixels(rect.Right()) - topLeft.x, ToPixels(rect.Bottom()) - topLeft.y};
 }
 
+wxSize Scale::ToPixels(const Size& size) const {
+    return {static_cast<int>(std::ceil(size.width * pixelsPerTwip_)),
+            static_cast<int>(std::ceil(size.height * pixelsPerTwip_))};
+}
+
 int Scale::ToTwips(int pixels) const {
     return static_cast<int>(std::ceil(pixels / pixelsPerTwip_));
 }

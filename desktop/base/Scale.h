@@ -16,6 +16,8 @@ class Scale {
     int ToPixels(int twips) const;
     /// Places are rounded by their edges, so that neighbours stay neighbours.
     wxRect ToPixels(const Rect& rect) const;
+    /// The fewest pixels that hold so many twips.
+    wxSize ToPixels(const Size& size) const;
     /// The fewest twips that are at least so many pixels again.
     int ToTwips(int pixels) const;
     Size ToTwips(const wxSize& size) const;

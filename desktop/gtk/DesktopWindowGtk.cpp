@@ -79,13 +79,10 @@ void DesktopWindowGtk::SetBounds() {
         const auto toSize = [](const PixelPoint& size) {
             return size == PixelPoint() ? wxDefaultSize : wxSize(size.x, size.y);
         };
-        const wxSize least = toSize(bounds.minTrackSize);
-        wxSize most = toSize(bounds.maxTrackSize);
-        if (most != wxDefaultSize) {
-            // On a screen that is smaller than the least size, that counts, as it does on Windows.
-            most.IncTo(least);
-        }
-        frame_->SetSizeHints(least, most);
+        wxSize least = toSize(bounds.minTrackSize);
+        // A window that is larger than its screen cannot be seen whole.
+        least.DecTo(RoomFor(Place(), RoomOnScreens()).GetSize());
+        frame_->SetSizeHints(least, toSize(bounds.maxTrackSize));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <wx/frame.h>
 
+#include <algorithm>
 #include <bit>
 
 #include "desktop/Displays.h"
@@ -18,12 +19,24 @@ constexpr const wchar_t* kOwner = L"zyGlobal";
 
 constexpr double kTwipsPerInch = 1440;
 
-/// The system counts a window's normal place from where the room for windows begins on its screen.
-wxPoint StartOfRoom(const RECT& place) {
+MONITORINFO Describe(HMONITOR monitor) {
     MONITORINFO screen{};
     screen.cbSize = sizeof screen;
-    ::GetMonitorInfoW(::MonitorFromRect(&place, MONITOR_DEFAULTTONEAREST), &screen);
+    ::GetMonitorInfoW(monitor, &screen);
+    return screen;
+}
+
+/// The system counts a window's normal place from where the room for windows begins on its screen.
+wxPoint StartOfRoom(const RECT& place) {
+    const auto screen = Describe(::MonitorFromRect(&place, MONITOR_DEFAULTTONEAREST));
     return {screen.rcWork.left - screen.rcMonitor.left, screen.rcWork.top - screen.rcMonitor.top};
+}
+
+/// A window that is larger than its screen cannot be seen whole.
+void KeepLeastSizeOnScreen(HWND window, MINMAXINFO& bounds) {
+    const RECT room = Describe(::MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST)).rcWork;
+    bounds.ptMinTrackSize.x = std::min(bounds.ptMinTrackSize.x, room.right - room.left);
+    bounds.ptMinTrackSize.y = std::min(bounds.ptMinTrackSize.y, room.bottom - room.top);
 }
 
 } // namespace
@@ -129,10 +142,14 @@ LRESULT CALLBACK DesktopWindowMsw::Receive(HWND window, UINT message, WPARAM wPa
     const auto* const owner = static_cast<DesktopWindowMsw*>(::GetPropW(window, kOwner));
     // Copied, for a message that closes the window puts another one in its place.
     const auto procedure = owner->procedure_;
-    return procedure({.window = std::bit_cast<WindowHandle>(window),
-                      .message = message,
-                      .wParam = wParam,
-                      .lParam = lParam});
+    const auto result = procedure({.window = std::bit_cast<WindowHandle>(window),
+                                   .message = message,
+                                   .wParam = wParam,
+                                   .lParam = lParam});
+    if (message == WM_GETMINMAXINFO) {
+        KeepLeastSizeOnScreen(window, *std::bit_cast<MINMAXINFO*>(lParam));
+    }
+    return result;
 }
 
 std::intptr_t DesktopWindowMsw::PassOn(const WindowMessage& message) const {

@@ -65,6 +65,10 @@ wxPanel* MakeOuterPanel(wxWindow& window) {
     return new OuterPanel(&window);
 }
 
+void KeepScrollBarsInSight(wxScrolledWindow& /*window*/) {
+    // They are.
+}
+
 wxPanel* MakeInnerPanel(wxWindow& parent) {
     return new Inner<wxPanel>(&parent);
 }

@@ -12,13 +12,6 @@ class KeyboardWindow : public RulesWindow {
   protected:
     KeyboardWindow() { PutRules(ThreeRules()); }
 
-    /// The controls as a person reads them. The arrows are one control with two stops.
-    std::vector<const Control*> ReadingOrder() {
-        auto& c = page();
-        return {&c.lstRulesList, &c.cmdUpDown,    &c.cmdUpDown,     &c.cmdAddList, &c.cmdDeleteList,
-                &c.cmdSaveRules, &c.cmdHelpRules, &c.txtCode,       &c.txtMin,     &c.txtMax,
-                &c.cboCondition, &c.cboZone,      &c.txtDescription};
-    }
     static std::vector<std::string> EntriesOf(const wxMenu& menu) {
         std::vector<std::string> entries;
         for (const auto* item : menu.GetMenuItems()) {
@@ -34,7 +27,7 @@ TEST_F(KeyboardWindow, StartsInTheList) {
 
 TEST_F(KeyboardWindow, TabGoesThroughTheControlsAsAPersonReadsThem) {
     Play([&] {
-        for (const auto* control : ReadingOrder()) {
+        for (const auto* control : ControlsInOrder()) {
             WaitForFocus(*control);
             Press(WXK_TAB);
         }
@@ -45,7 +38,7 @@ TEST_F(KeyboardWindow, TabGoesThroughTheControlsAsAPersonReadsThem) {
 TEST_F(KeyboardWindow, ShiftTabGoesTheSameWayBack) {
     Play([&] {
         WaitForFocus(page().lstRulesList);
-        const auto order = ReadingOrder();
+        const auto order = ControlsInOrder();
         for (auto control = order.rbegin(); control != order.rend(); ++control) {
             Press(WXK_TAB, wxMOD_SHIFT);
             WaitForFocus(**control);

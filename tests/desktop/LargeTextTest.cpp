@@ -24,15 +24,19 @@ TEST_F(LayoutWindow, IsTidyWhereEverythingIsTwiceAsLarge) {
     });
 }
 
-TEST_F(LayoutWindow, KeepsItsLeastSizeOnAScreenThatIsSmaller) {
+TEST_F(LayoutWindow, IsNoLargerThanAScreenWhereEverythingCanBeReachedByScrolling) {
     const EnvironmentVariable large("GDK_SCALE", "3");
     Play([&] {
-        WaitUntil("it is larger than the screen", [] {
-            const wxSize size = RealFrame().GetSize();
-            const wxSize screen = wxGetDisplaySize();
-            return size.x > screen.x && size.y > screen.y;
-        });
-        EXPECT_GE(InWindow([] { return RealFrame().GetPosition().y; }), 0);
+        WaitUntil("it lies on the screen",
+                  [] { return wxRect(wxGetDisplaySize()).Contains(RealFrame().GetRect()); });
+        EXPECT_LT(InWindow([] { return RealFrame().GetSize().y; }), 560);
+        for (const auto* control : ControlsInOrder()) {
+            WaitForFocus(*control);
+            ExpectSeen(*control);
+            ExpectSeen(program->form.zyStatusBar);
+            Press(WXK_TAB);
+        }
+        ExpectUncrowded();
     });
 }
 

@@ -85,5 +85,42 @@ TEST_F(LayoutWindow, AColumnThatAPersonMadeWiderStaysSo) {
     });
 }
 
+TEST_F(LayoutWindow, APageThatNeedsMoreRoomThanThereIsScrollsToTheControlThatHasTheKeyboard) {
+    Play([&] {
+        NeedRoom({20000, 18000});
+        for (int round = 0; round < 2; ++round) {
+            for (const auto* control : ControlsInOrder()) {
+                WaitForFocus(*control);
+                ExpectSeen(*control);
+                ExpectSeen(program->form.zyStatusBar);
+                Press(WXK_TAB);
+            }
+        }
+        ExpectUncrowded();
+    });
+}
+
+TEST_F(LayoutWindow, APageThatScrolledFillsItsRoomAgainWhenThatIsEnough) {
+    Play([&] {
+        const Size before = InWindow([&] { return program->form.InnerSize(); });
+        NeedRoom({20000, 18000});
+        Press('D', wxMOD_ALT);
+        WaitForFocus(page().txtDescription);
+        ExpectSeen(page().txtDescription);
+        NeedRoom({});
+        WaitUntil("the page has its room", [&] { return program->form.InnerSize() == before; });
+        ExpectTidy();
+    });
+}
+
+TEST_F(LayoutWindow, AButtonOfWhichAPartAloneIsSeenIsClickedWhereItStands) {
+    Play([&] {
+        NeedRoom({20000, 18000});
+        const auto place = ScrollUntilTheTopOfItIsSeen(page().cmdAddList);
+        hands->Click(place);
+        WaitForSelection(4);
+    });
+}
+
 } // namespace
 } // namespace zy::test

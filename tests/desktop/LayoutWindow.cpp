@@ -27,30 +27,86 @@ void LayoutWindow::Resize(const wxSize& size) {
     WaitUntil("the window has its new size", [&] { return IsAbout(RealFrame().GetSize(), size); });
 }
 
-void LayoutWindow::ExpectTidy() {
+void LayoutWindow::ExpectNothingWrong(const std::function<std::string()>& describe) {
     const auto end = std::chrono::steady_clock::now() + kPatience;
     std::string wrong;
     do {
-        wrong = InWindow([&] { return Untidiness(); });
+        wrong = InWindow(describe);
     } while (!wrong.empty() && std::chrono::steady_clock::now() < end);
     EXPECT_EQ(wrong, "");
 }
 
-std::string LayoutWindow::Untidiness() {
-    std::string wrong;
-    auto& c = page();
-    const std::vector<const Control*> list{&c.lstRulesList,  &c.cmdUpDown,    &c.cmdAddList,
-                                           &c.cmdDeleteList, &c.cmdSaveRules, &c.cmdHelpRules};
-    const std::vector<const Control*> details{&c.lblCode, &c.txtCode, &c.lblMin,         &c.txtMin,
-                                              &c.lblMax,  &c.txtMax,  &c.lblCondition,   &c.cboCondition,
-                                              &c.lblZone, &c.cboZone, &c.lblDescription, &c.txtDescription};
-    wrong += Overlaps({&c.fraRulesList, &c.FraRuleDetails}) + Overlaps(list) + Overlaps(details);
-    for (const auto& controls : {list, details}) {
+void LayoutWindow::ExpectTidy() {
+    ExpectNothingWrong([&] { return Crowding() + Clipping(); });
+}
+
+void LayoutWindow::ExpectUncrowded() {
+    ExpectNothingWrong([&] { return Crowding(); });
+}
+
+void LayoutWindow::ExpectSeen(const Control& control) {
+    ExpectNothingWrong([&] { return Clipped(control); });
+}
+
+void LayoutWindow::NeedRoom(const Size& least) {
+    InWindow([&] {
+        program->form.leastInnerSize = [least] { return least; };
+        RealFrame().SendSizeEvent();
+    });
+    WaitUntil("the page has the room that it needs", [&] {
+        const Size& size = program->form.InnerSize();
+        return size.width >= least.width && size.height >= least.height;
+    });
+}
+
+wxScrolledWindow& LayoutWindow::PageArea() {
+    return dynamic_cast<wxScrolledWindow&>(*Real(program->form.fraRules).GetParent()->GetParent());
+}
+
+wxPoint LayoutWindow::ScrollUntilTheTopOfItIsSeen(const Control& control) {
+    constexpr int kSeen = 12;
+    return InWindow([&] {
+        auto& area = PageArea();
+        const wxRect place = PlaceOnScreen(Real(control));
+        const wxRect room = PlaceOnScreen(area);
+        int step = 0;
+        area.GetScrollPixelsPerUnit(nullptr, &step);
+        const int beyond = room.GetBottom() - place.GetTop() - kSeen;
+        area.Scroll((place.x - room.x) / step, -beyond / step);
+        return PlaceOnScreen(Real(control)).GetTopLeft() + wxPoint(kSeen, kSeen / 2);
+    });
+}
+
+std::string LayoutWindow::Crowding() {
+    std::string wrong = Overlaps({&page().fraRulesList, &page().FraRuleDetails});
+    for (const auto& controls : {ListControls(), DetailControls()}) {
+        wrong += Overlaps(controls);
         for (const auto* control : controls) {
-            wrong += Clipped(*control) + Cramped(*control);
+            wrong += Cramped(*control);
         }
     }
-    return wrong + Clipped(c.fraRulesList) + Clipped(c.FraRuleDetails);
+    return wrong;
+}
+
+std::string LayoutWindow::Clipping() {
+    std::string wrong = Clipped(page().fraRulesList) + Clipped(page().FraRuleDetails);
+    for (const auto& controls : {ListControls(), DetailControls()}) {
+        for (const auto* control : controls) {
+            wrong += Clipped(*control);
+        }
+    }
+    return wrong;
+}
+
+std::vector<const Control*> LayoutWindow::ListControls() {
+    auto& c = page();
+    return {&c.lstRulesList, &c.cmdUpDown, &c.cmdAddList, &c.cmdDeleteList, &c.cmdSaveRules, &c.cmdHelpRules};
+}
+
+std::vector<const Control*> LayoutWindow::DetailControls() {
+    auto& c = page();
+    return {&c.lblCode, &c.txtCode,      &c.lblMin,       &c.txtMin,  &c.lblMax,         &c.txtMax,
+            &c.lblZone, &c.lblCondition, &c.cboCondition, &c.cboZone, &c.lblDescription, &c.txtDescription};
 }
 
 std::string LayoutWindow::Overlaps(const std::vector<const Control*>& controls) {

@@ -121,6 +121,13 @@ void RulesWindow::WaitForSelection(int item) {
     });
 }
 
+std::vector<const Control*> RulesWindow::ControlsInOrder() {
+    auto& c = page();
+    return {&c.lstRulesList, &c.cmdUpDown,    &c.cmdUpDown,     &c.cmdAddList, &c.cmdDeleteList,
+            &c.cmdSaveRules, &c.cmdHelpRules, &c.txtCode,       &c.txtMin,     &c.txtMax,
+            &c.cboCondition, &c.cboZone,      &c.txtDescription};
+}
+
 wxDataViewCtrl& RulesWindow::RealList() {
     return dynamic_cast<wxDataViewCtrl&>(Real(page().lstRulesList));
 }

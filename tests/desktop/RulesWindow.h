@@ -42,6 +42,9 @@ class RulesWindow : public GridWindow {
 
     void WaitForSelection(int item);
 
+    /// The controls as a person reads them, and Tab goes. The arrows are one control with two stops.
+    std::vector<const Control*> ControlsInOrder();
+
     /// The real list. For the window's thread.
     wxDataViewCtrl& RealList();
 

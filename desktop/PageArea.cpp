@@ -1,0 +1,59 @@
+#include "desktop/PageArea.h"
+
+#include <wx/frame.h>
+#include <wx/panel.h>
+#include <wx/utils.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "desktop/Panels.h"
+
+namespace zy {
+namespace {
+
+/// How many steps of that length to go until something lies inside the room, its beginning at least.
+int StepsTo(int place, int length, int room, int step) {
+    const int beyond = place + length - room;
+    if (place < 0 || (beyond > 0 && length > room)) {
+        return static_cast<int>(std::floor(1.0 * place / step));
+    }
+    return std::max(beyond + step - 1, 0) / step;
+}
+
+} // namespace
+
+PageArea::PageArea(wxFrame& frame)
+    : wxScrolledWindow(&frame, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL | wxBORDER_NONE),
+      page_(MakeOuterPanel(*this)) {
+    const int step = GetCharHeight();
+    SetScrollRate(step, step);
+    KeepScrollBarsInSight(*this);
+    Bind(wxEVT_CHILD_FOCUS, [this](wxChildFocusEvent& event) {
+        event.Skip();
+        auto* focused = wxWindow::FindFocus();
+        // A control that is just clicked can be seen, and would move away under the mouse.
+        if (focused != nullptr && page_->IsDescendant(focused) && !wxGetMouseState().LeftIsDown()) {
+            ShowWhole(*focused);
+        }
+    });
+}
+
+void PageArea::FitPage(const wxSize& least) {
+    SetVirtualSize(least);
+    wxSize size = GetClientSize();
+    size.IncTo(least);
+    page_->SetSize(wxRect(CalcScrolledPosition(wxPoint()), size));
+}
+
+void PageArea::ShowWhole(const wxWindow& control) {
+    const wxSize room = GetClientSize();
+    const wxRect place(ScreenToClient(control.GetScreenPosition()), control.GetSize());
+    wxPoint step;
+    GetScrollPixelsPerUnit(&step.x, &step.y);
+    const wxPoint start = GetViewStart();
+    Scroll(start.x + StepsTo(place.x, place.width, room.x, step.x),
+           start.y + StepsTo(place.y, place.height, room.y, step.y));
+}
+
+} // namespace zy

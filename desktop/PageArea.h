@@ -1,0 +1,26 @@
+#pragma once
+
+#include <wx/scrolwin.h>
+
+class wxFrame;
+
+namespace zy {
+
+/// The room of a main window between its menu bar and its status bar. The page that stands in it can be
+/// scrolled where there is not enough room for it, and is by whoever goes to a control that cannot be seen.
+class PageArea final : public wxScrolledWindow {
+  public:
+    explicit PageArea(wxFrame& frame);
+
+    /// The window that the page's controls are made in.
+    wxWindow* Page() const { return page_; }
+    /// Gives the page all the room, but no less than this, in pixels.
+    void FitPage(const wxSize& least);
+
+  private:
+    void ShowWhole(const wxWindow& control);
+
+    wxWindow* page_;
+};
+
+} // namespace zy
