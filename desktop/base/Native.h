@@ -9,6 +9,7 @@ class wxButton;
 class wxChoice;
 class wxDataViewColumn;
 class wxDataViewCtrl;
+class wxHyperlinkCtrl;
 class wxKeyEvent;
 class wxStaticBox;
 class wxTextCtrl;
@@ -79,6 +80,9 @@ void CloseDropDown(const wxChoice& choice);
 /// Lets a list that cannot drop down, because somebody else has the mouse, leave the keys and clicks to the
 /// window. That happens in a double click, while the window manager looks at its second half.
 void CloseDropDownThatFailed(const wxChoice& choice);
+
+/// Lets a link that has the keyboard be followed by Enter, too.
+void FollowByEnter(wxHyperlinkCtrl& link, std::function<void()> follow);
 
 /// Lets the mouse wheel over a list that is not dropped down leave the chosen item alone.
 void IgnoreWheelWhileClosed(wxChoice& choice);

@@ -141,6 +141,10 @@ void SetAccessibleName(wxWindow& window, const wxString& name) {
     atk_object_set_name(gtk_widget_get_accessible(FocusWidgetOf(window)), name.utf8_str());
 }
 
+void FollowByEnter(wxHyperlinkCtrl& /*link*/, std::function<void()> /*follow*/) {
+    // A link is a button to GTK, which Enter presses.
+}
+
 void IgnoreWheelWhileClosed(wxChoice& choice) {
     // A list that has dropped down is a window of its own.
     choice.Bind(wxEVT_MOUSEWHEEL, [](wxMouseEvent&) {});

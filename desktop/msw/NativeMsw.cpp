@@ -4,6 +4,7 @@
 #include <wx/dataobj.h>
 #include <wx/dataview.h>
 #include <wx/eventfilter.h>
+#include <wx/hyperlink.h>
 #include <wx/msw/wrapwin.h>
 #include <wx/statbox.h>
 #include <wx/textctrl.h>
@@ -133,6 +134,18 @@ void SetAccessibleName(wxWindow& window, const wxString& name) {
     } else {
         AnnotateName(window, name);
     }
+}
+
+void FollowByEnter(wxHyperlinkCtrl& link, std::function<void()> follow) {
+    link.Bind(wxEVT_CHAR_HOOK, [&link, follow = std::move(follow)](wxKeyEvent& event) {
+        const bool enters = event.GetKeyCode() == WXK_RETURN || event.GetKeyCode() == WXK_NUMPAD_ENTER;
+        if (!enters || event.HasAnyModifiers()) {
+            event.Skip();
+            return;
+        }
+        // Behind the key itself, which a dialog would take for that of a button.
+        link.CallAfter(follow);
+    });
 }
 
 void IgnoreWheelWhileClosed(wxChoice& choice) {
