@@ -4,6 +4,7 @@
 
 #include "desktop/CellClipboard.h"
 #include "desktop/CellKeys.h"
+#include "desktop/CutTexts.h"
 #include "desktop/Keys.h"
 #include "desktop/ListText.h"
 #include "desktop/Native.h"
@@ -18,6 +19,7 @@ ListViewBinding::ListViewBinding(const ViewContext& context, const Inside& insid
     list_->AssociateModel(rows_.get());
     SetAccessibleName(*list_, Shown(model_.Parent()->Caption()));
     list_->Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, [this](wxDataViewEvent&) { TakePick(); });
+    ShowCutTexts(KeyboardPart(*list_), [this](const wxPoint& onScreen) { return CutTextAt(onScreen); });
     KeyboardPart(*list_).Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { PressKey(event); });
     Keep(model_.refilled.Observe([this] {
         ChangeList([this] { rows_->MatchCount(); });
@@ -43,6 +45,21 @@ void ListViewBinding::MakeColumns() {
         MakeHeaderPlain(*made);
         shownWidths_.push_back(column.width);
     }
+    ShowCutHeaders(*list_);
+}
+
+wxString ListViewBinding::CutTextAt(const wxPoint& onScreen) const {
+    wxDataViewItem item;
+    wxDataViewColumn* column = nullptr;
+    list_->HitTest(list_->ScreenToClient(onScreen), item, column);
+    if (!item.IsOk() || column == nullptr) {
+        return {};
+    }
+    wxVariant text;
+    rows_->GetValue(text, item, column->GetModelColumn());
+    const wxRect seen = list_->GetItemRect(item, column).Intersect(list_->GetClientRect());
+    const int needed = list_->GetTextExtent(text.GetString()).x + 2 * MarginOfListText();
+    return needed > seen.width ? text.GetString() : wxString();
 }
 
 void ListViewBinding::ShowAppearance() {

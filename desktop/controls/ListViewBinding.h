@@ -21,6 +21,8 @@ class ListViewBinding : public ControlBinding {
   private:
     void MakeColumns();
     void ShowColumnWidths();
+    /// The text at a place on the screen if its column is too narrow for it.
+    wxString CutTextAt(const wxPoint& onScreen) const;
     void TakePick();
     void PressKey(wxKeyEvent& event);
     void ShowChanges();

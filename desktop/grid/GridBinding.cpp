@@ -7,6 +7,7 @@
 
 #include "desktop/CellClipboard.h"
 #include "desktop/CellKeys.h"
+#include "desktop/CutTexts.h"
 #include "desktop/GridNative.h"
 #include "desktop/Native.h"
 #include "desktop/Refusals.h"
@@ -39,6 +40,10 @@ GridBinding::GridBinding(const ViewContext& context, const Inside& inside, Grid&
     ObserveModel();
     BindMouse();
     BindKeys();
+    ShowCutTexts(*grid_->GetGridWindow(),
+                 [this](const wxPoint& onScreen) { return grid_->CutCellAt(onScreen); });
+    ShowCutTexts(*grid_->GetGridColLabelWindow(),
+                 [this](const wxPoint& onScreen) { return grid_->CutHeaderAt(onScreen); });
     Attach(border_);
     ShowChanges();
 }

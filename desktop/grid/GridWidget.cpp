@@ -5,6 +5,8 @@
 #include <wx/renderer.h>
 #include <wx/settings.h>
 
+#include <algorithm>
+
 namespace zy {
 namespace {
 
@@ -88,6 +90,26 @@ void GridWidget::FitRows(int editorHeight) {
     const int room = GetCharHeight() / 4;
     SetDefaultRowSize(editorHeight + room, true);
     SetColLabelSize(editorHeight + 2 * room);
+}
+
+wxString GridWidget::CutCellAt(const wxPoint& onScreen) const {
+    const auto cell = XYToCell(CalcUnscrolledPosition(GetGridWindow()->ScreenToClient(onScreen)));
+    return cell == wxGridNoCellCoords ? wxString()
+                                      : IfCut(GetCellValue(cell), GetDefaultCellFont(), cell.GetCol());
+}
+
+wxString GridWidget::CutHeaderAt(const wxPoint& onScreen) const {
+    const int column = XToCol(CalcUnscrolledPosition(GetGridWindow()->ScreenToClient(onScreen)).x);
+    return column == wxNOT_FOUND ? wxString() : IfCut(GetColLabelValue(column), GetLabelFont(), column);
+}
+
+wxString GridWidget::IfCut(const wxString& text, const wxFont& font, int column) const {
+    const int left = CalcScrolledPosition(wxPoint(GetColLeft(column), 0)).x;
+    const int right = std::min(left + GetColWidth(column), GetGridWindow()->GetClientSize().x);
+    int width = 0;
+    int height = 0;
+    GetTextExtent(text, &width, &height, nullptr, nullptr, &font);
+    return width + 2 * CellMargin() > right - std::max(left, 0) ? text : wxString();
 }
 
 void GridWidget::DrawColLabel(wxDC& dc, int column) {

@@ -20,11 +20,16 @@ class GridWidget : public wxGrid {
 
     /// Makes the rows high enough for an editor of this height.
     void FitRows(int editorHeight);
+    /// The text of the cell, or of the header, at a place on the screen if not all of it is seen.
+    wxString CutCellAt(const wxPoint& onScreen) const;
+    wxString CutHeaderAt(const wxPoint& onScreen) const;
     /// The room left and right of a cell's text.
     int CellMargin() const { return GetCharWidth() / 2; }
 
   private:
     void DrawColLabel(wxDC& dc, int column) override;
+    /// The text if it is wider than what is seen of its column.
+    wxString IfCut(const wxString& text, const wxFont& font, int column) const;
 
     bool hasCurrent_ = false;
 };

@@ -17,6 +17,7 @@ struct _GtkEventController;
 struct _GtkGesture;
 struct _GtkGestureSingle;
 struct _GtkScrolledWindow;
+struct _GtkTooltip;
 struct _GtkTreePath;
 struct _GtkTreeView;
 struct _GtkTreeViewColumn;
@@ -51,8 +52,10 @@ void gtk_gesture_single_set_button(_GtkGestureSingle* gesture, guint button);
 GtkWidget* gtk_grab_get_current();
 GList* gtk_menu_get_for_attach_widget(GtkWidget* widget);
 void gtk_scrolled_window_set_overlay_scrolling(_GtkScrolledWindow* window, int overlay);
+void gtk_tooltip_set_text(_GtkTooltip* tip, const char* text);
 void gtk_tree_path_free(_GtkTreePath* path);
 _GtkTreePath* gtk_tree_path_new_from_indices(int first, ...);
+GtkWidget* gtk_tree_view_column_get_button(_GtkTreeViewColumn* column);
 void gtk_tree_view_column_set_clickable(_GtkTreeViewColumn* column, int clickable);
 void gtk_tree_view_set_cursor(_GtkTreeView* view, _GtkTreePath* path, _GtkTreeViewColumn* focusColumn,
                               int edit);

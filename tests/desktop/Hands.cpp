@@ -37,6 +37,11 @@ void Hands::TurnWheelOver(const wxPoint& place) {
     TurnWheel();
 }
 
+void Hands::PointAt(const wxPoint& place) {
+    InWindow([&] { simulator_->MouseMove(place - wxPoint(1, 0)); });
+    InWindow([&] { simulator_->MouseMove(place); });
+}
+
 void Hands::PushMouse(const wxPoint& place) {
     InWindow([&] { simulator_->MouseMove(place); });
     InWindow([&] { simulator_->MouseDown(); });

@@ -24,6 +24,8 @@ class Hands {
     void RightClick(const wxPoint& place);
     /// Turns the mouse wheel towards the person.
     void TurnWheelOver(const wxPoint& place);
+    /// Lets the mouse come to rest there.
+    void PointAt(const wxPoint& place);
     /// Presses the button of the mouse and keeps it down.
     void PushMouse(const wxPoint& place);
     void LetGoOfMouse();

@@ -48,6 +48,9 @@ std::optional<wxUniChar> PasswordCharacterOf(const wxTextCtrl& box);
 /// Whether a line of text has room for all of it.
 bool ShowsWholeText(const wxTextCtrl& box);
 
+/// The tooltip that is shown; none when none is.
+std::optional<std::string> TipOnScreen();
+
 /// What another program would paste.
 wxString TextOnClipboard();
 

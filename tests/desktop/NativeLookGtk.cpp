@@ -9,6 +9,7 @@
 
 #include <chrono>
 #include <cstdlib>
+#include <memory>
 #include <stdexcept>
 #include <utility>
 
@@ -17,6 +18,7 @@
 #include "desktop/GtkFunctions.h"
 
 struct _GtkDialog;
+struct _GtkLabel;
 struct _GtkMessageDialog;
 struct _GtkWindow;
 
@@ -27,6 +29,11 @@ void gtk_entry_get_layout_offsets(_GtkEntry* entry, int* x, int* y);
 unsigned gtk_entry_get_invisible_char(_GtkEntry* entry);
 int gtk_entry_get_visibility(_GtkEntry* entry);
 GtkWidget* gtk_message_dialog_get_image(_GtkMessageDialog* dialog);
+GList* gtk_container_get_children(_GtkContainer* container);
+unsigned long gtk_container_get_type();
+const char* gtk_label_get_text(_GtkLabel* label);
+unsigned long gtk_label_get_type();
+GList* gtk_window_list_toplevels();
 int gtk_widget_get_visible(GtkWidget* widget);
 GdkWindow* gtk_widget_get_window(GtkWidget* widget);
 int gtk_widget_translate_coordinates(GtkWidget* from, GtkWidget* to, int x, int y, int* toX, int* toY);
@@ -54,6 +61,30 @@ GtkWidget* WidgetOf(const wxMessageDialog& box, int answer) {
     constexpr int kResponseNo = -9;
     const int response = answer == wxID_YES ? kResponseYes : answer == wxID_NO ? kResponseNo : kResponseOk;
     return gtk_dialog_get_widget_for_response(reinterpret_cast<_GtkDialog*>(box.m_widget), response);
+}
+
+bool IsA(GtkWidget* widget, GType type) {
+    return g_type_check_instance_is_a(reinterpret_cast<GTypeInstance*>(widget), type) != 0;
+}
+
+using Widgets = std::unique_ptr<GList, decltype(&g_list_free)>;
+
+/// The text of the visible labels in a widget.
+std::string TextsIn(GtkWidget* widget) {
+    if (gtk_widget_get_visible(widget) == 0) {
+        return {};
+    }
+    std::string text;
+    if (IsA(widget, gtk_label_get_type())) {
+        text = gtk_label_get_text(reinterpret_cast<_GtkLabel*>(widget));
+    } else if (IsA(widget, gtk_container_get_type())) {
+        const Widgets inner(gtk_container_get_children(reinterpret_cast<_GtkContainer*>(widget)),
+                            g_list_free);
+        for (const GList* each = inner.get(); each != nullptr; each = each->next) {
+            text += TextsIn(static_cast<GtkWidget*>(each->data));
+        }
+    }
+    return text;
 }
 
 } // namespace
@@ -128,6 +159,18 @@ bool ShowsWholeText(const wxTextCtrl& box) {
     int before = 0;
     gtk_entry_get_layout_offsets(entry, &before, nullptr);
     return scrolled == 0 && before + box.GetTextExtent(box.GetValue()).x <= box.GetSize().x;
+}
+
+std::optional<std::string> TipOnScreen() {
+    const Widgets windows(gtk_window_list_toplevels(), g_list_free);
+    for (const GList* each = windows.get(); each != nullptr; each = each->next) {
+        auto* window = static_cast<GtkWidget*>(each->data);
+        const std::string kind = g_type_name(G_OBJECT_TYPE(window));
+        if (kind == "GtkTooltipWindow" && gtk_widget_get_mapped(window) != 0) {
+            return TextsIn(window);
+        }
+    }
+    return std::nullopt;
 }
 
 wxString TextOnClipboard() {

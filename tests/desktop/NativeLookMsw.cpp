@@ -3,6 +3,8 @@
 #include <wx/msw/private.h>
 #include <wx/textctrl.h>
 
+#include <commctrl.h>
+
 #include <algorithm>
 #include <bit>
 #include <limits>
@@ -33,8 +35,9 @@ LRESULT CALLBACK TakeWork(HWND window, UINT message, WPARAM wParam, LPARAM lPara
 }
 
 bool IsOfClass(HWND window, std::wstring_view name) {
-    wchar_t text[16]{};
-    return std::wstring_view(text, static_cast<std::size_t>(::GetClassNameW(window, text, 16))) == name;
+    constexpr int kMost = 32;
+    wchar_t text[kMost]{};
+    return std::wstring_view(text, static_cast<std::size_t>(::GetClassNameW(window, text, kMost))) == name;
 }
 
 std::wstring TextOf(HWND window) {
@@ -177,6 +180,18 @@ bool ShowsWholeText(const wxTextCtrl& box) {
     };
     const int end = leftOf(last) + box.GetTextExtent(box.GetValue().Last()).x;
     return leftOf(0) >= 0 && end <= box.GetClientSize().x;
+}
+
+std::optional<std::string> TipOnScreen() {
+    std::optional<std::string> text;
+    const auto look = [](HWND window, LPARAM found) -> BOOL {
+        if (IsOfClass(window, TOOLTIPS_CLASSW) && ::IsWindowVisible(window) != FALSE) {
+            *std::bit_cast<std::optional<std::string>*>(found) = wxString(TextOf(window)).utf8_string();
+        }
+        return TRUE;
+    };
+    ::EnumThreadWindows(::GetCurrentThreadId(), look, std::bit_cast<LPARAM>(&text));
+    return text;
 }
 
 wxString TextOnClipboard() {

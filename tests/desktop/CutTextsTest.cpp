@@ -1,0 +1,107 @@
+#include <wx/dataview.h>
+#include <wx/frame.h>
+#include <wx/grid.h>
+#include <wx/statusbr.h>
+
+#include "NativeLook.h"
+#include "RulesWindow.h"
+#include "UnitsWindow.h"
+
+namespace zy::test {
+namespace {
+
+const std::string kLong =
+    "A description that is so long that no list on an ordinary screen has room for all of it, "
+    "so that whoever wants to read its end has to point at it";
+
+/// The tooltips of a window in which some texts are cut.
+template <typename Window>
+class WithTooltips : public Window {
+  protected:
+    /// Points at a text and waits until it is shown whole.
+    void ExpectTip(const wxPoint& place, const std::string& text) {
+        this->hands->PointAt(place);
+        WaitUntil("the tooltip says \"" + text + "\"", [&] { return TipOnScreen() == text; });
+    }
+    /// Goes on to another place, where the tooltip that is shown goes.
+    void ExpectNoTip(const wxPoint& place) {
+        this->hands->PointAt(place);
+        WaitUntil("there is no tooltip", [&] { return !TipOnScreen(); });
+    }
+};
+
+class CutTextsInTheList : public WithTooltips<RulesWindow> {
+  protected:
+    CutTextsInTheList() { PutRules({"R1|1|2|>|UCL|" + kLong, "R2|3|4|<=|LWL|Short"}); }
+
+    wxPoint PlaceIn(int item, unsigned column) {
+        return InWindow([&] {
+            const wxDataViewItem row(wxUIntToPtr(static_cast<unsigned>(item)));
+            const wxRect place = RealList().GetItemRect(row, RealList().GetColumn(column));
+            return RealList().ClientToScreen(place.GetPosition() + wxSize(6, place.height / 2));
+        });
+    }
+    /// The header stands above the first item.
+    wxPoint PlaceOfHeader(unsigned column) { return PlaceIn(1, column) - wxPoint(0, 22); }
+};
+
+TEST_F(CutTextsInTheList, AreShownWholeByATooltip) {
+    Play([&] {
+        ExpectTip(PlaceIn(1, 5), kLong);
+        ExpectNoTip(PlaceIn(2, 5));
+        ExpectTip(PlaceIn(1, 5), kLong);
+        ExpectNoTip(PlaceIn(1, 0));
+    });
+}
+
+TEST_F(CutTextsInTheList, AreShownWholeWhereAPersonHasMadeTheColumnNarrow) {
+    Play([&] {
+        InWindow([&] { RealList().GetColumn(4)->SetWidth(24); });
+        ExpectTip(PlaceIn(2, 4), "LWL");
+    });
+}
+
+TEST_F(CutTextsInTheList, OfTheHeaderAreShownWholeToo) {
+    Play([&] {
+        InWindow([&] { RealList().GetColumn(0)->SetWidth(30); });
+        ExpectTip(PlaceOfHeader(0), "Rule ID");
+        ExpectNoTip(PlaceOfHeader(1));
+    });
+}
+
+TEST_F(CutTextsInTheList, OfTheStatusBarAreShownWholeToo) {
+    Play([&] {
+        InWindow([&] { program->form.zyStatusBar.SetText(kLong + kLong); });
+        ExpectTip(PlaceOf(program->form.zyStatusBar), kLong + kLong);
+    });
+}
+
+class CutTextsInTheGrid : public WithTooltips<UnitsWindow> {
+  protected:
+    CutTextsInTheGrid() { PutUnits({"Kilograms,kg", kLong + ",long"}); }
+
+    wxPoint PlaceOfHeader(int column) {
+        const wxRect cell = RectOfCell(1, column);
+        return {cell.x + 6, GridWindow::PlaceOfHeader().y};
+    }
+};
+
+TEST_F(CutTextsInTheGrid, AreShownWholeByATooltip) {
+    Play([&] {
+        ExpectTip(RectOfCell(2, 1).GetPosition() + wxPoint(6, 6), kLong);
+        ExpectNoTip(RectOfCell(1, 1).GetPosition() + wxPoint(6, 6));
+        ExpectTip(RectOfCell(2, 1).GetPosition() + wxPoint(6, 6), kLong);
+        ExpectNoTip(RectOfCell(2, 0).GetPosition() + wxPoint(6, 6));
+    });
+}
+
+TEST_F(CutTextsInTheGrid, OfTheHeaderAreShownWholeToo) {
+    Play([&] {
+        InWindow([&] { RealGrid().SetColSize(0, 16); });
+        ExpectTip(PlaceOfHeader(0), "Unit");
+        ExpectNoTip(PlaceOfHeader(1));
+    });
+}
+
+} // namespace
+} // namespace zy::test
