@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+#include "desktop/GridNative.h"
+
 namespace zy {
 namespace {
 
@@ -70,6 +72,7 @@ GridWidget::GridWidget(wxWindow* parent, wxGridTableBase* table)
     DisableDragRowSize();
     DisableDragColMove();
     SetMargins(0, 0);
+    SetLabelTextColour(HeaderTextColour());
     SetCellHighlightColour(wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT));
 }
 

@@ -3,6 +3,8 @@
 #include <glib-object.h>
 #include <wx/window.h>
 
+#include <cmath>
+
 #include "desktop/GtkFunctions.h"
 #include "desktop/Native.h"
 
@@ -17,6 +19,19 @@ wxWindow* MakeSurround(wxWindow* parent) {
     auto* surround = new wxWindow(parent, wxID_ANY);
     surround->SetCanFocus(false);
     return surround;
+}
+
+wxColour HeaderTextColour() {
+    // A theme gives its colours to what stands where they apply: in a list, even in one that nobody sees.
+    auto* list = static_cast<GtkWidget*>(g_object_ref_sink(gtk_tree_view_new()));
+    auto* column = gtk_tree_view_column_new();
+    gtk_tree_view_append_column(reinterpret_cast<_GtkTreeView*>(list), column);
+    auto* style = gtk_widget_get_style_context(gtk_tree_view_column_get_button(column));
+    GtkColour colour{};
+    gtk_style_context_get_color(style, gtk_style_context_get_state(style), &colour);
+    g_object_unref(list);
+    const auto part = [](double share) { return static_cast<unsigned char>(std::lround(share * 255)); };
+    return {part(colour.red), part(colour.green), part(colour.blue), part(colour.alpha)};
 }
 
 void ShowOverCells(wxWindow& control, const wxRect& place) {

@@ -17,6 +17,7 @@ struct _GtkEventController;
 struct _GtkGesture;
 struct _GtkGestureSingle;
 struct _GtkScrolledWindow;
+struct _GtkStyleContext;
 struct _GtkTooltip;
 struct _GtkTreePath;
 struct _GtkTreeView;
@@ -27,6 +28,9 @@ extern "C" {
 
 struct GtkRectangle {
     int x, y, width, height;
+};
+struct GtkColour {
+    double red, green, blue, alpha;
 };
 struct GtkSizeNeeded {
     int width, height;
@@ -52,17 +56,23 @@ void gtk_gesture_single_set_button(_GtkGestureSingle* gesture, guint button);
 GtkWidget* gtk_grab_get_current();
 GList* gtk_menu_get_for_attach_widget(GtkWidget* widget);
 void gtk_scrolled_window_set_overlay_scrolling(_GtkScrolledWindow* window, int overlay);
+void gtk_style_context_get_color(_GtkStyleContext* style, unsigned state, GtkColour* colour);
+unsigned gtk_style_context_get_state(_GtkStyleContext* style);
 void gtk_tooltip_set_text(_GtkTooltip* tip, const char* text);
 void gtk_tree_path_free(_GtkTreePath* path);
 _GtkTreePath* gtk_tree_path_new_from_indices(int first, ...);
+int gtk_tree_view_append_column(_GtkTreeView* view, _GtkTreeViewColumn* column);
 GtkWidget* gtk_tree_view_column_get_button(_GtkTreeViewColumn* column);
+_GtkTreeViewColumn* gtk_tree_view_column_new();
 void gtk_tree_view_column_set_clickable(_GtkTreeViewColumn* column, int clickable);
+GtkWidget* gtk_tree_view_new();
 void gtk_tree_view_set_cursor(_GtkTreeView* view, _GtkTreePath* path, _GtkTreeViewColumn* focusColumn,
                               int edit);
 _AtkObject* gtk_widget_get_accessible(GtkWidget* widget);
 void gtk_widget_get_allocation(GtkWidget* widget, GtkRectangle* allocation);
 int gtk_widget_get_mapped(GtkWidget* widget);
 void gtk_widget_get_preferred_size(GtkWidget* widget, GtkSizeNeeded* least, GtkSizeNeeded* natural);
+_GtkStyleContext* gtk_widget_get_style_context(GtkWidget* widget);
 GtkWidget* gtk_widget_get_parent(GtkWidget* widget);
 GtkWidget* gtk_widget_get_toplevel(GtkWidget* widget);
 int gtk_widget_is_ancestor(GtkWidget* widget, GtkWidget* ancestor);

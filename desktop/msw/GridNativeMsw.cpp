@@ -1,5 +1,6 @@
 #include <wx/msw/wrapwin.h>
 #include <wx/panel.h>
+#include <wx/settings.h>
 #include <wx/textctrl.h>
 
 #include <oleacc.h>
@@ -25,6 +26,10 @@ void ScrollBack(wxTextCtrl& text) {
 wxWindow* MakeSurround(wxWindow* parent) {
     // A panel hands the focus on to the grid in it.
     return MakeInnerPanel(*parent);
+}
+
+wxColour HeaderTextColour() {
+    return wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT);
 }
 
 void ShowOverCells(wxWindow& control, const wxRect& place) {

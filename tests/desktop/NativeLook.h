@@ -1,5 +1,6 @@
 #pragma once
 
+#include <wx/colour.h>
 #include <wx/gdicmn.h>
 #include <wx/string.h>
 
@@ -8,6 +9,7 @@
 #include <string>
 
 class wxChoice;
+class wxDataViewCtrl;
 class wxMessageDialog;
 class wxTextCtrl;
 
@@ -50,6 +52,9 @@ bool ShowsWholeText(const wxTextCtrl& box);
 
 /// The tooltip that is shown; none when none is.
 std::optional<std::string> TipOnScreen();
+
+/// The colour of the text in the headers of a list.
+wxColour HeaderColourOf(wxDataViewCtrl& list);
 
 /// What another program would paste.
 wxString TextOnClipboard();

@@ -3,6 +3,7 @@
 #include <wx/choice.h>
 #include <wx/clipbrd.h>
 #include <wx/dataobj.h>
+#include <wx/dataview.h>
 #include <wx/msgdlg.h>
 #include <wx/textctrl.h>
 #include <wx/uiaction.h>
@@ -171,6 +172,15 @@ std::optional<std::string> TipOnScreen() {
         }
     }
     return std::nullopt;
+}
+
+wxColour HeaderColourOf(wxDataViewCtrl& list) {
+    auto* column = reinterpret_cast<_GtkTreeViewColumn*>(list.GetColumn(0)->GetGtkHandle());
+    auto* style = gtk_widget_get_style_context(gtk_tree_view_column_get_button(column));
+    GtkColour colour{};
+    gtk_style_context_get_color(style, gtk_style_context_get_state(style), &colour);
+    const auto part = [](double share) { return static_cast<unsigned char>(share * 255 + 0.5); };
+    return {part(colour.red), part(colour.green), part(colour.blue)};
 }
 
 wxString TextOnClipboard() {

@@ -1,6 +1,7 @@
 #include <wx/choice.h>
 #include <wx/msgdlg.h>
 #include <wx/msw/private.h>
+#include <wx/settings.h>
 #include <wx/textctrl.h>
 
 #include <commctrl.h>
@@ -192,6 +193,10 @@ std::optional<std::string> TipOnScreen() {
     };
     ::EnumThreadWindows(::GetCurrentThreadId(), look, std::bit_cast<LPARAM>(&text));
     return text;
+}
+
+wxColour HeaderColourOf(wxDataViewCtrl& /*list*/) {
+    return wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT);
 }
 
 wxString TextOnClipboard() {

@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 
+#include "NativeLook.h"
 #include "RulesWindow.h"
 
 namespace zy::test {
@@ -78,6 +79,14 @@ class RulesGrid : public RulesWindow {
 
     static constexpr int kBesideGrid = 60;
 };
+
+TEST_F(RulesGrid, WritesItsHeaderInTheColourOfTheListsHeader) {
+    Play([&] {
+        const wxColour colour = InWindow([&] { return HeaderColourOf(RealList()); });
+        ShowGrid();
+        EXPECT_EQ(InWindow([&] { return RealGrid().GetLabelTextColour(); }), colour);
+    });
+}
 
 TEST_F(RulesGrid, ShowsSixColumnsAndARowForEveryRule) {
     Play([&] {
