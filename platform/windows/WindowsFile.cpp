@@ -70,23 +70,32 @@ struct Opening {
     SECURITY_ATTRIBUTES* permissions = nullptr;
 };
 
-OpenedFile Open(const std::string& path, const Opening& opening) {
-    SystemHandle file(::CreateFileA(path.c_str(), opening.access, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                    opening.permissions, opening.disposition, FILE_FLAG_SEQUENTIAL_SCAN,
-                                    nullptr));
-    if (!file) {
-        return {.handle = nullptr, .error = ToFileError(::GetLastError(), path)};
-    }
+OpenedFile OnDisk(SystemHandle file) {
     if (::GetFileType(file.Get()) != FILE_TYPE_DISK) {
         return {.handle = nullptr, .error = FileError::Other};
     }
     return {.handle = std::make_unique<WindowsFile>(std::move(file)), .error = FileError::None};
 }
 
+OpenedFile Open(const std::string& path, const Opening& opening) {
+    SystemHandle file(::CreateFileA(path.c_str(), opening.access, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                    opening.permissions, opening.disposition, FILE_FLAG_SEQUENTIAL_SCAN,
+                                    nullptr));
+    return file ? OnDisk(std::move(file))
+                : OpenedFile{.handle = nullptr, .error = ToFileError(::GetLastError(), path)};
+}
+
 } // namespace
 
 OpenedFile OpenWindowsFile(const std::string& path) {
     return Open(path, {.access = GENERIC_READ, .disposition = OPEN_EXISTING});
+}
+
+OpenedFile OpenWindowsFile(const std::wstring& path) {
+    SystemHandle file(::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                    OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    return file ? OnDisk(std::move(file))
+                : OpenedFile{.handle = nullptr, .error = ToFileError(::GetLastError())};
 }
 
 OpenedFile OpenOrCreateWindowsFile(const std::string& path) {

@@ -11,6 +11,7 @@ namespace zy {
 
 /// For reading, by one who reads from front to back.
 OpenedFile OpenWindowsFile(const std::string& path);
+OpenedFile OpenWindowsFile(const std::wstring& path);
 /// The same, but that a missing file is created.
 OpenedFile OpenOrCreateWindowsFile(const std::string& path);
 /// For writing; one that exists is emptied, and keeps its name and permissions.

@@ -132,7 +132,8 @@ bool WindowsFileSystem::PathExists(std::string_view path) {
 }
 
 OpenedFile WindowsFileSystem::OpenForReading(std::string_view path) {
-    return OpenBy(OpenWindowsFile, path);
+    const auto ofProgram = program_.Find(path);
+    return ofProgram ? OpenWindowsFile(*ofProgram) : OpenBy(OpenWindowsFile, path);
 }
 
 OpenedFile WindowsFileSystem::OpenAlwaysForReading(std::string_view path) {

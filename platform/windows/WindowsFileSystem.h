@@ -1,12 +1,18 @@
 #pragma once
 
+#include <utility>
+
 #include "platform/FileSystem.h"
+#include "platform/windows/ProgramFolder.h"
 
 namespace zy {
 
 /// The files of the system. Paths are its own: from a drive, a root or a server on.
 class WindowsFileSystem final : public FileSystem {
   public:
+    /// Files of this folder can be read whatever letters its path holds.
+    explicit WindowsFileSystem(ProgramFolder program = {}) : program_(std::move(program)) {}
+
     std::string DisplayPath(std::string_view path) override { return std::string(path); }
     FileError Locate(std::string_view path) override;
     LockedFolder LockFolderOf(std::string_view path) override;
@@ -24,6 +30,9 @@ class WindowsFileSystem final : public FileSystem {
     FileError Rename(std::string_view from, std::string_view to) override;
     /// The access list and, as far as the user may, owner and group.
     FileError CopyPermissions(std::string_view from, std::string_view to) override;
+
+  private:
+    ProgramFolder program_;
 };
 
 } // namespace zy

@@ -10,10 +10,10 @@
 namespace zy {
 namespace {
 
-std::string ExecutablePath() {
+std::wstring ExecutablePath() {
     constexpr DWORD kLongestPath = 32768;
-    std::string path(kLongestPath, '\0');
-    path.resize(::GetModuleFileNameA(nullptr, path.data(), kLongestPath));
+    std::wstring path(kLongestPath, L'\0');
+    path.resize(::GetModuleFileNameW(nullptr, path.data(), kLongestPath));
     return path;
 }
 
@@ -35,13 +35,17 @@ std::string WindowsSystemInfo::CommandLine() const {
 
 std::string WindowsSystemInfo::ExecutableName() const {
     const auto path = ExecutablePath();
-    const auto name = path.substr(path.rfind('\\') + 1);
-    return name.substr(0, name.rfind('.'));
+    const auto name = path.substr(path.rfind(L'\\') + 1);
+    return InsidePath(name.substr(0, name.rfind(L'.')));
 }
 
 std::string WindowsSystemInfo::ExecutableFolder() const {
+    return InsidePath(Folder().path);
+}
+
+ProgramFolder WindowsSystemInfo::Folder() const {
     const auto path = ExecutablePath();
-    return path.substr(0, path.rfind('\\'));
+    return {path.substr(0, path.rfind(L'\\'))};
 }
 
 char WindowsSystemInfo::DecimalSeparator() const {

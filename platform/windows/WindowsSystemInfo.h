@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/SystemInfo.h"
+#include "platform/windows/ProgramFolder.h"
 
 namespace zy {
 
@@ -18,10 +19,14 @@ class WindowsSystemInfo final : public SystemInfo {
     std::string SystemDirectory() override;
     std::string CommandLine() const override;
     std::string ExecutableName() const override;
+    /// With "?" for each letter that the code page lacks.
     std::string ExecutableFolder() const override;
     /// "." when the locale's is more than one character.
     char DecimalSeparator() const override;
     std::chrono::year_month_day Today() const override;
+
+    /// The folder of the running program as the system names it.
+    ProgramFolder Folder() const;
 
   private:
     std::string commandLine_;

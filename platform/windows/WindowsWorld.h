@@ -23,8 +23,8 @@ struct WindowsWorld {
     World Get(const ScreenWorld& screen);
 
     const CodePage& codePage = AnsiCodePage();
-    WindowsFileSystem files;
     WindowsSystemInfo system;
+    WindowsFileSystem files{system.Folder()};
     WindowsTraceServers traceServers{codePage};
     WindowsRecycleBin recycleBin;
     WindowsRegistry registry;
