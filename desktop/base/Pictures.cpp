@@ -31,21 +31,21 @@ constexpr const char* kLargeChart = R"(<svg xmlns="http://www.w3.org/2000/svg" v
 <circle cx="83" cy="44" r="3" fill="#1f4f9f"/>
 <circle cx="73" cy="15" r="5" fill="#c03020"/><circle cx="73" cy="15" r="2" fill="#ffffff"/></svg>)";
 
-wxBitmapBundle Arrow(const char* path, int size, const wxColour& colour) {
+} // namespace
+
+wxBitmapBundle Silhouette(const char* path, int size, const wxColour& colour) {
     const std::string svg =
         std::string(R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 16 16"><path d=")") + path +
         R"(" fill=")" + colour.GetAsString(wxC2S_HTML_SYNTAX).ToStdString() + R"("/></svg>)";
     return wxBitmapBundle::FromSVG(svg.c_str(), wxSize(size, size));
 }
 
-} // namespace
-
 wxBitmapBundle UpArrow(int size, const wxColour& colour) {
-    return Arrow(kUp, size, colour);
+    return Silhouette(kUp, size, colour);
 }
 
 wxBitmapBundle DownArrow(int size, const wxColour& colour) {
-    return Arrow(kDown, size, colour);
+    return Silhouette(kDown, size, colour);
 }
 
 wxBitmapBundle ProgramPicture(int size) {

@@ -8,6 +8,9 @@ namespace zy {
 
 // The program's own pictures, drawn for whatever size and resolution they are shown in.
 
+/// A shape of one colour, given as the path of a drawing of 16 x 16.
+wxBitmapBundle Silhouette(const char* path, int size, const wxColour& colour);
+
 /// Arrows of about `size` pixels.
 wxBitmapBundle UpArrow(int size, const wxColour& colour);
 wxBitmapBundle DownArrow(int size, const wxColour& colour);

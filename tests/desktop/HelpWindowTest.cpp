@@ -1,22 +1,37 @@
-#include <wx/html/helpctrl.h>
-#include <wx/html/helpfrm.h>
+#include <wx/bmpbuttn.h>
+#include <wx/checkbox.h>
+#include <wx/display.h>
+#include <wx/frame.h>
 #include <wx/html/helpwnd.h>
+#include <wx/listbox.h>
 #include <wx/notebook.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
 #include <wx/treectrl.h>
 
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 
 #include "RulesWindow.h"
+#include "desktop/HelpFrame.h"
+#include "desktop/HelpPage.h"
+#include "desktop/HelpTools.h"
 
 namespace zy::test {
 namespace {
 
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
 constexpr auto kHelpFile = R"(C:\PRODUCT\zysetup.hlp)";
+constexpr auto kFirstPage = "ZY Setup Help";
 
 /// Help as a person reads it.
 class HelpWindow : public RulesWindow {
   protected:
+    HelpWindow() { PutHelp(Book()); }
+
     void PutHelp(const std::string& bytes) { world.files.Put(kHelpFile, bytes); }
     /// The book that is built with the program.
     static std::string Book() {
@@ -24,9 +39,10 @@ class HelpWindow : public RulesWindow {
         return {std::istreambuf_iterator<char>(file), {}};
     }
 
-    static wxHtmlHelpFrame* Frame() {
+    // The parts of the window. For the window's thread.
+    static HelpFrame* Frame() {
         for (auto* window : wxTopLevelWindows) {
-            if (auto* frame = dynamic_cast<wxHtmlHelpFrame*>(window); frame != nullptr && frame->IsShown()) {
+            if (auto* frame = dynamic_cast<HelpFrame*>(window); frame != nullptr && frame->IsShown()) {
                 return frame;
             }
         }
@@ -45,11 +61,86 @@ class HelpWindow : public RulesWindow {
         }
         return nullptr;
     }
+    template <typename Kind>
+    static Kind& Part(int id) {
+        return dynamic_cast<Kind&>(*Frame()->FindWindow(id));
+    }
+    static HelpPage& Page() { return *Find<HelpPage>(*Frame()); }
+    static wxTreeCtrl& Contents() { return Part<wxTreeCtrl>(wxID_HTML_TREECTRL); }
+    /// The entry of that name below another.
+    static wxTreeItemId Entry(const wxTreeItemId& above, const std::string& name) {
+        wxTreeItemIdValue cookie{};
+        auto entry = Contents().GetFirstChild(above, cookie);
+        while (entry.IsOk() && Contents().GetItemText(entry) != name) {
+            entry = Contents().GetNextChild(above, cookie);
+        }
+        return entry;
+    }
+    static wxTreeItemId Chapter(const std::string& name) {
+        wxTreeItemIdValue cookie{};
+        return Entry(Contents().GetFirstChild(Contents().GetRootItem(), cookie), name);
+    }
+    static bool IsSeen(const CellRange& cells) {
+        const int top = Page().GetViewStart().y * wxHTML_SCROLL_STEP;
+        return cells.first->GetAbsPos().y >= top &&
+               cells.last->GetAbsPos().y + cells.last->GetHeight() <= top + Page().GetClientSize().y;
+    }
+    static std::vector<CellRange> Links() { return LinksOn(*Page().GetInternalRepresentation()); }
+    static bool HasFocus(const wxWindow& part) { return wxWindow::FindFocus() == &part; }
+
+    // What the person does.
+    void OpenHelp() {
+        Press(WXK_F1);
+        WaitForPage(kFirstPage);
+        WaitUntil("the help has the keyboard", [] { return Frame()->IsActive() && HasFocus(Page()); });
+    }
+    void ClickOn(int part) {
+        hands->Click(InWindow([&] {
+            const auto place = Part<wxWindow>(part).GetScreenRect();
+            return place.GetPosition() + place.GetSize() / 2;
+        }));
+    }
+    void ClickOnEntry(const std::function<wxTreeItemId()>& entry) {
+        hands->Click(InWindow([&] {
+            Contents().EnsureVisible(entry());
+            wxRect place;
+            Contents().GetBoundingRect(entry(), place, true);
+            return Contents().ClientToScreen(place.GetPosition() + place.GetSize() / 2);
+        }));
+    }
+    void LookFor(const std::string& words) {
+        InWindow([] { Find<wxNotebook>(*Frame())->SetSelection(2); });
+        ClickOn(wxID_HTML_SEARCHTEXT);
+        WaitUntil("the text box has the focus",
+                  [] { return HasFocus(Part<wxTextCtrl>(wxID_HTML_SEARCHTEXT)); });
+        Press('A', wxMOD_CONTROL);
+        Type(words);
+        Press(WXK_RETURN);
+    }
+    void TabToMark(const std::string& text) {
+        Press(WXK_TAB);
+        WaitForMark(text);
+    }
+    void CloseHelp() {
+        InWindow([] { Frame()->Close(); });
+        WaitForNoHelp();
+    }
+
+    // What the person sees.
     void WaitForPage(const wxString& title) {
-        WaitUntil("the help shows " + title.utf8_string(), [&] {
-            auto* frame = Frame();
-            auto* page = frame == nullptr ? nullptr : Find<wxHtmlWindow>(*frame);
-            return page != nullptr && page->GetOpenedPageTitle() == title;
+        WaitUntil("the help shows " + title.utf8_string(),
+                  [&] { return Frame() != nullptr && Page().GetOpenedPageTitle() == title; });
+    }
+    static std::string Marked() { return Page().SelectionToText().Strip(wxString::both).utf8_string(); }
+    void WaitForMark(const std::string& text) {
+        WaitUntil("\"" + text + "\" is marked", [&] { return Marked() == text; });
+    }
+    void WaitForNoHelp() {
+        WaitUntil("the help is closed", [] { return Frame() == nullptr; });
+    }
+    void WaitForFound(const std::string& text) {
+        WaitUntil("the search says " + text, [&] {
+            return Find<wxStaticText>(*Part<wxListBox>(wxID_HTML_SEARCHLIST).GetParent())->GetLabel() == text;
         });
     }
     /// The caption of the list that is in front.
@@ -59,27 +150,24 @@ class HelpWindow : public RulesWindow {
             return lists.GetPageText(static_cast<std::size_t>(lists.GetSelection())).utf8_string();
         });
     }
+    static std::string ChosenInContents() {
+        return InWindow([] { return Contents().GetItemText(Contents().GetSelection()).utf8_string(); });
+    }
     /// How many chapters the list of contents shows below the title of the book.
     static std::size_t ChaptersShown() {
         return InWindow([] {
-            auto& contents = *Find<wxTreeCtrl>(*Frame());
             wxTreeItemIdValue cookie{};
-            const auto book = contents.GetFirstChild(contents.GetRootItem(), cookie);
-            return contents.IsExpanded(book) ? contents.GetChildrenCount(book, false) : 0;
+            const auto book = Contents().GetFirstChild(Contents().GetRootItem(), cookie);
+            return Contents().IsExpanded(book) ? Contents().GetChildrenCount(book, false) : 0;
         });
-    }
-    void CloseHelp() {
-        InWindow([] { Frame()->Close(); });
-        WaitUntil("the help is closed", [] { return Frame() == nullptr; });
     }
 };
 
 TEST_F(HelpWindow, OpensAtItsContentsByTheMenu) {
-    PutHelp(Book());
     Play([&] {
         Press('H', wxMOD_ALT);
         Press('C');
-        WaitForPage("ZY Setup Help");
+        WaitForPage(kFirstPage);
         EXPECT_EQ(List(), "Contents");
         EXPECT_GT(ChaptersShown(), 5U);
         CloseHelp();
@@ -87,14 +175,13 @@ TEST_F(HelpWindow, OpensAtItsContentsByTheMenu) {
 }
 
 TEST_F(HelpWindow, OpensAtItsContentsByF1AndByTheHelpButton) {
-    PutHelp(Book());
     Play([&] {
         Press(WXK_F1);
-        WaitForPage("ZY Setup Help");
+        WaitForPage(kFirstPage);
         CloseHelp();
         WaitForWindow();
         Click(page().cmdHelpRules);
-        WaitForPage("ZY Setup Help");
+        WaitForPage(kFirstPage);
         EXPECT_EQ(List(), "Contents");
         CloseHelp();
     });
@@ -122,7 +209,6 @@ TEST_F(HelpWindow, OpensWhileAFieldIsWrongWhichIsAskedAboutAfterwards) {
 }
 
 TEST_F(HelpWindow, OpensAtItsIndexByTheMenu) {
-    PutHelp(Book());
     Play([&] {
         Press('H', wxMOD_ALT);
         Press('I');
@@ -133,10 +219,9 @@ TEST_F(HelpWindow, OpensAtItsIndexByTheMenu) {
 }
 
 TEST_F(HelpWindow, StaysOpenBesideTheEditorAndGoesWithIt) {
-    PutHelp(Book());
     EXPECT_EQ(Play([&] {
                   Press(WXK_F1);
-                  WaitForPage("ZY Setup Help");
+                  WaitForPage(kFirstPage);
                   InWindow([] { RealFrame().Raise(); });
                   WaitUntil("the editor has the keyboard", [] { return RealFrame().IsActive(); });
                   EXPECT_TRUE(IsEnabled(page().cmdAddList));
@@ -146,6 +231,7 @@ TEST_F(HelpWindow, StaysOpenBesideTheEditorAndGoesWithIt) {
 }
 
 TEST_F(HelpWindow, TellsOfAMissingFile) {
+    world.files.Delete(kHelpFile);
     Play([&] {
         Press(WXK_F1);
         ExpectBox("Cannot show the help file C:\\PRODUCT\\zysetup.hlp: the file or folder does not exist",
@@ -170,7 +256,353 @@ TEST_F(HelpWindow, TellsOfADamagedFileAndReadsAGoodOneLater) {
         }
         InWindow([&] { PutHelp(book); });
         Press(WXK_F1);
-        WaitForPage("ZY Setup Help");
+        WaitForPage(kFirstPage);
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, SaysInItsTitleWhatItIsOnEveryPage) {
+    Play([&] {
+        OpenHelp();
+        const auto title = [] { return InWindow([] { return Frame()->GetTitle().utf8_string(); }); };
+        EXPECT_EQ(title(), "ZY Setup - Help");
+        TabToMark("Rules");
+        Press(WXK_RETURN);
+        WaitForPage("Rules editor");
+        EXPECT_EQ(title(), "ZY Setup - Help");
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, OpensOverTheMiddleOfTheEditor) {
+    Play([&] {
+        InWindow([] { RealFrame().Move(420, 260); });
+        WaitUntil("the editor is there", [] { return RealFrame().GetPosition().x >= 400; });
+        OpenHelp();
+        InWindow([] {
+            const auto middle = [](const wxRect& place) { return place.GetPosition() + place.GetSize() / 2; };
+            const auto away = middle(Frame()->GetScreenRect()) - middle(RealFrame().GetScreenRect());
+            constexpr int kBorders = 30;
+            EXPECT_LE(std::abs(away.x), kBorders);
+            EXPECT_LE(std::abs(away.y), kBorders);
+        });
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, OpensOnTheScreenWhereverTheEditorStands) {
+    Play([&] {
+        InWindow([] { RealFrame().Move(1400, 1000); });
+        WaitUntil("the editor is there", [] { return RealFrame().GetPosition().x >= 1380; });
+        OpenHelp();
+        InWindow([] {
+            const auto screen = wxDisplay(Frame()).GetClientArea();
+            EXPECT_TRUE(screen.Contains(Frame()->GetScreenRect()));
+        });
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, EscapeClosesItFromEveryPart) {
+    Play([&] {
+        for (const int part : {0, int{wxID_HTML_TREECTRL}, int{wxID_HTML_DOWN}}) {
+            OpenHelp();
+            InWindow([&] {
+                if (part != 0) {
+                    Part<wxWindow>(part).SetFocus();
+                }
+            });
+            Press(WXK_ESCAPE);
+            WaitForNoHelp();
+            WaitForWindow();
+        }
+    });
+}
+
+TEST_F(HelpWindow, EscapeClosesItFromATextBox) {
+    Play([&] {
+        Press('H', wxMOD_ALT);
+        Press('I');
+        WaitUntil("the box for a keyword has the focus", [] {
+            return Frame() != nullptr && Frame()->IsActive() &&
+                   HasFocus(Part<wxTextCtrl>(wxID_HTML_INDEXTEXT));
+        });
+        Press(WXK_ESCAPE);
+        WaitForNoHelp();
+        WaitForWindow();
+    });
+}
+
+// Links by the keyboard
+
+TEST_F(HelpWindow, TabMarksTheLinksOfThePageInTheirOrder) {
+    Play([&] {
+        OpenHelp();
+        TabToMark("Rules");
+        TabToMark("Users");
+        TabToMark("Units of measure");
+        Press(WXK_TAB, wxMOD_SHIFT);
+        WaitForMark("Users");
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, TabScrollsToTheLinkThatItMarks) {
+    Play([&] {
+        OpenHelp();
+        const auto count = InWindow([] { return Links().size(); });
+        ASSERT_GT(count, 10U);
+        EXPECT_FALSE(InWindow([] { return IsSeen(Links().back()); }));
+        for (std::size_t i = 0; i < count; ++i) {
+            Press(WXK_TAB);
+        }
+        WaitForMark("Glossary");
+        EXPECT_TRUE(InWindow([] { return IsSeen(Links().back()); }));
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, TabBeginsWithTheLinksThatCanBeSeen) {
+    Play([&] {
+        OpenHelp();
+        Press(WXK_END);
+        WaitUntil("the page is scrolled", [] { return Page().GetViewStart().y > 0; });
+        Press(WXK_TAB);
+        WaitUntil("a link is marked", [] { return !Marked().empty(); });
+        EXPECT_NE(InWindow([] { return Marked(); }), "Rules");
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, EnterFollowsTheMarkedLink) {
+    Play([&] {
+        OpenHelp();
+        TabToMark("Rules");
+        TabToMark("Users");
+        Press(WXK_RETURN);
+        WaitForPage("Users editor");
+        EXPECT_THAT(InWindow([] { return Marked(); }), IsEmpty());
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, AltLeftAndAltRightGoThroughThePagesThatWereRead) {
+    Play([&] {
+        OpenHelp();
+        TabToMark("Rules");
+        Press(WXK_RETURN);
+        WaitForPage("Rules editor");
+        Press(WXK_LEFT, wxMOD_ALT);
+        WaitForPage(kFirstPage);
+        Press(WXK_RIGHT, wxMOD_ALT);
+        WaitForPage("Rules editor");
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, TabLeavesThePageBehindItsLastLinkAndComesRoundToItAgain) {
+    Play([&] {
+        OpenHelp();
+        const auto links = InWindow([] { return Links().size(); });
+        for (std::size_t i = 0; i <= links; ++i) {
+            EXPECT_TRUE(InWindow([] { return HasFocus(Page()); })) << i;
+            Press(WXK_TAB);
+        }
+        WaitUntil("another part has the focus", [] { return !HasFocus(Page()); });
+        EXPECT_THAT(InWindow([] { return Marked(); }), IsEmpty());
+        constexpr int kMostParts = 30;
+        for (int i = 0; i < kMostParts && !InWindow([] { return HasFocus(Page()); }); ++i) {
+            Press(WXK_TAB);
+        }
+        EXPECT_TRUE(InWindow([] { return HasFocus(Page()); }));
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, ShiftTabLeavesThePageBeforeItsFirstLink) {
+    Play([&] {
+        OpenHelp();
+        TabToMark("Rules");
+        Press(WXK_TAB, wxMOD_SHIFT);
+        WaitUntil("another part has the focus", [] { return !HasFocus(Page()); });
+        CloseHelp();
+    });
+}
+
+// Contents
+
+TEST_F(HelpWindow, AnEntryOfTheContentsOpensItsPage) {
+    Play([&] {
+        OpenHelp();
+        ClickOnEntry([] { return Chapter("Users"); });
+        WaitForPage("Users editor");
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, EnterInTheContentsGoesToThePage) {
+    Play([&] {
+        OpenHelp();
+        ClickOnEntry([] { return Chapter("Users"); });
+        WaitForPage("Users editor");
+        WaitUntil("the contents have the focus", [] { return HasFocus(Contents()); });
+        Press(WXK_RETURN);
+        WaitUntil("the page has the focus", [] { return HasFocus(Page()); });
+        EXPECT_EQ(InWindow([] { return Page().GetOpenedPageTitle().utf8_string(); }), "Users editor");
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, TheContentsShowWhereALinkHasLed) {
+    Play([&] {
+        OpenHelp();
+        ClickOnEntry([] { return Chapter("Rules"); });
+        WaitForPage("Rules editor");
+        // A link into the middle of another page.
+        InWindow([] { Page().LoadPage("trouble.html#help"); });
+        WaitForPage("When something goes wrong");
+        EXPECT_NE(ChosenInContents(), "Rules");
+        ClickOnEntry([] { return Chapter("Rules"); });
+        WaitForPage("Rules editor");
+        CloseHelp();
+    });
+}
+
+// Search
+
+TEST_F(HelpWindow, SearchShowsTheWordsInThePage) {
+    Play([&] {
+        OpenHelp();
+        LookFor("glossary");
+        WaitForMark("Glossary");
+        InWindow([] {
+            EXPECT_EQ(Page().GetOpenedPageTitle(), kFirstPage);
+            EXPECT_GT(Page().GetViewStart().y, 0);
+            EXPECT_TRUE(IsSeen(Links().back()));
+        });
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, SearchFindsWordsThatStandOnTwoLines) {
+    Play([&] {
+        OpenHelp();
+        LookFor("above the upper  warning");
+        WaitForMark("above the upper warning");
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, SearchOpensTheNextPageThatWasFoundAtTheWords) {
+    Play([&] {
+        OpenHelp();
+        LookFor("expiry");
+        WaitForPage(kFirstPage);
+        WaitForFound("Found on 9 pages");
+        WaitUntil("the pages found have the focus",
+                  [] { return HasFocus(Part<wxListBox>(wxID_HTML_SEARCHLIST)); });
+        Press(WXK_DOWN);
+        WaitForPage("Keyboard");
+        WaitForMark("Expiry");
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, SearchLooksForWholeWordsWhereThatIsAskedFor) {
+    Play([&] {
+        OpenHelp();
+        LookFor("rule");
+        WaitForMark("Rules");
+        InWindow([] {
+            for (auto* child : Part<wxListBox>(wxID_HTML_SEARCHLIST).GetParent()->GetChildren()) {
+                if (auto* box = dynamic_cast<wxCheckBox*>(child)) {
+                    box->SetValue(true);
+                }
+            }
+        });
+        LookFor("rule");
+        WaitForMark("rule");
+        LookFor("RULE");
+        WaitForFound("Not found");
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, SearchSaysOnHowManyPagesItFoundTheWords) {
+    Play([&] {
+        OpenHelp();
+        LookFor("neverwritten");
+        WaitForFound("Not found");
+        LookFor("Everything can be done without a mouse");
+        WaitForFound("Found on 1 page");
+        CloseHelp();
+    });
+}
+
+// Buttons
+
+TEST_F(HelpWindow, EveryButtonSaysWhatItDoesAndShowsAPicture) {
+    Play([&] {
+        OpenHelp();
+        const auto names = InWindow([] {
+            std::vector<std::string> texts;
+            for (auto* child : Find<HelpTools>(*Frame())->GetChildren()) {
+                texts.push_back(child->GetToolTipText().utf8_string());
+                const auto& button = dynamic_cast<wxBitmapButton&>(*child);
+                EXPECT_GE(button.GetBitmap().GetLogicalWidth(), 16) << texts.back();
+            }
+            return texts;
+        });
+        EXPECT_THAT(names, ElementsAre("Show or hide the contents", "Back", "Forward",
+                                       "First page of the chapter", "Previous page", "Next page",
+                                       "Larger text", "Smaller text", "Print this page"));
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, TurnsThePagesInTheOrderOfTheContents) {
+    Play([&] {
+        OpenHelp();
+        ClickOn(wxID_HTML_DOWN);
+        WaitForPage("What ZY Setup is");
+        ClickOn(wxID_HTML_DOWN);
+        WaitForPage("The window");
+        EXPECT_EQ(ChosenInContents(), "The window");
+        ClickOn(wxID_HTML_UPNODE);
+        WaitForPage("What ZY Setup is");
+        ClickOn(wxID_HTML_UP);
+        WaitForPage(kFirstPage);
+        ClickOn(wxID_HTML_UP);
+        ClickOn(wxID_HTML_BACK);
+        WaitForPage("What ZY Setup is");
+        ClickOn(wxID_HTML_FORWARD);
+        WaitForPage(kFirstPage);
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, TurnsThePageAlsoFromThePlaceThatALinkHasLedTo) {
+    Play([&] {
+        OpenHelp();
+        InWindow([] { Page().LoadPage("keyboard.html#grid"); });
+        WaitForPage("Keyboard");
+        ClickOn(wxID_HTML_DOWN);
+        WaitForPage("Working in a grid");
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, MakesItsTextLargerAndSmaller) {
+    Play([&] {
+        OpenHelp();
+        const auto height = [] { return Page().GetParser()->GetCharHeight(); };
+        const int before = InWindow(height);
+        ClickOn(wxID_ZOOM_IN);
+        ClickOn(wxID_ZOOM_IN);
+        WaitUntil("the text is larger", [&] { return height() > before; });
+        ClickOn(wxID_ZOOM_OUT);
+        ClickOn(wxID_ZOOM_OUT);
+        WaitUntil("the text is as before", [&] { return height() == before; });
         CloseHelp();
     });
 }

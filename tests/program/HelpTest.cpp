@@ -12,7 +12,7 @@ class HelpMenu : public Scene {
 TEST_F(HelpMenu, F1OpensTheBookBesideTheProgram) {
     OpenRules();
     PressKeys("F1");
-    ASSERT_TRUE(WaitForWindow("ZY Setup Help")) << Program().Output();
+    ASSERT_TRUE(WaitForWindow("ZY Setup - Help")) << Program().Output();
     PressKeys("alt+F4");
     ASSERT_TRUE(WaitForWindow("ZY Setup - Rules")) << Program().Output();
     PressKeys("alt+F4");

@@ -1,20 +1,17 @@
 #include "desktop/DesktopHelp.h"
 
 #include <wx/app.h>
-#include <wx/display.h>
 #include <wx/filesys.h>
 #include <wx/fs_arc.h>
 #include <wx/fs_mem.h>
-#include <wx/html/helpctrl.h>
-#include <wx/html/helpfrm.h>
+#include <wx/html/helpdata.h>
 #include <wx/imaggif.h>
 #include <wx/log.h>
-#include <wx/treectrl.h>
 
 #include <utility>
 
-#include "desktop/Native.h"
-#include "desktop/Pictures.h"
+#include "desktop/HelpFrame.h"
+#include "desktop/HelpWindow.h"
 #include "shell/Application.h"
 #include "shell/mZYGlobal.h"
 
@@ -34,33 +31,6 @@ void AddReaders() {
     wxFileSystem::AddHandler(new wxArchiveFSHandler);
 }
 
-/// The viewer, in a window that has room for a picture beside the contents.
-class Viewer : public wxHtmlHelpController {
-  public:
-    using wxHtmlHelpController::wxHtmlHelpController;
-
-  private:
-    /// The list of contents begins with the book's title, closed.
-    static void ShowChapters(wxHtmlHelpFrame& frame) {
-        auto* contents = dynamic_cast<wxTreeCtrl*>(frame.FindWindow(wxID_HTML_TREECTRL));
-        wxTreeItemIdValue cookie{};
-        if (contents != nullptr && !contents->IsEmpty()) {
-            contents->Expand(contents->GetFirstChild(contents->GetRootItem(), cookie));
-        }
-    }
-
-    wxHtmlHelpFrame* CreateHelpFrame(wxHtmlHelpData* data) override {
-        auto* frame = wxHtmlHelpController::CreateHelpFrame(data);
-        wxSize size = frame->FromDIP(wxSize(1000, 700));
-        size.DecTo(wxDisplay(frame).GetClientArea().GetSize());
-        frame->SetSize(size);
-        frame->SetIcons(ProgramIcon());
-        LayOutUnseen(*frame);
-        ShowChapters(*frame);
-        return frame;
-    }
-};
-
 } // namespace
 
 DesktopHelp::DesktopHelp(FileSystem& files, Dialogs& dialogs, std::function<void()> startToolkit)
@@ -69,14 +39,24 @@ DesktopHelp::DesktopHelp(FileSystem& files, Dialogs& dialogs, std::function<void
 DesktopHelp::~DesktopHelp() = default;
 
 void DesktopHelp::Show(std::string_view helpFile, HelpCommand command, std::uintptr_t /*data*/) {
-    if (!viewer_ && !Open(helpFile)) {
+    if (!book_ && !Open(helpFile)) {
         return;
     }
+    HelpFrame& window = Window();
     if (command == HelpCommand::Key) {
-        viewer_->DisplayIndex();
+        window.Inside().ShowIndex();
     } else {
-        viewer_->DisplayContents();
+        window.Inside().ShowContents();
     }
+}
+
+HelpFrame& DesktopHelp::Window() {
+    if (!window_) {
+        window_ = new HelpFrame(*wxTheApp->GetTopWindow(), *book_);
+    }
+    window_->Show();
+    window_->Raise();
+    return *window_;
 }
 
 bool DesktopHelp::Open(std::string_view helpFile) {
@@ -90,15 +70,14 @@ bool DesktopHelp::Open(std::string_view helpFile) {
     startToolkit_();
     AddReaders();
     wxMemoryFSHandler::AddFileWithMimeType(kNameInMemory, content.data(), content.size(), "application/zip");
-    auto viewer = std::make_unique<Viewer>(wxHF_DEFAULT_STYLE, wxTheApp->GetTopWindow());
-    viewer->SetTitleFormat("%s");
+    auto book = std::make_unique<wxHtmlHelpData>();
     const wxLogNull toldBelow;
-    if (!viewer->AddBook(kBook)) {
+    if (!book->AddBook(kBook)) {
         wxMemoryFSHandler::RemoveFile(kNameInMemory);
         Refuse(helpFile, "it is no help file, or it is damaged");
         return false;
     }
-    viewer_ = std::move(viewer);
+    book_ = std::move(book);
     return true;
 }
 
@@ -108,8 +87,11 @@ void DesktopHelp::Refuse(std::string_view helpFile, std::string_view why) {
 }
 
 void DesktopHelp::Close() {
-    if (viewer_) {
-        viewer_.reset();
+    if (window_) {
+        window_->Destroy();
+    }
+    if (book_) {
+        book_.reset();
         wxMemoryFSHandler::RemoveFile(kNameInMemory);
     }
 }

@@ -1,14 +1,18 @@
 #pragma once
 
+#include <wx/string.h>
+#include <wx/weakref.h>
+
 #include <functional>
 #include <memory>
 #include <string>
 
+#include "desktop/HelpFrame.h"
 #include "platform/Dialogs.h"
 #include "platform/FileSystem.h"
 #include "platform/HelpSystem.h"
 
-class wxHtmlHelpController;
+class wxHtmlHelpData;
 
 namespace zy {
 
@@ -25,14 +29,18 @@ class DesktopHelp final : public HelpSystem {
     void Close();
 
   private:
-    /// Reads the file and opens the viewer on it. False when a person was told that there is no help.
+    /// Reads the book that the file holds. False when a person was told that there is no help.
     bool Open(std::string_view helpFile);
+    /// The window, in front of the others.
+    HelpFrame& Window();
     void Refuse(std::string_view helpFile, std::string_view why);
 
     FileSystem& files_;
     Dialogs& dialogs_;
     std::function<void()> startToolkit_;
-    std::unique_ptr<wxHtmlHelpController> viewer_;
+    std::unique_ptr<wxHtmlHelpData> book_;
+    /// Null while it is closed.
+    wxWeakRef<HelpFrame> window_;
 };
 
 } // namespace zy

@@ -1,0 +1,129 @@
+#include "desktop/HelpPage.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace zy {
+namespace {
+
+constexpr int kSmallestText = 6;
+constexpr int kUsualText = 10;
+constexpr int kLargestText = 36;
+
+int TopOf(const wxHtmlCell& cell) {
+    return cell.GetAbsPos().y;
+}
+
+int BottomOf(const wxHtmlCell& cell) {
+    return TopOf(cell) + cell.GetHeight();
+}
+
+/// Whether one cell comes before another in the text.
+bool StandsBefore(const wxHtmlCell& one, const wxHtmlCell& other) {
+    return &one != &other && one.IsBefore(const_cast<wxHtmlCell*>(&other));
+}
+
+bool IsEnter(int key) {
+    return key == WXK_RETURN || key == WXK_NUMPAD_ENTER;
+}
+
+} // namespace
+
+HelpPage::HelpPage(wxWindow* parent, std::function<void()> opened)
+    : wxHtmlWindow(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxHW_DEFAULT_STYLE | wxBORDER_THEME),
+      opened_(std::move(opened)), textSize_(std::max(wxNORMAL_FONT->GetPointSize(), kUsualText)) {
+    SetStandardFonts(textSize_);
+    Bind(wxEVT_CHAR_HOOK, &HelpPage::PressKey, this);
+}
+
+bool HelpPage::LoadPage(const wxString& location) {
+    Unmark();
+    const bool loaded = wxHtmlWindow::LoadPage(location);
+    if (loaded) {
+        opened_();
+    }
+    return loaded;
+}
+
+void HelpPage::ShowWords(const SoughtWords& words) {
+    if (const auto found = FindOn(*m_Cell, words)) {
+        Mark(*found);
+    }
+}
+
+void HelpPage::PressKey(wxKeyEvent& event) {
+    if (event.GetKeyCode() == WXK_TAB && !event.HasModifiers()) {
+        GoToLink(!event.ShiftDown());
+    } else if (IsEnter(event.GetKeyCode()) && !event.HasAnyModifiers() && MarkedLink() != nullptr) {
+        FollowMarked();
+    } else {
+        event.Skip();
+    }
+}
+
+void HelpPage::GoToLink(bool forward) {
+    const auto links = LinksOn(*m_Cell);
+    if (const auto* next = NextLink(links, forward)) {
+        Mark(*next);
+    } else {
+        Unmark();
+        Navigate(forward ? wxNavigationKeyEvent::IsForward : wxNavigationKeyEvent::IsBackward);
+    }
+}
+
+const CellRange* HelpPage::NextLink(const std::vector<CellRange>& links, bool forward) const {
+    const auto isBehind = [this](const CellRange& link) {
+        return m_selection == nullptr ? IsBelowTop(link)
+                                      : StandsBefore(*m_selection->GetFromCell(), *link.first);
+    };
+    const auto isAhead = [this](const CellRange& link) {
+        return m_selection == nullptr ? IsAboveBottom(link)
+                                      : StandsBefore(*link.first, *m_selection->GetFromCell());
+    };
+    if (forward) {
+        const auto next = std::find_if(links.begin(), links.end(), isBehind);
+        return next == links.end() ? nullptr : &*next;
+    }
+    const auto next = std::find_if(links.rbegin(), links.rend(), isAhead);
+    return next == links.rend() ? nullptr : &*next;
+}
+
+const wxHtmlLinkInfo* HelpPage::MarkedLink() const {
+    return m_selection == nullptr ? nullptr : m_selection->GetFromCell()->GetLink();
+}
+
+void HelpPage::FollowMarked() {
+    // The cells go with the page.
+    const wxHtmlLinkInfo link = *MarkedLink();
+    OnLinkClicked(link);
+}
+
+void HelpPage::Mark(const CellRange& cells) {
+    Unmark();
+    m_selection = new wxHtmlSelection;
+    m_selection->Set(cells.first, cells.last);
+    if (!IsBelowTop(cells) || !IsAboveBottom(cells)) {
+        const int above = GetClientSize().y / 3;
+        Scroll(-1, std::max(TopOf(*cells.first) - above, 0) / wxHTML_SCROLL_STEP);
+    }
+}
+
+void HelpPage::Unmark() {
+    wxDELETE(m_selection);
+    Refresh();
+}
+
+bool HelpPage::IsBelowTop(const CellRange& cells) const {
+    return TopOf(*cells.first) >= GetViewStart().y * wxHTML_SCROLL_STEP;
+}
+
+bool HelpPage::IsAboveBottom(const CellRange& cells) const {
+    return BottomOf(*cells.last) <= GetViewStart().y * wxHTML_SCROLL_STEP + GetClientSize().y;
+}
+
+void HelpPage::SetTextSize(int points) {
+    textSize_ = std::clamp(points, kSmallestText, kLargestText);
+    SetStandardFonts(textSize_);
+}
+
+} // namespace zy

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <wx/html/htmlwin.h>
+
+#include <functional>
+
+#include "desktop/PageCells.h"
+
+namespace zy {
+
+/// A page of the help, in the colours of the user's desktop. Tab and Shift+Tab go from link to link and leave
+/// the page behind the last one, Enter follows the link that is marked.
+class HelpPage : public wxHtmlWindow {
+  public:
+    /// `opened` is called whenever another page, or another place of a page, has been opened.
+    HelpPage(wxWindow* parent, std::function<void()> opened);
+
+    bool LoadPage(const wxString& location) override;
+    /// Marks the first place where the words stand, and scrolls there.
+    void ShowWords(const SoughtWords& words);
+    void EnlargeText() { SetTextSize(textSize_ + 1); }
+    void ReduceText() { SetTextSize(textSize_ - 1); }
+
+    /// The toolkit asks for it when it paints what is marked, which could not be read in the grey that it has
+    /// for a window without the keyboard. What was found is looked at from the list that it was found by.
+    bool HasFocus() const override { return true; }
+
+  private:
+    void PressKey(wxKeyEvent& event);
+    void GoToLink(bool forward);
+    /// The link behind what is marked, or before it; when nothing is, one that can be seen, or is yet to
+    /// come.
+    const CellRange* NextLink(const std::vector<CellRange>& links, bool forward) const;
+    /// Null when what is marked is no link.
+    const wxHtmlLinkInfo* MarkedLink() const;
+    void FollowMarked();
+    /// Marks cells as a person's selection is, and scrolls there when they cannot be seen.
+    void Mark(const CellRange& cells);
+    void Unmark();
+    bool IsBelowTop(const CellRange& cells) const;
+    bool IsAboveBottom(const CellRange& cells) const;
+    void SetTextSize(int points);
+
+    std::function<void()> opened_;
+    int textSize_;
+};
+
+} // namespace zy
