@@ -1,7 +1,11 @@
 #include "desktop/HelpPage.h"
 
+#include <wx/html/htmlproc.h>
+
 #include <algorithm>
 #include <utility>
+
+#include "desktop/PageColours.h"
 
 namespace zy {
 namespace {
@@ -9,6 +13,11 @@ namespace {
 constexpr int kSmallestText = 6;
 constexpr int kUsualText = 10;
 constexpr int kLargestText = 36;
+
+class PagePainter : public wxHtmlProcessor {
+  public:
+    wxString Process(const wxString& source) const override { return WithDesktopColours(source); }
+};
 
 int TopOf(const wxHtmlCell& cell) {
     return cell.GetAbsPos().y;
@@ -32,8 +41,10 @@ bool IsEnter(int key) {
 HelpPage::HelpPage(wxWindow* parent, std::function<void()> opened)
     : wxHtmlWindow(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxHW_DEFAULT_STYLE | wxBORDER_THEME),
       opened_(std::move(opened)), textSize_(std::max(wxNORMAL_FONT->GetPointSize(), kUsualText)) {
+    AddProcessor(new PagePainter);
     SetStandardFonts(textSize_);
     Bind(wxEVT_CHAR_HOOK, &HelpPage::PressKey, this);
+    Bind(wxEVT_SYS_COLOUR_CHANGED, &HelpPage::TakeColours, this);
 }
 
 bool HelpPage::LoadPage(const wxString& location) {
@@ -124,6 +135,13 @@ bool HelpPage::IsAboveBottom(const CellRange& cells) const {
 void HelpPage::SetTextSize(int points) {
     textSize_ = std::clamp(points, kSmallestText, kLargestText);
     SetStandardFonts(textSize_);
+}
+
+void HelpPage::TakeColours(wxSysColourChangedEvent& event) {
+    event.Skip();
+    const wxPoint place = GetViewStart();
+    LoadPage(GetOpenedPage());
+    Scroll(place);
 }
 
 } // namespace zy

@@ -40,6 +40,7 @@ class HelpPage : public wxHtmlWindow {
     bool IsBelowTop(const CellRange& cells) const;
     bool IsAboveBottom(const CellRange& cells) const;
     void SetTextSize(int points);
+    void TakeColours(wxSysColourChangedEvent& event);
 
     std::function<void()> opened_;
     int textSize_;

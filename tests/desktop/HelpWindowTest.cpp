@@ -5,6 +5,7 @@
 #include <wx/html/helpwnd.h>
 #include <wx/listbox.h>
 #include <wx/notebook.h>
+#include <wx/settings.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 #include <wx/treectrl.h>
@@ -13,16 +14,20 @@
 #include <fstream>
 #include <iterator>
 
+#include "DesktopColours.h"
 #include "RulesWindow.h"
 #include "desktop/HelpFrame.h"
 #include "desktop/HelpPage.h"
 #include "desktop/HelpTools.h"
+#include "desktop/PageColours.h"
 
 namespace zy::test {
 namespace {
 
+using ::testing::ContainsRegex;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::Not;
 
 constexpr auto kHelpFile = R"(C:\PRODUCT\zysetup.hlp)";
 constexpr auto kFirstPage = "ZY Setup Help";
@@ -605,6 +610,65 @@ TEST_F(HelpWindow, MakesItsTextLargerAndSmaller) {
         WaitUntil("the text is as before", [&] { return height() == before; });
         CloseHelp();
     });
+}
+
+// Colours
+
+/// The help on a desktop that becomes dark.
+class HelpColours : public HelpWindow {
+  protected:
+    static wxColour Desktop(wxSystemColour colour) { return wxSystemSettings::GetColour(colour); }
+    static bool IsDark(const wxColour& colour) { return colour.GetLuminance() < 0.5; }
+    static void ExpectReadable() {
+        InWindow([] {
+            const auto paper = Page().GetBackgroundColour();
+            EXPECT_EQ(paper, Desktop(wxSYS_COLOUR_WINDOW));
+            EXPECT_EQ(Page().GetParser()->GetActualColor(), Desktop(wxSYS_COLOUR_WINDOWTEXT));
+            EXPECT_GE(Contrast(paper, Page().GetParser()->GetActualColor()), 4.5);
+            EXPECT_GE(Contrast(paper, Page().GetParser()->GetLinkColor()), 3);
+            EXPECT_THAT(Page().GetParser()->GetSource()->utf8_string(),
+                        Not(ContainsRegex("=\"[a-z]*(window|text|highlight|face)\"")));
+        });
+    }
+
+    DesktopColours colours;
+};
+
+TEST_F(HelpColours, AreThoseOfTheDesktop) {
+    Play([&] {
+        OpenHelp();
+        ExpectReadable();
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpColours, AreThoseOfADarkDesktop) {
+    prepare = [&] { colours.Darken(); };
+    Play([&] {
+        OpenHelp();
+        EXPECT_TRUE(InWindow([] { return IsDark(Page().GetBackgroundColour()); }));
+        ExpectReadable();
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpColours, ChangeWithThoseOfTheDesktop) {
+    Play([&] {
+        OpenHelp();
+        Press(WXK_END);
+        WaitUntil("the page is scrolled", [] { return Page().GetViewStart().y > 0; });
+        InWindow([&] { colours.Darken(); });
+        WaitUntil("the page is dark", [] { return IsDark(Page().GetBackgroundColour()); });
+        ExpectReadable();
+        EXPECT_GT(InWindow([] { return Page().GetViewStart().y; }), 0) << "the place in the page is kept";
+        CloseHelp();
+    });
+}
+
+TEST(ContrastOfColours, IsThatOfTheLightTheyGive) {
+    EXPECT_NEAR(Contrast(*wxBLACK, *wxWHITE), 21, 0.01);
+    EXPECT_NEAR(Contrast(*wxWHITE, *wxWHITE), 1, 0.01);
+    EXPECT_NEAR(Contrast(wxColour(0x77, 0x77, 0x77), *wxWHITE), 4.48, 0.01);
 }
 
 } // namespace

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <wx/colour.h>
+#include <wx/string.h>
+
+namespace zy {
+
+/// A page of the help in the colours of the user's desktop. In place of colours the page has names: "window",
+/// "windowtext" and "linktext" for the whole of it, "highlight" and "highlighttext" for its title,
+/// "buttonface" and "buttontext" for the heads of tables.
+wxString WithDesktopColours(const wxString& page);
+
+/// How well one colour can be told from another: 1 for the same, 21 for black and white.
+double Contrast(const wxColour& one, const wxColour& other);
+
+} // namespace zy
