@@ -236,6 +236,10 @@ long EveryKeyStyle() {
     return 0; // it gets every key anyhow
 }
 
+void ColourLink(wxHyperlinkCtrl& /*link*/) {
+    // It has that one.
+}
+
 void TakeLineEnds(wxTextCtrl& /*box*/) {
     // It takes them by itself.
 }

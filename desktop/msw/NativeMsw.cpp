@@ -6,6 +6,7 @@
 #include <wx/eventfilter.h>
 #include <wx/hyperlink.h>
 #include <wx/msw/wrapwin.h>
+#include <wx/settings.h>
 #include <wx/statbox.h>
 #include <wx/textctrl.h>
 
@@ -225,6 +226,14 @@ void HandOnAccessKey(wxWindow& /*window*/, wxKeyEvent& event) {
 
 long EveryKeyStyle() {
     return wxTE_PROCESS_TAB | wxTE_PROCESS_ENTER;
+}
+
+void ColourLink(wxHyperlinkCtrl& link) {
+    // Where the toolkit draws the link itself, that is blue, whatever lies below it.
+    const auto colour = wxSystemSettings::GetColour(wxSYS_COLOUR_HOTLIGHT);
+    link.SetNormalColour(colour);
+    link.SetHoverColour(colour);
+    link.SetVisitedColour(colour);
 }
 
 void TakeLineEnds(wxTextCtrl& box) {
