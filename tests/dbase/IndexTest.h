@@ -2,9 +2,9 @@
 
 #include "DbaseTest.h"
 #include "dbase/IndexBuilder.h"
+#include "dbase/TableImage.h"
 #include "index/IndexChecks.h"
 #include "index/IndexFile.h"
-#include "dbase/TableImage.h"
 #include "support/TableBytes.h"
 
 namespace zy::dbase::test {

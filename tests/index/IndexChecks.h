@@ -1,7 +1,7 @@
 #pragma once
 
-#include "index/IndexFile.h"
 #include "dbase/TableImage.h"
+#include "index/IndexFile.h"
 
 namespace zy::dbase {
 

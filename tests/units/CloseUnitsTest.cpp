@@ -11,9 +11,7 @@ class CloseUnits : public UnitsTest {
         OpenThreeUnits();
         Edit(1, kUnit, unit);
     }
-    void ExpectClosed() {
-        EXPECT_FALSE(form.Visible());
-    }
+    void ExpectClosed() { EXPECT_FALSE(form.Visible()); }
 };
 
 TEST_F(CloseUnits, WithoutChangesAsksNothing) {
