@@ -2,7 +2,6 @@
 
 #include <wx/frame.h>
 #include <wx/panel.h>
-#include <wx/utils.h>
 
 #include <algorithm>
 #include <cmath>
@@ -29,14 +28,6 @@ PageArea::PageArea(wxFrame& frame)
     const int step = GetCharHeight();
     SetScrollRate(step, step);
     KeepScrollBarsInSight(*this);
-    Bind(wxEVT_CHILD_FOCUS, [this](wxChildFocusEvent& event) {
-        event.Skip();
-        auto* focused = wxWindow::FindFocus();
-        // A control that is just clicked can be seen, and would move away under the mouse.
-        if (focused != nullptr && page_->IsDescendant(focused) && !wxGetMouseState().LeftIsDown()) {
-            ShowWhole(*focused);
-        }
-    });
 }
 
 void PageArea::FitPage(const wxSize& least) {

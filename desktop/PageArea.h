@@ -7,7 +7,7 @@ class wxFrame;
 namespace zy {
 
 /// The room of a main window between its menu bar and its status bar. The page that stands in it can be
-/// scrolled where there is not enough room for it, and is by whoever goes to a control that cannot be seen.
+/// scrolled where there is not enough room for it.
 class PageArea final : public wxScrolledWindow {
   public:
     explicit PageArea(wxFrame& frame);
@@ -16,10 +16,10 @@ class PageArea final : public wxScrolledWindow {
     wxWindow* Page() const { return page_; }
     /// Gives the page all the room, but no less than this, in pixels.
     void FitPage(const wxSize& least);
-
-  private:
+    /// Scrolls the page until all of a control can be seen, its beginning at least.
     void ShowWhole(const wxWindow& control);
 
+  private:
     wxWindow* page_;
 };
 

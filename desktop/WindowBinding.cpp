@@ -69,6 +69,7 @@ void WindowBinding::ConnectFrame(std::function<void()> close) {
     KeepMenuBarClosed(*frame_);
     ObserveDotsPerInch(*frame_, [this] { Rescale(); });
     subscriptions_.push_back(form_.appearanceChanged.Observe([this] { ShowAppearance(); }));
+    subscriptions_.push_back(form_.focusChanged.Observe([this] { ShowFocused(); }));
     subscriptions_.push_back(form_.stateChanged.Observe([this] { ShowState(); }));
 }
 
@@ -113,6 +114,12 @@ void WindowBinding::Rescale() {
         child->Rescale();
     }
     FitPage();
+}
+
+void WindowBinding::ShowFocused() {
+    if (const auto* focused = context_.controls.Find(form_.Focused())) {
+        area_->ShowWhole(focused->Window());
+    }
 }
 
 void WindowBinding::ShowAppearance() {

@@ -34,6 +34,8 @@ class WindowBinding {
     void TellState();
     int StatusBarHeight() const;
     void Rescale();
+    /// Scrolls the page to the control that has the focus.
+    void ShowFocused();
     void ShowAppearance();
     void ShowState();
 

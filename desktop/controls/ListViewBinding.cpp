@@ -55,11 +55,12 @@ wxString ListViewBinding::CutTextAt(const wxPoint& onScreen) const {
     if (!item.IsOk() || column == nullptr) {
         return {};
     }
-    wxVariant text;
-    rows_->GetValue(text, item, column->GetModelColumn());
+    wxVariant value;
+    rows_->GetValue(value, item, column->GetModelColumn());
+    const wxString text = value.GetString().Trim(); // the file may have blanks behind it
     const wxRect seen = list_->GetItemRect(item, column).Intersect(list_->GetClientRect());
-    const int needed = list_->GetTextExtent(text.GetString()).x + 2 * MarginOfListText();
-    return needed > seen.width ? text.GetString() : wxString();
+    const int needed = list_->GetTextExtent(text).x + 2 * MarginOfListText();
+    return needed > seen.width ? text : wxString();
 }
 
 void ListViewBinding::ShowAppearance() {

@@ -11,8 +11,8 @@ namespace zy::test {
 namespace {
 
 const std::string kLong =
-    "A description that is so long that no list on an ordinary screen has room for all of it, "
-    "so that whoever wants to read its end has to point at it";
+    "A description that is so long that no list on an ordinary screen has room for all of it "
+    "and whoever wants to read its end has to point at it";
 
 /// The tooltips of a window in which some texts are cut.
 template <typename Window>
@@ -41,6 +41,13 @@ class CutTextsInTheList : public WithTooltips<RulesWindow> {
             return RealList().ClientToScreen(place.GetPosition() + wxSize(6, place.height / 2));
         });
     }
+    void Narrow(unsigned column) {
+        constexpr int kNarrow = 24;
+        const wxDataViewItem row(wxUIntToPtr(1U));
+        auto* made = InWindow([&] { return RealList().GetColumn(column); });
+        InWindow([&] { made->SetWidth(kNarrow); });
+        WaitUntil("the column is narrow", [&] { return RealList().GetItemRect(row, made).width <= kNarrow; });
+    }
     /// The header stands above the first item.
     wxPoint PlaceOfHeader(unsigned column) { return PlaceIn(1, column) - wxPoint(0, 22); }
 };
@@ -56,14 +63,14 @@ TEST_F(CutTextsInTheList, AreShownWholeByATooltip) {
 
 TEST_F(CutTextsInTheList, AreShownWholeWhereAPersonHasMadeTheColumnNarrow) {
     Play([&] {
-        InWindow([&] { RealList().GetColumn(4)->SetWidth(24); });
+        Narrow(4);
         ExpectTip(PlaceIn(2, 4), "LWL");
     });
 }
 
 TEST_F(CutTextsInTheList, OfTheHeaderAreShownWholeToo) {
     Play([&] {
-        InWindow([&] { RealList().GetColumn(0)->SetWidth(30); });
+        Narrow(0);
         ExpectTip(PlaceOfHeader(0), "Rule ID");
         ExpectNoTip(PlaceOfHeader(1));
     });

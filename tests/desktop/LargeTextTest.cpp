@@ -33,7 +33,7 @@ TEST_F(LayoutWindow, IsNoLargerThanAScreenWhereEverythingCanBeReachedByScrolling
         for (const auto* control : ControlsInOrder()) {
             WaitForFocus(*control);
             ExpectSeen(*control);
-            ExpectSeen(program->form.zyStatusBar);
+            ExpectStatusBarSeen();
             Press(WXK_TAB);
         }
         ExpectUncrowded();

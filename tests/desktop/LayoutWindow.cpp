@@ -1,6 +1,7 @@
 #include "LayoutWindow.h"
 
 #include <wx/frame.h>
+#include <wx/statusbr.h>
 
 #include <chrono>
 #include <cstdlib>
@@ -48,10 +49,17 @@ void LayoutWindow::ExpectSeen(const Control& control) {
     ExpectNothingWrong([&] { return Clipped(control); });
 }
 
+void LayoutWindow::ExpectStatusBarSeen() {
+    ExpectNothingWrong([] {
+        const bool seen = RealFrame().GetScreenRect().Contains(RealFrame().GetStatusBar()->GetScreenRect());
+        return std::string(seen ? "" : "the status bar lies outside of the window");
+    });
+}
+
 void LayoutWindow::NeedRoom(const Size& least) {
     InWindow([&] {
         program->form.leastInnerSize = [least] { return least; };
-        RealFrame().SendSizeEvent();
+        RealFrame().SetSize(RealFrame().GetSize() + wxSize(10, 10)); // which lays the page out
     });
     WaitUntil("the page has the room that it needs", [&] {
         const Size& size = program->form.InnerSize();

@@ -21,6 +21,7 @@ class LayoutWindow : public RulesWindow {
     void NeedRoom(const Size& least);
     /// Waits until the whole control can be seen.
     void ExpectSeen(const Control& control);
+    void ExpectStatusBarSeen();
     /// Scrolls the page so that the lower part of a control is out of sight. Returns a place on the upper.
     wxPoint ScrollUntilTheTopOfItIsSeen(const Control& control);
 
