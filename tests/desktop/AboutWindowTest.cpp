@@ -49,16 +49,7 @@ TEST_F(AboutWindow, ShowsTitleVersionAndContactLines) {
 TEST_F(AboutWindow, HasRoomForEveryPart) {
     Play([&] {
         OpenAbout();
-        InWindow([] {
-            const auto inside = RealDialog("frmAbout")->GetClientSize();
-            for (const auto* name : {"Image1", "lblAppTitle", "lblVersion", "lblCompanyInfo", "lblWebsite",
-                                     "lblEmail", "Line1", "Line2", "cmdOk"}) {
-                const auto& part = RealNamed(name);
-                EXPECT_TRUE(wxRect(inside).Contains(part.GetRect())) << name;
-                EXPECT_GE(part.GetSize().x, part.GetBestSize().x) << name;
-                EXPECT_GE(part.GetSize().y, part.GetBestSize().y) << name;
-            }
-        });
+        ExpectRoomForEveryPart("frmAbout");
         Press(WXK_ESCAPE);
         WaitForNoDialog("frmAbout");
     });

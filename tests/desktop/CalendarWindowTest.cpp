@@ -190,6 +190,22 @@ TEST_F(CalendarWindow, AltWithALetterPressesItsButton) {
     });
 }
 
+TEST_F(CalendarWindow, HasRoomForAllWeeksOfAMonth) {
+    Play([&] {
+        OpenCalendar(2);
+        InWindow([] {
+            // The toolkit counts what stands above the weeks as part of the calendar.
+            const auto& calendar = RealCalendar();
+            const wxRect whole = calendar.GetRect().Union(calendar.GetMonthControl()->GetRect());
+            EXPECT_GE(whole.width, calendar.GetBestSize().x);
+            EXPECT_GE(whole.height, calendar.GetBestSize().y);
+            EXPECT_TRUE(wxRect(RealDialog(kDialog)->GetClientSize()).Contains(whole));
+            EXPECT_GE(RealNamed("cmdClear").GetPosition().y, whole.GetBottom());
+        });
+        LeaveCalendar();
+    });
+}
+
 TEST_F(CalendarWindow, StandsJustBelowItsCell) {
     Play([&] {
         OpenCalendar(2);

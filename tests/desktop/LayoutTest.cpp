@@ -13,13 +13,14 @@ TEST_F(LayoutWindow, IsTidyAtFirst) {
 
 TEST_F(LayoutWindow, IsTidyAtItsLeastSize) {
     Play([&] {
-        Resize({586, 560});
+        Resize(LeastSize());
         ExpectTidy();
     });
 }
 
 TEST_F(LayoutWindow, IsTidyWhenItFillsTheScreen) {
     Play([&] {
+        const auto before = InWindow([] { return RealFrame().GetSize(); });
         InWindow([&] { RealFrame().Maximize(); });
         WaitUntil("the window fills the screen", [&] {
             return program->form.State() == WindowState::Maximized && RealFrame().GetSize().x > 1500;
@@ -29,7 +30,7 @@ TEST_F(LayoutWindow, IsTidyWhenItFillsTheScreen) {
         EXPECT_GT(listWidth, 1200);
         InWindow([&] { RealFrame().Maximize(false); });
         WaitUntil("the window is as before", [&] {
-            return program->form.State() == WindowState::Normal && RealFrame().GetSize().x < 900;
+            return program->form.State() == WindowState::Normal && RealFrame().GetSize() == before;
         });
         ExpectTidy();
     });
@@ -42,11 +43,12 @@ TEST_F(LayoutWindow, IsTidyWithoutRules) {
 
 TEST_F(LayoutWindow, CannotBeDraggedSmallerThanItsLeastSize) {
     Play([&] {
+        const auto before = InWindow([] { return RealFrame().GetSize(); });
         const auto corner =
             InWindow([] { return RealFrame().GetStatusBar()->GetScreenRect().GetBottomRight(); });
         hands->DragWindow(corner - wxPoint(5, 5), corner - wxPoint(600, 600));
-        WaitUntil("the window has become smaller", [] { return RealFrame().GetSize().x < 700; });
-        WaitUntil("the window has its least size", [] { return RealFrame().GetSize() == wxSize(586, 560); });
+        WaitUntil("the window has become smaller", [&] { return RealFrame().GetSize().x < before.x; });
+        WaitUntil("the window has its least size", [] { return RealFrame().GetSize() == LeastSize(); });
         ExpectTidy();
     });
 }
@@ -78,7 +80,7 @@ TEST_F(LayoutWindow, AColumnThatAPersonMadeWiderStaysSo) {
         const auto listWidth = InWindow([&] { return RealList().GetSize().x; });
         InWindow([&] { RealList().GetColumn(0)->SetWidth(200); });
         WaitUntil("the column is wider", [&] { return RealList().GetColumn(0)->GetWidth() == 200; });
-        Resize({1000, 800});
+        Resize(InWindow([] { return RealFrame().GetSize(); }) + wxSize(200, 160));
         WaitUntil("the list is wider", [&] { return RealList().GetSize().x > listWidth; });
         ExpectTidy();
         EXPECT_EQ(InWindow([&] { return RealList().GetColumn(0)->GetWidth(); }), 200);

@@ -6,6 +6,9 @@
 #include <chrono>
 #include <cstdlib>
 
+#include "desktop/Native.h"
+#include "desktop/Scale.h"
+
 namespace zy::test {
 namespace {
 
@@ -22,6 +25,11 @@ wxRect PlaceOnScreen(const wxWindow& window) {
 }
 
 } // namespace
+
+wxSize LayoutWindow::LeastSize() {
+    const double twipsPerPixel = Scale(DotsPerInch()).TwipsPerPixel();
+    return {static_cast<int>(8800 / twipsPerPixel), static_cast<int>(8400 / twipsPerPixel)};
+}
 
 void LayoutWindow::Resize(const wxSize& size) {
     InWindow([&] { RealFrame().SetSize(size); });

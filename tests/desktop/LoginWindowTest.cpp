@@ -47,6 +47,14 @@ TEST_F(LoginWindow, TheAdministratorLogsInByKeyboardCapitalsOrNot) {
     EXPECT_TRUE(boxes.Seen().empty());
 }
 
+TEST_F(LoginWindow, HasRoomForEveryPart) {
+    PlayFromTheStart([&] {
+        WaitForDialog(kDialog);
+        ExpectRoomForEveryPart(kDialog);
+        Press(WXK_ESCAPE);
+    });
+}
+
 TEST_F(LoginWindow, TheAdministratorLogsInByMouse) {
     PlayFromTheStart([&] {
         WaitForDialog(kDialog);

@@ -205,6 +205,20 @@ void WindowTest::ClickIn(const std::string& control) {
     }));
 }
 
+void WindowTest::ExpectRoomForEveryPart(const std::string& dialog) {
+    InWindow([&] {
+        const auto& inside = *RealDialog(dialog)->GetChildren().front();
+        ASSERT_FALSE(inside.GetChildren().empty());
+        EXPECT_EQ(inside.GetSize(), RealDialog(dialog)->GetClientSize());
+        for (const auto* part : inside.GetChildren()) {
+            const auto name = part->GetName().utf8_string();
+            EXPECT_TRUE(wxRect(inside.GetSize()).Contains(part->GetRect())) << name;
+            EXPECT_GE(part->GetSize().x, part->GetBestSize().x) << name;
+            EXPECT_GE(part->GetSize().y, part->GetBestSize().y) << name;
+        }
+    });
+}
+
 void WindowTest::WaitForFocusIn(const std::string& control) {
     WaitUntil(control + " has the focus", [&] { return HoldsFocus(RealNamed(control)); });
 }

@@ -77,6 +77,8 @@ class WindowTest : public ::testing::Test {
     void WaitForDialog(const std::string& name);
     void WaitForNoDialog(const std::string& name);
     void ClickIn(const std::string& control);
+    /// Each of its controls can be seen whole and has the room it needs.
+    static void ExpectRoomForEveryPart(const std::string& dialog);
     void WaitForFocusIn(const std::string& control);
 
     // What the person sees.
