@@ -10,6 +10,7 @@
 #include <wx/statbox.h>
 #include <wx/textctrl.h>
 
+#include <cmath>
 #include <memory>
 #include <utility>
 
@@ -96,6 +97,19 @@ bool IsKeyWithAlt(const wxKeyEvent& key) {
 void TellSystem(const wxKeyEvent& key) {
     auto* control = static_cast<wxWindow*>(key.GetEventObject());
     ::DefWindowProcW(control->GetHandle(), WM_SYSKEYDOWN, key.GetRawKeyCode(), key.GetRawKeyFlags());
+}
+
+/// The system's colour for links, else the toolkit's, else that of other text. Each may be much like what
+/// lies below the link: the first in some themes, the second in high contrast.
+wxColour ReadableLinkColour(const wxHyperlinkCtrl& link) {
+    constexpr double kContrast = 0.4;
+    const double below = link.GetBackgroundColour().GetLuminance();
+    for (const auto& colour : {wxSystemSettings::GetColour(wxSYS_COLOUR_HOTLIGHT), link.GetNormalColour()}) {
+        if (std::abs(colour.GetLuminance() - below) > kContrast) {
+            return colour;
+        }
+    }
+    return wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT);
 }
 
 wxString TextOnClipboard() {
@@ -229,8 +243,7 @@ long EveryKeyStyle() {
 }
 
 void ColourLink(wxHyperlinkCtrl& link) {
-    // Where the toolkit draws the link itself, that is blue, whatever lies below it.
-    const auto colour = wxSystemSettings::GetColour(wxSYS_COLOUR_HOTLIGHT);
+    const auto colour = ReadableLinkColour(link);
     link.SetNormalColour(colour);
     link.SetHoverColour(colour);
     link.SetVisitedColour(colour);

@@ -8,29 +8,29 @@
 namespace zy::test {
 namespace {
 
-using Colours = std::array<COLORREF, 6>;
-
-constexpr std::array<int, 6> kParts{COLOR_3DFACE,     COLOR_BTNTEXT,   COLOR_WINDOW,
-                                    COLOR_WINDOWTEXT, COLOR_HIGHLIGHT, COLOR_HOTLIGHT};
 constexpr COLORREF kBlack = RGB(0, 0, 0);
 constexpr COLORREF kWhite = RGB(255, 255, 255);
 constexpr COLORREF kYellow = RGB(255, 255, 0);
-constexpr COLORREF kPurple = RGB(128, 0, 128);
+constexpr COLORREF kBlue = RGB(0, 0, 255);
+constexpr COLORREF kLightGrey = RGB(230, 230, 230);
 
-/// White on black, for all programs.
-class HighContrast {
+/// The colours of all programs' windows, of the text on them, and of links.
+class SystemColours {
   public:
-    HighContrast() {
+    SystemColours(COLORREF window, COLORREF text, COLORREF link) {
         for (std::size_t i = 0; i < kParts.size(); ++i) {
             before_[i] = ::GetSysColor(kParts[i]);
         }
-        Set({kBlack, kWhite, kBlack, kWhite, kPurple, kYellow});
+        Set({window, text, link});
     }
-    ~HighContrast() { Set(before_); }
-    HighContrast(const HighContrast&) = delete;
-    HighContrast& operator=(const HighContrast&) = delete;
+    ~SystemColours() { Set(before_); }
+    SystemColours(const SystemColours&) = delete;
+    SystemColours& operator=(const SystemColours&) = delete;
 
   private:
+    using Colours = std::array<COLORREF, 3>;
+    static constexpr std::array<int, 3> kParts{COLOR_BTNFACE, COLOR_BTNTEXT, COLOR_HOTLIGHT};
+
     static void Set(const Colours& colours) {
         ::SetSysColors(static_cast<int>(kParts.size()), kParts.data(), colours.data());
     }
@@ -53,22 +53,35 @@ class LinkColour : public RulesWindow {
         ::ReleaseDC(link.GetHandle(), context);
         return count;
     }
+
+    void ExpectLinksIn(COLORREF colour) {
+        Play([&] {
+            Press('H', wxMOD_ALT);
+            Press('A');
+            WaitForDialog("frmAbout");
+            for (const std::string link : {"lblWebsite", "lblEmail"}) {
+                constexpr int kUnderline = 20;
+                WaitUntil(link + " has its colour", [&] { return PixelsOf(link, colour) > kUnderline; });
+            }
+            Press(WXK_ESCAPE);
+            WaitForNoDialog("frmAbout");
+        });
+    }
 };
 
 TEST_F(LinkColour, IsTheOneThatTheSystemHasForLinks) {
-    const HighContrast colours;
-    Play([&] {
-        Press('H', wxMOD_ALT);
-        Press('A');
-        WaitForDialog("frmAbout");
-        for (const std::string link : {"lblWebsite", "lblEmail"}) {
-            constexpr int kUnderline = 20;
-            WaitUntil(link + " is yellow", [&] { return PixelsOf(link, kYellow) > kUnderline; });
-            EXPECT_GT(InWindow([&] { return PixelsOf(link, kBlack); }), kUnderline);
-        }
-        Press(WXK_ESCAPE);
-        WaitForNoDialog("frmAbout");
-    });
+    const SystemColours colours(kBlack, kWhite, kYellow);
+    ExpectLinksIn(kYellow);
+}
+
+TEST_F(LinkColour, IsBlueWhereTheSystemsCannotBeRead) {
+    const SystemColours colours(kWhite, kBlack, kLightGrey);
+    ExpectLinksIn(kBlue);
+}
+
+TEST_F(LinkColour, IsThatOfOtherTextWhereBlueCannotBeReadEither) {
+    const SystemColours colours(kBlack, kWhite, kBlue);
+    ExpectLinksIn(kWhite);
 }
 
 } // namespace
