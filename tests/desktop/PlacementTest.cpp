@@ -131,6 +131,38 @@ TEST_F(Placement, StoresTheNormalPlaceOfAMaximizedWindow) {
     EXPECT_EQ(Stored("Height"), "9750");
 }
 
+TEST_F(Placement, StoresWhereAPersonHadMovedTheWindowBeforeItWasMaximized) {
+    StorePlace(300, 200, 700, 650);
+    Play([&] {
+        WaitForPlace({300, 200, 700, 650});
+        hands->DragWindow({500, 205}, {560, 305});
+        WaitForPlace({360, 300, 700, 650});
+        LetItSettle();
+        InWindow([] { RealFrame().Maximize(); });
+        WaitForState(WindowState::Maximized);
+        WaitUntil("it fills the screen", [] { return RealFrame().GetSize().x >= 1590; });
+    });
+    EXPECT_EQ(Stored("State"), "2");
+    EXPECT_EQ(Stored("Left"), "5400");
+    EXPECT_EQ(Stored("Top"), "4500");
+}
+
+TEST_F(Placement, TakesAPlaceOnTheWayToTheMaximizedOneForNoPlaceOfTheWindow) {
+    StorePlace(300, 200, 700, 650);
+    Play([&] {
+        WaitForPlace({300, 200, 700, 650});
+        LetItSettle();
+        InWindow([] {
+            RealFrame().SetSize(0, 0, 1500, 1100);
+            RealFrame().Maximize();
+        });
+        WaitForState(WindowState::Maximized);
+        WaitUntil("it fills the screen", [] { return RealFrame().GetSize().x >= 1590; });
+    });
+    EXPECT_EQ(Stored("Left"), "4500");
+    EXPECT_EQ(Stored("Width"), "10500");
+}
+
 TEST_F(Placement, StoresAMinimizedWindowAsANormalOneAtItsPlace) {
     StorePlace(300, 200, 700, 650);
     Play([&] {
