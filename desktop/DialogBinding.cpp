@@ -10,6 +10,7 @@
 #include "desktop/ControlBinding.h"
 #include "desktop/Displays.h"
 #include "desktop/Native.h"
+#include "desktop/PageArea.h"
 #include "desktop/Panels.h"
 #include "desktop/Pictures.h"
 #include "desktop/ShownText.h"
@@ -86,7 +87,7 @@ void DialogBinding::Rescale() {
 void DialogBinding::PlaceOn(wxWindow* parent) {
     const wxRect place = context_.scale.ToPixels(form_.Bounds());
     if (parent != nullptr && place.GetPosition() != wxPoint()) {
-        const wxRect wanted(parent->ClientToScreen(place.GetPosition()), dialog_.GetSize());
+        const wxRect wanted(PageArea::PageIn(*parent).ClientToScreen(place.GetPosition()), dialog_.GetSize());
         dialog_.Move(MovedInside(wanted, RoomAround(*parent)).GetPosition());
     } else {
         dialog_.Centre();

@@ -30,6 +30,15 @@ PageArea::PageArea(wxFrame& frame)
     KeepScrollBarsInSight(*this);
 }
 
+wxWindow& PageArea::PageIn(wxWindow& window) {
+    for (auto* child : window.GetChildren()) {
+        if (const auto* area = dynamic_cast<PageArea*>(child)) {
+            return *area->Page();
+        }
+    }
+    return window;
+}
+
 void PageArea::FitPage(const wxSize& least) {
     SetVirtualSize(least);
     wxSize size = GetClientSize();
@@ -37,14 +46,14 @@ void PageArea::FitPage(const wxSize& least) {
     page_->SetSize(wxRect(CalcScrolledPosition(wxPoint()), size));
 }
 
-void PageArea::ShowWhole(const wxWindow& control) {
+void PageArea::ShowWhole(const wxRect& place) {
     const wxSize room = GetClientSize();
-    const wxRect place(ScreenToClient(control.GetScreenPosition()), control.GetSize());
+    const wxPoint seen = CalcScrolledPosition(place.GetPosition());
     wxPoint step;
     GetScrollPixelsPerUnit(&step.x, &step.y);
     const wxPoint start = GetViewStart();
-    Scroll(start.x + StepsTo(place.x, place.width, room.x, step.x),
-           start.y + StepsTo(place.y, place.height, room.y, step.y));
+    Scroll(start.x + StepsTo(seen.x, place.width, room.x, step.x),
+           start.y + StepsTo(seen.y, place.height, room.y, step.y));
 }
 
 } // namespace zy

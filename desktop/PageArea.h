@@ -14,10 +14,12 @@ class PageArea final : public wxScrolledWindow {
 
     /// The window that the page's controls are made in.
     wxWindow* Page() const { return page_; }
+    /// The same for a main window as it stands on the screen; any other window is that itself.
+    static wxWindow& PageIn(wxWindow& window);
     /// Gives the page all the room, but no less than this, in pixels.
     void FitPage(const wxSize& least);
-    /// Scrolls the page until all of a control can be seen, its beginning at least.
-    void ShowWhole(const wxWindow& control);
+    /// Scrolls the page until all of a place on it can be seen, its beginning at least.
+    void ShowWhole(const wxRect& place);
 
   private:
     wxWindow* page_;

@@ -19,6 +19,16 @@ WindowState StateOf(const wxFrame& frame) {
                                  : WindowState::Normal;
 }
 
+/// In twips. The real control may not stand there yet.
+Rect PlaceOnPage(const Control& control) {
+    Rect place = control.Bounds();
+    for (const Container* around = control.Parent(); around->Parent() != nullptr; around = around->Parent()) {
+        place.left += around->Bounds().left;
+        place.top += around->Bounds().top;
+    }
+    return place;
+}
+
 } // namespace
 
 WindowBinding::WindowBinding(ViewContext& context, Form& form, std::function<void()> close)
@@ -96,6 +106,7 @@ void WindowBinding::TellSize() {
         size.y += StatusBarHeight();
         form_.SetInnerSize(context_.scale.ToTwips(size));
     });
+    ShowFocused(); // which the new size may have put out of sight
 }
 
 int WindowBinding::StatusBarHeight() const {
@@ -117,8 +128,8 @@ void WindowBinding::Rescale() {
 }
 
 void WindowBinding::ShowFocused() {
-    if (const auto* focused = context_.controls.Find(form_.Focused())) {
-        area_->ShowWhole(focused->Window());
+    if (const Control* focused = form_.Focused()) {
+        area_->ShowWhole(context_.scale.ToPixels(PlaceOnPage(*focused)));
     }
 }
 

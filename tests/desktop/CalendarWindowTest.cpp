@@ -4,6 +4,9 @@
 #include <wx/frame.h>
 #include <wx/generic/calctrlg.h>
 #include <wx/grid.h>
+#include <wx/scrolwin.h>
+
+#include <algorithm>
 
 #include "UsersWindow.h"
 
@@ -60,6 +63,14 @@ class CalendarWindow : public UsersWindow {
     }
     static wxGenericCalendarCtrl& RealCalendar() {
         return dynamic_cast<wxGenericCalendarCtrl&>(RealNamed("dpZYSecurity"));
+    }
+
+    static wxScrolledWindow& RealPageArea() {
+        const auto& children = RealFrame().GetChildren();
+        const auto area = std::find_if(children.begin(), children.end(), [](const wxWindow* child) {
+            return dynamic_cast<const wxScrolledWindow*>(child) != nullptr;
+        });
+        return dynamic_cast<wxScrolledWindow&>(**area);
     }
 
   private:
@@ -196,11 +207,13 @@ TEST_F(CalendarWindow, HasRoomForAllWeeksOfAMonth) {
         InWindow([] {
             // The toolkit counts what stands above the weeks as part of the calendar.
             const auto& calendar = RealCalendar();
-            const wxRect whole = calendar.GetRect().Union(calendar.GetMonthControl()->GetRect());
+            const wxRect whole = calendar.GetScreenRect().Union(calendar.GetMonthControl()->GetScreenRect());
             EXPECT_GE(whole.width, calendar.GetBestSize().x);
             EXPECT_GE(whole.height, calendar.GetBestSize().y);
-            EXPECT_TRUE(wxRect(RealDialog(kDialog)->GetClientSize()).Contains(whole));
-            EXPECT_GE(RealNamed("cmdClear").GetPosition().y, whole.GetBottom());
+            const auto& dialog = *RealDialog(kDialog);
+            const wxRect inside(dialog.ClientToScreen(wxPoint()), dialog.GetClientSize());
+            EXPECT_TRUE(inside.Contains(whole));
+            EXPECT_GE(RealNamed("cmdClear").GetScreenPosition().y, whole.GetBottom());
         });
         LeaveCalendar();
     });
@@ -209,6 +222,28 @@ TEST_F(CalendarWindow, HasRoomForAllWeeksOfAMonth) {
 TEST_F(CalendarWindow, StandsJustBelowItsCell) {
     Play([&] {
         OpenCalendar(2);
+        const auto cell = RectOfCell(2, kExpiryDate);
+        const auto dialog = InWindow([] { return RealDialog(kDialog)->GetScreenRect(); });
+        EXPECT_NEAR(dialog.x, cell.x, 2);
+        EXPECT_NEAR(dialog.y, cell.GetBottom() + 1, 2);
+        LeaveCalendar();
+    });
+}
+
+TEST_F(CalendarWindow, StandsJustBelowItsCellOnAPageThatIsScrolledToo) {
+    Play([&] {
+        constexpr Size kLeast{13000, 11500};
+        InWindow([&] {
+            program->form.leastInnerSize = [] { return kLeast; };
+            RealFrame().SetSize(RealFrame().GetSize() + wxSize(10, 10));
+        });
+        WaitUntil("the page has its room", [&] { return program->form.InnerSize().height >= kLeast.height; });
+        OpenEditor(2, kExpiryDate);
+        const int before = InWindow([&] { return RealGrid().GetScreenPosition().y; });
+        InWindow([] { RealPageArea().Scroll(0, 3); });
+        WaitUntil("the page is scrolled", [&] { return RealGrid().GetScreenPosition().y < before; });
+        ClickCellButton();
+        WaitForDialog(kDialog);
         const auto cell = RectOfCell(2, kExpiryDate);
         const auto dialog = InWindow([] { return RealDialog(kDialog)->GetScreenRect(); });
         EXPECT_NEAR(dialog.x, cell.x, 2);

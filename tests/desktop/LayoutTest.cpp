@@ -102,6 +102,16 @@ TEST_F(LayoutWindow, APageThatNeedsMoreRoomThanThereIsScrollsToTheControlThatHas
     });
 }
 
+TEST_F(LayoutWindow, APageThatComesToNeedMoreRoomKeepsTheControlWithTheKeyboardInSight) {
+    Play([&] {
+        Press('D', wxMOD_ALT);
+        WaitForFocus(page().txtDescription);
+        NeedRoom({13000, 11500});
+        ExpectSeen(page().txtDescription);
+        ExpectStatusBarSeen();
+    });
+}
+
 TEST_F(LayoutWindow, APageThatNeededMoreRoomFillsWhatThereIsAgainWhenThatIsEnough) {
     Play([&] {
         NeedRoom({13000, 11500});
