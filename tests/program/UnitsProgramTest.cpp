@@ -31,7 +31,7 @@ TEST_F(UnitsProgram, AddsAUnitSavesAndClosesByKeyboardAlone) {
 TEST_F(UnitsProgram, AsksBeforeItDeletes) {
     Put(kFile, "Kilograms,kg\r\nMetres,m\r\n");
     OpenUnits();
-    PressKeys("Tab Tab ctrl+Home alt+d"); // past the arrows to the first unit
+    PressKeys("ctrl+Home alt+d"); // the first unit, from the list where the keyboard starts
     ASSERT_TRUE(WaitForWindow("Confirm Delete")) << Program().Output();
     PressKeys("Return");
     ASSERT_TRUE(WaitForWindow("ZY Setup - Units of Measure")) << Program().Output();
