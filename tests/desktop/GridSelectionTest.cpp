@@ -68,7 +68,9 @@ TEST_F(GridSelection, NoCellIsCurrentAtFirst) {
 TEST_F(GridSelection, WhoeverComesToTheGridByTabStandsOnTheFirstCell) {
     PutUnits(ThreeUnits());
     Play([&] {
-        Press(WXK_TAB);
+        WaitForFocus(grid());
+        Press(WXK_TAB, wxMOD_SHIFT);
+        WaitForFocus(page().UpDownUnits);
         Press(WXK_TAB);
         WaitForFocus(grid());
         WaitForCell(1, 0);
@@ -304,8 +306,6 @@ TEST_F(GridSelection, CtrlTabLeavesTheGridFromAnyCellBothWays) {
 
 TEST_F(GridSelection, TabLeavesAnEmptyGridBothWays) {
     Play([&] {
-        Press(WXK_TAB);
-        Press(WXK_TAB);
         WaitForFocus(grid());
         Press(WXK_TAB);
         WaitForFocus(page().cmdAddUNit);
