@@ -57,14 +57,15 @@ Made MakeBinding(const ViewContext& context, const Inside& inside, Control& cont
 
 Bindings BindChildren(const ViewContext& context, const Inside& inside, const Container& container) {
     Bindings bindings;
-    for (auto* child : container.Children()) {
-        if (dynamic_cast<Label*>(child) != nullptr) {
+    for (auto* each : container.Children()) {
+        Control& child = *each;
+        if (dynamic_cast<Label*>(&child) != nullptr) {
             continue;
         }
-        if (auto* label = FindLabelOf(*child)) {
+        if (auto* label = FindLabelOf(child)) {
             bindings.push_back(MakeBinding(context, inside, *label));
         }
-        bindings.push_back(MakeBinding(context, inside, *child));
+        bindings.push_back(MakeBinding(context, inside, child));
     }
     return bindings;
 }

@@ -34,7 +34,7 @@ bool IsOnlyWith(const wxKeyEvent& event, int modifier) {
 
 std::optional<KeyPress> GridKeyPressOf(const wxKeyEvent& event) {
     // Keyboards that type a digit with Shift bear it on the same key.
-    const int digit = event.ControlDown() ? DigitOn(event) : '\0';
+    const int digit = event.ControlDown() ? static_cast<unsigned char>(DigitOn(event)) : 0;
     for (const auto& [code, key] : kKeys) {
         if (code == event.GetKeyCode() || code == digit) {
             return KeyPress{

@@ -49,7 +49,7 @@ std::optional<EditedText> TakeEdit(const CodePage& codePage, std::string_view be
         return std::nullopt;
     }
     const std::wstring was = ToShown(codePage, before).ToStdWstring();
-    const std::wstring is = shown.ToStdWstring();
+    const std::wstring& is = shown.ToStdWstring();
     const auto front = CommonLength(was.begin(), was.end(), is.begin(), is.end());
     const auto rest = static_cast<std::ptrdiff_t>(front);
     const auto back = CommonLength(was.rbegin(), was.rend() - rest, is.rbegin(), is.rend() - rest);

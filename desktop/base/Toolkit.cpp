@@ -50,6 +50,7 @@ Toolkit::Toolkit() {
             throw NoDisplay();
         }
     }
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the target is the toolkit's own from here on
     delete wxLog::SetActiveTarget(new wxLogStderr);
     wxTheApp->SetExitOnFrameDelete(false);
     wxTheApp->CallOnInit();
