@@ -106,7 +106,9 @@ void WindowBinding::TellSize() {
         size.y += StatusBarHeight();
         form_.SetInnerSize(context_.scale.ToTwips(size));
     });
-    ShowFocused(); // which the new size may have put out of sight
+    // Which the new size may have put out of sight; behind the toolkit's own work on it, for until then
+    // Windows has no room to scroll to.
+    frame_->CallAfter([this] { ShowFocused(); });
 }
 
 int WindowBinding::StatusBarHeight() const {

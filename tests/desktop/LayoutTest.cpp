@@ -89,7 +89,7 @@ TEST_F(LayoutWindow, AColumnThatAPersonMadeWiderStaysSo) {
 
 TEST_F(LayoutWindow, APageThatNeedsMoreRoomThanThereIsScrollsToTheControlThatHasTheKeyboard) {
     Play([&] {
-        NeedRoom({13000, 11500});
+        NeedRoom({13000, 10800});
         for (int round = 0; round < 2; ++round) {
             for (const auto* control : ControlsInOrder()) {
                 WaitForFocus(*control);

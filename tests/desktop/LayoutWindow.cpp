@@ -137,12 +137,17 @@ std::string LayoutWindow::Overlaps(const std::vector<const Control*>& controls) 
     return wrong;
 }
 
+std::string LayoutWindow::Text(const wxRect& place) {
+    return wxString::Format("%d,%d %dx%d", place.x, place.y, place.width, place.height).ToStdString();
+}
+
 std::string LayoutWindow::Clipped(const Control& control) {
     const auto& real = Real(control);
     const wxRect place = PlaceOnScreen(real);
     for (const auto* outer = real.GetParent(); outer != nullptr; outer = outer->GetParent()) {
         if (!PlaceOnScreen(*outer).Contains(place)) {
-            return control.Name() + " is clipped by " + outer->GetName().ToStdString() + "; ";
+            return control.Name() + " at " + Text(place) + " is clipped by " +
+                   outer->GetName().ToStdString() + " at " + Text(PlaceOnScreen(*outer)) + "; ";
         }
     }
     return {};

@@ -37,6 +37,7 @@ class LayoutWindow : public RulesWindow {
     wxScrolledWindow& PageArea();
     static std::string Overlaps(const std::vector<const Control*>& controls);
     static std::string Clipped(const Control& control);
+    static std::string Text(const wxRect& place);
     std::string Cramped(const Control& control);
 };
 
