@@ -18,8 +18,10 @@ const std::string kLong =
 template <typename Window>
 class WithTooltips : public Window {
   protected:
-    /// Points at a text and waits until it is shown whole.
+    /// Points at a text, on a way through it as any mouse has one, and waits until it is shown whole.
     void ExpectTip(const wxPoint& place, const std::string& text) {
+        this->hands->PointAt(place + wxPoint(2, 0));
+        WaitUntil("\"" + text + "\" is offered", [&] { return IsOffered(text); });
         this->hands->PointAt(place);
         WaitUntil("the tooltip says \"" + text + "\"", [&] { return TipOnScreen() == text; });
     }
@@ -27,6 +29,17 @@ class WithTooltips : public Window {
     void ExpectNoTip(const wxPoint& place) {
         this->hands->PointAt(place);
         WaitUntil("there is no tooltip", [&] { return !TipOnScreen(); });
+    }
+
+  private:
+    /// Whether a window below the mouse has that tooltip, shown or not.
+    static bool IsOffered(const std::string& text) {
+        wxPoint place;
+        const auto* below = wxFindWindowAtPointer(place);
+        while (below != nullptr && below->GetToolTipText().utf8_string() != text) {
+            below = below->GetParent();
+        }
+        return below != nullptr;
     }
 };
 
@@ -42,7 +55,7 @@ class CutTextsInTheList : public WithTooltips<RulesWindow> {
         });
     }
     void Narrow(unsigned column) {
-        constexpr int kNarrow = 24;
+        constexpr int kNarrow = 14;
         const wxDataViewItem row(wxUIntToPtr(1U));
         auto* made = InWindow([&] { return RealList().GetColumn(column); });
         InWindow([&] { made->SetWidth(kNarrow); });
@@ -68,18 +81,23 @@ TEST_F(CutTextsInTheList, AreShownWholeWhereAPersonHasMadeTheColumnNarrow) {
     });
 }
 
+#ifndef _WIN32
+// The header of a list on Windows is the system's own, which shows none.
 TEST_F(CutTextsInTheList, OfTheHeaderAreShownWholeToo) {
     Play([&] {
         Narrow(0);
-        ExpectTip(PlaceOfHeader(0), "Rule ID");
+        hands->PointAt(PlaceOfHeader(0));
+        WaitUntil("the tooltip says all of it", [] { return TipOnScreen() == "Rule ID"; });
         ExpectNoTip(PlaceOfHeader(1));
     });
 }
+#endif
 
 TEST_F(CutTextsInTheList, OfTheStatusBarAreShownWholeToo) {
     Play([&] {
         InWindow([&] { program->form.zyStatusBar.SetText(kLong + kLong); });
-        ExpectTip(PlaceOf(program->form.zyStatusBar), kLong + kLong);
+        hands->PointAt(PlaceOf(program->form.zyStatusBar)); // the toolkit's own, which it does not tell of
+        WaitUntil("the tooltip says all of it", [] { return TipOnScreen() == kLong + kLong; });
     });
 }
 

@@ -13,6 +13,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <regex>
 
 #include "DesktopColours.h"
 #include "RulesWindow.h"
@@ -24,7 +25,6 @@
 namespace zy::test {
 namespace {
 
-using ::testing::ContainsRegex;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::Not;
@@ -114,8 +114,10 @@ class HelpWindow : public RulesWindow {
         }));
     }
     void LookFor(const std::string& words) {
-        InWindow([] { Find<wxNotebook>(*Frame())->SetSelection(2); });
-        ClickOn(wxID_HTML_SEARCHTEXT);
+        InWindow([] {
+            Find<wxNotebook>(*Frame())->SetSelection(2);
+            Part<wxTextCtrl>(wxID_HTML_SEARCHTEXT).SetFocus();
+        });
         WaitUntil("the text box has the focus",
                   [] { return HasFocus(Part<wxTextCtrl>(wxID_HTML_SEARCHTEXT)); });
         Press('A', wxMOD_CONTROL);
@@ -370,8 +372,9 @@ TEST_F(HelpWindow, TabScrollsToTheLinkThatItMarks) {
 TEST_F(HelpWindow, TabBeginsWithTheLinksThatCanBeSeen) {
     Play([&] {
         OpenHelp();
+        InWindow([] { Frame()->SetSize(700, 420); });
         Press(WXK_END);
-        WaitUntil("the page is scrolled", [] { return Page().GetViewStart().y > 0; });
+        WaitUntil("the first link is scrolled away", [] { return Page().GetViewStart().y > 10; });
         Press(WXK_TAB);
         WaitUntil("a link is marked", [] { return !Marked().empty(); });
         EXPECT_NE(InWindow([] { return Marked(); }), "Rules");
@@ -405,7 +408,7 @@ TEST_F(HelpWindow, AltLeftAndAltRightGoThroughThePagesThatWereRead) {
     });
 }
 
-TEST_F(HelpWindow, TabLeavesThePageBehindItsLastLinkAndComesRoundToItAgain) {
+TEST_F(HelpWindow, TabLeavesThePageBehindItsLastLink) {
     Play([&] {
         OpenHelp();
         const auto links = InWindow([] { return Links().size(); });
@@ -415,6 +418,18 @@ TEST_F(HelpWindow, TabLeavesThePageBehindItsLastLinkAndComesRoundToItAgain) {
         }
         WaitUntil("another part has the focus", [] { return !HasFocus(Page()); });
         EXPECT_THAT(InWindow([] { return Marked(); }), IsEmpty());
+        CloseHelp();
+    });
+}
+
+#ifndef _WIN32
+// On Windows it goes round among the tool buttons.
+TEST_F(HelpWindow, TabComesRoundToThePageAgain) {
+    Play([&] {
+        OpenHelp();
+        TabToMark("Rules");
+        Press(WXK_TAB, wxMOD_SHIFT);
+        WaitUntil("another part has the focus", [] { return !HasFocus(Page()); });
         constexpr int kMostParts = 30;
         for (int i = 0; i < kMostParts && !InWindow([] { return HasFocus(Page()); }); ++i) {
             Press(WXK_TAB);
@@ -423,6 +438,7 @@ TEST_F(HelpWindow, TabLeavesThePageBehindItsLastLinkAndComesRoundToItAgain) {
         CloseHelp();
     });
 }
+#endif
 
 TEST_F(HelpWindow, ShiftTabLeavesThePageBeforeItsFirstLink) {
     Play([&] {
@@ -626,8 +642,8 @@ class HelpColours : public HelpWindow {
             EXPECT_EQ(Page().GetParser()->GetActualColor(), Desktop(wxSYS_COLOUR_WINDOWTEXT));
             EXPECT_GE(Contrast(paper, Page().GetParser()->GetActualColor()), 4.5);
             EXPECT_GE(Contrast(paper, Page().GetParser()->GetLinkColor()), 3);
-            EXPECT_THAT(Page().GetParser()->GetSource()->utf8_string(),
-                        Not(ContainsRegex("=\"[a-z]*(window|text|highlight|face)\"")));
+            const std::regex name("=\"[a-z]*(window|text|highlight|face)\"");
+            EXPECT_FALSE(std::regex_search(Page().GetParser()->GetSource()->utf8_string(), name));
         });
     }
 
