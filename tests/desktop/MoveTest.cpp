@@ -132,11 +132,11 @@ TEST_F(MoveWindow, ARuleThatMovesStaysInViewAndTheListDoesNotJump) {
         Press(WXK_UP);
         Press(WXK_UP);
         WaitForSelection(item);
-        const auto below = PlaceOfRow(item);
+        const auto below = PlaceAtRest(item);
         Press(WXK_UP, wxMOD_ALT);
         WaitForSelection(item - 1);
         EXPECT_TRUE(IsRowVisible(item - 1));
-        EXPECT_EQ(PlaceOfRow(item), below);
+        EXPECT_EQ(PlaceAtRest(item), below);
         EXPECT_EQ(Row(item - 1).back(), "Rule number " + std::to_string(item) + "  ");
     });
 }

@@ -105,12 +105,24 @@ bool RulesWindow::IsRowVisible(int item) {
     return InWindow([&] { return RealList().GetScreenRect().Contains(place); });
 }
 
+wxPoint RulesWindow::RealPlaceOfRow(int item) {
+    const wxDataViewItem row(wxUIntToPtr(static_cast<unsigned>(item)));
+    const wxRect place = RealList().GetItemRect(row, RealList().GetColumn(0));
+    return RealList().ClientToScreen(wxPoint(place.x + place.width / 2, place.y + place.height / 2));
+}
+
 wxPoint RulesWindow::PlaceOfRow(int item) {
-    return InWindow([&] {
-        const wxDataViewItem row(wxUIntToPtr(static_cast<unsigned>(item)));
-        const wxRect place = RealList().GetItemRect(row, RealList().GetColumn(0));
-        return RealList().ClientToScreen(wxPoint(place.x + place.width / 2, place.y + place.height / 2));
+    return InWindow([&] { return RealPlaceOfRow(item); });
+}
+
+wxPoint RulesWindow::PlaceAtRest(int item) {
+    wxPoint last;
+    WaitUntil("the list stands still", [&] {
+        const wxPoint before = last;
+        last = RealPlaceOfRow(item);
+        return last == before;
     });
+    return last;
 }
 
 void RulesWindow::WaitForSelection(int item) {

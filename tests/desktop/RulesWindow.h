@@ -39,6 +39,8 @@ class RulesWindow : public GridWindow {
     int SelectedRow();
     bool IsRowVisible(int item);
     wxPoint PlaceOfRow(int item);
+    /// The same once the list has scrolled as far as it goes.
+    wxPoint PlaceAtRest(int item);
 
     void WaitForSelection(int item);
 
@@ -50,6 +52,9 @@ class RulesWindow : public GridWindow {
 
     RulesControls& page() { return program->rulesPage.controls; }
     Grid& grid() override { return page().grdRules; }
+
+  private:
+    wxPoint RealPlaceOfRow(int item);
 };
 
 } // namespace zy::test
