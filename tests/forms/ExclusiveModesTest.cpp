@@ -22,7 +22,7 @@ class ExclusiveModes : public EditorsTest {
 
 TEST_F(ExclusiveModes, PutTheRulesFirst) {
     SetModes(true, true, true);
-    window().menu.mnuSave.Click();
+    ChooseSave();
     EXPECT_THAT(calls, ElementsAre("trace frmGlobalSettings ,mnuSave_Click Rules"));
     SetModes(true, true, true);
     window().Unload();
@@ -31,7 +31,7 @@ TEST_F(ExclusiveModes, PutTheRulesFirst) {
 
 TEST_F(ExclusiveModes, PutTheUsersBeforeTheUnits) {
     SetModes(false, true, true);
-    window().menu.mnuSave.Click();
+    ChooseSave();
     EXPECT_THAT(calls, ::testing::Contains("trace mSecurity Validate_Security Start"));
     EXPECT_THAT(calls, ::testing::Not(::testing::Contains("trace mUnits ValidateUnits Start")));
     SetModes(false, true, true);
@@ -44,7 +44,7 @@ TEST_F(ExclusiveModes, SaveNothingWithoutAnEditorInCharge) {
     SetModes(false, false, false);
     form().ChangeFlag = true;
     state().gbChanged = true;
-    window().menu.mnuSave.Click();
+    ChooseSave();
     EXPECT_THAT(calls, IsEmpty());
 }
 
@@ -60,7 +60,7 @@ TEST_F(ExclusiveModes, CloseWithoutAQuestionWithoutAnEditorInCharge) {
 TEST_F(ExclusiveModes, AreTestedForTrueAlone) {
     SetModes(false, true, false);
     state().gbRulesMode = FromValue(1);
-    window().menu.mnuSave.Click();
+    ChooseSave();
     EXPECT_THAT(calls, ::testing::Contains("trace frmGlobalSettings ,mnuSave_Click Security"));
 }
 

@@ -33,12 +33,6 @@ class UnitsEditorInCharge : public EditorsTest {
         calls.clear();
     }
     void ExpectInvalid() { world.dialogs.ExpectMessage("Unit cannot contain double quotes", "Invalid Unit"); }
-    void StartUnchanged() {
-        StartAndForget("@UNITS");
-        ExpectMarks(false, false);
-    }
-    void LetSomebodyElseSave() { world.files.SetFolderLocked(R"(C:\SYS)", true); }
-    void ChooseSave() { window().menu.mnuSave.Click(); }
     std::string File() const { return world.files.Get(kUnitsFile).value_or("none"); }
 };
 
@@ -60,7 +54,7 @@ TEST_F(UnitsEditorInCharge, TakesOverTheOpenCellBeforeItTracesThatItSaves) {
 }
 
 TEST_F(UnitsEditorInCharge, IsSavedAlsoWithoutAChange) {
-    StartUnchanged();
+    StartUnchanged("@UNITS");
     world.files.Take(kUnitsFile);
     ChooseSave();
     EXPECT_EQ(File(), kBefore);
@@ -91,7 +85,7 @@ TEST_F(UnitsEditorInCharge, StaysOpenWhenTheSaveIsRefused) {
 }
 
 TEST_F(UnitsEditorInCharge, ClosesWithoutAQuestionWhenNothingChanged) {
-    StartUnchanged();
+    StartUnchanged("@UNITS");
     state().gbChanged = true;
     EXPECT_TRUE(window().Unload());
     EXPECT_THAT(calls, ElementsAre(kUnloading, "SetProcedure", "Open key", "Create key", kUnloaded));

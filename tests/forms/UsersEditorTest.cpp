@@ -38,13 +38,6 @@ class UsersEditor : public EditorsTest {
     void ExpectInvalid() {
         world.dialogs.ExpectMessage("Invalid Password. Password Cannot be blank", "ZY Setup");
     }
-    /// Nothing is open and nothing was changed.
-    void StartUnchanged() {
-        StartAndForget("@SECURITY");
-        ExpectMarks(false, false);
-    }
-    void LetSomebodyElseSave() { world.files.SetFolderLocked(R"(C:\SYS)", true); }
-    void ChooseSave() { window().menu.mnuSave.Click(); }
     std::string SavedPassword() { return UsersInTable(world)->front().PASSWORD; }
 
     Grid& grid() { return program().securityPage.controls.grdSecurity; }
@@ -60,7 +53,7 @@ TEST_F(UsersEditor, IsSavedInThisOrder) {
 }
 
 TEST_F(UsersEditor, IsSavedAlsoWithoutAChange) {
-    StartUnchanged();
+    StartUnchanged("@SECURITY");
     ChooseSave();
     EXPECT_THAT(calls, ElementsAre(kSaving, kChecked, kTakenOver, kWriting, kWritten, kIndexed));
 }
@@ -82,13 +75,13 @@ TEST_F(UsersEditor, HandsAnErrorOfTheTableOnAndKeepsItsMark) {
 }
 
 TEST_F(UsersEditor, ClosesWithoutAQuestionWhenNothingChanged) {
-    StartUnchanged();
+    StartUnchanged("@SECURITY");
     EXPECT_TRUE(window().Unload());
     EXPECT_THAT(calls, ElementsAre(kUnloading, "SetProcedure", "Open key", "Create key", kUnloaded));
 }
 
 TEST_F(UsersEditor, IsAskedForByTheSharedMarkAlone) {
-    StartUnchanged();
+    StartUnchanged("@SECURITY");
     form().ChangeFlag = true;
     EXPECT_TRUE(window().Unload());
 }

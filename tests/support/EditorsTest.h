@@ -14,6 +14,14 @@ class EditorsTest : public ProgramTest {
         Start(commandLine);
         calls.clear();
     }
+    /// The same, where nothing may have been marked as changed.
+    void StartUnchanged(std::string_view commandLine) {
+        StartAndForget(commandLine);
+        ExpectMarks(false, false);
+    }
+    void ChooseSave() { window().menu.mnuSave.Click(); }
+    /// From now on somebody else is saving in the system directory.
+    void LetSomebodyElseSave() { world.files.SetFolderLocked(R"(C:\SYS)", true); }
 
     World Outside() override {
         World outside = world.Get();
