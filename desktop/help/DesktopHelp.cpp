@@ -51,7 +51,8 @@ void DesktopHelp::Show(std::string_view helpFile, HelpCommand command, std::uint
 }
 
 HelpFrame& DesktopHelp::Window() {
-    if (!window_) {
+    // A window that was closed lives on until the events that stand in line are done.
+    if (!window_ || wxTheApp->IsScheduledForDestruction(window_)) {
         window_ = new HelpFrame(*wxTheApp->GetTopWindow(), *book_);
     }
     window_->Show();

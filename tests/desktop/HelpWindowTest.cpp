@@ -14,8 +14,10 @@
 #include <fstream>
 #include <iterator>
 #include <regex>
+#include <thread>
 
 #include "DesktopColours.h"
+#include "NativeLook.h"
 #include "RulesWindow.h"
 #include "desktop/HelpFrame.h"
 #include "desktop/HelpPage.h"
@@ -98,6 +100,8 @@ class HelpWindow : public RulesWindow {
         Press(WXK_F1);
         WaitForPage(kFirstPage);
         WaitUntil("the help has the keyboard", [] { return Frame()->IsActive() && HasFocus(Page()); });
+        std::this_thread::sleep_for(UntilNewWindowKeepsKeyboard());
+        WaitUntil("the help keeps the keyboard", [] { return Frame()->IsActive() && HasFocus(Page()); });
     }
     void ClickOn(int part) {
         hands->Click(InWindow([&] {
@@ -323,6 +327,22 @@ TEST_F(HelpWindow, EscapeClosesItFromEveryPart) {
             WaitForNoHelp();
             WaitForWindow();
         }
+    });
+}
+
+TEST_F(HelpWindow, OpensAnewAtOnceAfterItWasClosed) {
+    Play([&] {
+        OpenHelp();
+        const auto pressed = InWindow([&] {
+            const auto* closed = Frame();
+            Frame()->Close();
+            program->form.menu.mnuContents.Click();
+            return std::pair(closed, Frame());
+        });
+        EXPECT_NE(pressed.first, pressed.second);
+        WaitUntil("the closed window is gone", [&] { return !wxTopLevelWindows.Find(pressed.first); });
+        WaitForPage(kFirstPage);
+        CloseHelp();
     });
 }
 
