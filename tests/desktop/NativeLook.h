@@ -4,6 +4,7 @@
 #include <wx/gdicmn.h>
 #include <wx/string.h>
 
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <string>
@@ -27,6 +28,9 @@ void HandToWindow(std::function<void()> work);
 
 /// Whether the box is on the screen and has the keyboard.
 bool HasKeyboard(const wxMessageDialog& box);
+/// How long after a second window has got the keyboard the first one can still get it back for a moment, during which
+/// a press of the mouse is lost.
+std::chrono::milliseconds UntilNewWindowKeepsKeyboard();
 /// The title in the box's title bar.
 std::string TitleOf(const wxMessageDialog& box);
 /// The middle, on the screen, of the button that gives this answer: wxID_YES, wxID_NO or wxID_OK.

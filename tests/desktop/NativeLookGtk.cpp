@@ -102,6 +102,10 @@ bool HasKeyboard(const wxMessageDialog& box) {
     return box.m_widget != nullptr && gtk_window_is_active(WindowOf(box)) != 0;
 }
 
+std::chrono::milliseconds UntilNewWindowKeepsKeyboard() {
+    return {};
+}
+
 std::string TitleOf(const wxMessageDialog& box) {
     return gtk_window_get_title(WindowOf(box));
 }

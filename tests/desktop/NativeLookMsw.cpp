@@ -127,6 +127,11 @@ bool HasKeyboard(const wxMessageDialog& /*box*/) {
     return ActiveBox() != nullptr;
 }
 
+std::chrono::milliseconds UntilNewWindowKeepsKeyboard() {
+    // Under Wine the window manager of another system hands the keyboard on once it has put the window up.
+    return std::chrono::seconds(1);
+}
+
 std::string TitleOf(const wxMessageDialog& /*box*/) {
     return wxString(TextOf(ActiveBox())).utf8_string();
 }
