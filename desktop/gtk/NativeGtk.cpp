@@ -109,6 +109,15 @@ bool CanAskForBorders() {
                                                gdk_atom_intern("_NET_REQUEST_FRAME_EXTENTS", 0)) != 0;
 }
 
+/// The toolkit puts that off until there is nothing else to do, and a label leads to its control only then:
+/// an access key that is pressed sooner would be lost.
+void SettleTabOrder(wxWindow& window) {
+    window.OnInternalIdle();
+    for (auto* child : window.GetChildren()) {
+        SettleTabOrder(*child);
+    }
+}
+
 } // namespace
 
 double DotsPerInch() {
@@ -168,6 +177,7 @@ void SetPasswordCharacter(wxTextCtrl& box, char character) {
 }
 
 void LayOutUnseen(wxWindow& window) {
+    SettleTabOrder(window);
     // A window that first appears without a size has GTK complain of menus that do not fit in. One that got
     // its size before it is real waits in vain to be told of it, and gives room to nothing that is shown
     // later.
