@@ -28,8 +28,8 @@ void HandToWindow(std::function<void()> work);
 
 /// Whether the box is on the screen and has the keyboard.
 bool HasKeyboard(const wxMessageDialog& box);
-/// How long after a second window has got the keyboard the first one can still get it back for a moment, during which
-/// a press of the mouse is lost.
+/// How long after a second window has got the keyboard the first one can still get it back for a moment,
+/// during which a press of the mouse is lost.
 std::chrono::milliseconds UntilNewWindowKeepsKeyboard();
 /// The title in the box's title bar.
 std::string TitleOf(const wxMessageDialog& box);
