@@ -23,6 +23,9 @@ struct Cell {
     friend bool operator==(const Cell&, const Cell&) = default;
 };
 
+/// A button of the mouse, by the number that the product's grids give it.
+enum class MouseButton { Left = 1, Right = 2 };
+
 /// What of a pasted text a grid did not take.
 struct PasteReport {
     /// The list would get longer than it can be: nothing was pasted.
@@ -126,9 +129,8 @@ class Grid : public Control {
     void EnterEditText(std::string_view text, std::size_t selStart, std::size_t selLength);
     /// Presses a key, on the grid or in its open editor. False when the grid has no use for it.
     bool Press(const KeyPress& press);
-    /// Presses a mouse button over a cell, or beside all of them, where row and column are -1: 1 left, 2
-    /// right.
-    void PressMouse(int button, int row, int column);
+    /// Presses a mouse button over a cell, or beside all of them, where row and column are -1.
+    void PressMouse(MouseButton button, int row, int column);
     /// Makes the first cell current and stretches the block to the last one.
     void SelectAll();
     /// Presses the button of a cell that is edited with one.
@@ -150,7 +152,7 @@ class Grid : public Control {
     Event<const KeyPress&, bool&> keyDown;
     /// A key went down in the editor.
     Event<const KeyPress&> keyDownEdit;
-    Event<int, int, int> mouseDown;
+    Event<MouseButton, int, int> mouseDown; ///< with the row and the column
     Event<int, int> cellButtonClick;
     /// A text was pasted, all its edits are told.
     Event<const PasteReport&> pasted;

@@ -86,7 +86,7 @@ void Grid::EnterEditText(std::string_view text, std::size_t selStart, std::size_
     }
 }
 
-void Grid::PressMouse(int button, int row, int column) {
+void Grid::PressMouse(MouseButton button, int row, int column) {
     if (TakeFocus()) {
         mouseDown.Raise(button, row, column);
     }

@@ -30,7 +30,7 @@ RulesGridMode::RulesGridMode(mRules& rules, RulesControls& controls, SettingsFor
 void RulesGridMode::Connect() {
     form_.menu.mnuAddRule.click.Connect([this] { mnuAddRule_Click(); });
     form_.menu.mnuDeleteRule.click.Connect([this] { mnuDeleteRule_Click(); });
-    grid_.mouseDown.Connect([this](int button, int, int) { grdRules_MouseDown(button); });
+    grid_.mouseDown.Connect([this](MouseButton button, int, int) { grdRules_MouseDown(button); });
     grid_.afterEdit.Connect([this](int, int) { grdRules_AfterEdit(); });
     // That is all that happens then.
     grid_.cellChanged.Connect([this](int, int) { rules_.gbGridChanged = true; });
@@ -155,10 +155,9 @@ void RulesGridMode::TellCountChanged() {
     countChanged.Raise();
 }
 
-void RulesGridMode::grdRules_MouseDown(int button) {
-    constexpr int kRightButton = 2;
+void RulesGridMode::grdRules_MouseDown(MouseButton button) {
     Trace(kMainForm, "grdRules_MouseDown");
-    if (button != kRightButton) {
+    if (button != MouseButton::Right) {
         return;
     }
     const bool hasCurrent = grid_.Row() != -1;

@@ -35,7 +35,7 @@ class RulesGridMode {
     /// Deletes the current row's rule at once, unlike list mode, which asks. Meant.
     void mnuDeleteRule_Click();
     /// The right button selects the current row and opens the context menu; the others do nothing.
-    void grdRules_MouseDown(int button);
+    void grdRules_MouseDown(MouseButton button);
     void grdRules_AfterEdit();
 
     /// A rule came or went.

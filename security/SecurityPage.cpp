@@ -54,7 +54,7 @@ void SecurityPage::Connect() {
     grid.cellButtonClick.Connect([this](int row, int column) { grdSecurity_CellButtonClick(row, column); });
     grid.keyDown.Connect(
         [this](const KeyPress& press, bool& handled) { grdSecurity_KeyDown(press, handled); });
-    grid.mouseDown.Connect([this](int button, int row, int) { grdSecurity_MouseDown(button, row); });
+    grid.mouseDown.Connect([this](MouseButton button, int row, int) { grdSecurity_MouseDown(button, row); });
     users.reported.Connect([this](const std::string& report) { report_ = report; });
 }
 
@@ -279,13 +279,12 @@ void SecurityPage::grdSecurity_KeyDown(const KeyPress& press, bool& handled) {
     }
 }
 
-void SecurityPage::grdSecurity_MouseDown(int button, int row) {
-    constexpr int kRightButton = 2;
+void SecurityPage::grdSecurity_MouseDown(MouseButton button, int row) {
     Trace("grdSecurity_MouseDown", "Start");
     if (row >= 0) {
         controls.grdSecurity.Select(row, controls.grdSecurity.Column());
     }
-    if (button == kRightButton) {
+    if (button == MouseButton::Right) {
         form_.menu.mnuDeleteUser.SetEnabled(row >= 1);
         form_.menu.mnuSecuritypopMenu.PopUp();
     }

@@ -33,7 +33,7 @@ class SecurityPage : public Editor {
     /// Shift+Tab at the grid's first cell goes on to the Help button.
     void grdSecurity_KeyDown(const KeyPress& press, bool& handled);
     /// Makes the row current; the right button opens the context menu.
-    void grdSecurity_MouseDown(int button, int row);
+    void grdSecurity_MouseDown(MouseButton button, int row);
 
     /// Fills the grid from the list of users.
     void LoadSecurity();

@@ -17,8 +17,6 @@ namespace zy {
 namespace {
 
 constexpr int kHeader = 0;
-constexpr int kLeftButton = 1;
-constexpr int kRightButton = 2;
 constexpr int kNowhere = -1; ///< the row and column where there is no cell
 
 /// A thin line around the grid, of which the toolkit draws none.
@@ -60,34 +58,34 @@ void GridBinding::ObserveModel() {
 }
 
 void GridBinding::BindMouse() {
-    const auto down = [this](int button) {
+    const auto down = [this](MouseButton button) {
         return [this, button](wxGridEvent& event) {
             event.Skip();
             // A left click with Shift stretches the block, whose first cell stays the current one.
-            if (button != kLeftButton || !event.ShiftDown()) {
+            if (button != MouseButton::Left || !event.ShiftDown()) {
                 PressMouse(button, event.GetRow() + 1, event.GetCol());
             }
         };
     };
-    grid_->Bind(wxEVT_GRID_CELL_LEFT_CLICK, down(kLeftButton));
-    grid_->Bind(wxEVT_GRID_CELL_RIGHT_CLICK, down(kRightButton));
-    grid_->Bind(wxEVT_GRID_LABEL_RIGHT_CLICK, down(kRightButton));
+    grid_->Bind(wxEVT_GRID_CELL_LEFT_CLICK, down(MouseButton::Left));
+    grid_->Bind(wxEVT_GRID_CELL_RIGHT_CLICK, down(MouseButton::Right));
+    grid_->Bind(wxEVT_GRID_LABEL_RIGHT_CLICK, down(MouseButton::Right));
     grid_->GetGridWindow()->Bind(wxEVT_RIGHT_DOWN, [this](wxMouseEvent& event) {
         event.Skip();
         // The toolkit's grid tells of cells alone.
         if (grid_->XYToCell(grid_->CalcUnscrolledPosition(event.GetPosition())) == wxGridNoCellCoords) {
-            PressMouse(kRightButton, kNowhere, kNowhere);
+            PressMouse(MouseButton::Right, kNowhere, kNowhere);
         }
     });
     grid_->Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent& event) { PressMenuKey(event); });
     // The header is no way to select a column.
     grid_->Bind(wxEVT_GRID_LABEL_LEFT_CLICK,
-                [this](wxGridEvent& event) { PressMouse(kLeftButton, kHeader, event.GetCol()); });
+                [this](wxGridEvent& event) { PressMouse(MouseButton::Left, kHeader, event.GetCol()); });
     grid_->Bind(wxEVT_GRID_CELL_LEFT_DCLICK,
                 [this](wxGridEvent&) { Gate().Act([this] { model_.OpenEditor(); }); });
 }
 
-void GridBinding::PressMouse(int button, int row, int column) {
+void GridBinding::PressMouse(MouseButton button, int row, int column) {
     Gate().ActLater([this, button, row, column] {
         if (row < model_.Rows()) {
             model_.PressMouse(button, row, column);
@@ -104,7 +102,7 @@ void GridBinding::PressMenuKey(wxContextMenuEvent& event) {
         return;
     }
     Context().menuPlace = PlaceOfMenu();
-    Gate().Act([this] { model_.PressMouse(kRightButton, model_.Row(), model_.Column()); });
+    Gate().Act([this] { model_.PressMouse(MouseButton::Right, model_.Row(), model_.Column()); });
     Context().menuPlace.reset();
 }
 

@@ -28,7 +28,7 @@ class GridBinding : public ControlBinding {
     void ObserveModel();
     void BindMouse();
     void BindKeys();
-    void PressMouse(int button, int row, int column);
+    void PressMouse(MouseButton button, int row, int column);
     void PressMenuKey(wxContextMenuEvent& event);
     /// Where the menu of the current cell opens, on the screen.
     wxPoint PlaceOfMenu();

@@ -67,10 +67,11 @@ TEST_F(GridTest, DoesNotMakeTheHeaderCurrentOnAClick) {
 }
 
 TEST_F(GridTest, TellsWhichMouseButtonWentDownWhere) {
-    grid.mouseDown.Connect([this](int mouseButton, int row, int column) {
-        notes.push_back(std::to_string(mouseButton) + std::to_string(row) + std::to_string(column));
+    grid.mouseDown.Connect([this](MouseButton mouseButton, int row, int column) {
+        notes.push_back(std::to_string(static_cast<int>(mouseButton)) + std::to_string(row) +
+                        std::to_string(column));
     });
-    grid.PressMouse(2, 1, 0);
+    grid.PressMouse(MouseButton::Right, 1, 0);
     EXPECT_THAT(notes, ElementsAre("210"));
 }
 
@@ -179,12 +180,12 @@ TEST_F(GridTest, TellsFromWhichColumnOnToFitAlsoToAViewThatComesLater) {
 TEST_F(GridTest, LetsNoOneWorkOnItWhileItIsDisabled) {
     grid.Select(1, 1);
     grid.SetEnabled(false);
-    grid.mouseDown.Connect([this](int, int, int) { notes.emplace_back("mouse"); });
+    grid.mouseDown.Connect([this](MouseButton, int, int) { notes.emplace_back("mouse"); });
     notes.clear();
     grid.Pick(2, 2);
     grid.TypeOver("x");
     grid.OpenEditor();
-    grid.PressMouse(1, 2, 2);
+    grid.PressMouse(MouseButton::Left, 2, 2);
     grid.Paste("x");
     EXPECT_FALSE(grid.Press({Key::Down}));
     ExpectCurrent(1, 1);

@@ -209,7 +209,9 @@ TEST_F(GridSelection, AClickOnTheHeaderSelectsNothing) {
     PutUnits(ThreeUnits());
     Play([&] {
         std::vector<int> pressed;
-        grid().mouseDown.Connect([&](int button, int row, int column) { pressed = {button, row, column}; });
+        grid().mouseDown.Connect([&](MouseButton button, int row, int column) {
+            pressed = {static_cast<int>(button), row, column};
+        });
         hands->Click(InWindow([&] {
             auto* header = RealGrid().GetGridColLabelWindow();
             return header->ClientToScreen(wxPoint(RealGrid().GetColSize(0) + 40, header->GetSize().y / 2));
@@ -225,7 +227,9 @@ TEST_F(GridSelection, TheRightButtonIsToldWithItsCell) {
     PutUnits(ThreeUnits());
     Play([&] {
         std::vector<int> pressed;
-        grid().mouseDown.Connect([&](int button, int row, int column) { pressed = {button, row, column}; });
+        grid().mouseDown.Connect([&](MouseButton button, int row, int column) {
+            pressed = {static_cast<int>(button), row, column};
+        });
         const auto place = PlaceOfCell(2, 1);
         InWindow([&] { wxUIActionSimulator().MouseMove(place); });
         InWindow([] { wxUIActionSimulator().MouseClick(wxMOUSE_BTN_RIGHT); });

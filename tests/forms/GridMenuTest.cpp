@@ -161,7 +161,7 @@ TEST_F(GridMenu, OpensByNoOtherButton) {
     CountPopUps();
     grid().Pick(2, kZoneColumn);
     for (const int button : {1, 3, 4}) {
-        grid().PressMouse(button, 1, 0);
+        grid().PressMouse(MouseButton{button}, 1, 0);
     }
     EXPECT_EQ(opened, 0);
     EXPECT_EQ(grid().Row(), 2);
@@ -204,7 +204,7 @@ TEST_F(GridMenu, TracesWhatIsDone) {
     ShowGridOver({"A"});
     Traces();
     grid().Pick(1, 0);
-    grid().PressMouse(1, 1, 0);
+    grid().PressMouse(MouseButton::Left, 1, 0);
     RightClick(1);
     menu().mnuAddRule.Click();
     menu().mnuDeleteRule.Click();

@@ -56,10 +56,7 @@ class GridModeForm : public RulesForm {
         grid().Press({.key = Key::Enter});
     }
     /// Presses the right button of the mouse over a row.
-    void RightClick(int row) {
-        constexpr int kRightButton = 2;
-        grid().PressMouse(kRightButton, row, 0);
-    }
+    void RightClick(int row) { grid().PressMouse(MouseButton::Right, row, 0); }
     void ExpectWholeRow(int row) {
         EXPECT_EQ(grid().Row(), row);
         EXPECT_EQ(grid().Column(), kCodeColumn);

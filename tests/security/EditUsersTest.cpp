@@ -10,7 +10,7 @@ using ::testing::IsEmpty;
 class EditUsers : public UsersTest {
   protected:
     /// Opens the context menu over a row.
-    void RightClick(int row) { grid().PressMouse(2, row, 0); }
+    void RightClick(int row) { grid().PressMouse(MouseButton::Right, row, 0); }
     void ChooseAdd() { form().menu.mnuAddUser.Click(); }
     void ChooseDelete() { deleteEntry().Click(); }
 };
@@ -123,7 +123,7 @@ TEST_F(EditUsers, TheMenuDeletesNothingWithoutACurrentRow) {
     StartOver({User("Ann"), User("Bob")});
     for (const int row : {-1, 0}) {
         if (row == 0) {
-            grid().PressMouse(1, 0, 0);
+            grid().PressMouse(MouseButton::Left, 0, 0);
         }
         ASSERT_EQ(grid().Row(), row);
         ChooseDelete();
@@ -135,7 +135,7 @@ TEST_F(EditUsers, TheMenuDeletesNothingWithoutACurrentRow) {
 
 TEST_F(EditUsers, AClickMakesItsRowCurrent) {
     StartOver({User("Ann"), User("Bob")});
-    grid().PressMouse(1, 2, 3);
+    grid().PressMouse(MouseButton::Left, 2, 3);
     EXPECT_EQ(grid().Row(), 2);
     RightClick(1);
     EXPECT_EQ(grid().Row(), 1);
@@ -150,7 +150,7 @@ TEST_F(EditUsers, TheRightButtonOpensTheMenuWhoseDeleteNeedsAUserRow) {
     RightClick(1);
     EXPECT_TRUE(deleteEntry().Enabled());
     EXPECT_EQ(opened, 2);
-    grid().PressMouse(1, 1, 0);
+    grid().PressMouse(MouseButton::Left, 1, 0);
     EXPECT_EQ(opened, 2);
     ChooseDelete();
     RightClick(0);

@@ -24,7 +24,7 @@ class UsersTraces : public UsersTest {
 
 TEST_F(UsersTraces, TellOfAPressOfTheMouseAndOfAKey) {
     StartOver({User("Ann"), User("Bob")});
-    grid().PressMouse(1, 2, 1);
+    grid().PressMouse(MouseButton::Left, 2, 1);
     EXPECT_THAT(FormLines(), Contains("grdSecurity_MouseDown Start"));
     grid().Press({Key::Up});
     EXPECT_THAT(FormLines(), Contains("grdSecurity_KeyDown Start"));
