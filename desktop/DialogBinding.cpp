@@ -36,20 +36,19 @@ DialogBinding::DialogBinding(const CodePage& codePage, EventGate& gate, Form& fo
     : gate_(gate), form_(form),
       dialog_(parent, wxID_ANY, ToShown(codePage, form.Caption()), wxDefaultPosition, wxDefaultSize,
               wxCAPTION | wxCLOSE_BOX | wxSYSTEM_MENU),
-      notes_(nullptr, "notes"), context_{.codePage = codePage,
-                                         .gate = gate,
-                                         .controls = controls_,
-                                         .statusBar = notes_,
-                                         .scale = Scale(DotsPerInch(dialog_)),
-                                         .menuPlace = menuPlace_},
+      context_{.codePage = codePage,
+               .gate = gate,
+               .controls = controls_,
+               .showRefusal = [this](std::string_view reason) { RingForRefusal(reason); },
+               .scale = Scale(DotsPerInch(dialog_)),
+               .menuPlace = menuPlace_},
       inside_{.window = MakeOuterPanel(dialog_), .origin = {}},
       children_(BindChildren(context_, inside_, form)), focus_(context_, form, dialog_),
       appearanceChanged_(form.appearanceChanged.Observe([this] {
           if (!form_.Visible()) {
               End();
           }
-      })),
-      noteChanged_(notes_.change.Observe([] { wxBell(); })) {
+      })) {
     dialog_.SetName(ToShown(codePage, form.Name()));
     dialog_.SetIcons(ProgramIcon());
     TakeSize();
@@ -116,6 +115,13 @@ void DialogBinding::Run() {
     focus_.ShowFirst();
     if (form_.Visible()) {
         dialog_.ShowModal();
+    }
+}
+
+void DialogBinding::RingForRefusal(std::string_view reason) {
+    if (refusal_ != reason) {
+        refusal_ = reason;
+        wxBell();
     }
 }
 

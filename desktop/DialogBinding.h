@@ -2,6 +2,9 @@
 
 #include <wx/dialog.h>
 
+#include <string>
+#include <string_view>
+
 #include "controls/Form.h"
 #include "desktop/Bindings.h"
 #include "desktop/FocusBinding.h"
@@ -30,19 +33,20 @@ class DialogBinding {
     void ConnectKeys();
     void PressKey(wxKeyEvent& event);
     void End();
+    /// Rings the bell for a reason that is another one than before; a dialog has no room to show it.
+    void RingForRefusal(std::string_view reason);
 
     EventGate& gate_;
     Form& form_;
     wxDialog dialog_;
     BoundControls controls_;
-    StatusBar notes_; ///< a dialog has no room for them: a sound tells that a character was refused
+    std::string refusal_; ///< the reason that the bell rang for last
     MenuPlace menuPlace_;
     ViewContext context_;
     Inside inside_;
     Bindings children_;
     FocusBinding focus_;
     Subscription appearanceChanged_;
-    Subscription noteChanged_;
 };
 
 } // namespace zy

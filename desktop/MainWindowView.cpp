@@ -21,12 +21,13 @@ void MainWindowView::ShowOrHide() {
 void MainWindowView::Open() {
     desktop_.StartToolkit();
     LearnBorders();
-    context_.emplace(ViewContext{.codePage = desktop_.TextCodePage(),
-                                 .gate = desktop_.Gate(),
-                                 .controls = controls_,
-                                 .statusBar = window_.Form().zyStatusBar,
-                                 .scale = Scale(DotsPerInch()),
-                                 .menuPlace = menuPlace_});
+    context_.emplace(ViewContext{
+        .codePage = desktop_.TextCodePage(),
+        .gate = desktop_.Gate(),
+        .controls = controls_,
+        .showRefusal = [this](std::string_view reason) { window_.Form().zyStatusBar.SetText(reason); },
+        .scale = Scale(DotsPerInch()),
+        .menuPlace = menuPlace_});
     binding_.emplace(*context_, window_.Form(), [this] { window_.Unload(); });
     auto& menu = window_.menu;
     menuBar_.emplace(*context_, binding_->Frame(), std::vector{&menu.mnuFile, &menu.mnuHelp},

@@ -19,11 +19,11 @@ std::string NameOf(const Control& field) {
 
 void TellRefused(const ViewContext& context, const std::string& place, const wxString& shown) {
     if (shown.length() > kMostShown) {
-        context.statusBar.SetText(kFieldFull);
+        context.showRefusal(kFieldFull);
     } else if (const auto lacking = FindLacking(context.codePage, shown)) {
         const auto number = wxString::Format("U+%04X", static_cast<unsigned>(lacking->GetValue()));
-        context.statusBar.SetText(place + ": the character " + number.ToStdString() +
-                                  std::string(kCharacterRefused));
+        context.showRefusal(place + ": the character " + number.ToStdString() +
+                            std::string(kCharacterRefused));
     }
 }
 

@@ -2,9 +2,10 @@
 
 #include <wx/gdicmn.h>
 
+#include <functional>
 #include <optional>
+#include <string_view>
 
-#include "controls/StatusBar.h"
 #include "desktop/BoundControls.h"
 #include "desktop/EventGate.h"
 #include "desktop/Scale.h"
@@ -23,7 +24,8 @@ struct ViewContext {
     const CodePage& codePage;
     EventGate& gate;
     BoundControls& controls;
-    StatusBar& statusBar; ///< tells why a character was refused
+    /// Lets the user know why what was typed or pasted is not taken.
+    std::function<void(std::string_view reason)> showRefusal;
     Scale scale;
     MenuPlace& menuPlace;
 };

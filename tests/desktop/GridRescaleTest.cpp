@@ -32,7 +32,7 @@ TEST_F(GridRescale, GetsRowsThatAreHighEnoughForTheTextsThere) {
             const ViewContext context{.codePage = desktop.TextCodePage(),
                                       .gate = desktop.Gate(),
                                       .controls = controls,
-                                      .statusBar = program->form.zyStatusBar,
+                                      .showRefusal = [](std::string_view) {},
                                       .scale = Scale(96),
                                       .menuPlace = place};
             auto panel = std::make_unique<wxPanel>(&RealFrame());
