@@ -81,8 +81,8 @@ void Grid::SetColumnWidth(int column, int width) {
     }
 }
 
-void Grid::SetColumnList(int column, std::string_view items) {
-    columnLists_.at(static_cast<std::size_t>(column)) = items;
+void Grid::SetColumnList(int column, CellList list) {
+    columnLists_.at(static_cast<std::size_t>(column)) = std::move(list);
 }
 
 void Grid::SetCurrent(Cell cell) {

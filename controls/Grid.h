@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "basics/RuntimeError.h"
+#include "controls/CellList.h"
 #include "controls/CellTexts.h"
 #include "controls/Control.h"
 #include "controls/Key.h"
@@ -83,14 +84,13 @@ class Grid : public Control {
     }
     /// The first column of the last FitColumns; as many as there are columns when there was none.
     int FittedFrom() const { return fittedFrom_; }
-    /// Lets the cells of a column be edited through a drop-down list, its items separated by "|".
-    void SetColumnList(int column, std::string_view items);
+    /// How the cells of a column are edited; as a line of text until this is called.
+    void SetColumnList(int column, CellList list);
     /// Where a cell stands inside the grid; the view that shows the grid answers.
     Rect CellPlace(int row, int column) const { return cellPlace ? cellPlace(row, column) : Rect(); }
-    /// In a `beforeEdit` handler: how the cell that is about to be edited is edited. A list as above; "..."
-    /// gives the cell a button beside its text.
-    void SetEditList(std::string_view items) { editList_ = items; }
-    const std::string& EditList() const { return editList_; }
+    /// In a `beforeEdit` handler: edits the cell otherwise than its column's cells, this time.
+    void SetEditList(CellList list) { editList_ = std::move(list); }
+    const CellList& EditList() const { return editList_; }
 
     // The current cell, and the block of cells that is selected with it.
 
@@ -133,6 +133,14 @@ class Grid : public Control {
     void PressMouse(MouseButton button, int row, int column);
     /// Makes the first cell current and stretches the block to the last one.
     void SelectAll();
+    /// Chooses an item of the open cell's drop-down list, which commits it.
+    void ChooseItem(std::string_view item);
+    /// Types in an open cell that has a list: the next item that begins so, in capitals or not, becomes the
+    /// editor's text. Where there is none, the text stays.
+    void ChooseNext(std::string_view beginning, const CellList::UpperCase& upperCase);
+    /// Puts an item in the place of a text that opened the editor and that the open cell's list lacks; the
+    /// cell's own text where no item begins so.
+    void CorrectEditText(const CellList::UpperCase& upperCase);
     /// Presses the button of a cell that is edited with one.
     void PressCellButton();
     /// The block as a spreadsheet copies it: cells separated by TAB, rows ended by CR LF.
@@ -185,6 +193,7 @@ class Grid : public Control {
     void TellRowsChanged();
     void AnnounceEdit();
     void OpenEditorWith(std::string_view text, std::size_t selStart, std::size_t selLength);
+    void PutItem(std::string_view item);
     void CloseEditor();
     bool PressInEditor(const KeyPress& press);
     bool PressOnCell(const KeyPress& press);
@@ -197,14 +206,13 @@ class Grid : public Control {
     void PasteInto(Cell first, std::string_view text);
     void PasteRows(Cell first, std::string_view text, PasteReport& report);
     bool PasteCell(Cell cell, std::string_view text, PasteReport& report);
-    bool MayHold(int column, std::string_view text) const;
     void EditTo(int row, int column, std::string_view text);
 
     int columns_;
     int rows_ = 0;
     CellTexts cells_;
     std::vector<int> widths_;
-    std::vector<std::string> columnLists_;
+    std::vector<CellList> columnLists_;
     int fittedFrom_;
     Cell current_;
     Cell blockEnd_;
@@ -212,7 +220,7 @@ class Grid : public Control {
     bool redraw_ = true;
 
     bool editing_ = false;
-    std::string editList_;
+    CellList editList_;
     std::string editText_;
     std::size_t editSelStart_ = 0;
     std::size_t editSelLength_ = 0;

@@ -17,18 +17,6 @@ int CountRows(std::string_view text) {
     return rows;
 }
 
-/// Whether a text is one of the items of a drop-down list, which "|" separates.
-bool IsItem(std::string_view items, std::string_view text) {
-    while (!items.empty()) {
-        const auto end = std::min(items.find('|'), items.size());
-        if (items.substr(0, end) == text) {
-            return true;
-        }
-        items.remove_prefix(std::min(end + 1, items.size()));
-    }
-    return false;
-}
-
 } // namespace
 
 Grid::Block Grid::Selected() const {
@@ -115,19 +103,13 @@ bool Grid::PasteCell(Cell cell, std::string_view text, PasteReport& report) {
     if (cell.column >= columns_) {
         return false;
     }
-    if (MayHold(cell.column, text)) {
+    if (columnLists_[static_cast<std::size_t>(cell.column)].Takes(text)) {
         EditTo(cell.row, cell.column, text);
     } else if (report.cellsRefused++ == 0) {
         report.firstRefused = cell;
         report.textRefused = text;
     }
     return true;
-}
-
-/// A cell with a list may be emptied as well, like any other one.
-bool Grid::MayHold(int column, std::string_view text) const {
-    const std::string_view items = columnLists_[static_cast<std::size_t>(column)];
-    return text.empty() || items.empty() || IsItem(items, text);
 }
 
 } // namespace zy

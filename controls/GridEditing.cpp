@@ -92,8 +92,37 @@ void Grid::PressMouse(MouseButton button, int row, int column) {
     }
 }
 
+void Grid::PutItem(std::string_view item) {
+    EnterEditText("", 0, 0);
+    ReplaceEditSelection(item);
+}
+
+void Grid::ChooseItem(std::string_view item) {
+    if (editing_) {
+        PutItem(item);
+        CommitEdit();
+    }
+}
+
+void Grid::ChooseNext(std::string_view beginning, const CellList::UpperCase& upperCase) {
+    const auto item = editing_ ? editList_.Next(editText_, beginning, upperCase) : std::nullopt;
+    if (item) {
+        PutItem(*item);
+    }
+}
+
+void Grid::CorrectEditText(const CellList::UpperCase& upperCase) {
+    if (!editing_) {
+        return;
+    }
+    const auto text = editList_.Corrected(editText_, Text(current_.row, current_.column), upperCase);
+    if (text != editText_) {
+        PutItem(text);
+    }
+}
+
 void Grid::PressCellButton() {
-    if (editing_ && editList_ == "...") {
+    if (editing_ && editList_.HasButton()) {
         cellButtonClick.Raise(current_.row, current_.column);
     }
 }

@@ -17,7 +17,7 @@ struct Sheet {
     Sheet() {
         form.SetVisible(true);
         grid.SetGrowsByPaste(true);
-        grid.SetColumnList(kListColumn, "A|I");
+        grid.SetColumnList(kListColumn, CellList("A|I"));
         grid.pasted.Connect([this](const PasteReport& paste) { report = paste; });
     }
 

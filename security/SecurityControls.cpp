@@ -8,7 +8,7 @@ SecurityControls::SecurityControls(Frame& fraSecurity)
       cmdDeleteUser(&fraSecurity, "cmdDeleteUser", "Delete", 'D'),
       cmdSaveUsers(&fraSecurity, "cmdSaveUsers", "Save", 'S'),
       cmdHelpSecurity(&fraSecurity, "cmdHelpSecurity", "Help", 'p') {
-    grdSecurity.SetColumnList(kStatus, "A|I");
+    grdSecurity.SetColumnList(kStatus, CellList("A|I"));
     grdSecurity.SetText(0, kUserName, "User Name");
     grdSecurity.SetText(0, kPassword, "Password");
     grdSecurity.SetText(0, kStatus, "Status");

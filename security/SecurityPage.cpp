@@ -14,7 +14,7 @@
 namespace zy {
 namespace {
 
-constexpr std::string_view kDialogButton = "...";
+constexpr std::string_view kCalendarButton = "...";
 
 /// What the status bar says of a row with single quotes.
 std::string_view Describe(QuotesEffect effect) {
@@ -236,7 +236,7 @@ void SecurityPage::grdSecurity_Pasted(const PasteReport& paste) {
 void SecurityPage::grdSecurity_BeforeEdit(int column) {
     Trace("grdSecurity_BeforeEdit", "Start");
     if (column == kExpiryDate) {
-        controls.grdSecurity.SetEditList(kDialogButton);
+        controls.grdSecurity.SetEditList(CellList(kCalendarButton));
     }
 }
 

@@ -15,8 +15,6 @@
 namespace zy {
 namespace {
 
-constexpr std::string_view kDialog = "...";
-
 void HideButton(wxButton* button) {
     if (button != nullptr) {
         HideOverCells(*button);
@@ -26,7 +24,7 @@ void HideButton(wxButton* button) {
 } // namespace
 
 bool GridCellButton::HasList() const {
-    return !model_.EditList().empty() && model_.EditList() != kDialog;
+    return model_.EditList().HasItems();
 }
 
 wxRect GridCellButton::PlaceIn(const wxRect& cell) {
@@ -40,8 +38,8 @@ wxRect GridCellButton::PlaceIn(const wxRect& cell) {
 }
 
 int GridCellButton::WidthIn(const wxRect& cell) {
-    return model_.EditList().empty() ? 0
-                                     : std::min(cell.width, std::max(Button().GetBestSize().x, cell.height));
+    const bool hasNone = !HasList() && !model_.EditList().HasButton();
+    return hasNone ? 0 : std::min(cell.width, std::max(Button().GetBestSize().x, cell.height));
 }
 
 wxButton& GridCellButton::Button() {
@@ -93,18 +91,12 @@ void GridCellButton::Press() {
 
 void GridCellButton::DropDown() {
     wxMenu menu;
-    for (const auto& item : Items()) {
+    for (const auto& item : model_.EditList().Items()) {
         const auto label = WithMnemonic(context_.codePage, item.empty() ? " " : item, '\0');
         const int id = menu.Append(wxID_ANY, label)->GetId();
         menu.Bind(
             wxEVT_MENU,
-            [this, item](wxCommandEvent&) {
-                context_.gate.Act([&] {
-                    Enter(item);
-                    model_.CommitEdit();
-                });
-            },
-            id);
+            [this, item](wxCommandEvent&) { context_.gate.Act([&] { model_.ChooseItem(item); }); }, id);
     }
     wxRect cell = grid_.CellToRect(model_.Row() - 1, model_.Column());
     grid_.GetGridWindow()->PopupMenu(&menu, grid_.CalcScrolledPosition(cell.GetBottomLeft()));
@@ -114,53 +106,19 @@ bool GridCellButton::PickByLetter(wxUniChar letter) {
     if (!HasList() || letter == 0) {
         return false;
     }
-    auto items = Items();
-    // The search goes on behind the item that stands there.
-    const auto current = std::find(items.begin(), items.end(), model_.EditText());
-    if (current != items.end()) {
-        std::rotate(items.begin(), current + 1, items.end());
-    }
-    const auto typed = TakeEdit(context_.codePage, "", wxString(letter));
-    const auto found = typed ? FindItem(items, typed->text) : items.end();
-    if (found != items.end()) {
-        context_.gate.Act([&] { Enter(*found); });
+    // A character that the code page lacks begins no item.
+    if (const auto typed = TakeEdit(context_.codePage, "", wxString(letter))) {
+        context_.gate.Act([&] { model_.ChooseNext(typed->text, UpperCase()); });
     }
     return true;
 }
 
 void GridCellButton::CorrectText() {
-    const auto items = Items();
-    const std::string typed = model_.EditText();
-    const std::string held(model_.Text(model_.Row(), model_.Column()));
-    if (HasList() && typed != held && std::find(items.begin(), items.end(), typed) == items.end()) {
-        const auto found = typed.empty() ? items.end() : FindItem(items, typed);
-        Enter(found == items.end() ? held : *found);
-    }
+    model_.CorrectEditText(UpperCase());
 }
 
-GridCellButton::ItemList::const_iterator GridCellButton::FindItem(const ItemList& items,
-                                                                  const std::string& beginning) const {
-    const std::string wanted = context_.codePage.UCase(beginning);
-    return std::find_if(items.begin(), items.end(), [&](const std::string& item) {
-        return context_.codePage.UCase(item).starts_with(wanted);
-    });
-}
-
-GridCellButton::ItemList GridCellButton::Items() const {
-    ItemList items(1);
-    for (const char character : model_.EditList()) {
-        if (character == '|') {
-            items.emplace_back();
-        } else {
-            items.back() += character;
-        }
-    }
-    return items;
-}
-
-void GridCellButton::Enter(const std::string& item) {
-    model_.EnterEditText("", 0, 0);
-    model_.ReplaceEditSelection(item);
+CellList::UpperCase GridCellButton::UpperCase() const {
+    return [this](std::string_view text) { return context_.codePage.UCase(text); };
 }
 
 } // namespace zy

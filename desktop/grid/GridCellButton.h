@@ -3,9 +3,6 @@
 #include <wx/button.h>
 #include <wx/grid.h>
 
-#include <string>
-#include <vector>
-
 #include "controls/Grid.h"
 #include "desktop/ViewContext.h"
 
@@ -37,17 +34,13 @@ class GridCellButton {
     void CorrectText();
 
   private:
-    using ItemList = std::vector<std::string>;
-
     /// The button for the open cell; the other one is hidden.
     wxButton& Button();
     wxButton* MakeListButton();
     wxButton* MakeDialogButton();
     void DropDown();
-    ItemList Items() const;
-    /// The first item that begins so, capitals or not.
-    ItemList::const_iterator FindItem(const ItemList& items, const std::string& beginning) const;
-    void Enter(const std::string& item);
+    /// Capitals as the code page has them.
+    CellList::UpperCase UpperCase() const;
 
     const ViewContext& context_;
     Grid& model_;

@@ -101,7 +101,7 @@ TEST_F(GridTest, TellsThatAPasteWithoutAPlaceWasLeftOut) {
 }
 
 TEST_F(GridTest, RefusesAPastedTextThatTheListOfItsCellLacksAndTakesTheRest) {
-    grid.SetColumnList(1, "A|I");
+    grid.SetColumnList(1, CellList("A|I"));
     grid.Select(1, 0);
     notes.clear();
     grid.Paste("1\tZZ\t2\r\n3\tI\t4\r\n");
@@ -115,8 +115,8 @@ TEST_F(GridTest, RefusesAPastedTextThatTheListOfItsCellLacksAndTakesTheRest) {
 }
 
 TEST_F(GridTest, NamesTheFirstOfSeveralPastedTextsThatItRefused) {
-    grid.SetColumnList(1, "A|I");
-    grid.SetColumnList(2, "x");
+    grid.SetColumnList(1, CellList("A|I"));
+    grid.SetColumnList(2, CellList("x"));
     grid.Select(1, 0);
     grid.Paste("1\tA\ty\r\n2\tZ\tx\r\n");
     ExpectLeftOut(0, 0, 2);
@@ -125,7 +125,7 @@ TEST_F(GridTest, NamesTheFirstOfSeveralPastedTextsThatItRefused) {
 }
 
 TEST_F(GridTest, TakesOfAPasteIntoAListCellItsItemsAsTheyStandAndNothingAtAll) {
-    grid.SetColumnList(1, "A|In use||I");
+    grid.SetColumnList(1, CellList("A|In use||I"));
     grid.Select(1, 1);
     for (const char* text : {"A", "In use", "I", "\t"}) {
         grid.Paste(text);

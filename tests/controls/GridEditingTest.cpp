@@ -74,26 +74,66 @@ TEST_F(GridTest, CommitsWhenAnotherCellIsPicked) {
 }
 
 TEST_F(GridTest, GivesACellTheListOfItsColumnOrTheOneItsFormSets) {
-    grid.SetColumnList(2, "A|I");
+    grid.SetColumnList(2, CellList("A|I"));
     grid.Select(1, 2);
     grid.OpenEditor();
-    EXPECT_EQ(grid.EditList(), "A|I");
+    EXPECT_EQ(grid.EditList(), CellList("A|I"));
     grid.beforeEdit.Connect([&](int, int column) {
         if (column == 1) {
-            grid.SetEditList("...");
+            grid.SetEditList(CellList("..."));
         }
     });
     grid.Select(1, 1);
     grid.OpenEditor();
-    EXPECT_EQ(grid.EditList(), "...");
+    EXPECT_EQ(grid.EditList(), CellList("..."));
     int pressed = 0;
     grid.cellButtonClick.Connect([&](int, int) { ++pressed; });
     grid.PressCellButton();
     grid.Select(1, 2);
     grid.OpenEditor();
-    EXPECT_EQ(grid.EditList(), "A|I");
+    EXPECT_EQ(grid.EditList(), CellList("A|I"));
     grid.PressCellButton();
     EXPECT_EQ(pressed, 1) << "only a cell edited with a button has one";
+}
+
+TEST_F(GridTest, CommitsTheItemThatIsChosenFromAList) {
+    grid.SetColumnList(1, CellList("b|Bb"));
+    Edit(1, 1, "x");
+    notes.clear();
+    grid.ChooseItem("Bb");
+    EXPECT_EQ(grid.Text(1, 1), "Bb");
+    EXPECT_FALSE(grid.IsEditing());
+    EXPECT_THAT(notes, ElementsAre("changed 1,1", "after 1,1"));
+    grid.ChooseItem("b");
+    EXPECT_EQ(grid.Text(1, 1), "Bb") << "no edit is open";
+}
+
+TEST_F(GridTest, ChoosesByTypingInAListWithoutCommitting) {
+    grid.SetColumnList(1, CellList("kg|km"));
+    Edit(1, 1, "kg");
+    grid.ChooseNext("k", [](std::string_view text) { return std::string(text); });
+    EXPECT_EQ(grid.EditText(), "km");
+    EXPECT_EQ(grid.EditSelStart(), 2U);
+    grid.ChooseNext("x", [](std::string_view text) { return std::string(text); });
+    EXPECT_EQ(grid.EditText(), "km");
+    EXPECT_EQ(grid.Text(1, 1), "b");
+}
+
+TEST_F(GridTest, CorrectsWhatIsTypedOverACellWithAListToAnItemOfIt) {
+    const auto asTyped = [](std::string_view text) { return std::string(text); };
+    grid.SetColumnList(1, CellList("kg|km"));
+    grid.Select(1, 1);
+    grid.TypeOver("k");
+    int told = 0;
+    grid.editTextChanged.Connect([&] { ++told; });
+    grid.CorrectEditText(asTyped);
+    EXPECT_EQ(grid.EditText(), "kg");
+    EXPECT_EQ(grid.EditSelStart(), 2U);
+    grid.CorrectEditText(asTyped);
+    EXPECT_EQ(told, 1) << "an item stays";
+    TypeInEditor("x");
+    grid.CorrectEditText(asTyped);
+    EXPECT_EQ(grid.EditText(), "b") << "the cell's own text, though no item";
 }
 
 TEST_F(GridTest, TakesTheTextThatACellHasOnceItsFormHasSeenTheEditComing) {

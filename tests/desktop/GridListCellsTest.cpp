@@ -11,10 +11,10 @@ class GridListCells : public UnitsWindow {
     GridListCells() {
         PutUnits(ThreeUnits());
         prepare = [this] {
-            grid().SetColumnList(0, "kg|km|s|");
+            grid().SetColumnList(0, CellList("kg|km|s|"));
             grid().beforeEdit.Connect([this](int, int column) {
                 if (column == 1) {
-                    grid().SetEditList("...");
+                    grid().SetEditList(CellList("..."));
                 }
             });
             grid().cellButtonClick.Connect([this](int row, int column) {

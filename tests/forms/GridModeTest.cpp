@@ -14,7 +14,7 @@ constexpr auto kHeaders = "Code|Min|Max|Cond.|Zone|Description";
 class GridMode : public GridModeForm {
   protected:
     /// The list from which a cell of this column is chosen.
-    std::string ListOf(int column) {
+    CellList ListOf(int column) {
         grid().Pick(1, column);
         grid().OpenEditor();
         return grid().EditList();
@@ -101,18 +101,18 @@ TEST_F(GridMode, HasSixColumnsOf960TwipsAndFitsNoneByItself) {
 
 TEST_F(GridMode, OffersFiveConditionsAndAnEmptyOne) {
     ShowGridOver({"A"});
-    EXPECT_EQ(ListOf(3), ">|>=|<|<=|=|");
+    EXPECT_EQ(ListOf(3), CellList(">|>=|<|<=|=|"));
 }
 
 TEST_F(GridMode, OffersTheZonesInItsOwnSpelling) {
     ShowGridOver({"A"});
-    EXPECT_EQ(ListOf(4), "USL|UCL|UWL|TARG |LWL|LCL|LSL|PREV|+4S|+3S|+15S|Avg |-15S|-3S|-4S");
+    EXPECT_EQ(ListOf(4), CellList("USL|UCL|UWL|TARG |LWL|LCL|LSL|PREV|+4S|+3S|+15S|Avg |-15S|-3S|-4S"));
 }
 
 TEST_F(GridMode, LetsTheOtherColumnsBeTyped) {
     ShowGridOver({"A"});
     for (const int column : {0, 1, 2, 5}) {
-        EXPECT_EQ(ListOf(column), "") << column;
+        EXPECT_EQ(ListOf(column), CellList()) << column;
         EXPECT_TRUE(grid().IsEditing()) << column;
     }
 }

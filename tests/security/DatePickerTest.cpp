@@ -15,7 +15,7 @@ class DatePicker : public UsersTest {
         ExpectCalendar(person);
         grid().Pick(2, kExpiryDate);
         grid().OpenEditor();
-        ASSERT_EQ(grid().EditList(), "...");
+        ASSERT_EQ(grid().EditList(), CellList("..."));
         grid().PressCellButton();
         ExpectScriptPlayed(world.dialogs);
     }
@@ -135,7 +135,7 @@ TEST_F(DatePicker, StandsBelowItsCell) {
 TEST_F(DatePicker, OnlyCellsOfDatesHaveIt) {
     grid().Pick(2, kUserName);
     grid().OpenEditor();
-    EXPECT_EQ(grid().EditList(), "");
+    EXPECT_EQ(grid().EditList(), CellList(""));
     grid().PressCellButton();
     EXPECT_TRUE(grid().IsEditing());
     grid().cellButtonClick.Raise(2, kUserName);

@@ -105,7 +105,9 @@ TEST_F(LoadUsers, TheGridHasItsHeadersAndAListOfStates) {
         EXPECT_EQ(grid().ColumnWidth(column), 960);
         grid().Pick(1, column);
         grid().OpenEditor();
-        EXPECT_EQ(grid().EditList(), column == kStatus ? "A|I" : column == kExpiryDate ? "..." : "");
+        EXPECT_EQ(grid().EditList(), CellList(column == kStatus       ? "A|I"
+                                              : column == kExpiryDate ? "..."
+                                                                      : ""));
         grid().CancelEdit();
     }
 }
