@@ -11,11 +11,12 @@
 namespace zy {
 namespace {
 
-constexpr int kNarrow = 900;
-
 std::vector<ListView::Column> ListColumns() {
-    return {{"Rule ID", 1050}, {"Min", kNarrow},  {"Max", kNarrow},
-            {"Cond", kNarrow}, {"Zone", kNarrow}, {"Description", 4000}};
+    std::vector<ListView::Column> columns;
+    for (const auto& field : kRuleFields) {
+        columns.push_back({std::string(field.listHeader), field.listWidth});
+    }
+    return columns;
 }
 
 // "Less than" keeps the two blanks that it has always had.
@@ -80,6 +81,21 @@ std::string_view ZoneOfItem(std::string_view item) {
 
 std::string_view ConditionOfItem(std::string_view item) {
     return Trim(item.substr(0, item.find('-')));
+}
+
+RunRule RuleInForm(const RulesControls& controls, const RunRule& held) {
+    RunRule rule = held;
+    rule.Code = controls.txtCode.Text();
+    rule.Min = controls.txtMin.Text();
+    rule.Max = controls.txtMax.Text();
+    rule.Description = controls.txtDescription.Text();
+    if (controls.cboZone.ListIndex() != -1) {
+        rule.Zone = ZoneOfItem(controls.cboZone.Text());
+    }
+    if (controls.cboCondition.ListIndex() != -1) {
+        rule.Cond = ConditionOfItem(controls.cboCondition.Text());
+    }
+    return rule;
 }
 
 RulesControls::RulesControls(Frame& fraRules, ListView::Source rules)

@@ -8,6 +8,7 @@
 #include "controls/ListView.h"
 #include "controls/TextBox.h"
 #include "controls/UpDown.h"
+#include "rules/RunRule.h"
 
 namespace zy {
 
@@ -47,5 +48,8 @@ struct RulesControls {
 std::string_view ZoneOfItem(std::string_view item);
 /// The relation at the front of an item of the condition list: what stands before the first "-".
 std::string_view ConditionOfItem(std::string_view item);
+
+/// The rule as the detail form shows it. Where no condition or zone is selected, `held` keeps its own.
+RunRule RuleInForm(const RulesControls& controls, const RunRule& held);
 
 } // namespace zy

@@ -9,11 +9,12 @@
 namespace zy {
 namespace {
 
-std::string TabJoined(const RunRule& rule) {
+/// A row of the grid: what a function gives for each field, joined by TAB.
+template <typename TextOf>
+std::string GridRow(TextOf textOf) {
     std::string row;
-    for (const auto property : kColumnProperties) {
-        row += rule.*property;
-        row += '\t';
+    for (const auto& field : kRuleFields) {
+        row.append(textOf(field)).append("\t");
     }
     row.pop_back();
     return row;
@@ -44,7 +45,7 @@ void RulesGridMode::Fill() {
     grid_.CancelEdit();
     grid_.SetRedraw(false);
     grid_.SetRows(0);
-    grid_.AddItem("Code\tMin\tMax\tCond.\tZone\tDescription");
+    grid_.AddItem(GridRow([](const RuleField& field) { return field.gridHeader; }));
     AddRows();
     grid_.SetRedraw(true);
 }
@@ -54,14 +55,14 @@ void RulesGridMode::AddRows() {
     const auto& rules = rules_.gaRules;
     std::string text;
     for (int i = 1; i <= rules.UBound(); ++i) {
-        for (const auto property : kColumnProperties) {
-            text += rules(i).*property;
+        for (const auto& field : kRuleFields) {
+            text += rules(i).*field.property;
         }
     }
     grid_.AddRowsOf(std::move(text), [&](std::string_view all, std::vector<std::string_view>& cells) {
         for (int i = 1; i <= rules.UBound(); ++i) {
-            for (const auto property : kColumnProperties) {
-                const auto length = (rules(i).*property).size();
+            for (const auto& field : kRuleFields) {
+                const auto length = (rules(i).*field.property).size();
                 cells.push_back(all.substr(0, length));
                 all.remove_prefix(length);
             }
@@ -71,7 +72,9 @@ void RulesGridMode::AddRows() {
 
 void RulesGridMode::AddtoGrid() {
     Trace(kRulesModule, "AddtoGrid");
-    grid_.AddItem(TabJoined(rules_.gaRules(rules_.gaRules.UBound())));
+    const RunRule& newest = rules_.gaRules(rules_.gaRules.UBound());
+    grid_.AddItem(
+        GridRow([&newest](const RuleField& field) { return std::string_view(newest.*field.property); }));
     SelectRow(grid_.Rows() - 1);
 }
 
@@ -97,7 +100,7 @@ bool RulesGridMode::StoreRow(int row) {
     RunRule& rule = rules_.gaRules(row);
     bool changed = false;
     for (int column = 0; column < kRuleColumns; ++column) {
-        auto& held = rule.*kColumnProperties.at(static_cast<std::size_t>(column));
+        auto& held = rule.*PropertyIn(column);
         if (const auto text = grid_.Text(row, column); held != text) {
             held = text;
             changed = true;

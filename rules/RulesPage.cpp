@@ -1,8 +1,8 @@
 #include "rules/RulesPage.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "rules/RulesDetails.h"
 #include "rules/RulesLayout.h"
 #include "rules/mRules.h"
 #include "shell/StatusTexts.h"
@@ -13,7 +13,7 @@ namespace {
 constexpr std::string_view kModule = "mRules";
 
 std::string_view CellOf(const RunRule& rule, int column) {
-    return rule.*kColumnProperties.at(static_cast<std::size_t>(column));
+    return rule.*PropertyIn(column);
 }
 
 } // namespace
@@ -120,12 +120,10 @@ void RulesPage::Save_Rules_Edit(Int16 index) {
     RunRule& rule = rules_.gaRules(index);
     Trace(kModule, "Save_Rules_Edit", "Start item: " + rule.Code);
     rules_.gbNewRule = false;
-    const RunRule edited = RuleInForm(controls, rule);
-    for (const auto property : kEditedProperties) {
-        if (rule.*property != edited.*property) {
-            rule.*property = edited.*property;
-            state_.gbChanged = true;
-        }
+    RunRule edited = RuleInForm(controls, rule);
+    if (edited != rule) {
+        rule = std::move(edited);
+        state_.gbChanged = true;
     }
     controls.lstRulesList.RefreshItem(index);
 }

@@ -1,7 +1,5 @@
-#include <algorithm>
 #include <utility>
 
-#include "rules/RulesDetails.h"
 #include "rules/RulesPage.h"
 #include "rules/mRules.h"
 #include "shell/StatusTexts.h"
@@ -192,9 +190,7 @@ bool RulesPage::FormDiffers() const {
         return false;
     }
     const RunRule& held = rules_.gaRules(rules_.giCurRule);
-    const RunRule edited = RuleInForm(controls, held);
-    return std::any_of(kEditedProperties.begin(), kEditedProperties.end(),
-                       [&](auto property) { return held.*property != edited.*property; });
+    return RuleInForm(controls, held) != held;
 }
 
 std::string RulesPage::CountText() {

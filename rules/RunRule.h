@@ -1,7 +1,9 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace zy {
 
@@ -16,6 +18,8 @@ struct RunRule {
     std::string Description; ///< what the chart shows when the rule is broken
     std::string Desc2;       ///< second and third piece of the description as older files hold them;
     std::string Desc3;       ///< folded into Description at loading
+
+    friend bool operator==(const RunRule&, const RunRule&) = default;
 };
 
 /// The columns of the list and of the grid.
@@ -29,8 +33,26 @@ enum RuleColumn {
     kRuleColumns
 };
 
-/// The properties that stand in these columns.
-inline constexpr std::array<std::string RunRule::*, kRuleColumns> kColumnProperties{
-    &RunRule::Code, &RunRule::Min, &RunRule::Max, &RunRule::Cond, &RunRule::Zone, &RunRule::Description};
+/// A property of a rule as the two views show it.
+struct RuleField {
+    std::string RunRule::*property;
+    std::string_view listHeader;
+    int listWidth; ///< in twips, until the list is laid out
+    std::string_view gridHeader;
+};
+
+/// The fields in the order of the columns.
+inline constexpr std::array<RuleField, kRuleColumns> kRuleFields{
+    {{&RunRule::Code, "Rule ID", 1050, "Code"},
+     {&RunRule::Min, "Min", 900, "Min"},
+     {&RunRule::Max, "Max", 900, "Max"},
+     {&RunRule::Cond, "Cond", 900, "Cond."},
+     {&RunRule::Zone, "Zone", 900, "Zone"},
+     {&RunRule::Description, "Description", 4000, "Description"}}};
+
+/// The property that stands in a column, counted from 0.
+constexpr std::string RunRule::*PropertyIn(int column) {
+    return kRuleFields.at(static_cast<std::size_t>(column)).property;
+}
 
 } // namespace zy

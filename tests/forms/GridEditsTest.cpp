@@ -1,5 +1,4 @@
 #include "GridModeForm.h"
-#include "rules/RulesDetails.h"
 #include "support/RawBool16.h"
 
 namespace zy::test {

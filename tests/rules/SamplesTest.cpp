@@ -4,7 +4,6 @@
 
 #include "rules/RuleChecks.h"
 #include "rules/RulesControls.h"
-#include "rules/RulesDetails.h"
 #include "rules/mRules.h"
 #include "support/Samples.h"
 #include "support/WorldTest.h"

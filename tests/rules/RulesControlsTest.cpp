@@ -1,4 +1,4 @@
-#include "rules/RulesDetails.h"
+#include "rules/RulesControls.h"
 
 #include <algorithm>
 
@@ -10,8 +10,8 @@ namespace {
 
 using ::testing::ElementsAre;
 
-/// The controls of the detail form, without a window.
-class RulesDetails : public ::testing::Test {
+/// The controls of the rules page, without a window.
+class ControlsOfRules : public ::testing::Test {
   protected:
     template <typename Cut>
     static std::vector<std::string> FrontOf(const ComboBox& list, Cut cut) {
@@ -27,14 +27,14 @@ class RulesDetails : public ::testing::Test {
     RulesControls controls{page, [](int, int) { return std::string_view(); }};
 };
 
-TEST_F(RulesDetails, OfferTheFiveRelations) {
+TEST_F(ControlsOfRules, OfferTheFiveRelations) {
     EXPECT_THAT(controls.cboCondition.Items(),
                 ElementsAre("> - Greater Than", ">= - Greater than or Equal to", "< -  Less than",
                             "<= - Less than or Equal to", "= - Equal to"));
     EXPECT_THAT(FrontOf(controls.cboCondition, ConditionOfItem), ElementsAre(">", ">=", "<", "<=", "="));
 }
 
-TEST_F(RulesDetails, OfferTheFifteenChartLines) {
+TEST_F(ControlsOfRules, OfferTheFifteenChartLines) {
     EXPECT_THAT(controls.cboZone.Items(),
                 ElementsAre("USL - Upper Spec. Limit (White)", "UCL - Upper Control Limit (Red)",
                             "UWL - Upper Warnign Limit (Yellow)", "TARG - Target for Variable (Green)",
@@ -48,7 +48,7 @@ TEST_F(RulesDetails, OfferTheFifteenChartLines) {
                             "AVG", "-15S", "-3S", "-4S"));
 }
 
-TEST_F(RulesDetails, HaveTheColumnsOfTheList) {
+TEST_F(ControlsOfRules, HaveTheColumnsOfTheList) {
     std::vector<std::string> headers;
     for (const auto& column : controls.lstRulesList.Columns()) {
         headers.push_back(column.header);
@@ -56,7 +56,7 @@ TEST_F(RulesDetails, HaveTheColumnsOfTheList) {
     EXPECT_THAT(headers, ElementsAre("Rule ID", "Min", "Max", "Cond", "Zone", "Description"));
 }
 
-TEST_F(RulesDetails, HaveTheirCaptions) {
+TEST_F(ControlsOfRules, HaveTheirCaptions) {
     const auto caption = [](const Control& control) { return control.Name() + ": " + control.Caption(); };
     EXPECT_EQ(caption(controls.fraRulesList), "fraRulesList: Current Rules List");
     EXPECT_EQ(caption(controls.FraRuleDetails), "FraRuleDetails: Rule Details");
@@ -73,7 +73,7 @@ TEST_F(RulesDetails, HaveTheirCaptions) {
     EXPECT_EQ(caption(controls.lblZone), "lblZone: Zone:");
 }
 
-TEST_F(RulesDetails, NameEachFieldByItsLabel) {
+TEST_F(ControlsOfRules, NameEachFieldByItsLabel) {
     const auto buddy = [](const Label& label) { return label.Buddy().Name(); };
     EXPECT_EQ(buddy(controls.lblCode), "txtCode");
     EXPECT_EQ(buddy(controls.lblMin), "txtMin");
@@ -83,7 +83,7 @@ TEST_F(RulesDetails, NameEachFieldByItsLabel) {
     EXPECT_EQ(buddy(controls.lblDescription), "txtDescription");
 }
 
-TEST_F(RulesDetails, HaveAccessKeysThatStandInTheirCaptionsAndDiffer) {
+TEST_F(ControlsOfRules, HaveAccessKeysThatStandInTheirCaptionsAndDiffer) {
     std::string keys;
     const auto take = [&](const auto& control) {
         EXPECT_NE(control.Caption().find(control.AccessKey()), std::string::npos) << control.Name();
@@ -102,7 +102,7 @@ TEST_F(RulesDetails, HaveAccessKeysThatStandInTheirCaptionsAndDiffer) {
     EXPECT_EQ(std::adjacent_find(keys.begin(), keys.end()), keys.end()) << keys;
 }
 
-TEST_F(RulesDetails, GiveARuleOfWhatTheFormShows) {
+TEST_F(ControlsOfRules, GiveARuleOfWhatTheFormShows) {
     controls.txtCode.SetText("R9");
     controls.txtMin.SetText("3");
     controls.txtMax.SetText("4");
@@ -112,7 +112,7 @@ TEST_F(RulesDetails, GiveARuleOfWhatTheFormShows) {
     EXPECT_EQ(Shown(RuleInForm(controls, {})), "R9|3|4|<=|-3S| d ||");
 }
 
-TEST_F(RulesDetails, LeaveConditionAndZoneAsHeldWithoutASelection) {
+TEST_F(ControlsOfRules, LeaveConditionAndZoneAsHeldWithoutASelection) {
     const RunRule held{.Code = "A",
                        .Min = "1",
                        .Max = "2",
@@ -124,7 +124,7 @@ TEST_F(RulesDetails, LeaveConditionAndZoneAsHeldWithoutASelection) {
     EXPECT_EQ(Shown(RuleInForm(controls, held)), "|||<>|NONE||two|three");
 }
 
-TEST_F(RulesDetails, CutAZoneAtBlankDashBlankAndAConditionAtTheFirstDash) {
+TEST_F(ControlsOfRules, CutAZoneAtBlankDashBlankAndAConditionAtTheFirstDash) {
     EXPECT_EQ(ZoneOfItem("-3S  - Average - 3 SD"), "-3S");
     EXPECT_EQ(ZoneOfItem("A-B - C"), "A-B");
     EXPECT_EQ(ZoneOfItem("no dash"), "no dash");
