@@ -49,7 +49,7 @@ def shown_texts():
 def captions_in(path, source):
     """What stands on the controls, menus and columns that a source makes."""
     found = tokens(source)
-    all_are_captions = re.search(r"(?:Controls|MainMenu|SettingsForm)\.cpp$", path)
+    all_are_captions = re.search(r"(?:Controls\.cpp|MainMenu\.cpp|SettingsForm\.cpp|RunRule\.h)$", path)
     for at, (kind, text) in enumerate(found):
         before = [token for _, token in found[max(at - 2, 0):at]]
         of_control = len(before) == 2 and before[1] == "," and CONTROL.fullmatch(before[0])

@@ -16,7 +16,7 @@ STATEMENTS = {
 # The rules grid and the question before leaving without saving are there, but no menu, button or key leads to them.
 OUT_OF_REACH = {
     "&Add Rule", "&Delete Rule", "Are you Sure you want to Exit Without Saving Changes",
-    "Code\tMin\tMax\tCond.\tZone\tDescription", "Confirm Exit", "Grid Mode", "TARG ", "Avg ",
+    "Code", "Cond.", "Confirm Exit", "Grid Mode", "TARG ", "Avg ",
 }
 
 # Under which names the place of the window is stored.
