@@ -1,12 +1,10 @@
 #include "security/SecurityPage.h"
 
-#include <algorithm>
 #include <string>
 
-#include "basics/Text.h"
 #include "security/SecurityLayout.h"
 #include "security/UserFiles.h"
-#include "security/UserStatement.h"
+#include "security/UserQuotes.h"
 #include "security/frmDatePicker.h"
 #include "shell/SaveTurn.h"
 #include "shell/StatusTexts.h"
@@ -15,20 +13,6 @@ namespace zy {
 namespace {
 
 constexpr std::string_view kCalendarButton = "...";
-
-/// What the status bar says of a row with single quotes.
-std::string_view Describe(QuotesEffect effect) {
-    switch (effect) {
-    case QuotesEffect::HalfStored:
-        return "two single quotes are stored as one";
-    case QuotesEffect::Shifted:
-        return "single quotes shift its fields in the table";
-    case QuotesEffect::NotSaved:
-    case QuotesEffect::None:
-        break;
-    }
-    return "a single quote makes the save fail";
-}
 
 } // namespace
 
@@ -80,28 +64,10 @@ void SecurityPage::LoadSecurity() {
 
 void SecurityPage::ReportCount(int row) {
     std::string text = Counted(static_cast<std::size_t>(controls.grdSecurity.Rows() - 1), "user");
-    for (const auto& report : {QuotesReport(row), report_}) {
+    for (const auto& report : {DescribeQuotes(controls.grdSecurity, row), report_}) {
         Join(text, "; ", report);
     }
     form_.zyStatusBar.SetText(text);
-}
-
-bool SecurityPage::HasQuotes(int row) const {
-    const auto texts = controls.grdSecurity.RowTexts(row);
-    return std::any_of(texts.begin(), texts.end(), [](auto text) { return Contains(text, '\''); });
-}
-
-std::string SecurityPage::QuotesReport(int row) const {
-    const int end = controls.grdSecurity.Rows();
-    if (row < 1 || row >= end || !HasQuotes(row)) {
-        for (row = 1; row < end && !HasQuotes(row);) {
-            ++row;
-        }
-    }
-    if (row == end) {
-        return "";
-    }
-    return "row " + std::to_string(row) + ": " + std::string(Describe(EffectOfQuotes(users.UserInRow(row))));
 }
 
 void SecurityPage::EnableDelete(bool enabled) {

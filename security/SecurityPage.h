@@ -74,8 +74,6 @@ class SecurityPage : public Editor {
     /// Tells the number of users, what becomes of the single quotes in one, the row's before others, and what
     /// loading told.
     void ReportCount(int row = 0);
-    bool HasQuotes(int row) const;
-    std::string QuotesReport(int row) const;
 
     SettingsForm& form_;
     SharedState& state_;

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "controls/Grid.h"
+
 namespace zy {
 
 /// A user, as the table holds one.
@@ -63,6 +65,11 @@ UserRecord UserOf(TextOf textOf) {
         user.*field.member = textOf(field);
     }
     return user;
+}
+
+/// The user in a row of the grid. Run-time error 9 when there is no such row.
+inline UserRecord UserInRow(const Grid& grid, int row) {
+    return UserOf([&](const auto& field) { return grid.Text(row, field.gridColumn); });
 }
 
 /// The cells of a user's row in the grid, joined by TAB.

@@ -23,13 +23,4 @@ void AppendValues(std::string& statement, const UserRecord& user);
 /// Makes the index on a column of the table.
 std::string IndexStatement(std::string_view column);
 
-/// What the single quotes in a user's texts do to the statement that inserts the user.
-enum class QuotesEffect {
-    None,       ///< there are none
-    HalfStored, ///< they stand in pairs, and one of each pair is stored
-    Shifted,    ///< a value ends elsewhere than its text, and so the fields get parts of others
-    NotSaved,   ///< the statement fails, and the save with it
-};
-QuotesEffect EffectOfQuotes(const UserRecord& user);
-
 } // namespace zy

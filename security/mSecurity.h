@@ -65,8 +65,6 @@ class mSecurity {
 
     /// The person at the login pressed Cancel: the program is to end.
     Event<> loginCancelled;
-    /// The user in a row of the grid.
-    UserRecord UserInRow(int row) const;
 
     /// What a person has to know of the table that was loaded, before it is saved; for the status bar.
     Event<const std::string&> reported;

@@ -11,12 +11,8 @@ namespace zy {
 void mSecurity::Save_Security() {
     Start("Save_Security");
     for (int row = 1; row < controls_.grdSecurity.Rows(); ++row) {
-        zySecure.at(static_cast<std::size_t>(row) - 1) = UserInRow(row);
+        zySecure.at(static_cast<std::size_t>(row) - 1) = UserInRow(controls_.grdSecurity, row);
     }
-}
-
-UserRecord mSecurity::UserInRow(int row) const {
-    return UserOf([&](const auto& field) { return controls_.grdSecurity.Text(row, field.gridColumn); });
 }
 
 void mSecurity::Write_Security() {
