@@ -3,10 +3,8 @@
 #include <string>
 
 #include "security/SecurityLayout.h"
-#include "security/UserFiles.h"
 #include "security/UserQuotes.h"
 #include "security/frmDatePicker.h"
-#include "shell/SaveTurn.h"
 #include "shell/StatusTexts.h"
 
 namespace zy {
@@ -19,9 +17,11 @@ constexpr std::string_view kCalendarButton = "...";
 SecurityPage::SecurityPage(SettingsForm& form, SharedState& state, TraceChannel& trace, FileSystem& files,
                            RecycleBin& recycleBin, SystemInfo& system, Dialogs& dialogs,
                            const CodePage& codePage)
-    : controls(form.fraSecurity),
-      users(controls, form, state, trace, files, recycleBin, system, dialogs, codePage), form_(form),
-      state_(state), trace_(trace), files_(files), system_(system), dialogs_(dialogs) {
+    : controls(form.fraSecurity), database_(state, files, system), reader_(database_, files, codePage),
+      writer_(database_, files, recycleBin), checks_(controls.grdSecurity, dialogs, codePage),
+      login_(form, trace, dialogs, codePage),
+      users(controls.grdSecurity, reader_, writer_, checks_, login_, trace), form_(form), state_(state),
+      trace_(trace), system_(system), dialogs_(dialogs) {
     Connect();
 }
 
@@ -39,7 +39,7 @@ void SecurityPage::Connect() {
     grid.keyDown.Connect(
         [this](const KeyPress& press, bool& handled) { grdSecurity_KeyDown(press, handled); });
     grid.mouseDown.Connect([this](MouseButton button, int row, int) { grdSecurity_MouseDown(button, row); });
-    users.reported.Connect([this](const std::string& report) { report_ = report; });
+    users.reported.Connect([this](const std::string& report) { form_.zyStatusBar.SetText(report); });
 }
 
 void SecurityPage::Trace(std::string_view procedure, std::string_view message) {
@@ -57,16 +57,15 @@ void SecurityPage::LoadSecurity() {
     grid.SetRedraw(true);
     grid.FitColumns(0); // the designed width is too narrow for most headers
     controls.cmdSaveUsers.SetEnabled(false);
-    EnableDelete(HasUsers());
+    EnableDelete(users.HasUsers());
     ReportCount();
     Trace("LoadSecurity", "Finished");
 }
 
 void SecurityPage::ReportCount(int row) {
     std::string text = Counted(static_cast<std::size_t>(controls.grdSecurity.Rows() - 1), "user");
-    for (const auto& report : {DescribeQuotes(controls.grdSecurity, row), report_}) {
-        Join(text, "; ", report);
-    }
+    Join(text, "; ", DescribeQuotes(controls.grdSecurity, row));
+    Join(text, "; ", users.Dangers());
     form_.zyStatusBar.SetText(text);
 }
 
@@ -116,7 +115,7 @@ void SecurityPage::cmdDeleteUser_Click() {
                           Escape::AnswersNo)) {
         DeleteCurrentUser();
     }
-    Trace("cmdDeleteUser_Click", "User deleted"); // after No as well, which is meant
+    Trace("cmdDeleteUser_Click", "User deleted"); // after No as well: the step ends with this line either way
 }
 
 void SecurityPage::DeleteCurrentUser() {
@@ -124,10 +123,10 @@ void SecurityPage::DeleteCurrentUser() {
         users.DeleteUser(controls.grdSecurity.Row());
         MarkChangedAndEnableSave();
     }
-    if (HasUsers()) {
+    if (users.HasUsers()) {
         controls.grdSecurity.Select(1, controls.grdSecurity.Column());
     }
-    EnableDelete(HasUsers());
+    EnableDelete(users.HasUsers());
 }
 
 void SecurityPage::mnuDeleteUser_Click() {
@@ -164,27 +163,10 @@ bool SecurityPage::CheckAndWrite(std::string_view folderWithoutUsers) {
         return false;
     }
     users.Save_Security();
-    return WriteUsers(folderWithoutUsers);
-}
-
-bool SecurityPage::WriteUsers(std::string_view folderWithoutUsers) {
-    const std::string folder = HasUsers() ? users.SecurityFolder() : std::string(folderWithoutUsers);
-    const SaveTurn turn(files_, UserFiles(folder).table);
-    if (!turn.IsMine()) {
-        form_.zyStatusBar.SetText(SaveTurn::kRefusal);
-        return false;
-    }
-    if (HasUsers()) {
-        users.Write_Security();
-        users.WriteDBIndex();
-    } else {
-        users.RecycleTable(folder);
-    }
-    return true;
+    return users.WriteAll(folderWithoutUsers);
 }
 
 void SecurityPage::ShowSaved() {
-    report_.clear();
     controls.cmdSaveUsers.SetEnabled(false);
     form_.zyStatusBar.SetText("Saved");
 }
@@ -211,22 +193,30 @@ void SecurityPage::grdSecurity_CellButtonClick(int row, int column) {
     if (column != kExpiryDate) {
         return;
     }
+    CloseCell(row, column);
+    frmDatePicker picker(trace_, system_);
+    picker.picked.Connect([this, row](const std::string& text) { SetDate(row, text); });
+    picker.SetBounds(PlaceBelow(row, column));
+    picker.Form_Load(controls.grdSecurity.Text(row, column));
+    picker.SetVisible(true);
+    dialogs_.ShowForm(picker);
+}
+
+void SecurityPage::CloseCell(int row, int column) {
     auto& grid = controls.grdSecurity;
     // What was typed is kept, as wherever an edit is left; a mere look at the calendar is no edit.
     if (grid.EditText() != grid.Text(row, column)) {
         grid.CommitEdit();
     }
     grid.CancelEdit();
+}
 
-    frmDatePicker picker(trace_, system_);
-    picker.picked.Connect([this, row](const std::string& text) { SetDate(row, text); });
+Rect SecurityPage::PlaceBelow(int row, int column) const {
     const auto& frame = form_.fraSecurity.Bounds();
+    const auto& grid = controls.grdSecurity;
     const auto cell = grid.CellPlace(row, column);
-    picker.SetBounds({frame.left + grid.Bounds().left + cell.left,
-                      frame.top + grid.Bounds().top + cell.top + cell.height, 0, 0});
-    picker.Form_Load(grid.Text(row, column));
-    picker.SetVisible(true);
-    dialogs_.ShowForm(picker);
+    return {frame.left + grid.Bounds().left + cell.left,
+            frame.top + grid.Bounds().top + cell.top + cell.height, 0, 0};
 }
 
 void SecurityPage::SetDate(int row, const std::string& text) {

@@ -5,26 +5,38 @@
 #include "platform/FileSystem.h"
 #include "platform/RecycleBin.h"
 #include "platform/SystemInfo.h"
+#include "security/SecurityControls.h"
+#include "security/UserChecks.h"
+#include "security/UsersDatabase.h"
+#include "security/UsersReader.h"
+#include "security/UsersWriter.h"
+#include "security/frmLogin.h"
 #include "security/mSecurity.h"
 #include "shell/Editor.h"
 #include "shell/SettingsForm.h"
 
 namespace zy {
 
-/// The users page: its controls and their handlers.
+/// The users page: its controls and their handlers, and what its module works with.
 class SecurityPage : public Editor {
   public:
     SecurityPage(SettingsForm& form, SharedState& state, TraceChannel& trace, FileSystem& files,
                  RecycleBin& recycleBin, SystemInfo& system, Dialogs& dialogs, const CodePage& codePage);
 
+    /// Adds a user and makes its row current; a list that is as long as it can be stays as it is.
     void cmdAddUser_Click();
+    /// Asks, and deletes the current row on Yes.
     void cmdDeleteUser_Click();
+    /// Checks the users and writes them when all pass. Whatever fails on the disk is a run-time error.
     void cmdSaveUsers_Click();
+    /// Adds a user and leaves the buttons alone, unlike the button.
     void mnuAddUser_Click();
-    /// Deletes at once and leaves the buttons alone, unlike the button, which is meant.
+    /// Deletes the current row at once and leaves the buttons alone, unlike the button. Kept: people who know
+    /// the program are used to both ways.
     void mnuDeleteUser_Click();
+    /// Marks the users as changed and lets them be saved.
     void grdSecurity_AfterEdit(int row);
-    /// Tells what of a paste was left out.
+    /// Shows what of a paste was left out.
     void grdSecurity_Pasted(const PasteReport& paste);
     /// Gives the cells of dates their button.
     void grdSecurity_BeforeEdit(int column);
@@ -37,6 +49,7 @@ class SecurityPage : public Editor {
 
     /// Fills the grid from the list of users.
     void LoadSecurity();
+    /// Lays the page out in the window's present size.
     void ResizeSecurity();
 
     // Editor
@@ -49,39 +62,48 @@ class SecurityPage : public Editor {
     bool SaveAtClosing() override;
 
     SecurityControls controls;
+
+  private:
+    // What the module works with.
+    UsersDatabase database_;
+    UsersReader reader_;
+    UsersWriter writer_;
+    UserChecks checks_;
+    AdminLogin login_;
+
+  public:
     mSecurity users;
 
   private:
     void Connect();
     void Trace(std::string_view procedure, std::string_view message);
-    bool HasUsers() const { return controls.grdSecurity.Rows() >= 2; }
     bool HasCurrentUser() const { return controls.grdSecurity.Row() >= 1; }
     void EnableDelete(bool enabled);
     /// `row` is the one that was edited, if one was.
     void MarkChanged(int row = 0);
     void MarkChangedAndEnableSave(int row = 0);
-    /// False, and the person is told, when there is no room for one more.
+    /// False, and the status bar says so, when there is no room for one more.
     bool AddUser();
     void DeleteCurrentUser();
-    /// Checks the users, takes them over from the grid and writes them. False when a check failed or somebody
-    /// else is saving there; the person was told.
+    /// Checks the users, takes them over from the grid and writes them; without users the table and the index
+    /// of this folder go to the recycle bin instead. False when a check failed or somebody else is saving
+    /// there, which was shown.
     bool CheckAndWrite(std::string_view folderWithoutUsers);
-    /// Writes the users to the table and its index; without users both go from this folder to the recycle bin
-    /// instead. False when somebody else is saving there: then nothing is written, and the person is told.
-    bool WriteUsers(std::string_view folderWithoutUsers);
+    /// Ends the edit of the cell whose button was pressed.
+    void CloseCell(int row, int column);
+    /// The calendar's place below the cell, in twips of the window; its size is its own.
+    Rect PlaceBelow(int row, int column) const;
     void SetDate(int row, const std::string& text);
     void ShowSaved();
-    /// Tells the number of users, what becomes of the single quotes in one, the row's before others, and what
-    /// loading told.
+    /// Shows the number of users, what becomes of the single quotes in one, the row's before others, and what
+    /// a save would drop or find in its way.
     void ReportCount(int row = 0);
 
     SettingsForm& form_;
     SharedState& state_;
     TraceChannel& trace_;
-    FileSystem& files_;
     SystemInfo& system_;
     Dialogs& dialogs_;
-    std::string report_; ///< what loading told; empty once the users are saved
 };
 
 } // namespace zy

@@ -78,4 +78,20 @@ void frmLogin::Form_Resize() {
     SetBounds({0, 0, right + kMargin, top + height + kMargin});
 }
 
+AdminLogin::AdminLogin(SettingsForm& form, TraceChannel& trace, Dialogs& dialogs, const CodePage& codePage)
+    : form_(form), trace_(trace), dialogs_(dialogs), codePage_(codePage) {}
+
+LoginEnd AdminLogin::Ask(std::string_view adminPassword) {
+    frmLogin login(adminPassword, trace_, dialogs_, codePage_);
+    form_.SetEnabled(!form_.Visible());
+    login.Form_Load();
+    login.SetVisible(true);
+    dialogs_.ShowForm(login);
+    form_.SetEnabled(true);
+    if (login.LoginSucceeded) {
+        return LoginEnd::Succeeded;
+    }
+    return login.CancelClicked ? LoginEnd::Cancelled : LoginEnd::Closed;
+}
+
 } // namespace zy

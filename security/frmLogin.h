@@ -10,6 +10,7 @@
 #include "controls/TextBox.h"
 #include "platform/CodePage.h"
 #include "platform/Dialogs.h"
+#include "shell/SettingsForm.h"
 #include "shell/TraceChannel.h"
 
 namespace zy {
@@ -23,10 +24,14 @@ class frmLogin : public Form {
     /// The password in capitals.
     frmLogin(std::string_view adminPassword, TraceChannel& trace, Dialogs& dialogs, const CodePage& codePage);
 
+    /// Starts without a cancel.
     void Form_Load();
+    /// Hides the dialog after the right name and password. After wrong ones it says so and stays, the
+    /// password selected for typing it again; there may be any number of attempts.
     void cmdOK_Click();
+    /// Hides the dialog; a success before is taken back.
     void cmdCancel_Click();
-    /// Gives the dialog its size and its controls their places.
+    /// Gives the dialog its size and its controls their places, in twips.
     void Form_Resize();
 
     /// A correct login.
@@ -44,6 +49,29 @@ class frmLogin : public Form {
     void Start(std::string_view procedure);
 
     std::string adminPassword_;
+    TraceChannel& trace_;
+    Dialogs& dialogs_;
+    const CodePage& codePage_;
+};
+
+/// How a login ended.
+enum class LoginEnd {
+    Succeeded,
+    Cancelled, ///< by the Cancel button: the program is to end
+    Closed,    ///< by the close box: the editor stays closed
+};
+
+/// The login before the users are shown: the dialog over the main window.
+class AdminLogin {
+  public:
+    AdminLogin(SettingsForm& form, TraceChannel& trace, Dialogs& dialogs, const CodePage& codePage);
+
+    /// Shows the dialog until it is done with. Meanwhile the main window, where it is shown already, takes no
+    /// input. The password in capitals.
+    LoginEnd Ask(std::string_view adminPassword);
+
+  private:
+    SettingsForm& form_;
     TraceChannel& trace_;
     Dialogs& dialogs_;
     const CodePage& codePage_;

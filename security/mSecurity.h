@@ -1,37 +1,34 @@
 #pragma once
 
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "basics/Bool16.h"
 #include "controls/Event.h"
-#include "dbase/DBEngine.h"
-#include "platform/CodePage.h"
-#include "platform/Dialogs.h"
-#include "platform/FileSystem.h"
-#include "platform/RecycleBin.h"
-#include "platform/SystemInfo.h"
-#include "security/SecurityControls.h"
-#include "security/UnfinishedSave.h"
+#include "controls/Grid.h"
+#include "security/UserChecks.h"
 #include "security/UserRecord.h"
-#include "shell/SettingsForm.h"
+#include "security/UsersReader.h"
+#include "security/UsersWriter.h"
+#include "security/frmLogin.h"
 #include "shell/TraceChannel.h"
-#include "shell/mZYGlobal.h"
 
-// security: the users editor. mSecurity holds the list of users, reads and writes their table and has the
-// checks, SecurityPage is the page with its grid and handlers, frmLogin and frmDatePicker are its dialogs. It
-// calls dbase and ini, the low part of the shell and what lies below that.
+// security: the users editor. mSecurity holds the list of users, their table (UsersReader, UsersWriter) and
+// the checks (UserChecks), SecurityPage is the page with its grid and handlers, frmLogin and frmDatePicker
+// are its dialogs. It calls dbase and ini, the low part of the shell and what lies below that.
 
 namespace zy {
 
-/// The users: the list, the table that it is read from and written to, and the checks of the grid.
+/// The users: the list, the table that it is read from and written to, and the checks.
+///
+/// Between loading and saving the rows of the grid are what is edited, row r being user r - 1 of the list.
+/// That is why the module knows the grid: adding and removing a user does so in both, and a check makes the
+/// cell current that fails.
 class mSecurity {
   public:
-    mSecurity(SecurityControls& controls, SettingsForm& form, SharedState& state, TraceChannel& trace,
-              FileSystem& files, RecycleBin& recycleBin, SystemInfo& system, Dialogs& dialogs,
-              const CodePage& codePage);
+    mSecurity(Grid& grdSecurity, UsersReader& reader, UsersWriter& writer, UserChecks& checks,
+              AdminLogin& login, TraceChannel& trace);
 
     /// Reads the table, or starts with one new user when there is none, and asks the administrator to log in
     /// where the table names one. True when the editor may open.
@@ -46,27 +43,37 @@ class mSecurity {
     /// attempt then fails until it has been removed. Run-time error 75, before anything is written, when one
     /// of the files could be several.
     void Write_Security();
-    /// Builds the table's index anew.
+    /// Builds the table's index anew. Whatever fails is raised.
     void WriteDBIndex();
-    /// Moves the table and its index from a folder to the recycle bin, in place of writing a table without
-    /// users. Run-time error 75 as above.
-    void RecycleTable(std::string_view folder);
 
     /// Appends a user to the list and the grid, and makes its row current. False, and nothing is added, when
     /// a counter would not hold one more: 32,767 are the most.
     bool Add_User();
     /// Removes a row of the grid and its user. The list keeps one element, which the next user takes.
+    /// Run-time error 9 when there is no such row.
     void DeleteUser(int row);
     /// Checks every row and shows the first failure, whose cell becomes current.
     Bool16 Validate_Security();
 
+    /// Whether the grid holds a user.
+    bool HasUsers() const { return grdSecurity_.Rows() >= 2; }
     /// The folder of the table, with its closing "\".
-    std::string SecurityFolder() const;
+    std::string SecurityFolder() const { return writer_.Folder(); }
 
-    /// The person at the login pressed Cancel: the program is to end.
+    /// A whole save of the list: Write_Security and WriteDBIndex, or without users the table and its index of
+    /// a folder go to the recycle bin. Whatever fails is raised. Run-time error 75 as above.
+    ///
+    /// False when the save is refused before its first step, as `reported` says: somebody else is saving
+    /// in the folder.
+    bool WriteAll(std::string_view folderWithoutUsers);
+
+    /// What a save would drop of the table that was loaded, or find in its way, for the status bar. A save
+    /// that goes well ends it.
+    const std::string& Dangers() const { return dangers_; }
+
+    /// The Cancel button ended the login: the program is to end.
     Event<> loginCancelled;
-
-    /// What a person has to know of the table that was loaded, before it is saved; for the status bar.
+    /// Short texts for the status bar: why a save was refused.
     Event<const std::string&> reported;
 
     std::vector<UserRecord> zySecure; ///< counted from 0; never empty once it was loaded
@@ -75,36 +82,15 @@ class mSecurity {
   private:
     void Start(std::string_view procedure);
     void Trace(std::string_view procedure, std::string_view message);
-    /// Where the table is, as the look-up gave it. A path that a person typed may have "/" for "\".
-    std::string TablePath() const;
-    /// The table's name for the engine: exactly that of the file, also when it has no extension.
-    std::string TableName() const;
-    void StartNewList();
-    /// Reads the users, and the administrator's password; false when the table names no administrator.
-    bool ReadTable();
-    /// Says what a save would drop or find in its way.
-    void Report(std::string_view losses);
-    Bool16 LogIn();
+    Bool16 LogIn(std::string_view adminPassword);
 
-    void OpenDatabase();
-    std::string ColumnList();
-    void CreateTemporary();
-    void InsertUsers(const std::string& columns);
-    void ReplaceTable(FailedSave& save);
-    void WriteTable(FailedSave& save);
-
-    SecurityControls& controls_;
-    SettingsForm& form_;
-    SharedState& state_;
+    Grid& grdSecurity_;
+    UsersReader& reader_;
+    UsersWriter& writer_;
+    UserChecks& checks_;
+    AdminLogin& login_;
     TraceChannel& trace_;
-    FileSystem& files_;
-    RecycleBin& recycleBin_;
-    SystemInfo& system_;
-    Dialogs& dialogs_;
-    const CodePage& codePage_;
-    dbase::DBEngine engine_;
-    std::unique_ptr<dbase::Database> database_;
-    std::string adminPassword_; ///< in capitals
+    std::string dangers_;
 };
 
 } // namespace zy
