@@ -17,7 +17,7 @@ struct FailedSave {
     bool tableIsRecycled = false; ///< the recycle bin has taken the old table
 };
 
-/// What a save that did not come to its end has left in its folder. All that is told of it was looked up.
+/// What a save that did not come to its end has left in its folder. All that its texts say was looked up.
 class UnfinishedSave {
   public:
     /// Looks at the folder's files. Raises nothing.

@@ -45,7 +45,7 @@ std::optional<Cell> UserChecks::CheckRow(int row, int sameName) {
         return Cell{row, kUserName};
     }
     if (FailsIf(sameName != 0, "Invalid User Name. User Name must be unique.")) {
-        return Cell{sameName, kUserName}; // the other user of that name is shown, which is meant
+        return Cell{sameName, kUserName}; // the cursor goes to the other user of that name
     }
     if (!CheckPassword(row)) {
         return Cell{row, kPassword};
@@ -68,7 +68,8 @@ bool UserChecks::CheckName(int row) {
            !FailsIf(Contains(name, '"'), "Invalid User Name. User ID cannot contain Double Quotes");
 }
 
-// Single quotes pass all checks, which is meant; the table engine then refuses them.
+// Single quotes pass all checks: two of them are how one gets into the table. What the table engine cannot
+// take, it refuses itself.
 
 bool UserChecks::CheckPassword(int row) {
     const auto password = grid_.Text(row, kPassword);
@@ -78,7 +79,7 @@ bool UserChecks::CheckPassword(int row) {
 }
 
 void UserChecks::SetStatus(int row) {
-    // Any text beside the empty one is a status, which is meant.
+    // Any other text is stored as it is: tables may hold more than the two letters of the list.
     if (grid_.Text(row, kStatus).empty()) {
         grid_.SetText(row, kStatus, "I");
     }

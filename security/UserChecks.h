@@ -13,7 +13,7 @@ namespace zy {
 
 /// The checks of the users grid.
 ///
-/// Each failure shows its own message in a box titled by the program and tells the cell to be mended. An
+/// Each failure shows its own message in a box titled by the program and names the cell to be mended. An
 /// empty status and a date that was never filled in are no failures: they are set right in the grid.
 class UserChecks {
   public:

@@ -5,8 +5,8 @@
 
 namespace zy {
 
-// The names of the users' files. The table is always written under this one, whatever it was called when it
-// was read, which is meant.
+// The names of the users' files. The table is always written under this one, also where the location file
+// names another one that it was read from.
 inline constexpr std::string_view kUsersTableName = "ZYSECURE.DBF";
 inline constexpr std::string_view kUsersTemporaryName = "ZYSECURE.TMP";
 inline constexpr std::string_view kUsersIndexName = "ZYSECURE.NDX";

@@ -19,10 +19,13 @@ class frmDatePicker : public Form {
 
     /// Shows the date of the cell that is edited; today when the cell holds none of the shape "yy-mm-dd".
     void Form_Load(std::string_view cell);
+    /// The cell gets the date that was clicked, and the dialog hides.
     void dpZYSecurity_DateClick();
+    /// The cell is emptied, and the dialog hides.
     void cmdClear_Click();
+    /// Hides the dialog and leaves the cell as it is.
     void cmdcancel_Click();
-    /// Gives the dialog its size, its controls their places.
+    /// Gives the dialog its size and its controls their places, in twips.
     void Form_Resize();
 
     /// A date was picked or cleared: the cell gets this text.
