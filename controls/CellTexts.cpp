@@ -6,7 +6,7 @@
 namespace zy {
 namespace {
 
-constexpr std::size_t kBlockSize = 64 * 1024;
+constexpr std::size_t kBlockSize = std::size_t{64} * 1024;
 
 } // namespace
 
