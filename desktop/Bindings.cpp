@@ -5,17 +5,15 @@
 
 #include "desktop/ComboBoxBinding.h"
 #include "desktop/CommandButtonBinding.h"
+#include "desktop/DecorationBindings.h"
 #include "desktop/FrameBinding.h"
 #include "desktop/GridBinding.h"
 #include "desktop/LabelBinding.h"
-#include "desktop/LineBinding.h"
 #include "desktop/LinkLabelBinding.h"
 #include "desktop/ListViewBinding.h"
 #include "desktop/MonthCalendarBinding.h"
-#include "desktop/PictureBinding.h"
 #include "desktop/StatusBarBinding.h"
 #include "desktop/TextBoxBinding.h"
-#include "desktop/TextLabelBinding.h"
 #include "desktop/UpDownBinding.h"
 
 namespace zy {

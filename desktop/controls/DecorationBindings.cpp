@@ -1,8 +1,13 @@
-#include "desktop/TextLabelBinding.h"
+#include "desktop/DecorationBindings.h"
 
 #include <wx/dcclient.h>
+#include <wx/statbmp.h>
+#include <wx/statline.h>
 #include <wx/stattext.h>
 
+#include <algorithm>
+
+#include "desktop/Pictures.h"
 #include "desktop/ShownText.h"
 
 namespace zy {
@@ -33,6 +38,27 @@ TextLabelBinding::TextLabelBinding(const ViewContext& context, const Inside& ins
 
 void TextLabelBinding::Measure() {
     Model().SetPreferred(Context().scale.ToTwips(Window().GetEffectiveMinSize()));
+}
+
+LineBinding::LineBinding(const ViewContext& context, const Inside& inside, Line& model)
+    : ControlBinding(context, inside, model) {
+    Attach(new wxStaticLine(Parent()));
+}
+
+PictureBinding::PictureBinding(const ViewContext& context, const Inside& inside, Picture& model)
+    : ControlBinding(context, inside, model) {
+    auto* picture = new wxStaticBitmap(Parent(), wxID_ANY, wxBitmapBundle());
+    picture->Bind(wxEVT_SIZE, [picture, drawn = 0](wxSizeEvent& event) mutable {
+        event.Skip();
+        // A picture's size is given in pixels of a screen of 96 dots per inch. The control then takes the
+        // size that this makes here, which raises one more size event.
+        const int size = picture->ToDIP(std::min(event.GetSize().x, event.GetSize().y));
+        if (size > 0 && size != drawn) {
+            drawn = size;
+            picture->SetBitmap(ProgramPicture(size));
+        }
+    });
+    Attach(picture);
 }
 
 } // namespace zy
