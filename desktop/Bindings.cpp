@@ -55,15 +55,15 @@ Made MakeBinding(const ViewContext& context, const Inside& inside, Control& cont
 
 Bindings BindChildren(const ViewContext& context, const Inside& inside, const Container& container) {
     Bindings bindings;
-    for (auto* each : container.Children()) {
-        Control& child = *each;
-        if (dynamic_cast<Label*>(&child) != nullptr) {
+    for (auto* child : container.Children()) {
+        auto* const label = FindLabelOf(*child);
+        if (dynamic_cast<Label*>(child) != nullptr) {
             continue;
         }
-        if (auto* label = FindLabelOf(child)) {
+        if (label != nullptr) {
             bindings.push_back(MakeBinding(context, inside, *label));
         }
-        bindings.push_back(MakeBinding(context, inside, child));
+        bindings.push_back(MakeBinding(context, inside, *child));
     }
     return bindings;
 }
