@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string_view>
+#include <vector>
 
 namespace zy {
 
@@ -14,5 +15,9 @@ class RecycleBin {
     /// 0 when all of them went, else another number.
     virtual int Delete(std::string_view nulSeparatedPaths) = 0;
 };
+
+/// The paths of such a list. It ends at the first empty path, and at the text's end when the closing NULs are
+/// missing. They refer to the text.
+std::vector<std::string_view> SplitPathList(std::string_view nulSeparatedPaths);
 
 } // namespace zy

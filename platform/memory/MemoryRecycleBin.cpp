@@ -1,7 +1,5 @@
 #include "platform/memory/MemoryRecycleBin.h"
 
-#include "platform/PathList.h"
-
 namespace zy {
 
 int MemoryRecycleBin::Delete(std::string_view nulSeparatedPaths) {

@@ -2,7 +2,6 @@
 
 #include <sys/stat.h>
 
-#include "platform/PathList.h"
 #include "platform/posix/GlibPointer.h"
 #include "platform/posix/TrashFolder.h"
 #include "platform/posix/UserFolders.h"

@@ -7,7 +7,6 @@
 #include <array>
 #include <string>
 
-#include "platform/PathList.h"
 #include "platform/windows/RootedPath.h"
 
 namespace zy {

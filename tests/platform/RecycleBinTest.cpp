@@ -1,4 +1,4 @@
-#include "platform/PathList.h"
+#include "platform/RecycleBin.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
