@@ -1,7 +1,5 @@
 #include "platform/memory/MemoryWorld.h"
 
-#include "platform/WorldOf.h"
-
 namespace zy {
 
 MemoryWorld::MemoryWorld(const CodePage& page) : codePage(page) {

@@ -2,8 +2,6 @@
 
 #include <csignal>
 
-#include "platform/WorldOf.h"
-
 namespace zy {
 
 PosixWorld::PosixWorld(int argumentCount, const char* const* arguments)

@@ -1,7 +1,5 @@
 #include "platform/windows/WindowsWorld.h"
 
-#include "platform/WorldOf.h"
-
 namespace zy {
 
 World WindowsWorld::Get(const ScreenWorld& screen) {

@@ -14,7 +14,7 @@
 #include "desktop/MainWindowView.h"
 #include "desktop/Native.h"
 #include "desktop/ShownText.h"
-#include "platform/WorldOf.h"
+#include "platform/World.h"
 #include "shell/mMain.h"
 
 namespace zy::test {
