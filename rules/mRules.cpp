@@ -147,7 +147,7 @@ void mRules::ReplaceFile() {
     if (renamed == FileError::None) {
         skippedLines_ = 0;
         lastSaveFailed_ = false;
-        reported.Raise("Saved");
+        reported.Raise(std::string(kListSaved));
     } else {
         // That the old file is still there is told by why it did not go.
         const bool stayed = renamed == FileError::Exists && deleted != FileError::None;

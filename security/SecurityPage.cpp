@@ -168,7 +168,7 @@ bool SecurityPage::CheckAndWrite(std::string_view folderWithoutUsers) {
 
 void SecurityPage::ShowSaved() {
     controls.cmdSaveUsers.SetEnabled(false);
-    form_.zyStatusBar.SetText("Saved");
+    form_.zyStatusBar.SetText(kListSaved);
 }
 
 void SecurityPage::grdSecurity_AfterEdit(int row) {

@@ -107,7 +107,7 @@ void mUnits::ReplaceFile() {
     const auto error = WriteAndClose(*created.handle, text.Get());
     leftOut_ = error == FileError::None ? "" : kLastSaveFailed;
     if (error == FileError::None) {
-        reported.Raise("Saved");
+        reported.Raise(std::string(kListSaved));
     } else {
         reported.Raise(Failure("Not saved, " + FileName() + " could not be written", error));
     }

@@ -20,6 +20,9 @@ inline constexpr std::string_view kFieldFull = "Not taken: the field would get l
 /// Told when a person adds to a list that is as long as it can be.
 inline constexpr std::string_view kListFull = "Not added: the list is as long as it can be";
 
+/// Shown once a save of any of the lists has done all its steps.
+inline constexpr std::string_view kListSaved = "Saved";
+
 /// What went wrong, with the reason that the file system gave.
 std::string Failure(std::string_view what, FileError error);
 
