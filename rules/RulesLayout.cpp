@@ -8,8 +8,7 @@
 namespace zy {
 namespace {
 
-constexpr int kColumnGap = 240;    // between two fields of a row
-constexpr int kButtonWidth = 1215; // the classic button
+constexpr int kColumnGap = 240; // between two fields of a row
 constexpr int kButtonHeight = 375;
 constexpr int kFieldHeight = 315;
 constexpr int kShortField = 900; // a code or a count
@@ -54,7 +53,7 @@ Size LeastDetails(const RulesControls& c) {
 
 Size ButtonSize(const RulesControls& c) {
     const Controls buttons{&c.cmdAddList, &c.cmdDeleteList, &c.cmdSaveRules, &c.cmdHelpRules};
-    return {Widest(buttons, kButtonWidth), Tallest(buttons, kButtonHeight)};
+    return {Widest(buttons, CommandButton::kUsualWidth), Tallest(buttons, kButtonHeight)};
 }
 
 Size ArrowsSize(const RulesControls& c) {

@@ -54,10 +54,10 @@ void frmLogin::Form_Resize() {
     constexpr int kMargin = 180;
     constexpr int kGap = 120;
     constexpr int kBoxWidth = 2700;
-    constexpr int kButtonWidth = 1215;
     const int labels = std::max(lblLabels[0].Preferred().width, lblLabels[1].Preferred().width);
     const int boxes = kMargin + labels + kGap;
-    const int width = std::max({kButtonWidth, cmdOK.Preferred().width, cmdCancel.Preferred().width});
+    const int width =
+        std::max({CommandButton::kUsualWidth, cmdOK.Preferred().width, cmdCancel.Preferred().width});
     // In large print the two buttons need more room than the rows above them.
     const int right = std::max(boxes + kBoxWidth, kMargin + 2 * width + kGap);
     int top = kMargin;

@@ -82,7 +82,6 @@ void frmAbout::Form_Resize() {
     constexpr int kRowGap = 60;
     constexpr int kPictureSize = 1440;
     constexpr int kLineHeight = 30;
-    constexpr int kButtonWidth = 1215;
     const int texts = kMargin + kPictureSize + kGap;
     int width = 0;
     int top = kMargin;
@@ -105,7 +104,7 @@ void frmAbout::Form_Resize() {
     Line1.SetBounds({texts, firstLine, width - kMargin - texts, kLineHeight});
     Line2.SetBounds({kMargin, secondLine, width - 2 * kMargin, kLineHeight});
 
-    const int buttonWidth = std::max(kButtonWidth, cmdOk.Preferred().width);
+    const int buttonWidth = std::max(CommandButton::kUsualWidth, cmdOk.Preferred().width);
     const int buttonHeight = cmdOk.Preferred().height;
     top = secondLine + kLineHeight + kGap;
     cmdOk.SetBounds({width - kMargin - buttonWidth, top, buttonWidth, buttonHeight});
