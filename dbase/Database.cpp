@@ -130,9 +130,9 @@ void Database::Do(const CreateTable& statement, ExecuteOptions) {
 
 void Database::Do(const Insert& statement, ExecuteOptions options) {
     if (statement.columns.size() != statement.values.size()) {
-        Raise(kCountsDiffer,
-              {"Number of query values and destination fields aren't the same: ",
-               Digits(statement.values.size()), " values, ", Digits(statement.columns.size()), " fields."});
+        Raise(kCountsDiffer, {"Number of query values and destination fields aren't the same: ",
+                              std::to_string(statement.values.size()), " values, ",
+                              std::to_string(statement.columns.size()), " fields."});
     }
     auto& table = workspace_->Open(PathOf(statement.table, ".DBF"));
     const auto row = RowOf(statement, table.Image());

@@ -53,8 +53,4 @@ void RaiseWriteError(std::string_view path, FileError error) {
     Raise(NumberOf(error, kBadPath, kReadOnly), {"'", path, "' cannot be written: ", Describe(error), "."});
 }
 
-std::string Digits(std::uint64_t number) {
-    return std::to_string(number);
-}
-
 } // namespace zy::dbase

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <cstdint>
 #include <initializer_list>
-#include <string>
 #include <string_view>
 
 #include "dbase/ErrorNumbers.h"
@@ -20,8 +18,5 @@ namespace zy::dbase {
 /// be read and 3027 for one to be written; what was not found is a table (3011) or a folder (3044).
 [[noreturn]] void RaiseReadError(std::string_view path, FileError error);
 [[noreturn]] void RaiseWriteError(std::string_view path, FileError error);
-
-/// The text of a number.
-std::string Digits(std::uint64_t number);
 
 } // namespace zy::dbase

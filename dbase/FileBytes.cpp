@@ -15,8 +15,8 @@ std::string ReadFile(FileSystem& files, std::string_view path) {
     }
     std::string bytes(size, '\0');
     if (const auto read = opened.handle->Read(bytes); read != size) {
-        Raise(kReadFailed, {"'", files.DisplayPath(path), "' could be read up to byte ", Digits(read), " of ",
-                            Digits(size), " only."});
+        Raise(kReadFailed, {"'", files.DisplayPath(path), "' could be read up to byte ", std::to_string(read),
+                            " of ", std::to_string(size), " only."});
     }
     return bytes;
 }

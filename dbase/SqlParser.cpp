@@ -153,8 +153,8 @@ class SqlParser {
     }
 
     [[noreturn]] void Fail(std::string_view expected) const {
-        Raise(number_, {what_, ": at character ", Digits(token_.position), " stands ", Describe(token_.kind),
-                        " where ", expected, " should."});
+        Raise(number_, {what_, ": at character ", std::to_string(token_.position), " stands ",
+                        Describe(token_.kind), " where ", expected, " should."});
     }
 
     SqlTokens tokens_;

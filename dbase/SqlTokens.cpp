@@ -87,7 +87,7 @@ Token SqlTokens::Next() {
     if (c == '[') {
         return Bracketed();
     }
-    return IsDigit(c) ? Digits() : Other();
+    return IsDigit(c) ? Number() : Other();
 }
 
 void SqlTokens::SkipBlanks() {
@@ -103,7 +103,7 @@ Token SqlTokens::Word() {
     return Make(TokenKind::Word, start_, at_);
 }
 
-Token SqlTokens::Digits() {
+Token SqlTokens::Number() {
     while (at_ != sql_.size() && IsDigit(sql_[at_])) {
         ++at_;
     }

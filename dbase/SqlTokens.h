@@ -40,7 +40,7 @@ class SqlTokens {
   private:
     void SkipBlanks();
     Token Word();
-    Token Digits();
+    Token Number();
     Token Bracketed();
     Token Quoted();
     Token Other();

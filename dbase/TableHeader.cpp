@@ -36,7 +36,7 @@ std::vector<TableField> ParseFields(std::string_view header, std::string_view pa
     while (at < header.size() && header[at] != kEndOfFields) {
         if (header.size() - at <= kDescriptorSize) {
             RaiseBadFormat(path, "the mark 0D that ends its columns is missing in the " +
-                                     Digits(header.size()) + " bytes of its header");
+                                     std::to_string(header.size()) + " bytes of its header");
         }
         offset += fields.emplace_back(ParseField(header.substr(at, kDescriptorSize), offset)).width;
         at += kDescriptorSize;
@@ -47,16 +47,16 @@ std::vector<TableField> ParseFields(std::string_view header, std::string_view pa
 void CheckSizes(std::string_view file, std::string_view path) {
     constexpr auto kLeast = kFirstField + 1;
     if (file.size() < kLeast) {
-        RaiseBadFormat(path, "it has " + Digits(file.size()) + " bytes, a table at least 33");
+        RaiseBadFormat(path, "it has " + std::to_string(file.size()) + " bytes, a table at least 33");
     }
     if (ByteAt(file, 0) != kVersion) {
-        RaiseBadFormat(path, "its first byte is " + Digits(ByteAt(file, 0)) +
+        RaiseBadFormat(path, "its first byte is " + std::to_string(ByteAt(file, 0)) +
                                  ", which is not that of a dBase III table (3)");
     }
     const std::size_t headerSize = Get16(file, kHeaderSizeAt);
     if (headerSize < kLeast || headerSize > file.size()) {
-        RaiseBadFormat(path, "byte 8 says that its header has " + Digits(headerSize) +
-                                 " bytes, but the file has " + Digits(file.size()));
+        RaiseBadFormat(path, "byte 8 says that its header has " + std::to_string(headerSize) +
+                                 " bytes, but the file has " + std::to_string(file.size()));
     }
 }
 
@@ -64,8 +64,8 @@ void CheckSizes(std::string_view file, std::string_view path) {
 void CheckHeaderSize(std::string_view header, std::size_t columns, std::string_view path) {
     const auto size = kFirstField + kDescriptorSize * columns + 1;
     if (header.find_first_not_of('\0', size) != std::string_view::npos) {
-        RaiseBadFormat(path, "byte 8 says that its header has " + Digits(header.size()) +
-                                 " bytes, but its columns make " + Digits(size));
+        RaiseBadFormat(path, "byte 8 says that its header has " + std::to_string(header.size()) +
+                                 " bytes, but its columns make " + std::to_string(size));
     }
 }
 
@@ -80,7 +80,8 @@ bool IsFieldName(std::string_view name) {
 
 void CheckColumns(std::span<const ColumnDefinition> columns) {
     if (columns.size() > kMostNewFields) {
-        Raise(kTooManyFields, {"Too many fields defined: ", Digits(columns.size()), " of at most 255."});
+        Raise(kTooManyFields,
+              {"Too many fields defined: ", std::to_string(columns.size()), " of at most 255."});
     }
     for (auto column = columns.begin(); column != columns.end(); ++column) {
         const auto& name = column->name;
@@ -122,8 +123,8 @@ TableHeader ParseTableHeader(std::string_view file, std::string_view path) {
     CheckHeaderSize(file.substr(0, header.size), header.fields.size(), path);
     const auto& last = header.fields.back();
     if (const auto sum = last.offset + last.width; sum != header.recordSize) {
-        RaiseBadFormat(path, "byte 10 says that its records have " + Digits(header.recordSize) +
-                                 " bytes, but its columns make " + Digits(sum));
+        RaiseBadFormat(path, "byte 10 says that its records have " + std::to_string(header.recordSize) +
+                                 " bytes, but its columns make " + std::to_string(sum));
     }
     return header;
 }

@@ -34,7 +34,7 @@ bool IsAscii(std::string_view text) {
 
 [[noreturn]] void RaiseTooSmall(const TableField& field) {
     Raise(kFieldTooSmall, {"The field is too small: the value for '", field.name, "' is wider than its ",
-                           Digits(field.width), " characters."});
+                           std::to_string(field.width), " characters."});
 }
 
 /// The records that a file holds whole.
@@ -56,15 +56,16 @@ TableContent ContentOf(std::string_view file, const TableHeader& header) {
     for (std::size_t i = 0; i != std::min<std::size_t>(header.records, whole); ++i) {
         const auto record = RecordOf(file, header, i);
         if (!HasFlag(record)) {
-            content.damage = "its record " + Digits(i + 1) + " begins with " + Digits(ByteAt(record, 0)) +
+            content.damage = "its record " + std::to_string(i + 1) + " begins with " +
+                             std::to_string(ByteAt(record, 0)) +
                              ", which is neither a blank (32) nor the mark of a deleted one (42)";
             return content;
         }
         content.live += record.front() == kLive ? 1U : 0U;
     }
     if (header.records > whole) {
-        content.damage = "byte 4 says that it has " + Digits(header.records) +
-                         " records, but the file holds " + Digits(whole);
+        content.damage = "byte 4 says that it has " + std::to_string(header.records) +
+                         " records, but the file holds " + std::to_string(whole);
     }
     return content;
 }

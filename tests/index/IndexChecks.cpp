@@ -24,7 +24,7 @@ class Checks {
         }
         for (std::uint32_t record = 0; record < table_.Records(); ++record) {
             if (!listed[record] && !(index_.IsUnique() && HasEarlierEqual(entries, record))) {
-                Refuse("it lacks record " + Digits(record + 1));
+                Refuse("it lacks record " + std::to_string(record + 1));
             }
         }
     }
@@ -38,23 +38,24 @@ class Checks {
         // Some programs round the length of the keys up.
         const auto width = table_.Fields()[*field].width;
         if (index_.KeyLength() != width && index_.KeyLength() != (width + 3) / 4 * 4) {
-            Refuse("its keys have " + Digits(index_.KeyLength()) + " characters, the column has " +
-                   Digits(width));
+            Refuse("its keys have " + std::to_string(index_.KeyLength()) + " characters, the column has " +
+                   std::to_string(width));
         }
         field_ = *field;
     }
 
     void CheckEntry(const IndexFile::Entry& entry, std::vector<bool>& listed) const {
         if (entry.record == 0 || entry.record > table_.Records()) {
-            Refuse("it lists record " + Digits(entry.record) + " of " + Digits(table_.Records()));
+            Refuse("it lists record " + std::to_string(entry.record) + " of " +
+                   std::to_string(table_.Records()));
         }
         const auto record = entry.record - 1;
         if (listed[record]) {
-            Refuse("it lists record " + Digits(entry.record) + " twice");
+            Refuse("it lists record " + std::to_string(entry.record) + " twice");
         }
         listed[record] = true;
         if (WithoutFiller(entry.key) != table_.Value(record, field_)) {
-            Refuse("the key of record " + Digits(entry.record) + " is not its value");
+            Refuse("the key of record " + std::to_string(entry.record) + " is not its value");
         }
     }
 

@@ -35,7 +35,7 @@ struct IndexFile::PageView {
 
 IndexFile::IndexFile(std::string file, std::string path) : file_(std::move(file)), path_(std::move(path)) {
     if (file_.size() < 2 * kPageSize) {
-        Refuse("it has " + Digits(file_.size()) + " bytes, an index at least 1024");
+        Refuse("it has " + std::to_string(file_.size()) + " bytes, an index at least 1024");
     }
     pages_ = Get32(file_, kPagesAt);
     keyLength_ = Get16(file_, kKeyLengthAt);
@@ -54,35 +54,38 @@ bool IndexFile::IsUnique() const {
 
 void IndexFile::CheckHeader() const {
     if (const auto held = file_.size() / kPageSize; pages_ < 2 || pages_ > held) {
-        Refuse("byte 4 says that it has " + Digits(pages_) + " pages, but the file holds " + Digits(held));
+        Refuse("byte 4 says that it has " + std::to_string(pages_) + " pages, but the file holds " +
+               std::to_string(held));
     }
     if (const auto root = Get32(file_, kRootAt); root == 0 || root >= pages_) {
-        Refuse("byte 0 names page " + Digits(root) + " of " + Digits(pages_) + " as the root");
+        Refuse("byte 0 names page " + std::to_string(root) + " of " + std::to_string(pages_) +
+               " as the root");
     }
     if (Get16(file_, kKeyTypeAt) != 0) {
         Refuse("its keys are not text");
     }
     if (keyLength_ == 0 || keyLength_ > kLongestKey) {
-        Refuse("byte 12 says that its keys have " + Digits(keyLength_) + " characters");
+        Refuse("byte 12 says that its keys have " + std::to_string(keyLength_) + " characters");
     }
     if (entrySize_ < kKeyAt + keyLength_ || entrySize_ > EntrySize(kLongestKey)) {
-        Refuse("byte 18 says that its entries have " + Digits(entrySize_) + " bytes for keys of " +
-               Digits(keyLength_));
+        Refuse("byte 18 says that its entries have " + std::to_string(entrySize_) + " bytes for keys of " +
+               std::to_string(keyLength_));
     }
     if (Get16(file_, kKeysPerPageAt) > KeysPerPage(entrySize_)) {
-        Refuse("byte 14 says that a page has " + Digits(Get16(file_, kKeysPerPageAt)) +
+        Refuse("byte 14 says that a page has " + std::to_string(Get16(file_, kKeysPerPageAt)) +
                " keys, which do not fit");
     }
 }
 
 IndexFile::PageView IndexFile::View(std::uint32_t number) const {
     if (number == 0 || number >= pages_) {
-        Refuse("there is a page " + Digits(number) + " in it, beyond its " + Digits(pages_) + " pages");
+        Refuse("there is a page " + std::to_string(number) + " in it, beyond its " + std::to_string(pages_) +
+               " pages");
     }
     const PageView page{std::string_view(file_).substr(number * kPageSize, kPageSize), entrySize_,
                         keyLength_};
     if (page.Count() > KeysPerPage(entrySize_)) {
-        RefusePage(number, "counts " + Digits(page.Count()) + " entries");
+        RefusePage(number, "counts " + std::to_string(page.Count()) + " entries");
     }
     return page;
 }
@@ -92,7 +95,7 @@ void IndexFile::Refuse(std::string_view why) const {
 }
 
 void IndexFile::RefusePage(std::uint32_t page, std::string_view why) const {
-    Refuse("page " + Digits(page) + " " + std::string(why));
+    Refuse("page " + std::to_string(page) + " " + std::string(why));
 }
 
 class IndexFile::Walker {
