@@ -89,9 +89,9 @@ OpenedFile OpenOrCreatePosixFileForReading(const std::string& path) {
                                                : std::move(opened);
 }
 
-OpenedFile CreatePosixFile(const std::string& path, IfExists ifExists, For whom) {
+OpenedFile CreatePosixFile(const std::string& path, IfExists ifExists, NewFileAccess access) {
     return Open(path, O_WRONLY | O_CREAT | (ifExists == IfExists::Fails ? O_EXCL : O_TRUNC),
-                whom == For::Owner ? kReadWriteForOwner : kReadWriteForAll);
+                access == NewFileAccess::OwnerAlone ? kReadWriteForOwner : kReadWriteForAll);
 }
 
 FileError CopyPosixPermissions(const std::string& from, const std::string& to) {

@@ -26,15 +26,16 @@ class PosixFile final : public FileHandle {
 };
 
 enum class IfExists { Empties, Fails };
-enum class For { All, Owner };
+enum class NewFileAccess { All, OwnerAlone };
 
-/// The system is told that the file is read from its beginning to its end.
+/// Advises the system that the file is read from its beginning to its end.
 OpenedFile OpenPosixFileForReading(const std::string& path);
 /// The same, but that a missing file is created.
 OpenedFile OpenOrCreatePosixFileForReading(const std::string& path);
 /// A new file gets what the user's file creation mask leaves of reading and writing for all, or for its owner
 /// alone.
-OpenedFile CreatePosixFile(const std::string& path, IfExists ifExists, For whom = For::All);
+OpenedFile CreatePosixFile(const std::string& path, IfExists ifExists,
+                           NewFileAccess access = NewFileAccess::All);
 /// Copies the permission bits and, as far as the user may, owner and group.
 FileError CopyPosixPermissions(const std::string& from, const std::string& to);
 

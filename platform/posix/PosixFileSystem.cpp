@@ -94,7 +94,7 @@ OpenedFile PosixFileSystem::CreatePrivate(std::string_view path) {
     if (place.error != FileError::None) {
         return {.handle = nullptr, .error = place.error};
     }
-    auto created = CreatePosixFile(place.path, IfExists::Fails, For::Owner);
+    auto created = CreatePosixFile(place.path, IfExists::Fails, NewFileAccess::OwnerAlone);
     if (created.error == FileError::Exists && IsFolder(place.path)) {
         created.error = FileError::IsFolder;
     }
