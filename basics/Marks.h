@@ -6,7 +6,7 @@
 
 namespace zy {
 
-/// The places where a text holds one character, told from front to back, so that each is looked for once
+/// The places where a text holds one character, found from front to back, each by one search
 /// however often it is asked about.
 class Marks {
   public:

@@ -5,7 +5,7 @@
 
 namespace zy {
 
-/// The number that a text typed by a person stands for, or nothing when the text is not numeric.
+/// The number that a text typed by the user stands for, or nothing when the text is not numeric.
 ///
 /// Accepted: blanks around, one sign, decimal digits with at most one decimal separator, and an exponent ("e"
 /// or "E" with digits). The decimal point is always a separator; `decimalSeparator`, the locale's own, is one

@@ -17,10 +17,10 @@ class ComboBox : public Control {
     /// Raises `click` when the selection changes. Run-time error 9 for an index that no item has.
     void SetListIndex(int index);
 
-    /// A person picks an item.
+    /// The user picks an item.
     void Pick(int index);
 
-    /// The selection changed, by the program or by a person.
+    /// The selection changed, by the program or by the user.
     Event<> click;
 
   private:

@@ -15,7 +15,7 @@ class CommandButton : public Control {
 
     char AccessKey() const { return accessKey_; }
 
-    /// A person presses the button.
+    /// The user presses the button.
     void Click();
 
     Event<> click;

@@ -8,11 +8,11 @@
 #include "controls/Geometry.h"
 
 // This room holds the controls of the program's forms as plain models: their whole state, the changes they
-// announce and the actions that a person can take on them. It knows no window toolkit; a view shows a model
-// and hands the person's actions on to it. It may call basics/ alone.
+// announce and the actions that the user can take on them. It knows no window toolkit; a view shows a model
+// and hands the user's actions on to it. It may call basics/ alone.
 //
 // Two kinds of call meet here and are kept apart: what the program does to a control ("Set...", "Select") and
-// what a person does ("Type", "Click", "Pick", "Press..."). A person's action first moves the focus, and so
+// what the user does ("Type", "Click", "Pick", "Press..."). The user's action first moves the focus, and so
 // may be refused by the control that is left; on a control that is disabled or hidden it does nothing.
 
 namespace zy {
@@ -49,7 +49,7 @@ class Control {
 
     /// Gives the control the focus from code: no check runs.
     void SetFocus();
-    /// Moves the focus here as a person does. False when the control is not usable or the one that is left
+    /// Moves the focus here as the user does. False when the control is not usable or the one that is left
     /// refused.
     bool TakeFocus();
     bool HasFocus();
@@ -62,7 +62,7 @@ class Control {
     Container* Parent() const { return parent_; }
     Form& Window();
 
-    /// Asked before a person moves the focus from this control to another; false keeps it here.
+    /// Asked before the user moves the focus from this control to another; false keeps it here.
     std::function<bool()> validate;
     /// Caption, switches or place changed.
     Event<> appearanceChanged;

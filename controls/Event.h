@@ -32,7 +32,7 @@ class [[nodiscard]] Subscription {
     std::shared_ptr<bool> alive_;
 };
 
-/// Something that happens to a control, and who wants to be told, in the order of connecting.
+/// Something that happens to a control. Raise calls the handlers in the order in which they were connected.
 ///
 /// A handler may connect or cancel handlers while the event is raised; a cancelled one is not called any
 /// more.

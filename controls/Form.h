@@ -27,13 +27,13 @@ class Form : public Container {
     void SetKeyButtons(CommandButton* onEnter, CommandButton* onEscape);
 
     WindowState State() const { return state_; }
-    /// Sets the state, whether the program or the person wants it; the inner size follows by SetInnerSize.
+    /// Sets the state, whether the program or the user wants it; the inner size follows by SetInnerSize.
     void SetState(WindowState state);
 
     /// The room for controls, without menu bar and borders but with the status bar's.
     const Size& InnerSize() const { return innerSize_; }
-    /// The least inner size in which all controls have the room that they need; none when nobody tells. A
-    /// view that has less room pretends to have this much, and lets a person scroll.
+    /// The least inner size in which all controls have the room that they need; zero when `leastInnerSize` is
+    /// not set. A view that has less room pretends to have this much, and lets the user scroll.
     Size LeastInnerSize() const { return leastInnerSize ? leastInnerSize() : Size(); }
     /// Takes the size from the window system and raises `resize`, also when only the state changed.
     void SetInnerSize(const Size& size);

@@ -9,7 +9,7 @@ class LinkLabel : public Control {
   public:
     using Control::Control;
 
-    /// A person clicks it.
+    /// The user clicks it.
     void Click();
 
     Event<> click;

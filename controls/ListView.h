@@ -36,19 +36,19 @@ class ListView : public Control {
     void RemoveSelected();
     /// Selects from code, 0 for none: `itemClick` is not raised.
     void Select(int item);
-    /// Tells that an item's texts changed.
+    /// Announces that an item's texts have changed in the source.
     void RefreshItem(int item) { itemChanged.Raise(item); }
 
     /// The selected item as a spreadsheet copies a row: cells separated by TAB, CR LF behind them. Empty when
     /// none is.
     std::string Copy() const;
 
-    /// A person chooses an item. The one that is selected already is not chosen again.
+    /// The user chooses an item. The one that is selected already is not chosen again.
     void Pick(int item);
-    /// A person presses a key while the list has the focus.
+    /// The user presses a key while the list has the focus.
     void Press(const KeyPress& press);
 
-    Event<int> itemClick; ///< a person chose this item
+    Event<int> itemClick; ///< the user chose this item
     Event<const KeyPress&> keyDown;
     Event<> refilled;
     Event<int> itemRemoved;

@@ -25,7 +25,7 @@ class MenuItem {
     bool Enabled() const { return enabled_; }
     void SetEnabled(bool enabled);
 
-    /// A person chooses the entry; a disabled one does nothing.
+    /// The user chooses the entry; a disabled one does nothing.
     void Click();
 
     /// Opens a context menu where the mouse is, or at the control whose key asks for it.

@@ -20,7 +20,7 @@ class MonthCalendar : public Control {
     /// The date must exist. One that is not offered becomes the nearest one that is.
     void SetValue(std::chrono::year_month_day value);
 
-    /// A person clicks a day, also when it is the one that is chosen. Nothing happens when it is not offered.
+    /// The user clicks a day, also when it is the one that is chosen. Nothing happens when it is not offered.
     void Pick(std::chrono::year_month_day day);
 
     Event<> dateClick;

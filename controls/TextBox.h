@@ -24,12 +24,12 @@ class TextBox : public Control {
     /// Selects part of the text; what lies beyond its end is cut.
     void Select(std::size_t start, std::size_t length);
 
-    /// A person types: the selection is replaced and the caret stands behind what was typed.
+    /// The user types: the selection is replaced and the caret stands behind what was typed.
     void Type(std::string_view text);
-    /// A person changed the text in the view that shows it.
+    /// The user changed the text in the view that shows it.
     void Enter(std::string_view text);
 
-    /// The text changed, by the program or by a person.
+    /// The text changed, by the program or by the user.
     Event<> change;
     Event<> selectionChanged;
 

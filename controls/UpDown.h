@@ -9,7 +9,7 @@ class UpDown : public Control {
   public:
     using Control::Control;
 
-    /// A person presses an arrow.
+    /// The user presses an arrow.
     void PressUp();
     void PressDown();
 

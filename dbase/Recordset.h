@@ -64,7 +64,7 @@ class Recordset {
     const dbase::Fields& Fields() const { return fields_; }
     void Close();
 
-    /// The table, for what its records do not tell of it.
+    /// The table itself, for what its shown records leave out: deleted records, its code page.
     const TableImage& Table() const {
         if (!table_) {
             RaiseRecordsetClosed();

@@ -27,7 +27,7 @@ inline std::string_view WithoutFiller(std::string_view text) {
     return text.substr(0, size);
 }
 
-/// What can be told of a table also when its records are not all there.
+/// What is known of a table even when some of its records are missing or damaged.
 struct TableContent {
     std::uint32_t live = 0; ///< the records that are not deleted, before the first that is missing or damaged
     std::string damage;     ///< what is wrong with that one; empty when none is
@@ -53,7 +53,7 @@ class TableImage {
     /// False when the record is deleted.
     bool IsShown(std::uint32_t record) const { return *At(record) == ' '; }
 
-    // What the shown records do not tell of the file.
+    // What a reader of the shown records alone would miss.
 
     std::uint32_t DeletedRecords() const;
     /// The number of whole records that stand right behind the last one that the header counts. What fills a

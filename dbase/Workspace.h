@@ -24,11 +24,12 @@ class Workspace {
     std::chrono::year_month_day Today() const { return today_(); }
 
     bool InTransaction() const { return inTransaction_; }
-    /// See DBEngine.
+    /// See DBEngine::BeginTrans and CommitTrans.
     void Begin();
     void Commit();
 
-    /// The table at a path, for adding rows to it; read from its file unless it is at hand.
+    /// The table at a path, for adding rows to it. The first call for a path reads the file, and raises as
+    /// ReadFile and TableImage do; later ones return the same table, with the rows added since.
     OpenTable& Open(const std::string& path);
     /// See Database::Flush.
     void Flush();

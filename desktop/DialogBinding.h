@@ -22,7 +22,7 @@ class DialogBinding {
     DialogBinding(const DialogBinding&) = delete;
     DialogBinding& operator=(const DialogBinding&) = delete;
 
-    /// Returns when the form has hidden itself, when a person has closed the dialog, or when something
+    /// Returns when the form has hidden itself, when the user has closed the dialog, or when something
     /// failed.
     void Run();
 

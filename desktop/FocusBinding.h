@@ -25,7 +25,7 @@ class FocusBinding {
     const ViewContext& context_;
     Form& form_;
     Subscription focusChanged_;
-    std::shared_ptr<bool> open_ = std::make_shared<bool>(true); ///< tells others that this object lives
+    std::shared_ptr<bool> open_ = std::make_shared<bool>(true); ///< false for others once this object is gone
 };
 
 } // namespace zy

@@ -23,7 +23,7 @@ FrameBinding::FrameBinding(const ViewContext& context, const Inside& inside, Fra
 
 void FrameBinding::ShowAppearance() {
     if (model_.Visible() && children_.empty()) {
-        // A box that is hidden does not tell where its inside begins.
+        // Where the inside of a box begins is not known while it is hidden.
         content_.window->Show();
         MakeChildren();
     }

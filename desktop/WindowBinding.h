@@ -16,7 +16,7 @@ namespace zy {
 /// A main window on the screen: title, state, the controls in it and the focus among them.
 class WindowBinding {
   public:
-    /// `mayClose` is asked when a person closes the window; it hides the form when it agrees.
+    /// `mayClose` is asked when the user closes the window; it hides the form when it agrees.
     WindowBinding(ViewContext& context, Form& form, std::function<void()> mayClose);
     ~WindowBinding();
     WindowBinding(const WindowBinding&) = delete;

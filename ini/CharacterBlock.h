@@ -13,18 +13,18 @@
 
 namespace zy {
 
-/// Which characters of a block were meant: the highest bit of each one's byte tells. The other bits mean
-/// nothing.
+/// Some of the characters of a block: the highest bit of a byte is set where its character is one of them.
+/// The other bits have no meaning.
 class CharacterMask {
   public:
-    static constexpr std::uint64_t kMeant = 0x8080808080808080;
+    static constexpr std::uint64_t kMembers = 0x8080808080808080;
 
     explicit CharacterMask(std::uint64_t bits) : bits_(bits) {}
 
-    bool Any() const { return Meant() != 0; }
+    bool Any() const { return Members() != 0; }
     /// The place of the first one in its block. There must be one.
-    std::size_t First() const { return static_cast<unsigned>(std::countr_zero(Meant())) / 8; }
-    std::uint64_t Meant() const { return bits_ & kMeant; }
+    std::size_t First() const { return static_cast<unsigned>(std::countr_zero(Members())) / 8; }
+    std::uint64_t Members() const { return bits_ & kMembers; }
 
     friend CharacterMask operator|(CharacterMask left, CharacterMask right) {
         return CharacterMask(left.bits_ | right.bits_);
@@ -41,7 +41,7 @@ class CharacterMask {
 /// Eight characters in a row, one a byte, the first one in the lowest.
 ///
 /// The sums below add to seven bits of each byte, so that nothing is carried from one byte to the next; the
-/// highest bit of each byte then tells the answer.
+/// highest bit of each byte is then the answer.
 class CharacterBlock {
   public:
     static constexpr std::size_t kSize = 8;
@@ -63,18 +63,18 @@ class CharacterBlock {
     CharacterMask Before(char character) const { return ~FromOn(character); }
     /// The characters that are an ASCII character or come behind it.
     CharacterMask FromOn(char character) const {
-        return CharacterMask(LowBits() + (CharacterMask::kMeant - All(character)));
+        return CharacterMask(LowBits() + (CharacterMask::kMembers - All(character)));
     }
 
     /// The block with capitals for the letters "a" to "z".
     CharacterBlock AsciiCapitals() const {
         const auto letters = FromOn('a') & Before('z' + 1) & ~BeyondAscii();
         constexpr std::uint64_t kToBitOfCase = 0x80 / ('a' - 'A');
-        return CharacterBlock(bytes_ - letters.Meant() / kToBitOfCase);
+        return CharacterBlock(bytes_ - letters.Members() / kToBitOfCase);
     }
 
   private:
-    static constexpr std::uint64_t kLowBits = ~CharacterMask::kMeant;
+    static constexpr std::uint64_t kLowBits = ~CharacterMask::kMembers;
 
     explicit CharacterBlock(std::uint64_t bytes) : bytes_(bytes) {}
 

@@ -164,7 +164,7 @@ void INIfile::SaveFile(std::string_view Filename) {
     }
     const auto created = files_.Create(Filename);
     if (created.handle) {
-        WriteAndClose(*created.handle, text.Get()); // a failure is silent, which is meant
+        WriteAndClose(*created.handle, text.Get()); // SaveFile reports no failure: see its contract
     }
 }
 

@@ -26,7 +26,8 @@ class INIfile {
     const std::shared_ptr<zy::INIlines>& INIlines();
     void INIlines(std::shared_ptr<zy::INIlines> lines) { lines_ = std::move(lines); }
 
-    /// On saving, keys are written in capitals. The setter's spelling is meant.
+    /// On saving, keys are written in capitals. The setter lacks an "i" in the interface that the product's
+    /// other programs call, and keeps that name for them.
     Bool16 UcaseSection() const { return format_.ucaseSection; }
     void UcaseSecton(Bool16 value) { format_.ucaseSection = value; }
 

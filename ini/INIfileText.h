@@ -21,9 +21,10 @@ struct INIformat {
 /// The text of a settings file, each line ended by CR LF. It stands in a buffer that is filled once and never
 /// cleared.
 ///
-/// A line with a key is written as "key = value", also when the key is a header's, which is meant: to write a
-/// bare header, add a line with a group and no key. A line without a key is its group in capitals alone, and
-/// blank when that is empty too; its value is not written. More than 32,767 lines are run-time error 6.
+/// A line with a key is written as "key = value". So is a header line as LoadFile made it, whose key is the
+/// header: callers who want the bare header in the file add a line with a group and no key. A line without a
+/// key is its group in capitals alone, and blank when that is empty too; its value is not written. More than
+/// 32,767 lines are run-time error 6.
 class INIfileText {
   public:
     INIfileText(const INIlines& lines, const INIformat& format, const CodePage& codePage);

@@ -9,7 +9,7 @@ class Form; // a window of the program, handed on as it is
 /// What the Escape key does in a Yes/No box.
 enum class Escape {
     AnswersNo, ///< where No leaves everything as it was
-    IsIgnored, ///< where No would lose something: the person has to choose
+    IsIgnored, ///< where No would lose something: the user has to choose
 };
 
 /// The message boxes, which bear no icon, and the program's own dialogs. All of them are modal.
@@ -21,7 +21,7 @@ class Dialogs {
     virtual void ShowMessage(std::string_view text, std::string_view title) = 0;
     /// A box with Yes and No; true on Yes. Yes is the button that Enter presses.
     virtual bool AskYesNo(std::string_view text, std::string_view title, Escape escape) = 0;
-    /// Shows a dialog until it hides itself or a person closes it by its close box. What it became is to be
+    /// Shows a dialog until it hides itself or the user closes it by its close box. What it became is to be
     /// asked of the form.
     virtual void ShowForm(Form& form) = 0;
 };

@@ -15,8 +15,8 @@ class HelpSystem {
   public:
     virtual ~HelpSystem() = default;
 
-    /// Shows a help file in a window that belongs to the main window. A file that is missing or no help file
-    /// is told to the person here.
+    /// Shows a help file in a window that belongs to the main window. Reports a file that is missing
+    /// or no help file to the user itself; the caller learns nothing.
     virtual void Show(std::string_view helpFile, HelpCommand command, std::uintptr_t data) = 0;
 };
 

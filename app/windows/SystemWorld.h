@@ -6,7 +6,7 @@ namespace zy {
 
 /// The operating system that the program runs on.
 struct SystemWorld : WindowsWorld {
-    /// The arguments are not needed: the system itself tells the command line.
+    /// The arguments are not needed: the system itself gives the command line.
     SystemWorld(int /*argumentCount*/, const char* const* /*arguments*/) {}
 };
 

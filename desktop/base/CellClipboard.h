@@ -13,7 +13,7 @@ namespace zy {
 void CopyCells(const ViewContext& context, const std::string& cells);
 
 /// Pastes the clipboard's text from the current cell on. A text with a character that the code page lacks is
-/// refused as a whole, which the status bar tells.
+/// refused as a whole, and the status bar says so.
 void PasteCells(const ViewContext& context, Grid& model);
 
 } // namespace zy

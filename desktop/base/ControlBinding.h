@@ -13,7 +13,7 @@
 // and the event loop, and may call everything but the operating system below; nothing calls it but app/.
 //
 // Each kind of control has one binding, which connects the model and the real control once, both ways: what
-// the model announces is shown, and what a person does is handed to the model. A window's view is a list of
+// the model announces is shown, and what the user does is handed to the model. A window's view is a list of
 // bindings. No rule or decision of the program is made here.
 
 namespace zy {
@@ -40,7 +40,7 @@ class ControlBinding {
 
     /// Each kind makes its real control and attaches it, once.
     void Attach(wxWindow* window);
-    /// Tells the model how much room the real control needs.
+    /// Sets the model's preferred size to what the real control needs.
     virtual void Measure();
 
     const ViewContext& Context() const { return context_; }

@@ -10,7 +10,7 @@ class wxWindow;
 namespace zy {
 
 /// While the mouse is over a text that is cut, shows the whole of it as the window's tooltip. `cutTextAt`
-/// tells the text at a place on the screen, and nothing where none is cut.
+/// returns the text at a place on the screen, and an empty one where none is cut.
 void ShowCutTexts(wxWindow& window, std::function<wxString(const wxPoint&)> cutTextAt);
 
 } // namespace zy

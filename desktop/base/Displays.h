@@ -17,7 +17,7 @@ wxSize SizeOfScreens();
 wxRect RoomFor(const wxRect& place, const std::vector<wxRect>& screens);
 /// The place moved so that it lies inside the area as far as it fits in; its top left corner always does.
 wxRect MovedInside(wxRect place, const wxRect& area);
-/// The place as it is when a person can reach a window there by its title; else moved inside the nearest
+/// The place as it is when the user can reach a window there by its title; else moved inside the nearest
 /// screen.
 wxRect Reachable(const wxRect& place, const std::vector<wxRect>& screens);
 

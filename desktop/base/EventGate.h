@@ -24,13 +24,13 @@ class EventGate {
     /// Work that was put off; false when a control refused to be left.
     using Step = std::function<bool()>;
 
-    /// Runs what a person did, behind everything that was put off before it. When a step of that was refused,
-    /// all later ones and the action itself are dropped, so that nobody is asked twice for one gesture.
+    /// Runs what the user did, behind everything that was put off before it. When a step of that was refused,
+    /// all later ones and the action itself are dropped, so that no question is asked twice for one gesture.
     void Act(const std::function<void()>& action);
     /// Puts a step off until the toolkit's own handler is done and no button of the mouse is held down, or
     /// until the next action if that comes first.
     void ActLater(Step step);
-    /// Lets the window system tell something, such as a new size, whatever has been put off.
+    /// Hands on at once what the window system reports, such as a new size, whatever has been put off.
     void Tell(const std::function<void()>& news);
     /// Runs a part of the program that only answers the toolkit's questions.
     void Answer(const std::function<void()>& answer);

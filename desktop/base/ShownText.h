@@ -20,14 +20,14 @@ wxString ToShown(const CodePage& codePage, std::string_view text);
 /// character takes up to three. What a longer text of a file has beyond is kept, out of reach.
 inline constexpr std::size_t kMostShown = 65534 / 3;
 
-/// A text after a person's change.
+/// A text after the user's change.
 struct EditedText {
     std::string text;
     /// Where the changed part ends.
     std::size_t changeEnd = 0;
 };
 
-/// What a person made of `before`, as the toolkit shows it now. In the part that is new, a line end or a TAB
+/// What the user made of `before`, as the toolkit shows it now. In the part that is new, a line end or a TAB
 /// becomes a blank, since a text box has one line. Nothing when the new part holds a character that the code
 /// page lacks, and when the whole is longer than kMostShown.
 std::optional<EditedText> TakeEdit(const CodePage& codePage, std::string_view before, const wxString& shown);
@@ -35,7 +35,7 @@ std::optional<EditedText> TakeEdit(const CodePage& codePage, std::string_view be
 /// The first character that the code page lacks.
 std::optional<wxUniChar> FindLacking(const CodePage& codePage, const wxString& shown);
 
-/// A person's new text with a blank for each line end and TAB.
+/// The user's new text with a blank for each line end and TAB.
 wxString OnOneLine(wxString text);
 
 /// A caption with "&" before its access key, as the toolkit wants it; every "&" of the caption itself is

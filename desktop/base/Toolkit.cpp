@@ -43,7 +43,7 @@ Toolkit::Toolkit() {
     int count = 1;
     wxApp::SetInstance(new App);
     {
-        // That there is no display is told once, by the program itself.
+        // The program itself reports that there is no display; the toolkit's message would be a second one.
         const wxLogNull silence;
         if (!wxEntryStart(count, arguments.data())) {
             FreeStock();

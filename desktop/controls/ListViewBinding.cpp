@@ -75,7 +75,7 @@ void ListViewBinding::Rescale() {
 
 void ListViewBinding::ShowColumnWidths() {
     for (std::size_t i = 0; i < shownWidths_.size(); ++i) {
-        // A width that the person has set stays until the program sets another.
+        // A width that the user has set stays until the program sets another.
         const int width = model_.Columns()[i].width;
         if (shownWidths_[i] != width) {
             shownWidths_[i] = width;
@@ -132,7 +132,7 @@ void ListViewBinding::ShowSelection() {
 }
 
 void ListViewBinding::ChangeList(const std::function<void()>& change) {
-    // The selection that follows from it, such as that of a neighbour when a row goes, is not a person's
+    // The selection that follows from it, such as that of a neighbour when a row goes, is not the user's
     // choice.
     changing_ = true;
     change();

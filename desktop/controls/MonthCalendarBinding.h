@@ -24,7 +24,7 @@ class MonthCalendarBinding : public ControlBinding {
     void ShowValue();
 
     MonthCalendar& model_;
-    // The toolkit's own calendar tells where the mouse stands, which the window system's does not.
+    // The toolkit's own calendar, for it can say on which day the mouse is; the window system's cannot.
     wxGenericCalendarCtrl* calendar_;
     wxDateTime pressed_; ///< the day that the mouse was pressed on
 };

@@ -9,7 +9,7 @@
 
 namespace zy {
 
-/// A text box. What a person enters is taken character for character or, when the code page lacks one, not at
+/// A text box. What the user enters is taken character for character or, when the code page lacks one, not at
 /// all.
 class TextBoxBinding : public ControlBinding {
   public:
@@ -26,7 +26,7 @@ class TextBoxBinding : public ControlBinding {
     wxTextCtrl* box_;
     /// The end of a text that is longer than the box takes. It is kept, out of reach.
     std::string beyond_;
-    // The selection before a person's change, put back when the change is refused.
+    // The selection before the user's change, put back when the change is refused.
     long selectionStart_ = 0;
     long selectionEnd_ = 0;
 };

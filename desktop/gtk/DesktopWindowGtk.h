@@ -12,7 +12,7 @@
 
 namespace zy {
 
-/// The main window of a window system that has no messages and tells of a place some time after it was
+/// The main window of a window system that has no messages and reports a place some time after it was
 /// taken.
 class DesktopWindowGtk final : public DesktopWindow {
   public:
@@ -32,9 +32,9 @@ class DesktopWindowGtk final : public DesktopWindow {
     double TwipsPerPixel();
     void SetBounds();
     bool IsNormal() const;
-    /// The window has moved, has another size or another state. A window that is being maximized may tell of
-    /// its new place before it tells that it is maximized, so a place counts once the window has stood there
-    /// for a moment.
+    /// The window has moved, has another size or another state. A window that is being maximized may report
+    /// its new place before it reports that it is maximized, so a place counts once the window has stood
+    /// there for a moment.
     void FollowPlace();
 
     using Clock = std::chrono::steady_clock;

@@ -44,18 +44,18 @@ GtkWidget* FocusWidgetOf(wxWindow& window) {
 constexpr guint kAnyButton = 0;
 constexpr int kOnTheWayDown = 1;
 
-using Told = std::function<void()>;
+using Observer = std::function<void()>;
 
-void TellMoved(_GtkWindow* /*window*/, GtkWidget* /*focused*/, gpointer moved) {
-    (*static_cast<Told*>(moved))();
+void CallMoved(_GtkWindow* /*window*/, GtkWidget* /*focused*/, gpointer moved) {
+    (*static_cast<Observer*>(moved))();
 }
 
-void TellPressed(_GtkGesture* /*gesture*/, int /*count*/, double /*x*/, double /*y*/, gpointer pressed) {
-    (*static_cast<Told*>(pressed))();
+void CallPressed(_GtkGesture* /*gesture*/, int /*count*/, double /*x*/, double /*y*/, gpointer pressed) {
+    (*static_cast<Observer*>(pressed))();
 }
 
-void ForgetTold(gpointer told, GClosure* /*closure*/) {
-    delete static_cast<Told*>(told);
+void DeleteObserver(gpointer observer, GClosure* /*closure*/) {
+    delete static_cast<Observer*>(observer);
 }
 
 void UnmakeButton(_GtkTreeViewColumn* column, GParamSpec* /*property*/, gpointer /*unused*/) {
@@ -179,7 +179,7 @@ void SetPasswordCharacter(wxTextCtrl& box, char character) {
 void LayOutUnseen(wxWindow& window) {
     SettleTabOrder(window);
     // A window that first appears without a size has GTK complain of menus that do not fit in. One that got
-    // its size before it is real waits in vain to be told of it, and gives room to nothing that is shown
+    // its size before it is real never hears of it, and gives room to nothing that is shown
     // later.
     GiveSizeToPages(window);
     gtk_widget_realize(window.m_widget);
@@ -191,7 +191,7 @@ void LayOutUnseen(wxWindow& window) {
 }
 
 BoxInside InsideOf(const wxStaticBox& box) {
-    // GTK tells it only of a frame that has been given a size, whatever size that is.
+    // GTK knows the inside only of a frame that has been given a size, whatever size that is.
     GtkSizeNeeded needed{};
     gtk_widget_get_preferred_size(box.m_widget, nullptr, &needed);
     GtkRectangle size{0, 0, needed.width, needed.height};
@@ -203,8 +203,8 @@ BoxInside InsideOf(const wxStaticBox& box) {
 }
 
 void ObserveFocus(wxWindow& window, std::function<void()> moved) {
-    auto* kept = new Told(std::move(moved));
-    g_signal_connect_data(window.m_widget, "set-focus", G_CALLBACK(TellMoved), kept, ForgetTold,
+    auto* kept = new Observer(std::move(moved));
+    g_signal_connect_data(window.m_widget, "set-focus", G_CALLBACK(CallMoved), kept, DeleteObserver,
                           G_CONNECT_AFTER);
 }
 
@@ -214,8 +214,8 @@ void ObserveMousePress(wxWindow& window, std::function<void()> pressed) {
     gtk_gesture_single_set_button(reinterpret_cast<_GtkGestureSingle*>(gesture), kAnyButton);
     gtk_event_controller_set_propagation_phase(reinterpret_cast<_GtkEventController*>(gesture),
                                                kOnTheWayDown);
-    g_signal_connect_data(gesture, "pressed", G_CALLBACK(TellPressed), new Told(std::move(pressed)),
-                          ForgetTold, GConnectFlags{});
+    g_signal_connect_data(gesture, "pressed", G_CALLBACK(CallPressed), new Observer(std::move(pressed)),
+                          DeleteObserver, GConnectFlags{});
     g_signal_connect_data(window.m_widget, "destroy", G_CALLBACK(g_object_unref), gesture, nullptr,
                           G_CONNECT_SWAPPED);
 }

@@ -29,7 +29,8 @@ class DesktopHelp final : public HelpSystem {
     void Close();
 
   private:
-    /// Reads the book that the file holds. False when a person was told that there is no help.
+    /// Reads the book that the file holds. False when there is none, which a message box
+    /// then says.
     bool Open(std::string_view helpFile);
     /// The window, in front of the others.
     HelpFrame& Window();

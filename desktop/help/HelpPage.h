@@ -34,7 +34,7 @@ class HelpPage : public wxHtmlWindow {
     /// Null when what is marked is no link.
     const wxHtmlLinkInfo* MarkedLink() const;
     void FollowMarked();
-    /// Marks cells as a person's selection is, and scrolls there when they cannot be seen.
+    /// Marks cells as the user's selection is, and scrolls there when they cannot be seen.
     void Mark(const CellRange& cells);
     void Unmark();
     bool IsBelowTop(const CellRange& cells) const;

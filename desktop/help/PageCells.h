@@ -23,7 +23,7 @@ struct CellRange {
 /// The links of a page, from its top to its bottom.
 std::vector<CellRange> LinksOn(const wxHtmlCell& page);
 
-/// Words that a person looks for.
+/// Words that the user looks for.
 struct SoughtWords {
     wxString text;
     bool caseSensitive = false;

@@ -10,7 +10,7 @@ namespace zy {
 /// "buttonface" and "buttontext" for the heads of tables.
 wxString WithDesktopColours(const wxString& page);
 
-/// How well one colour can be told from another: 1 for the same, 21 for black and white.
+/// The contrast between two colours: 1 for the same, 21 for black and white.
 double Contrast(const wxColour& one, const wxColour& other);
 
 } // namespace zy

@@ -6,7 +6,7 @@ class wxWindow;
 
 namespace zy {
 
-// What a screen reader is told about a window in place of what the system finds out by itself.
+// What a screen reader gets to know of a window in place of what the system finds out by itself.
 
 void AnnotateName(wxWindow& window, const wxString& name);
 /// One of the system's ROLE_SYSTEM_ numbers.

@@ -28,7 +28,7 @@ class MemoryNativeWindow final : public NativeWindow {
 
     /// Sends a message as the window system does. The window's own procedure notes it and returns kOwnResult.
     std::intptr_t Send(const WindowMessage& message);
-    /// A person drags an edge until the window has that size, as far as its bounds let it.
+    /// The user drags an edge until the window has that size, as far as its bounds let it.
     void DragTo(const PixelPoint& size);
 
     static constexpr std::intptr_t kOwnResult = 77;

@@ -8,7 +8,7 @@
 
 namespace zy {
 
-/// Says what it was told to say.
+/// Answers with what a test has set.
 class MemorySystemInfo final : public SystemInfo {
   public:
     std::string SystemDirectory() override { return systemDirectory_; }

@@ -62,8 +62,8 @@ bool ScriptedDialogs::AskYesNo(std::string_view text, std::string_view title, Es
 
 void ScriptedDialogs::ShowForm(Form& form) {
     const auto expected = Show({.text = kAnyForm, .title = "", .escape = std::nullopt});
-    if (expected && expected->person) {
-        expected->person(form);
+    if (expected && expected->user) {
+        expected->user(form);
     }
 }
 
@@ -73,7 +73,7 @@ void ScriptedDialogs::ExpectMessage(std::string_view text, std::string_view titl
                        .asks = false,
                        .answer = Answer::No,
                        .escape = std::nullopt,
-                       .person = {}});
+                       .user = {}});
 }
 
 void ScriptedDialogs::ExpectYesNo(std::string_view text, std::string_view title, Answer answer,
@@ -83,16 +83,16 @@ void ScriptedDialogs::ExpectYesNo(std::string_view text, std::string_view title,
                        .asks = true,
                        .answer = answer,
                        .escape = escape,
-                       .person = {}});
+                       .user = {}});
 }
 
-void ScriptedDialogs::ExpectForm(std::function<void(Form&)> person) {
+void ScriptedDialogs::ExpectForm(std::function<void(Form&)> user) {
     script_.push_back({.text = kAnyForm,
                        .title = "",
                        .asks = false,
                        .answer = Answer::No,
                        .escape = std::nullopt,
-                       .person = std::move(person)});
+                       .user = std::move(user)});
 }
 
 std::vector<std::string> ScriptedDialogs::Failures() {

@@ -28,9 +28,9 @@ std::ostream& operator<<(std::ostream& out, const ShownBox& box);
 
 /// Message boxes that a test answers by a script: it says beforehand which boxes come, in their order.
 ///
-/// A box that is not the next one of the script, and a box of the script that never comes, are failures, told
-/// by Failures(). A script that goes out of scope with failures nobody has asked for ends the process, so
-/// that no test passes over them.
+/// A box that is not the next one of the script, and a box of the script that never comes, are failures;
+/// Failures() lists them. A script that goes out of scope with failures nobody has asked for ends the
+/// process, so that no test passes over them.
 class ScriptedDialogs final : public Dialogs {
   public:
     ScriptedDialogs() = default;
@@ -49,9 +49,9 @@ class ScriptedDialogs final : public Dialogs {
     void ExpectYesNo(std::string_view text, std::string_view title, Answer answer,
                      std::optional<Escape> escape = std::nullopt);
 
-    /// A dialog, in which `person` does what is to be done; then, unless the dialog has hidden itself, it is
+    /// A dialog, in which `user` does what is to be done; then, unless the dialog has hidden itself, it is
     /// closed by its close box. The boxes that come meanwhile are expected behind it.
-    void ExpectForm(std::function<void(Form&)> person);
+    void ExpectForm(std::function<void(Form&)> user);
 
     /// Every box shown so far, expected or not, in their order.
     const std::vector<ShownBox>& Shown() const { return shown_; }
@@ -66,7 +66,7 @@ class ScriptedDialogs final : public Dialogs {
         bool asks;
         Answer answer;
         std::optional<Escape> escape;
-        std::function<void(Form&)> person; ///< of a dialog
+        std::function<void(Form&)> user; ///< of a dialog
 
         bool Matches(const ShownBox& box) const;
         std::string Describe() const;

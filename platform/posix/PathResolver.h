@@ -48,7 +48,7 @@ class PathResolver {
         std::string folder;
         std::string_view rest;
     };
-    /// The names in a folder that are equal but for case, or why they cannot be told.
+    /// The names in a folder that are equal but for case, or why they cannot be listed.
     struct Names {
         std::vector<std::string> found;
         int error = 0;

@@ -8,7 +8,7 @@
 
 namespace zy {
 
-/// The system as told by the environment, the user's locale and the program's arguments.
+/// What the environment, the user's locale and the program's arguments say of the system.
 class PosixSystemInfo final : public SystemInfo {
   public:
     /// Takes a copy of the arguments of main().

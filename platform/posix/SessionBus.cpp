@@ -41,7 +41,7 @@ class Ending {
         static_cast<Ending*>(ending)->result_.reset(G_ASYNC_RESULT(g_object_ref(result)));
     }
 
-    /// Waits for the end. What takes too long is told to give up, and ends at once then.
+    /// Waits for the end. An operation that takes too long is cancelled, and ends at once then.
     GAsyncResult* Await(const OwnContext& context, GCancellable* operation) {
         if (!WaitOn(context.Get(), kBusPatience, [this] { return result_ != nullptr; })) {
             g_cancellable_cancel(operation);
@@ -56,7 +56,7 @@ class Ending {
     GlibPointer<GAsyncResult> result_;
 };
 
-/// A connection that has not begun to connect. It tells of its end in the context that it is made in.
+/// A connection that has not begun to connect. It reports its end in the context that it is made in.
 GlibPointer<GDBusConnection> MakeConnection(const std::string& address) {
     constexpr auto kFlags = static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
                                                               G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION);

@@ -16,8 +16,8 @@ constexpr std::chrono::milliseconds kBusPatience{2000};
 std::string SessionBusAddress();
 
 /// A connection of our own to the session bus; nothing when there is none, or when it does not answer in
-/// time. Never starts a bus. While it is being made, none of the program's events happens; of its own end it
-/// tells among them.
+/// time. Never starts a bus. While it is being made, none of the program's events happens; its own end
+/// is one of them.
 GlibPointer<GDBusConnection> ConnectToSessionBus();
 
 /// Calls a method of the bus itself. Nothing when it fails or does not answer in time.

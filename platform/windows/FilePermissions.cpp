@@ -53,9 +53,9 @@ SystemHandle OpenForRights(const std::string& path, DWORD rights) {
 
 bool DiskKeepsPermissions(const SystemHandle& file) {
     DWORD flags = 0;
-    const auto told =
+    const auto answered =
         ::GetVolumeInformationByHandleW(file.Get(), nullptr, 0, nullptr, nullptr, &flags, nullptr, 0);
-    return told == FALSE || (flags & FILE_PERSISTENT_ACLS) != 0;
+    return answered == FALSE || (flags & FILE_PERSISTENT_ACLS) != 0;
 }
 
 /// The part of a file's security descriptor that is asked for; empty on failure.

@@ -84,7 +84,7 @@ FileError MayOverwriteRooted(const std::string& path) {
 
 FileError DeleteRooted(const std::string& path) {
     if (::DeleteFileA(path.c_str()) != FALSE) {
-        // A file goes as it is closed, and Wine does not tell when that fails.
+        // A file goes as it is closed, and Wine does not report when that fails.
         return IsFile(path) ? FileError::AccessDenied : FileError::None;
     }
     const auto error = ToFileError(::GetLastError(), path);

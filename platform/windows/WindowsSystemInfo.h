@@ -7,7 +7,7 @@
 
 namespace zy {
 
-/// The system as Windows tells of it.
+/// What Windows says of itself and of this process.
 class WindowsSystemInfo final : public SystemInfo {
   public:
     /// How this process was started.

@@ -7,7 +7,8 @@
 namespace zy {
 namespace {
 
-// Fixed: what the registry holds as the least size does not count, which is meant.
+// Fixed: "MinWidth" and "MinHeight" of the registry are read and kept, but nothing writes them, and they do
+// not bound the window.
 constexpr int kLeastWidth = 8800;
 constexpr int kLeastHeight = 8400;
 

@@ -15,7 +15,7 @@ std::string VersionText(const Application& application) {
            " Build " + std::to_string(application.revision);
 }
 
-/// The contact lines. The name keeps the blank behind it, which is meant.
+/// The contact lines, as the box has always shown them: with a blank behind the name.
 std::string CompanyInfo() {
     std::string text = std::string(kMakerName) + " ";
     for (const auto line : kMakerAddress) {
@@ -56,7 +56,7 @@ void frmAbout::Form_Load() {
 }
 
 void frmAbout::Open(const std::string& link) {
-    constexpr int kShowHidden = 0; // unlike the menu's web pages, which is meant
+    constexpr int kShowHidden = 0; // kept; the menu's web pages open with the normal command, 1
     links_.Open({.owner = LinkOwner::None, .verb = "OPEN", .target = link, .showCommand = kShowHidden});
 }
 
@@ -67,7 +67,7 @@ void frmAbout::lblWebsite_Click() {
 
 void frmAbout::lblEmail_Click() {
     Start("lblEmail_Click");
-    // The title goes in as it is, without escapes, which is meant.
+    // Kept: mail programs get the title as it is, without escapes.
     Open("mailto:" + lblEmail.Caption() + "?Subject=" + application_.title + "&Body=");
 }
 

@@ -25,7 +25,7 @@ void ComputePaths(Program& program) {
     state.gsSystemDir = systemDir;
 }
 
-/// In the turn to save, so that what somebody else is just saving is read whole.
+/// In the turn to save, so that what another program is just saving is read whole.
 void LoadRules(Program& program) {
     const SaveTurn turn(program.world.files, program.state.gsRulesFile);
     program.rules.Build_Rules_Array();

@@ -76,8 +76,8 @@ void mRegistryEdit::RestoreWindowPlacement(frmGlobalSettings& window) {
 
 void mRegistryEdit::SaveWindowPlacement(frmGlobalSettings& window) {
     const auto place = native_.NormalRectangle();
-    // The vertical values too, which is meant: where the two factors differ, height and top drift from run to
-    // run.
+    // Kept: the stored vertical values are made by the horizontal factor too. Where the two factors differ,
+    // height and top drift from run to run, for RestoreWindowPlacement divides them by the vertical one.
     const double factor = native_.TwipsPerPixelX();
     const auto top = ToTwips(place.top, factor);
     const auto left = ToTwips(place.left, factor);

@@ -9,8 +9,8 @@ namespace zy {
 
 class frmGlobalSettings;
 
-/// Keeps in the registry where the main window was left. What fails there is told to nobody: the window then
-/// opens at its designed place, or its place is not stored.
+/// Keeps in the registry where the main window was left. Failures are not reported: the window then opens at
+/// its designed place, or its place is not stored.
 class mRegistryEdit {
   public:
     /// The key of the place, below the registry's part for the whole machine.

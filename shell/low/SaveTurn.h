@@ -12,13 +12,13 @@ namespace zy {
 /// one's save can cut in between its steps.
 class SaveTurn {
   public:
-    /// Waits up to two seconds for somebody else's save in the file's folder.
+    /// Waits up to two seconds for another program's save in the file's folder.
     SaveTurn(FileSystem& files, std::string_view path);
 
-    /// False when somebody else is saving there still: then nothing may be written.
+    /// False when another program is saving there still: then nothing may be written.
     bool IsMine() const { return isMine_; }
 
-    /// What a person is told who has to wait.
+    /// Shown to the user whose save has to wait.
     static constexpr std::string_view kRefusal =
         "Not saved: somebody else is saving in this folder at this moment; save again";
 
@@ -27,10 +27,10 @@ class SaveTurn {
     bool isMine_;
 };
 
-/// Says that nobody can tell which file of several a path means, and why; empty when it is certain.
+/// Says that it is not certain which of several files a path means, and why; empty when it is certain.
 std::string Uncertainty(FileSystem& files, std::string_view path);
-/// The same as run-time error 75, where a file of somebody else's could be read or replaced. The error says
-/// what a person can do about it.
+/// The same as run-time error 75, where another file than the product's own could be read or replaced. The
+/// error says what the user can do about it.
 void RequireCertain(FileSystem& files, std::string_view path);
 
 /// Says for the status bar that a save of this file would fail for this reason, and what to do about it

@@ -10,14 +10,14 @@
 
 namespace zy {
 
-/// Told when a person types or pastes a character that the settings files cannot hold, behind the name of its
-/// field or cell and the character's number.
+/// Shown when the user types or pastes a character that the settings files cannot hold, behind the name of
+/// its field or cell and the character's number.
 inline constexpr std::string_view kCharacterRefused = " was not taken: the settings files cannot hold it";
 
-/// Told when a person types or pastes more than a field or cell takes.
+/// Shown when the user types or pastes more than a field or cell takes.
 inline constexpr std::string_view kFieldFull = "Not taken: the field would get longer than it can be";
 
-/// Told when a person adds to a list that is as long as it can be.
+/// Shown when the user adds to a list that is as long as it can be.
 inline constexpr std::string_view kListFull = "Not added: the list is as long as it can be";
 
 /// Shown once a save of any of the lists has done all its steps.

@@ -9,7 +9,7 @@
 
 namespace zy {
 
-/// Sends files to the recycle bin. True when the shell reports success; errors are not told any other way.
+/// Sends files to the recycle bin. True when the shell reports success; errors are reported in no other way.
 bool RecycleFiles(RecycleBin& bin, std::span<const std::string> paths);
 
 /// Sends one file to the recycle bin. True when the shell reports success.

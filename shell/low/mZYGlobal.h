@@ -60,8 +60,8 @@ std::string ReadFileText(FileHandle& file, std::uint32_t count);
 /// Whether a file is there, can be read, and holds this text and nothing else.
 bool HoldsText(FileSystem& files, std::string_view path, std::string_view text);
 
-/// Takes one pair of enclosing double quotes off, then trims blanks. A quote behind a blank encloses nothing,
-/// which is meant: the quotes are looked for first.
+/// Takes one pair of enclosing double quotes off, then trims blanks. The quotes are looked for first, so that
+/// one behind a blank encloses nothing: files that hold such fields are to be read as they always were.
 inline std::string_view Unquote(std::string_view field) {
     if (field.empty() || (static_cast<unsigned char>(field.front()) > '"' && field.back() != ' ')) {
         return field; // as most are: the blank and the quote are among the code page's first characters
