@@ -22,12 +22,15 @@ class CodePage {
 
     /// The text in capitals, as this code page defines them; a letter whose capital the page lacks stays.
     std::string UCase(std::string_view text) const;
+    /// The same for one character.
     char Upper(char character) const;
 
+    /// The Unicode character of a byte; every byte has one.
     char32_t ToUnicode(char character) const;
     /// The byte of a Unicode character, or nothing when the code page lacks it.
     std::optional<char> FromUnicode(char32_t character) const;
 
+    /// The text in UTF-8, NULs and control characters with it.
     std::string ToUtf8(std::string_view text) const;
     /// Nothing when the text is not UTF-8 or holds a character that the code page lacks.
     std::optional<std::string> FromUtf8(std::string_view utf8) const;

@@ -24,6 +24,8 @@ class FileHandle {
     virtual FileError Write(std::string_view text) = 0;
     /// Waits until everything written stands on the disk.
     virtual FileError Flush() = 0;
+    /// Closes the file, also when that fails. From then on nothing can be read, and to write,
+    /// flush or close it is an error.
     virtual FileError Close() = 0;
 };
 
@@ -56,13 +58,13 @@ class FileSystem {
   public:
     virtual ~FileSystem() = default;
 
-    /// The path as a person writes it on this system, for a text that names a file: where it leads to, be
+    /// The path as the user writes it on this system, for a text that names a file: where it leads to, be
     /// there a file or not. What can be no path comes back as it is.
     virtual std::string DisplayPath(std::string_view path) = 0;
     /// Whether it is certain which place a path means, be there a file or not. Ambiguous when a name on the
     /// way could be one of several that differ by case alone, though one of them may match exactly;
-    /// AccessDenied when a folder on the way hides its names, so that nobody can tell. The folders that the
-    /// program was started with are certain as they are.
+    /// AccessDenied when a folder on the way hides its names, so that nothing is known of the others. The
+    /// folders that the program was started with are certain as they are.
     virtual FileError Locate(std::string_view path) = 0;
     /// Holds the folder that the file of this path stands in, against other programs that ask for the same;
     /// waits up to two seconds for one that holds it already, this one included, and then gives InUse. It
@@ -89,6 +91,7 @@ class FileSystem {
     /// Creates a new file for writing that its owner alone may read and write, whatever is usual for new
     /// files. One of that name makes it fail, and stays as it is.
     virtual OpenedFile CreatePrivate(std::string_view path) = 0;
+    /// Deletes a file, be it hidden or not. A folder is not deleted (IsFolder).
     virtual FileError Delete(std::string_view path) = 0;
     /// Gives a file another name in its folder. Never replaces a file: one of the new name makes it fail.
     virtual FileError Rename(std::string_view from, std::string_view to) = 0;

@@ -30,7 +30,7 @@ struct MinMaxInfo {
     PixelPoint reserved;
     PixelPoint maxSize;
     PixelPoint maxPosition;
-    PixelPoint minTrackSize; ///< the least size that a person can drag the window to
+    PixelPoint minTrackSize; ///< the least size that the user can drag the window to
     PixelPoint maxTrackSize;
 };
 static_assert(sizeof(MinMaxInfo) == 40);
@@ -56,6 +56,7 @@ class NativeWindow {
   public:
     virtual ~NativeWindow() = default;
 
+    /// What messages name the window by. 0 while a window system has not made it yet.
     virtual WindowHandle Handle() = 0;
     /// Puts a procedure in place of the one that gets the window's messages, and returns that one. A window
     /// system without messages asks the procedure for the bounds of the window's size all the same.
@@ -63,13 +64,17 @@ class NativeWindow {
 
     /// Where the window stands while it is neither maximized nor minimized, with its borders.
     virtual PixelRect NormalRectangle() = 0;
+    /// Moves and sizes the window, borders included, as it is while neither maximized nor minimized. The
+    /// flags are SetWindowPos's; a window system that has no such call ignores them.
     virtual void SetPosition(const PixelRect& place, std::uint32_t flags) = 0;
-    /// Nothing reaches the screen before the program has opened an editor, whatever the command.
+    /// Takes one of ShowWindow's commands. Nothing reaches the screen before the program has opened an
+    /// editor, whatever the command.
     virtual void Show(int command) = 0;
 
-    /// 15 where an inch has 96 pixels.
+    /// The twips of a pixel on the screen of the window: 15 where an inch has 96 pixels.
     virtual double TwipsPerPixelX() = 0;
     virtual double TwipsPerPixelY() = 0;
+    /// The size of all screens together.
     virtual PixelPoint ScreenSize() = 0;
 };
 
