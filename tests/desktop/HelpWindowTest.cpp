@@ -58,12 +58,10 @@ class HelpWindow : public RulesWindow {
     template <typename Kind>
     static Kind* Find(wxWindow& window) {
         for (auto* child : window.GetChildren()) {
-            auto* found = dynamic_cast<Kind*>(child);
-            if (found == nullptr) {
-                found = Find<Kind>(*child);
-            }
-            if (found != nullptr) {
-                return found;
+            auto* const inside = Find<Kind>(*child);
+            auto* const found = dynamic_cast<Kind*>(child);
+            if (found != nullptr || inside != nullptr) {
+                return found != nullptr ? found : inside;
             }
         }
         return nullptr;
