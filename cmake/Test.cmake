@@ -11,23 +11,32 @@ if(CMAKE_CROSSCOMPILING)
   set(CMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE PRE_TEST)
 endif()
 
-# zy_test(NAME target [CASES_APART] [USES rooms...]  SOURCES files...  [PROPERTIES test properties...]
-#         [ENVIRONMENT variable=value...])
+# All test programs that need no display: what the program does, without its windows.
+add_custom_target(model_tests)
+
+# zy_test(NAME target [CASES_APART] [NEEDS_DISPLAY] [USES rooms...]  SOURCES files...  [ENVIRONMENT variable=value...])
 #
 # A test program whose every case is a test of its own for CTest, so that a name in the summary is a sentence about
 # behaviour and no case can lean on another. Where programs run in an emulator that takes its time to start, the
-# program is one test as a whole, unless CASES_APART tells that a process can run no more than one case.
+# program is one test as a whole, unless CASES_APART says that a process can run no more than one case. The tests of a
+# program that NEEDS_DISPLAY share its keyboard and mouse and so run one at a time; all others have the label "model".
 function(zy_test)
-  cmake_parse_arguments(TEST "CASES_APART" "NAME" "USES;SOURCES;PROPERTIES;ENVIRONMENT" ${ARGN})
+  cmake_parse_arguments(TEST "CASES_APART;NEEDS_DISPLAY" "NAME" "USES;SOURCES;ENVIRONMENT" ${ARGN})
   add_executable(${TEST_NAME} ${TEST_SOURCES})
   target_link_libraries(${TEST_NAME} PRIVATE ${TEST_USES} zy_warnings GTest::gmock GTest::gtest_main)
   # Compiling the tests takes much longer than running them: what they test is optimised, they are not.
   target_compile_options(${TEST_NAME} PRIVATE -O0 -g1)
+  if(TEST_NEEDS_DISPLAY)
+    set(properties RESOURCE_LOCK display)
+  else()
+    set(properties LABELS model)
+    add_dependencies(model_tests ${TEST_NAME})
+  endif()
   if(CMAKE_CROSSCOMPILING AND NOT TEST_CASES_APART)
     add_test(NAME ${TEST_NAME} COMMAND ${TEST_NAME})
-    set_tests_properties(${TEST_NAME} PROPERTIES TIMEOUT 600 ${TEST_PROPERTIES} ENVIRONMENT "${TEST_ENVIRONMENT}")
+    set_tests_properties(${TEST_NAME} PROPERTIES TIMEOUT 600 ${properties} ENVIRONMENT "${TEST_ENVIRONMENT}")
   else()
-    gtest_discover_tests(${TEST_NAME} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 ${TEST_PROPERTIES})
+    gtest_discover_tests(${TEST_NAME} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 ${properties})
     zy_set_environment(${TEST_NAME} "${TEST_ENVIRONMENT}")
   endif()
 endfunction()
