@@ -9,6 +9,7 @@
 #include <string>
 
 #include "platform/posix/Renaming.h"
+#include "support/AnotherDisk.h"
 #include "support/FileSizeLimit.h"
 #include "support/OrdinaryUser.h"
 #include "support/TemporaryFolder.h"
@@ -43,8 +44,8 @@ void PrintTo(const Journey& journey, std::ostream* out) {
     *out << journey.name;
 }
 
-/// Shared memory is a disk of its own on every Linux system; a disk that says it is another one makes sure
-/// of the copy even where the temporary folders lie there too.
+/// A disk that says it is another one makes sure of the copy even where the temporary folders lie on what is
+/// kAnotherDisk elsewhere.
 class Moving : public ::testing::TestWithParam<Journey> {
   protected:
     Moving() {
@@ -65,7 +66,7 @@ class Moving : public ::testing::TestWithParam<Journey> {
 
 INSTANTIATE_TEST_SUITE_P(Journeys, Moving,
                          ::testing::Values(Journey{"OnOneDisk", RenameWithoutReplacing, "/tmp"},
-                                           Journey{"ToAnotherDisk", RenameWithoutReplacing, "/dev/shm"},
+                                           Journey{"ToAnotherDisk", RenameWithoutReplacing, kAnotherDisk},
                                            Journey{"ToWhatSaysItIsAnotherDisk", RefusesAsAnotherDisk,
                                                    "/tmp"}),
                          [](const auto& test) { return test.param.name; });
@@ -139,7 +140,7 @@ TEST_P(Moving, LeavesAFileThatMayNotGoWhereItShould) {
 using MovingByCopy = Moving;
 
 INSTANTIATE_TEST_SUITE_P(Journeys, MovingByCopy,
-                         ::testing::Values(Journey{"ToAnotherDisk", RenameWithoutReplacing, "/dev/shm"},
+                         ::testing::Values(Journey{"ToAnotherDisk", RenameWithoutReplacing, kAnotherDisk},
                                            Journey{"ToWhatSaysItIsAnotherDisk", RefusesAsAnotherDisk,
                                                    "/tmp"}),
                          [](const auto& test) { return test.param.name; });
@@ -174,7 +175,7 @@ TEST_P(MovingByCopy, LeavesWhatIsNoFile) {
 
 TEST(MovingTest, KnowsSharedMemoryForAnotherDiskUnlessTemporaryFilesLieThere) {
     const TemporaryFolder source;
-    const TemporaryFolder target("/dev/shm");
+    const TemporaryFolder target(kAnotherDisk);
     source.Put("old", "");
     const bool isAnother = DiskOf(source.Path()) != DiskOf(target.Path());
     EXPECT_EQ(RenameWithoutReplacing(source.Path("old"), target.Path("new")), isAnother ? EXDEV : 0);

@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "support/AnotherDisk.h"
 #include "support/OrdinaryUser.h"
 #include "support/TemporaryFolder.h"
 
@@ -265,7 +266,7 @@ FileError ReplaceBySteps(FileSystem& files, const std::string& path, const std::
 }
 
 TEST_F(PosixFileSystemTest, ReplacesTheFileThatALinkLeadsToInTheStepsOfASave) {
-    for (const char* disk : {"/tmp", "/dev/shm"}) {
+    for (const char* disk : {"/tmp", kAnotherDisk}) {
         const TemporaryFolder shared(disk);
         shared.Put("shared.sys", "old");
         ::chmod(shared.Path("shared.sys").c_str(), 0664);

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "RecyclePlaces.h"
+#include "support/AnotherDisk.h"
 
 namespace zy::test {
 namespace {
@@ -36,7 +37,7 @@ TEST_F(PosixRecycleBinTest, TellsTheDesktopWhereTheFileCameFrom) {
 }
 
 TEST_F(PosixRecycleBinTest, KeepsFilesOfADiskWithoutATrashInAFolderOfItsOwn) {
-    const TemporaryFolder folder("/dev/shm");
+    const TemporaryFolder folder(kAnotherDisk);
     folder.Put("a.dbf", "users");
     EXPECT_EQ(Recycle(folder, "a.dbf"), 0);
     EXPECT_THAT(folder.Names(), IsEmpty());
@@ -56,7 +57,7 @@ TEST_F(PosixRecycleBinTest, RecyclesTheFileThatALinkLeadsToAndLeavesTheLink) {
 
 TEST_F(PosixRecycleBinTest, RecyclesTheFileThatALinkLeadsToOnADiskWithoutATrash) {
     const TemporaryFolder folder(RecyclePlaces::Home());
-    const TemporaryFolder shared("/dev/shm");
+    const TemporaryFolder shared(kAnotherDisk);
     shared.Put("target.dbf", "users");
     fs::create_symlink(shared.Path("target.dbf"), folder.Path("link.dbf"));
     EXPECT_EQ(Recycle(folder, "link.dbf"), 0);
@@ -80,7 +81,7 @@ TEST_F(PosixRecycleBinTest, RecyclesNothingByAPathThatIsNone) {
 }
 
 TEST_F(PosixRecycleBinTest, LeavesAFileThatNoTrashTakes) {
-    const TemporaryFolder folder("/dev/shm");
+    const TemporaryFolder folder(kAnotherDisk);
     folder.Put("a.dbf", "users");
     std::ofstream(RecyclePlaces::Home() / "data") << "a file where the folder should be";
     EXPECT_NE(Recycle(folder, "a.dbf"), 0);

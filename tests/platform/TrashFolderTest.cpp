@@ -6,6 +6,7 @@
 
 #include <string>
 
+#include "support/AnotherDisk.h"
 #include "support/FileSizeLimit.h"
 #include "support/OrdinaryUser.h"
 #include "support/TemporaryFolder.h"
@@ -21,6 +22,8 @@ using namespace std::string_literals;
 
 class TrashFolderTest : public ::testing::Test {
   protected:
+    explicit TrashFolderTest(const fs::path& below = fs::temp_directory_path()) : disk(below) {}
+
     FileError Add(const std::string& name) {
         return TrashFolder(home.Path("data/Trash")).Add(disk.Path(name));
     }
@@ -29,13 +32,10 @@ class TrashFolderTest : public ::testing::Test {
     TemporaryFolder disk;
 };
 
-/// The files lie on another disk than the trash: shared memory is one on every Linux system.
-class TrashFolderAcrossDisks : public ::testing::Test {
+/// The files lie on another disk than the trash.
+class TrashFolderAcrossDisks : public TrashFolderTest {
   protected:
-    FileError Add(const std::string& name) { return TrashFolder(home.Path("Trash")).Add(disk.Path(name)); }
-
-    TemporaryFolder home;
-    TemporaryFolder disk{"/dev/shm"};
+    TrashFolderAcrossDisks() : TrashFolderTest(kAnotherDisk) {}
 };
 
 TEST_F(TrashFolderTest, TakesAFile) {
@@ -89,8 +89,8 @@ TEST_F(TrashFolderAcrossDisks, TakesAFileWithItsBytesAndPermissions) {
     fs::permissions(disk.Path("a.dbf"), fs::perms{0640});
     EXPECT_EQ(Add("a.dbf"), FileError::None);
     EXPECT_THAT(disk.Names(), IsEmpty());
-    EXPECT_THAT(home.Get("Trash/a.dbf"), Optional(bytes));
-    EXPECT_EQ(fs::status(home.Path("Trash/a.dbf")).permissions(), fs::perms{0640});
+    EXPECT_THAT(home.Get("data/Trash/a.dbf"), Optional(bytes));
+    EXPECT_EQ(fs::status(home.Path("data/Trash/a.dbf")).permissions(), fs::perms{0640});
 }
 
 TEST_F(TrashFolderAcrossDisks, NumbersFilesOfTheSameName) {
@@ -98,22 +98,22 @@ TEST_F(TrashFolderAcrossDisks, NumbersFilesOfTheSameName) {
         disk.Put("a.dbf", bytes);
         EXPECT_EQ(Add("a.dbf"), FileError::None);
     }
-    EXPECT_THAT(home.Get("Trash/a.dbf"), Optional("first"s));
-    EXPECT_THAT(home.Get("Trash/a.2.dbf"), Optional("second"s));
+    EXPECT_THAT(home.Get("data/Trash/a.dbf"), Optional("first"s));
+    EXPECT_THAT(home.Get("data/Trash/a.2.dbf"), Optional("second"s));
 }
 
 TEST_F(TrashFolderAcrossDisks, LeavesAFileThatCannotBeRemovedAndNoCopyOfIt) {
     disk.Put("a.dbf", "users");
     fs::permissions(disk.Path(), fs::perms{0555});
-    home.AddFolder("Trash");
+    home.AddFolder("data/Trash");
     fs::permissions(home.Path(), fs::perms{0777});
-    fs::permissions(home.Path("Trash"), fs::perms{0777});
+    fs::permissions(home.Path("data/Trash"), fs::perms{0777});
     {
         const OrdinaryUser user(disk.Path());
         EXPECT_EQ(Add("a.dbf"), FileError::AccessDenied);
     }
     EXPECT_THAT(disk.Get("a.dbf"), Optional("users"s));
-    EXPECT_THAT(home.Names("Trash"), IsEmpty());
+    EXPECT_THAT(home.Names("data/Trash"), IsEmpty());
 }
 
 TEST_F(TrashFolderAcrossDisks, LeavesAFileThatFindsNoRoomAndNoCopyOfIt) {
@@ -123,21 +123,21 @@ TEST_F(TrashFolderAcrossDisks, LeavesAFileThatFindsNoRoomAndNoCopyOfIt) {
         EXPECT_EQ(Add("a.dbf"), FileError::DiskFull);
     }
     EXPECT_THAT(disk.Get("a.dbf"), Optional("users"s));
-    EXPECT_THAT(home.Names("Trash"), IsEmpty());
+    EXPECT_THAT(home.Names("data/Trash"), IsEmpty());
 }
 
 TEST_F(TrashFolderAcrossDisks, LeavesAFileThatCannotBeReadAndNoCopyOfIt) {
     disk.Put("a.dbf", "users");
-    home.AddFolder("Trash");
+    home.AddFolder("data/Trash");
     fs::permissions(home.Path(), fs::perms{0777});
-    fs::permissions(home.Path("Trash"), fs::perms{0777});
+    fs::permissions(home.Path("data/Trash"), fs::perms{0777});
     fs::permissions(disk.Path("a.dbf"), fs::perms{0200});
     {
         const OrdinaryUser user(disk.Path());
         EXPECT_EQ(Add("a.dbf"), FileError::AccessDenied);
     }
     EXPECT_EQ(fs::file_size(disk.Path("a.dbf")), 5U);
-    EXPECT_THAT(home.Names("Trash"), IsEmpty());
+    EXPECT_THAT(home.Names("data/Trash"), IsEmpty());
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 
 #include "Scene.h"
 #include "Screen.h"
+#include "support/AnotherDisk.h"
 #include "support/TableBytes.h"
 
 namespace zy::test {
@@ -88,7 +89,7 @@ TEST_F(OnLinux, TheLoginStandsBeforeTheUsersWhateverFoldersAreBesideTheirs) {
 }
 
 TEST_F(OnLinux, RulesAreSavedWhereALinkLeads) {
-    const TemporaryFolder shared("/dev/shm");
+    const TemporaryFolder shared(kAnotherDisk);
     shared.Put("shared.sys", "[RULE]\r\nCODE=R1\r\nMIN=1\r\nMAX=1\r\nCOND=>\r\nZONE=UCL\r\nDESC1=Old\r\n");
     Link("ZYRules.sys", shared.Path("shared.sys"));
     Open("@RULES", "ZY Setup - Rules");
@@ -117,7 +118,7 @@ TEST_F(OnLinux, UnitsAreSavedWhereALinkLeads) {
 }
 
 TEST_F(OnLinux, UsersAreSavedWhereLinksLead) {
-    const TemporaryFolder shared("/dev/shm");
+    const TemporaryFolder shared(kAnotherDisk);
     shared.Put("users.dbf", TableOf("Ann"));
     Link("ZYSECURE.DBF", shared.Path("users.dbf"));
     Link("ZYSECURE.NDX", shared.Path("users.ndx"));
