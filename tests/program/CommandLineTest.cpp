@@ -27,7 +27,7 @@ TEST_F(CommandLine, SeveralArgumentsAreOneTextThatMatchesNothing) {
 }
 
 TEST_F(CommandLine, AKeywordInLowerCaseOpensItsEditor) {
-    Open("@rules", "ZY Setup - Rules");
+    Open("@rules", kRulesTitle);
 }
 
 } // namespace

@@ -4,17 +4,14 @@
 namespace zy::test {
 namespace {
 
-class HelpMenu : public Scene {
-  protected:
-    void OpenRules() { Open("@RULES", "ZY Setup - Rules"); }
-};
+class HelpMenu : public Scene {};
 
 TEST_F(HelpMenu, F1OpensTheBookBesideTheProgram) {
     OpenRules();
     PressKeys("F1");
     ASSERT_TRUE(WaitForWindow("ZY Setup - Help")) << Program().Output();
     PressKeys("alt+F4");
-    ASSERT_TRUE(WaitForWindow("ZY Setup - Rules")) << Program().Output();
+    ASSERT_TRUE(WaitForWindow(kRulesTitle)) << Program().Output();
     PressKeys("alt+F4");
     EXPECT_EQ(Program().WaitForEnd(), 0);
 }
@@ -24,7 +21,7 @@ TEST_F(HelpMenu, AboutOpensTheBoxOfThatName) {
     PressKeys("alt+h a");
     ASSERT_TRUE(WaitForWindow("About ZY Setup")) << Program().Output();
     PressKeys("Return");
-    ASSERT_TRUE(WaitForWindow("ZY Setup - Rules")) << Program().Output();
+    ASSERT_TRUE(WaitForWindow(kRulesTitle)) << Program().Output();
     Close();
 }
 

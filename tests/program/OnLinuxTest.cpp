@@ -47,7 +47,7 @@ TEST_F(OnLinux, ABlankBehindTheKeywordMakesItUnknown) {
 }
 
 TEST_F(OnLinux, AnUnknownArgumentNeedsNoDisplayAlthoughAPlaceIsStored) {
-    Open("@UNITS", "ZY Setup - Units of Measure");
+    OpenUnits();
     Close();
     EXPECT_NE(outside.Registry(), "");
     EXPECT_EQ(StatusWithoutDisplay({"@OTHER"}), 0);
@@ -68,13 +68,8 @@ TEST_F(OnLinux, AMissingSettingsFolderIsMadeInTheUsersDataFolder) {
 
 TEST_F(OnLinux, AWindowTooFarAwayForItsPlaceToBeStoredIsAnOverflow) {
     outside.environment.set["GDK_DPI_SCALE"] = "0.5"; // 30 twips to the pixel
-    Open("@UNITS", "ZY Setup - Units of Measure");
-    MoveActiveWindow(1150, 100);
-    PressKeys("alt+F4");
-    ASSERT_TRUE(WaitForWindow("ZY Setup")) << Program().Output();
-    PressKeys("Return");
-    EXPECT_EQ(Program().WaitForEnd(), 1);
-    EXPECT_EQ(outside.Registry(), "");
+    OpenUnits();
+    ExpectOverflowAt(1150);
 }
 
 TEST_F(OnLinux, TheLoginStandsBeforeTheUsersWhateverFoldersAreBesideTheirs) {
@@ -92,7 +87,7 @@ TEST_F(OnLinux, RulesAreSavedWhereALinkLeads) {
     const TemporaryFolder shared(kAnotherDisk);
     shared.Put("shared.sys", "[RULE]\r\nCODE=R1\r\nMIN=1\r\nMAX=1\r\nCOND=>\r\nZONE=UCL\r\nDESC1=Old\r\n");
     Link("ZYRules.sys", shared.Path("shared.sys"));
-    Open("@RULES", "ZY Setup - Rules");
+    OpenRules();
     PressKeys("alt+d ctrl+a"); // to the Description
     TypeCharacters("Changed");
     PressKeys("ctrl+s");
@@ -108,7 +103,7 @@ TEST_F(OnLinux, UnitsAreSavedWhereALinkLeads) {
     const TemporaryFolder shared;
     shared.Put("shared.sys", "Kilograms,kg\r\n");
     Link("ZYUNITS.SYS", shared.Path("shared.sys"));
-    Open("@UNITS", "ZY Setup - Units of Measure");
+    OpenUnits();
     PressKeys("ctrl+Home"); // the first unit, from the list where the keyboard starts
     TypeCharacters("g");
     PressKeys("Return ctrl+s");
@@ -122,7 +117,7 @@ TEST_F(OnLinux, UsersAreSavedWhereLinksLead) {
     shared.Put("users.dbf", TableOf("Ann"));
     Link("ZYSECURE.DBF", shared.Path("users.dbf"));
     Link("ZYSECURE.NDX", shared.Path("users.ndx"));
-    Open("@SECURITY", "ZY Setup - Security");
+    OpenUsers();
     PressKeys("ctrl+Home");
     TypeCharacters("Bea");
     PressKeys("Return ctrl+s");
@@ -134,7 +129,7 @@ TEST_F(OnLinux, UsersAreSavedWhereLinksLead) {
 }
 
 TEST_F(OnLinux, WithoutASessionBusNoneIsStarted) {
-    Open("@RULES", "ZY Setup - Rules");
+    OpenRules();
     Close();
     const auto runtimeFolder = outside.environment.set["XDG_RUNTIME_DIR"];
     EXPECT_FALSE(std::filesystem::exists(runtimeFolder + "/bus"));

@@ -8,13 +8,8 @@ namespace {
 class OnWindows : public Scene {};
 
 TEST_F(OnWindows, AWindowTooFarAwayForItsPlaceToBeStoredIsAnOverflow) {
-    Open("@UNITS", "ZY Setup - Units of Measure");
-    MoveActiveWindow(2300, 100);
-    PressKeys("alt+F4");
-    ASSERT_TRUE(WaitForWindow("ZY Setup")) << Program().Output();
-    PressKeys("Return");
-    EXPECT_EQ(Program().WaitForEnd(), 1);
-    EXPECT_EQ(outside.Registry(), "");
+    OpenUnits();
+    ExpectOverflowAt(2300);
 }
 
 } // namespace

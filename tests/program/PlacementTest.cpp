@@ -11,10 +11,7 @@ using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
 /// Where the program's window is from one run to the next.
-class PlacementRuns : public Scene {
-  protected:
-    void OpenUnits() { Open("@UNITS", "ZY Setup - Units of Measure"); }
-};
+class PlacementRuns : public Scene {};
 
 TEST_F(PlacementRuns, StayTheSameWhenNobodyMovesTheWindow) {
     OpenUnits();

@@ -36,10 +36,7 @@ constexpr auto kFile = "ZYRules.sys";
 
 class RulesProgram : public Scene {
   protected:
-    void OpenRules() {
-        StartViewer();
-        Open("@RULES", "ZY Setup - Rules");
-    }
+    void SetUp() override { StartViewer(); }
 };
 
 TEST_F(RulesProgram, AddsEditsSavesAndClosesByKeyboardAlone) {

@@ -109,6 +109,15 @@ void Scene::Close() {
     EXPECT_EQ(Program().WaitForEnd(), 0);
 }
 
+void Scene::ExpectOverflowAt(int x) {
+    MoveActiveWindow(x, 100);
+    PressKeys("alt+F4");
+    ASSERT_TRUE(WaitForWindow("ZY Setup")) << Program().Output();
+    PressKeys("Return");
+    EXPECT_EQ(Program().WaitForEnd(), 1);
+    EXPECT_EQ(outside.Registry(), "");
+}
+
 void Scene::PressFor(const std::string& keys, const std::string& trace) const {
     PressKeys(keys);
     EXPECT_TRUE(WaitForTrace(trace)) << keys << " did not lead to " << trace;

@@ -12,10 +12,14 @@
 
 namespace zy::test {
 
-/// The program between a folder of settings, a registry and trace viewers of its own, and a person at the
+/// The program between a folder of settings, a registry and trace viewers of its own, and a user at the
 /// keyboard.
 class Scene : public ::testing::Test {
   protected:
+    static constexpr auto kRulesTitle = "ZY Setup - Rules";
+    static constexpr auto kUnitsTitle = "ZY Setup - Units of Measure";
+    static constexpr auto kUsersTitle = "ZY Setup - Security";
+
     Scene() = default;
     ~Scene() override;
 
@@ -35,7 +39,10 @@ class Scene : public ::testing::Test {
 
     // The program.
     void Start(const std::vector<std::string>& arguments);
-    /// Starts it and waits for its window.
+    /// Starts it with one of the editors and waits for its window.
+    void OpenRules() { Open("@RULES", kRulesTitle); }
+    void OpenUnits() { Open("@UNITS", kUnitsTitle); }
+    void OpenUsers() { Open("@SECURITY", kUsersTitle); }
     void Open(const std::string& argument, const std::string& title);
     Child& Program() { return *program_; }
     /// Waits until a window of that title has the keyboard. False when the program ended or none came.
@@ -45,6 +52,10 @@ class Scene : public ::testing::Test {
     /// Presses keys and waits until the viewer has got this record. A button that is pressed by the keyboard
     /// takes its time, and swallows what is typed meanwhile.
     void PressFor(const std::string& keys, const std::string& trace) const;
+
+    /// Moves the window to where its place is too many twips away to be stored, in pixels, and closes it: the
+    /// program ends with an error, and nothing is stored.
+    void ExpectOverflowAt(int x);
 
     /// What a program has printed by the end of its part in the test. Most have nothing to say there.
     ::testing::Matcher<std::string> printed = ::testing::IsEmpty();

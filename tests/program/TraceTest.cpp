@@ -15,8 +15,6 @@ const std::string kUnloaded = "frmGlobalSettings\tForm_Unload\tUnloaded";
 
 class Traces : public Scene {
   protected:
-    void OpenRules() { Open("@RULES", "ZY Setup - Rules"); }
-
     void CloseWithoutSaving() {
         PressKeys("alt+F4");
         ASSERT_TRUE(WaitForWindow("Save Changes?")) << Program().Output();

@@ -9,10 +9,7 @@ constexpr auto kFile = "ZYUNITS.SYS";
 
 class UnitsProgram : public Scene {
   protected:
-    void OpenUnits() {
-        StartViewer();
-        Open("@UNITS", "ZY Setup - Units of Measure");
-    }
+    void SetUp() override { StartViewer(); }
 };
 
 TEST_F(UnitsProgram, AddsAUnitSavesAndClosesByKeyboardAlone) {
@@ -34,7 +31,7 @@ TEST_F(UnitsProgram, AsksBeforeItDeletes) {
     PressKeys("ctrl+Home alt+d"); // the first unit, from the list where the keyboard starts
     ASSERT_TRUE(WaitForWindow("Confirm Delete")) << Program().Output();
     PressKeys("Return");
-    ASSERT_TRUE(WaitForWindow("ZY Setup - Units of Measure")) << Program().Output();
+    ASSERT_TRUE(WaitForWindow(kUnitsTitle)) << Program().Output();
     PressKeys("ctrl+s");
     EXPECT_TRUE(WaitForBytes(kFile, "Metres,m\r\n")) << Get(kFile);
     Close();
@@ -48,7 +45,7 @@ TEST_F(UnitsProgram, TellsOfAUnitWithoutItsNameAndWritesNothing) {
     PressKeys("Escape ctrl+s");
     ASSERT_TRUE(WaitForWindow("Invalid Unit")) << Program().Output();
     PressKeys("Return");
-    ASSERT_TRUE(WaitForWindow("ZY Setup - Units of Measure")) << Program().Output();
+    ASSERT_TRUE(WaitForWindow(kUnitsTitle)) << Program().Output();
     EXPECT_EQ(Get(kFile), before);
 }
 

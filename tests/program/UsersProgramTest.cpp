@@ -9,7 +9,6 @@ namespace {
 using ::testing::ElementsAre;
 
 constexpr auto kTable = "ZYSECURE.DBF";
-constexpr auto kTitle = "ZY Setup - Security";
 constexpr std::size_t kHeader = 193;
 constexpr auto kLogin = "ZY Setup Security Login";
 constexpr auto kSaveChanges = "Save Changes?";
@@ -26,10 +25,7 @@ std::string Record(const std::string& name, const std::string& password, const s
 
 class UsersProgram : public Scene {
   protected:
-    void OpenUsers() {
-        StartViewer();
-        Open("@SECURITY", kTitle);
-    }
+    void SetUp() override { StartViewer(); }
     /// Turns the user that a new table begins with into this one.
     static void Fill(const std::string& name, const std::string& password,
                      const std::string& identification) {
@@ -76,7 +72,7 @@ TEST_F(UsersProgram, TheAdministratorLogsInAndIsRefusedWithAWrongPassword) {
     ASSERT_TRUE(WaitForWindow(kLogin)) << Program().Output();
     TypeCharacters("secret");
     PressKeys("Return");
-    ASSERT_TRUE(WaitForWindow(kTitle)) << Program().Output();
+    ASSERT_TRUE(WaitForWindow(kUsersTitle)) << Program().Output();
     Close();
 }
 
