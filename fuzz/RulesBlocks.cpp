@@ -2,8 +2,8 @@
 #include <deque>
 #include <string>
 
-#include "BytesFile.h"
 #include "Targets.h"
+#include "platform/memory/BytesFile.h"
 #include "rules/RulesReader.h"
 
 namespace zy::fuzz {
@@ -16,7 +16,7 @@ struct Reading {
 
 Reading Read(std::string_view text, std::size_t piece) {
     Reading reading;
-    BytesFile file(text, piece);
+    BytesFile file(text, {.piece = piece});
     reading.report = ReadRules(file, reading.rules);
     Require(reading.report.complete, "every byte is read");
     return reading;

@@ -2,9 +2,9 @@
 #include <deque>
 #include <string>
 
-#include "BytesFile.h"
 #include "Targets.h"
 #include "basics/Text.h"
+#include "platform/memory/BytesFile.h"
 #include "rules/RuleList.h"
 #include "rules/RulesFileText.h"
 #include "rules/RulesReader.h"

@@ -1,6 +1,6 @@
 #include "ReaderTest.h"
 
-#include <algorithm>
+#include "platform/memory/BytesFile.h"
 
 namespace zy::test {
 namespace {
@@ -76,31 +76,11 @@ TEST_F(RulesReader, DoesNotCountBlankLinesAsSkipped) {
     EXPECT_EQ(skipped, 0U);
 }
 
-/// A file that gives a few bytes at a time, as a slow device may.
-class SlowFile final : public FileHandle {
-  public:
-    SlowFile(std::string_view bytes, std::size_t atATime) : bytes_(bytes), atATime_(atATime) {}
-
-    std::uint64_t Size() const override { return bytes_.size(); }
-    std::size_t Read(std::span<char> buffer) override {
-        const auto count = bytes_.copy(buffer.data(), std::min(atATime_, buffer.size()), position_);
-        position_ += count;
-        return count;
-    }
-    FileError Write(std::string_view /*text*/) override { return FileError::Other; }
-    FileError Flush() override { return FileError::Other; }
-    FileError Close() override { return FileError::None; }
-
-  private:
-    std::string bytes_;
-    std::size_t atATime_;
-    std::size_t position_ = 0;
-};
-
 TEST_F(RulesReader, TakesTheSameFromAFileThatComesInSmallPieces) {
     for (std::size_t atATime = 1; atATime < 60; ++atATime) {
         SCOPED_TRACE(atATime);
-        SlowFile file("\xEF\xBB\xBF[RULE]\r\n   CODE         = A\r\n\r\nMIN= 1\n[RULE]\r\nCODE= B", atATime);
+        BytesFile file("\xEF\xBB\xBF[RULE]\r\n   CODE         = A\r\n\r\nMIN= 1\n[RULE]\r\nCODE= B",
+                       {.piece = atATime});
         EXPECT_THAT(TakenFrom(file), ElementsAre("A|1||||||", "B|||||||"));
         EXPECT_EQ(skipped, 0U);
         EXPECT_TRUE(complete);
