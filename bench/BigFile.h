@@ -7,7 +7,7 @@ namespace zy::bench {
 /// A file that the program writes, made up with as many records as are wished. The text of fewer records is
 /// the beginning of the text of more.
 struct BigFile {
-    const char* records; ///< what a person calls them
+    const char* records; ///< what users call them
     const char* name;
     std::string (*text)(int count);
 };

@@ -43,7 +43,7 @@ struct Editor {
     std::vector<Stroke> toText; ///< lead from the list to where text is typed
 };
 
-/// An editor in its window, and the person in front of it.
+/// An editor in its window, and the user in front of it.
 class EditorWindow {
   public:
     explicit EditorWindow(const Editor& editor) : editor_(editor) {

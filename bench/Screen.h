@@ -10,7 +10,7 @@ namespace zy::bench {
 
 using Clock = std::chrono::steady_clock;
 
-/// The X display as a person has it: sees what is painted, presses keys and clicks.
+/// The X display as the user has it: sees what is painted, presses keys and clicks.
 class Screen {
   public:
     Screen();

@@ -76,7 +76,7 @@ void RequireLines(INIlines& lines, const std::vector<Line>& expected) {
     }
 }
 
-/// A header comes back longer: saving writes it as a key, which is meant.
+/// A header comes back longer: saving writes every line that has a key as one.
 void RequireSavedLines(INIlines& lines, const std::vector<Line>& expected) {
     Require(lines.Count() == static_cast<std::int32_t>(expected.size()), "a save keeps every line");
     std::int32_t i = 0;

@@ -9,7 +9,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::StartsWith;
 
-/// The About box as a person sees it.
+/// The About box as the user sees it.
 class AboutWindow : public RulesWindow {
   protected:
     void OpenAbout() {

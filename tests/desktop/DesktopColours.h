@@ -4,7 +4,7 @@
 
 namespace zy::test {
 
-/// The colours of a desktop that a person changes. Made before the toolkit starts; the colours of before come
+/// The colours of a desktop that the user changes. Made before the toolkit starts; the colours of before come
 /// back when it goes. Each system has one file of this.
 class DesktopColours {
   public:

@@ -22,7 +22,7 @@ class Hands {
     void Type(const std::string& text);
     void Click(const wxPoint& place);
     void RightClick(const wxPoint& place);
-    /// Turns the mouse wheel towards the person.
+    /// Turns the mouse wheel towards the user.
     void TurnWheelOver(const wxPoint& place);
     /// Lets the mouse come to rest there.
     void PointAt(const wxPoint& place);

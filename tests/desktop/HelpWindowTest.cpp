@@ -34,7 +34,7 @@ using ::testing::Not;
 constexpr auto kHelpFile = R"(C:\PRODUCT\zysetup.hlp)";
 constexpr auto kFirstPage = "ZY Setup Help";
 
-/// Help as a person reads it.
+/// Help as the user reads it.
 class HelpWindow : public RulesWindow {
   protected:
     HelpWindow() { PutHelp(Book()); }
@@ -93,7 +93,7 @@ class HelpWindow : public RulesWindow {
     static std::vector<CellRange> Links() { return LinksOn(*Page().GetInternalRepresentation()); }
     static bool HasFocus(const wxWindow& part) { return wxWindow::FindFocus() == &part; }
 
-    // What the person does.
+    // What the user does.
     void OpenHelp() {
         Press(WXK_F1);
         WaitForPage(kFirstPage);
@@ -135,7 +135,7 @@ class HelpWindow : public RulesWindow {
         WaitForNoHelp();
     }
 
-    // What the person sees.
+    // What the user sees.
     void WaitForPage(const wxString& title) {
         WaitUntil("the help shows " + title.utf8_string(),
                   [&] { return Frame() != nullptr && Page().GetOpenedPageTitle() == title; });

@@ -65,12 +65,12 @@ wxString TextOnClipboard();
 
 /// Types a character as a keyboard does that has it. For the script's thread.
 void TypeForeign(wxUniChar character);
-/// Types a character as a person does whose keyboard lacks it.
+/// Types a character as a user does whose keyboard lacks it.
 void TypeComposed(wxUniChar character);
 
 /// Presses the key that asks for a context menu. For the script's thread.
 void PressMenuKey();
-/// Turns the mouse wheel towards the person, over whatever lies under the mouse. For the script's thread.
+/// Turns the mouse wheel towards the user, over whatever lies under the mouse. For the script's thread.
 void TurnWheel();
 
 /// Drags a window's title or border, in a way that a window manager with much to do can follow. For the

@@ -22,7 +22,7 @@ class RulesWindow : public GridWindow {
     static std::string FileOf(const std::vector<std::string>& rules);
     std::optional<std::string> File() const { return world.files.Get(R"(C:\SYS\ZYRules.sys)"); }
 
-    // What the person does.
+    // What the user does.
     void ClickRow(int item) { hands->Click(PlaceOfRow(item)); }
     void ClickUp() { WindowTest::ClickUp(page().cmdUpDown); }
     void ClickDown() { WindowTest::ClickDown(page().cmdUpDown); }
@@ -32,7 +32,7 @@ class RulesWindow : public GridWindow {
     /// Picks an item of a drop-down list with the mouse.
     void PickItem(const ComboBox& box, int index);
 
-    // What the person sees.
+    // What the user sees.
     std::string TextIn(const TextBox& box);
     std::string ItemIn(const ComboBox& box);
     std::vector<std::string> Row(int item);
@@ -44,7 +44,7 @@ class RulesWindow : public GridWindow {
 
     void WaitForSelection(int item);
 
-    /// The controls as a person reads them, and Tab goes. The arrows are one control with two stops.
+    /// The controls as the user reads them, and Tab goes. The arrows are one control with two stops.
     std::vector<const Control*> ControlsInOrder();
 
     /// The real list. For the window's thread.

@@ -17,7 +17,7 @@ class UnitsWindow : public GridWindow {
     static std::vector<std::string> ManyUnits(int count);
     std::optional<std::string> File() const { return world.files.Get(R"(C:\SYS\ZYUNITS.SYS)"); }
 
-    // What the person does.
+    // What the user does.
     void ClickUp() { WindowTest::ClickUp(page().UpDownUnits); }
     void ClickDown() { WindowTest::ClickDown(page().UpDownUnits); }
 

@@ -58,9 +58,9 @@ int WindowTest::Play(const std::function<void()>& script) {
 int WindowTest::PlayFromTheStart(const std::function<void()>& script) {
     desktop.StartToolkit();
     AwaitWork();
-    std::thread person([&] { RunScript(script); });
+    std::thread user([&] { RunScript(script); });
     const int status = desktop.Run([&] { return RunProgram(); });
-    person.join();
+    user.join();
     return status;
 }
 

@@ -22,7 +22,7 @@ class wxWindow;
 
 namespace zy::test {
 
-/// The program in its real window, over a disk in memory, used by a person who looks, types and clicks.
+/// The program in its real window, over a disk in memory, used by the user who looks, types and clicks.
 ///
 /// A test starts it with Play and a script. Verbs are for the script's own thread; they wait for what they
 /// need and give the test up when it does not come.
@@ -39,7 +39,7 @@ class WindowTest : public ::testing::Test {
     /// Called before the program starts its editor.
     std::function<void()> prepare = [] {};
 
-    // What the person does.
+    // What the user does.
     void Press(int key, int modifiers = wxMOD_NONE) { hands->Press(key, modifiers); }
     void Type(const std::string& text) { hands->Type(text); }
     void PutOnClipboard(const wxString& text);
@@ -81,7 +81,7 @@ class WindowTest : public ::testing::Test {
     static void ExpectRoomForEveryPart(const std::string& dialog);
     void WaitForFocusIn(const std::string& control);
 
-    // What the person sees.
+    // What the user sees.
     bool IsEnabled(const Control& control);
     std::string Status();
     std::string OnClipboard();
