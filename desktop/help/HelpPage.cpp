@@ -82,12 +82,12 @@ void HelpPage::GoToLink(bool forward) {
     }
 }
 
-const CellRange* HelpPage::NextLink(const std::vector<CellRange>& links, bool forward) const {
-    const auto isBehind = [this](const CellRange& link) {
+const PageRange* HelpPage::NextLink(const std::vector<PageRange>& links, bool forward) const {
+    const auto isBehind = [this](const PageRange& link) {
         return m_selection == nullptr ? IsBelowTop(link)
                                       : StandsBefore(*m_selection->GetFromCell(), *link.first);
     };
-    const auto isAhead = [this](const CellRange& link) {
+    const auto isAhead = [this](const PageRange& link) {
         return m_selection == nullptr ? IsAboveBottom(link)
                                       : StandsBefore(*link.first, *m_selection->GetFromCell());
     };
@@ -109,7 +109,7 @@ void HelpPage::FollowMarked() {
     OnLinkClicked(link);
 }
 
-void HelpPage::Mark(const CellRange& cells) {
+void HelpPage::Mark(const PageRange& cells) {
     Unmark();
     m_selection = new wxHtmlSelection;
     m_selection->Set(cells.first, cells.last);
@@ -124,11 +124,11 @@ void HelpPage::Unmark() {
     Refresh();
 }
 
-bool HelpPage::IsBelowTop(const CellRange& cells) const {
+bool HelpPage::IsBelowTop(const PageRange& cells) const {
     return TopOf(*cells.first) >= GetViewStart().y * wxHTML_SCROLL_STEP;
 }
 
-bool HelpPage::IsAboveBottom(const CellRange& cells) const {
+bool HelpPage::IsAboveBottom(const PageRange& cells) const {
     return BottomOf(*cells.last) <= GetViewStart().y * wxHTML_SCROLL_STEP + GetClientSize().y;
 }
 

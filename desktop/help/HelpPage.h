@@ -30,15 +30,15 @@ class HelpPage : public wxHtmlWindow {
     void GoToLink(bool forward);
     /// The link behind what is marked, or before it; when nothing is, one that can be seen, or is yet to
     /// come.
-    const CellRange* NextLink(const std::vector<CellRange>& links, bool forward) const;
+    const PageRange* NextLink(const std::vector<PageRange>& links, bool forward) const;
     /// Null when what is marked is no link.
     const wxHtmlLinkInfo* MarkedLink() const;
     void FollowMarked();
     /// Marks cells as the user's selection is, and scrolls there when they cannot be seen.
-    void Mark(const CellRange& cells);
+    void Mark(const PageRange& cells);
     void Unmark();
-    bool IsBelowTop(const CellRange& cells) const;
-    bool IsAboveBottom(const CellRange& cells) const;
+    bool IsBelowTop(const PageRange& cells) const;
+    bool IsAboveBottom(const PageRange& cells) const;
     void SetTextSize(int points);
     void TakeColours(wxSysColourChangedEvent& event);
 

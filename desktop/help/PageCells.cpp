@@ -57,14 +57,14 @@ class PageText {
         });
     }
 
-    std::optional<CellRange> Find(const std::wstring& words) const {
+    std::optional<PageRange> Find(const std::wstring& words) const {
         const auto place = text_.Text().find(words);
         if (place == std::wstring::npos) {
             return std::nullopt;
         }
         const auto firstLetter = words.find_first_not_of(L' ');
         const auto lastLetter = words.find_last_not_of(L' ');
-        return CellRange{.first = CellAt(place + firstLetter), .last = CellAt(place + lastLetter)};
+        return PageRange{.first = CellAt(place + firstLetter), .last = CellAt(place + lastLetter)};
     }
 
   private:
@@ -86,8 +86,8 @@ class PageText {
 
 } // namespace
 
-std::vector<CellRange> LinksOn(const wxHtmlCell& page) {
-    std::vector<CellRange> links;
+std::vector<PageRange> LinksOn(const wxHtmlCell& page) {
+    std::vector<PageRange> links;
     wxString open;
     VisitCells(page, [&](const wxHtmlCell& cell) {
         const wxString target = TargetOf(cell);
@@ -101,7 +101,7 @@ std::vector<CellRange> LinksOn(const wxHtmlCell& page) {
     return links;
 }
 
-std::optional<CellRange> FindOn(const wxHtmlCell& page, const SoughtWords& words) {
+std::optional<PageRange> FindOn(const wxHtmlCell& page, const SoughtWords& words) {
     const wxString text = words.caseSensitive ? words.text : words.text.Lower();
     SpacedText sought;
     sought.Append(words.wholeWords ? ' ' + text + ' ' : text);

@@ -13,15 +13,15 @@ namespace zy {
 // pictures.
 
 /// The cells from one to another, in the order of the text.
-struct CellRange {
+struct PageRange {
     const wxHtmlCell* first = nullptr;
     const wxHtmlCell* last = nullptr;
 
-    bool operator==(const CellRange&) const = default;
+    bool operator==(const PageRange&) const = default;
 };
 
 /// The links of a page, from its top to its bottom.
-std::vector<CellRange> LinksOn(const wxHtmlCell& page);
+std::vector<PageRange> LinksOn(const wxHtmlCell& page);
 
 /// Words that the user looks for.
 struct SoughtWords {
@@ -32,6 +32,6 @@ struct SoughtWords {
 
 /// The first place of a page where the words stand. As in the search of all pages, a blank in them is any
 /// number of blanks and line ends, and each change of the type counts as one.
-std::optional<CellRange> FindOn(const wxHtmlCell& page, const SoughtWords& words);
+std::optional<PageRange> FindOn(const wxHtmlCell& page, const SoughtWords& words);
 
 } // namespace zy

@@ -85,12 +85,12 @@ class HelpWindow : public RulesWindow {
         wxTreeItemIdValue cookie{};
         return Entry(Contents().GetFirstChild(Contents().GetRootItem(), cookie), name);
     }
-    static bool IsSeen(const CellRange& cells) {
+    static bool IsSeen(const PageRange& cells) {
         const int top = Page().GetViewStart().y * wxHTML_SCROLL_STEP;
         return cells.first->GetAbsPos().y >= top &&
                cells.last->GetAbsPos().y + cells.last->GetHeight() <= top + Page().GetClientSize().y;
     }
-    static std::vector<CellRange> Links() { return LinksOn(*Page().GetInternalRepresentation()); }
+    static std::vector<PageRange> Links() { return LinksOn(*Page().GetInternalRepresentation()); }
     static bool HasFocus(const wxWindow& part) { return wxWindow::FindFocus() == &part; }
 
     // What the user does.
