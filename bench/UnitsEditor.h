@@ -35,7 +35,7 @@ class UnitsEditor {
         : world_(folder), file_(std::string(folder) + '\\' + kFile.name) {}
 
     std::unique_ptr<Units> Load() { return std::make_unique<Units>(world_, file_); }
-    static int Count(const Units& units) { return units.page.controls.grdUnits.Rows() - 1; }
+    static int Count(const Units& units) { return units.page.controls.grdUnits.cells.Rows() - 1; }
     static void Save(Units& units) { units.page.units.Write_Units(); }
 
   private:

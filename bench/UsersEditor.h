@@ -37,7 +37,7 @@ class UsersEditor {
         : world_(folder), file_(std::string(folder) + '\\' + kFile.name) {}
 
     std::unique_ptr<Users> Load() { return std::make_unique<Users>(world_, file_); }
-    static int Count(const Users& users) { return users.page.controls.grdSecurity.Rows() - 1; }
+    static int Count(const Users& users) { return users.page.controls.grdSecurity.cells.Rows() - 1; }
     static void Save(Users& users) { users.page.cmdSaveUsers_Click(); }
 
   private:

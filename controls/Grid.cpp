@@ -1,118 +1,96 @@
 #include "controls/Grid.h"
 
-#include <algorithm>
 #include <utility>
-
-#include "basics/RuntimeError.h"
 
 namespace zy {
 
-Grid::Grid(Container* parent, std::string name, int columns)
-    : Control(parent, std::move(name)), columns_(columns),
-      widths_(static_cast<std::size_t>(columns), kDesignedWidth),
-      columnLists_(static_cast<std::size_t>(columns)), fittedFrom_(columns) {
+Grid::Grid(Container* parent, std::string name, int columnCount)
+    : Control(parent, std::move(name)), cells(columnCount), columns(columnCount), selection(cells),
+      editor(cells, columns, selection), block(cells, columns, selection, editor) {
     validate = [this] {
-        CommitEdit();
+        editor.Commit();
         return true;
     };
-    SetRows(1);
 }
 
-void Grid::SetRows(int rows) {
-    CommitEdit();
-    cells_.Resize(FirstCellOf(rows));
-    rows_ = rows;
-    TellRowsChanged();
-    KeepCurrentInside();
-}
-
-void Grid::AddItem(std::string_view tabJoinedCells) {
-    for (int column = 0; column < columns_; ++column) {
-        const auto tab = tabJoinedCells.find('\t');
-        cells_.Append(tabJoinedCells.substr(0, tab));
-        tabJoinedCells.remove_prefix(tab == std::string_view::npos ? tabJoinedCells.size() : tab + 1);
-    }
-    ++rows_;
-    TellRowsChanged();
-}
-
-void Grid::AddRowsOf(std::string text, const CellTexts::Split& split) {
-    cells_.AppendPartsOf(std::move(text), split);
-    rows_ = static_cast<int>(cells_.Count()) / columns_;
-    TellRowsChanged();
-}
-
-void Grid::RemoveItem(int row) {
-    CommitEdit();
-    cells_.Erase(Index(row, 0), FirstCellOf(1));
-    --rows_;
-    TellRowsChanged();
-    KeepCurrentInside();
-}
-
-void Grid::TellRowsChanged() {
-    if (redraw_) {
-        rowsChanged.Raise();
+void Grid::Pick(int row, int column) {
+    if (TakeFocus() && row >= 1) {
+        selection.Select(row, column);
     }
 }
 
-void Grid::SetRedraw(bool on) {
-    redraw_ = on;
-    TellRowsChanged();
-}
-
-void Grid::KeepCurrentInside() {
-    SetCurrent({std::min(current_.row, rows_ - 1), current_.column});
-}
-
-void Grid::SetText(int row, int column, std::string_view text) {
-    const auto cell = Index(row, column);
-    if (cells_[cell] != text) {
-        cells_.Set(cell, text);
-        cellChanged.Raise(row, column);
+void Grid::TypeOver(std::string_view text) {
+    if (!TakeFocus() || !selection.IsInData()) {
+        return;
+    }
+    if (editor.IsOpen()) {
+        editor.ReplaceSelection(text);
+    } else {
+        editor.OpenWith(text);
     }
 }
 
-void Grid::SetColumnWidth(int column, int width) {
-    auto& held = widths_.at(static_cast<std::size_t>(column));
-    if (held != width) {
-        held = width;
-        appearanceChanged.Raise();
+void Grid::OpenEditor() {
+    if (TakeFocus() && selection.IsInData() && !editor.IsOpen()) {
+        editor.Open();
     }
 }
 
-void Grid::SetColumnList(int column, CellList list) {
-    columnLists_.at(static_cast<std::size_t>(column)) = std::move(list);
-}
-
-void Grid::SetCurrent(Cell cell) {
-    CommitEdit();
-    const bool moved = current_ != cell;
-    current_ = cell;
-    blockEnd_ = cell;
-    blockChanged.Raise();
-    if (moved) {
-        currentCellChanged.Raise();
+bool Grid::Press(const KeyPress& press) {
+    if (!TakeFocus()) {
+        return false;
     }
+    return editor.IsOpen() && press.key != Key::Tab ? editor.Press(press) : PressOnCell(press);
 }
 
-void Grid::Select(int row, int column) {
-    Index(row, column);
-    SetCurrent({row, column});
+bool Grid::PressOnCell(const KeyPress& press) {
+    bool handled = false;
+    keyDown.Raise(press, handled);
+    if (handled) {
+        return true;
+    }
+    if (press.key == Key::Tab) {
+        return PressTab(press);
+    }
+    if (press.IsPlain() && selection.IsInData() && press.key == Key::F2) {
+        editor.Open();
+        return true;
+    }
+    if (press.IsPlain() && selection.IsInData() && press.key == Key::Delete) {
+        block.Clear();
+        return true;
+    }
+    return selection.MoveByKey(press);
+}
+
+/// Goes from cell to cell; at the ends of the data the focus leaves the grid.
+bool Grid::PressTab(const KeyPress& press) {
+    if (press.ctrl || press.alt) {
+        return false;
+    }
+    const bool moved = selection.MoveByTab(press.shift);
+    if (!moved) {
+        editor.Commit();
+    }
+    return moved;
+}
+
+void Grid::PressMouse(MouseButton button, int row, int column) {
+    if (TakeFocus()) {
+        mouseDown.Raise(button, row, column);
+    }
 }
 
 void Grid::SelectAll() {
-    if (TakeFocus() && rows_ > 1) {
-        Select(1, 0);
-        SelectTo(rows_ - 1, columns_ - 1);
+    if (TakeFocus()) {
+        selection.SelectAll();
     }
 }
 
-void Grid::SelectTo(int row, int column) {
-    Index(row, column);
-    CommitEdit();
-    blockEnd_ = {row, column};
-    blockChanged.Raise();
+void Grid::Paste(std::string_view text) {
+    if (TakeFocus() && !text.empty()) {
+        block.Paste(text);
+    }
 }
 
 } // namespace zy

@@ -16,15 +16,15 @@ constexpr int kListColumn = 1;
 struct Sheet {
     Sheet() {
         form.SetVisible(true);
-        grid.SetGrowsByPaste(true);
-        grid.SetColumnList(kListColumn, CellList("A|I"));
-        grid.pasted.Connect([this](const PasteReport& paste) { report = paste; });
+        grid.block.SetGrowsByPaste(true);
+        grid.columns.SetList(kListColumn, CellList("A|I"));
+        grid.block.pasted.Connect([this](const PasteReport& paste) { report = paste; });
     }
 
     std::vector<std::string> Cells() const {
         std::vector<std::string> cells;
-        for (int row = 1; row < grid.Rows(); ++row) {
-            const auto texts = grid.RowTexts(row);
+        for (int row = 1; row < grid.cells.Rows(); ++row) {
+            const auto texts = grid.cells.RowTexts(row);
             cells.insert(cells.end(), texts.begin(), texts.end());
         }
         return cells;
@@ -36,8 +36,8 @@ struct Sheet {
 };
 
 void RequirePlainCells(const Grid& grid) {
-    for (int row = 1; row < grid.Rows(); ++row) {
-        const auto texts = grid.RowTexts(row);
+    for (int row = 1; row < grid.cells.Rows(); ++row) {
+        const auto texts = grid.cells.RowTexts(row);
         Require(
             std::none_of(texts.begin(), texts.end(),
                          [](auto text) { return text.find_first_of("\t\n\r") != std::string_view::npos; }),
@@ -50,7 +50,7 @@ void RequirePlainCells(const Grid& grid) {
 void RequireSaneReport(const Sheet& sheet, std::string_view input) {
     const auto& report = sheet.report;
     Require(report.rowsLeftOut == 0 && report.columnsLeftOut >= 0, "a grid that grows takes every row");
-    Require(report.tooLong == (!input.empty() && sheet.grid.Rows() == 1), "all is pasted or nothing");
+    Require(report.tooLong == (!input.empty() && sheet.grid.cells.Rows() == 1), "all is pasted or nothing");
     Require((report.cellsRefused == 0) == report.textRefused.empty(), "a refused text is named");
 }
 
@@ -64,7 +64,7 @@ void PastedCells(std::string_view input) {
 
     first.grid.SelectAll();
     Sheet second;
-    second.grid.Paste(first.grid.Copy());
+    second.grid.Paste(first.grid.block.Copy());
     Require(second.Cells() == first.Cells(), "what is copied is pasted as it was");
     Require(second.report.cellsRefused == 0 && second.report.columnsLeftOut == 0, "and nothing is left out");
 }

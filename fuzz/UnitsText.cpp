@@ -68,7 +68,7 @@ void RequireRefusal(std::string_view input, std::size_t line) {
 }
 
 /// The grid's rows are written as they stand, one a line.
-void RequireWritten(const Cells& cells, const Grid& grid) {
+void RequireWritten(const Cells& cells, const GridCells& grid) {
     std::string expected;
     for (std::size_t i = 0; i != cells.size(); i += kUnitsColumns) {
         expected += std::string(cells[i + kUnitDescription]) + ',' + std::string(cells[i + kUnit]) + "\r\n";
@@ -87,7 +87,7 @@ void UnitsText(std::string_view input) {
     Form form("frmUnits");
     Grid grid(&form, "grdUnits", kUnitsColumns);
     UnitsLeftOut leftOut;
-    grid.AddRowsOf(std::string(input), [&](std::string_view text, Cells& cells) {
+    grid.cells.AddRowsOf(std::string(input), [&](std::string_view text, Cells& cells) {
         leftOut = AppendUnitCells(text, "ZYUNITS.SYS", cells);
         Require(leftOut.tail == expected.tail, "what stands behind the last line end is left out");
     });
@@ -95,7 +95,7 @@ void UnitsText(std::string_view input) {
     Require(Describe(leftOut).empty() || leftOut.linesCut + leftOut.linesWithCommas > 0 ||
                 !leftOut.tail.empty(),
             "a file that is taken whole is not complained about");
-    RequireWritten(expected.cells, grid);
+    RequireWritten(expected.cells, grid.cells);
 }
 
 } // namespace zy::fuzz

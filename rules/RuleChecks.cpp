@@ -125,7 +125,7 @@ bool RuleChecks::CheckDescription(std::string_view text) {
     return true;
 }
 
-int RuleChecks::FailingColumn(const Grid& grid, int row, const CodeCounts& counts) {
+int RuleChecks::FailingColumn(const GridCells& grid, int row, const CodeCounts& counts) {
     // Condition and zone are not checked: their cells are edited through fixed lists.
     const auto& code = grid.Text(row, kCodeColumn);
     if (!CheckCode(code, [&] { return IsTaken(counts, code, row); })) {
@@ -144,11 +144,11 @@ int RuleChecks::FailingColumn(const Grid& grid, int row, const CodeCounts& count
 bool RuleChecks::Validate_RulesGRid(Grid& grid) {
     Start("Validate_RulesGRid");
     const auto counts = CountCodes();
-    for (int row = 1; row < grid.Rows(); ++row) {
-        const int column = FailingColumn(grid, row, counts);
+    for (int row = 1; row < grid.cells.Rows(); ++row) {
+        const int column = FailingColumn(grid.cells, row, counts);
         if (column != -1) {
-            grid.Select(row, column);
-            grid.EditCell();
+            grid.selection.Select(row, column);
+            grid.editor.Open();
             return false;
         }
     }

@@ -52,7 +52,7 @@ class RuleChecks {
     bool CheckCount(std::string_view text, std::string_view name);
     double NumberOf(std::string_view text) const;
     /// The column of the row's first cell that fails; -1 when all pass.
-    int FailingColumn(const Grid& grid, int row, const CodeCounts& counts);
+    int FailingColumn(const GridCells& grid, int row, const CodeCounts& counts);
     void Start(std::string_view procedure);
 
     const RuleList& rules_;

@@ -118,8 +118,8 @@ RulesControls::RulesControls(Frame& fraRules, ListView::Source rules)
       fraGridMode(&fraRules, "fraGridMode", "Grid Mode"), grdRules(&fraGridMode, "grdRules", kRuleColumns) {
     cmdUpDown.SetCaption("Move rule");
     cmdHelpRules.SetCausesValidation(false); // a field that is wrong is what help is needed for
-    grdRules.SetColumnList(kCondColumn, CellList(GridConditions()));
-    grdRules.SetColumnList(kZoneColumn, CellList(GridZones()));
+    grdRules.columns.SetList(kCondColumn, CellList(GridConditions()));
+    grdRules.columns.SetList(kZoneColumn, CellList(GridZones()));
 }
 
 } // namespace zy

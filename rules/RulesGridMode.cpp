@@ -32,9 +32,9 @@ void RulesGridMode::Connect() {
     form_.menu.mnuAddRule.click.Connect([this] { mnuAddRule_Click(); });
     form_.menu.mnuDeleteRule.click.Connect([this] { mnuDeleteRule_Click(); });
     grid_.mouseDown.Connect([this](MouseButton button, int, int) { grdRules_MouseDown(button); });
-    grid_.afterEdit.Connect([this](int, int) { grdRules_AfterEdit(); });
+    grid_.editor.afterEdit.Connect([this](int, int) { grdRules_AfterEdit(); });
     // That is all that happens then.
-    grid_.cellChanged.Connect([this](int, int) { rules_.gbGridChanged = true; });
+    grid_.cells.cellChanged.Connect([this](int, int) { rules_.gbGridChanged = true; });
 }
 
 void RulesGridMode::Trace(std::string_view module, std::string_view procedure) {
@@ -42,12 +42,12 @@ void RulesGridMode::Trace(std::string_view module, std::string_view procedure) {
 }
 
 void RulesGridMode::Fill() {
-    grid_.CancelEdit();
-    grid_.SetRedraw(false);
-    grid_.SetRows(0);
-    grid_.AddItem(GridRow([](const RuleField& field) { return field.gridHeader; }));
+    grid_.editor.Cancel();
+    grid_.cells.SetRedraw(false);
+    grid_.cells.SetRows(0);
+    grid_.cells.AddItem(GridRow([](const RuleField& field) { return field.gridHeader; }));
     AddRows();
-    grid_.SetRedraw(true);
+    grid_.cells.SetRedraw(true);
 }
 
 /// Hands the fields over one by one, and not joined by TAB, for a file may hold a TAB within a field.
@@ -59,7 +59,7 @@ void RulesGridMode::AddRows() {
             text += rules(i).*field.property;
         }
     }
-    grid_.AddRowsOf(std::move(text), [&](std::string_view all, std::vector<std::string_view>& cells) {
+    grid_.cells.AddRowsOf(std::move(text), [&](std::string_view all, std::vector<std::string_view>& cells) {
         for (int i = 1; i <= rules.UBound(); ++i) {
             for (const auto& field : kRuleFields) {
                 const auto length = (rules(i).*field.property).size();
@@ -73,20 +73,20 @@ void RulesGridMode::AddRows() {
 void RulesGridMode::AddtoGrid() {
     Trace(kRulesModule, "AddtoGrid");
     const RunRule& newest = rules_.gaRules(rules_.gaRules.UBound());
-    grid_.AddItem(
+    grid_.cells.AddItem(
         GridRow([&newest](const RuleField& field) { return std::string_view(newest.*field.property); }));
-    SelectRow(grid_.Rows() - 1);
+    SelectRow(grid_.cells.Rows() - 1);
 }
 
 void RulesGridMode::SelectRow(int row) {
-    grid_.Select(row, 0);
-    grid_.SelectTo(row, kDescriptionColumn);
+    grid_.selection.Select(row, 0);
+    grid_.selection.SelectTo(row, kDescriptionColumn);
 }
 
 void RulesGridMode::Save_RulesGrid() {
     Trace(kRulesModule, "Save_RulesGrid");
     bool changed = false;
-    for (int row = 1; row < grid_.Rows(); ++row) {
+    for (int row = 1; row < grid_.cells.Rows(); ++row) {
         changed = StoreRow(row) || changed;
     }
     if (changed) {
@@ -101,7 +101,7 @@ bool RulesGridMode::StoreRow(int row) {
     bool changed = false;
     for (int column = 0; column < kRuleColumns; ++column) {
         auto& held = rule.*PropertyIn(column);
-        if (const auto text = grid_.Text(row, column); held != text) {
+        if (const auto text = grid_.cells.Text(row, column); held != text) {
             held = text;
             changed = true;
         }
@@ -110,7 +110,7 @@ bool RulesGridMode::StoreRow(int row) {
 }
 
 bool RulesGridMode::StoreIfChanged() {
-    grid_.CommitEdit();
+    grid_.editor.Commit();
     if (!rules_.gbGridChanged) {
         return true;
     }
@@ -134,12 +134,12 @@ void RulesGridMode::mnuAddRule_Click() {
 
 void RulesGridMode::mnuDeleteRule_Click() {
     Trace(kMainForm, "mnuDeleteRule_Click");
-    const int row = grid_.Row();
+    const int row = grid_.selection.Row();
     if (row < 1) {
         return;
     }
     rules_.Delete_Rule(row);
-    grid_.RemoveItem(row);
+    grid_.cells.RemoveItem(row);
     KeepRuleInHand(row);
     TellCountChanged();
 }
@@ -163,9 +163,9 @@ void RulesGridMode::grdRules_MouseDown(MouseButton button) {
     if (button != MouseButton::Right) {
         return;
     }
-    const bool hasCurrent = grid_.Row() != -1;
+    const bool hasCurrent = grid_.selection.Row() != -1;
     if (hasCurrent) {
-        SelectRow(grid_.Row());
+        SelectRow(grid_.selection.Row());
     }
     form_.menu.mnuDeleteRule.SetEnabled(hasCurrent);
     form_.menu.mnuGridPopMenu.PopUp();
@@ -173,7 +173,7 @@ void RulesGridMode::grdRules_MouseDown(MouseButton button) {
 
 void RulesGridMode::grdRules_AfterEdit() {
     Trace(kMainForm, "grdRules_AfterEdit");
-    grid_.FitColumns(0);
+    grid_.columns.Fit(0);
 }
 
 } // namespace zy

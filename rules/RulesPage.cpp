@@ -27,9 +27,9 @@ RulesPage::RulesPage(mRules& rules, RuleChecks& checks, SettingsForm& form, Shar
     ConnectDetails();
     gridMode.countChanged.Connect([this] { ShowStatus(CountText()); });
     gridMode.addRefused.Connect([this] { RefuseToAdd(); });
-    controls.grdRules.pasted.Connect([this](const PasteReport& paste) {
+    controls.grdRules.block.pasted.Connect([this](const PasteReport& paste) {
         ShowStatus(CountText());
-        AddHint(form_.zyStatusBar, DescribeLeftOut(paste, controls.grdRules));
+        AddHint(form_.zyStatusBar, DescribeLeftOut(paste, controls.grdRules.cells));
     });
     rules_.reported.Connect([this](const std::string& report) {
         auto text = report;

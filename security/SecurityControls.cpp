@@ -8,12 +8,12 @@ SecurityControls::SecurityControls(Frame& fraSecurity)
       cmdDeleteUser(&fraSecurity, "cmdDeleteUser", "Delete", 'D'),
       cmdSaveUsers(&fraSecurity, "cmdSaveUsers", "Save", 'S'),
       cmdHelpSecurity(&fraSecurity, "cmdHelpSecurity", "Help", 'p') {
-    grdSecurity.SetColumnList(kStatus, CellList("A|I"));
-    grdSecurity.SetText(0, kUserName, "User Name");
-    grdSecurity.SetText(0, kPassword, "Password");
-    grdSecurity.SetText(0, kStatus, "Status");
-    grdSecurity.SetText(0, kExpiryDate, "Expiry Date");
-    grdSecurity.SetText(0, kIdentification, "User Identification");
+    grdSecurity.columns.SetList(kStatus, CellList("A|I"));
+    grdSecurity.cells.SetText(0, kUserName, "User Name");
+    grdSecurity.cells.SetText(0, kPassword, "Password");
+    grdSecurity.cells.SetText(0, kStatus, "Status");
+    grdSecurity.cells.SetText(0, kExpiryDate, "Expiry Date");
+    grdSecurity.cells.SetText(0, kIdentification, "User Identification");
 }
 
 } // namespace zy

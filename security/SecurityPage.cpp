@@ -18,7 +18,7 @@ SecurityPage::SecurityPage(SettingsForm& form, SharedState& state, TraceChannel&
                            RecycleBin& recycleBin, SystemInfo& system, Dialogs& dialogs,
                            const CodePage& codePage)
     : controls(form.fraSecurity), database_(state, files, system), reader_(database_, files, codePage),
-      writer_(database_, files, recycleBin), checks_(controls.grdSecurity, dialogs, codePage),
+      writer_(database_, files, recycleBin), checks_(controls.grdSecurity.cells, dialogs, codePage),
       login_(form, trace, dialogs, codePage),
       users(controls.grdSecurity, reader_, writer_, checks_, login_, trace), form_(form), state_(state),
       trace_(trace), system_(system), dialogs_(dialogs) {
@@ -32,10 +32,11 @@ void SecurityPage::Connect() {
     controls.cmdSaveUsers.click.Connect([this] { cmdSaveUsers_Click(); });
     form_.menu.mnuAddUser.click.Connect([this] { mnuAddUser_Click(); });
     form_.menu.mnuDeleteUser.click.Connect([this] { mnuDeleteUser_Click(); });
-    grid.beforeEdit.Connect([this](int, int column) { grdSecurity_BeforeEdit(column); });
-    grid.afterEdit.Connect([this](int row, int) { grdSecurity_AfterEdit(row); });
-    grid.pasted.Connect([this](const PasteReport& paste) { grdSecurity_Pasted(paste); });
-    grid.cellButtonClick.Connect([this](int row, int column) { grdSecurity_CellButtonClick(row, column); });
+    grid.editor.beforeEdit.Connect([this](int, int column) { grdSecurity_BeforeEdit(column); });
+    grid.editor.afterEdit.Connect([this](int row, int) { grdSecurity_AfterEdit(row); });
+    grid.block.pasted.Connect([this](const PasteReport& paste) { grdSecurity_Pasted(paste); });
+    grid.editor.buttonClick.Connect(
+        [this](int row, int column) { grdSecurity_CellButtonClick(row, column); });
     grid.keyDown.Connect(
         [this](const KeyPress& press, bool& handled) { grdSecurity_KeyDown(press, handled); });
     grid.mouseDown.Connect([this](MouseButton button, int row, int) { grdSecurity_MouseDown(button, row); });
@@ -49,13 +50,13 @@ void SecurityPage::Trace(std::string_view procedure, std::string_view message) {
 void SecurityPage::LoadSecurity() {
     auto& grid = controls.grdSecurity;
     LayOutSecurity(controls, form_);
-    grid.SetRedraw(false);
-    grid.SetRows(1);
+    grid.cells.SetRedraw(false);
+    grid.cells.SetRows(1);
     for (const auto& user : users.zySecure) {
-        grid.AddItem(GridRow(user));
+        grid.cells.AddItem(GridRow(user));
     }
-    grid.SetRedraw(true);
-    grid.FitColumns(0); // the designed width is too narrow for most headers
+    grid.cells.SetRedraw(true);
+    grid.columns.Fit(0); // the designed width is too narrow for most headers
     controls.cmdSaveUsers.SetEnabled(false);
     EnableDelete(users.HasUsers());
     ReportCount();
@@ -63,8 +64,8 @@ void SecurityPage::LoadSecurity() {
 }
 
 void SecurityPage::ReportCount(int row) {
-    std::string text = Counted(static_cast<std::size_t>(controls.grdSecurity.Rows() - 1), "user");
-    Join(text, "; ", DescribeQuotes(controls.grdSecurity, row));
+    std::string text = Counted(static_cast<std::size_t>(controls.grdSecurity.cells.Rows() - 1), "user");
+    Join(text, "; ", DescribeQuotes(controls.grdSecurity.cells, row));
     Join(text, "; ", users.Dangers());
     form_.zyStatusBar.SetText(text);
 }
@@ -120,18 +121,18 @@ void SecurityPage::cmdDeleteUser_Click() {
 
 void SecurityPage::DeleteCurrentUser() {
     if (HasCurrentUser()) {
-        users.DeleteUser(controls.grdSecurity.Row());
+        users.DeleteUser(controls.grdSecurity.selection.Row());
         MarkChangedAndEnableSave();
     }
     if (users.HasUsers()) {
-        controls.grdSecurity.Select(1, controls.grdSecurity.Column());
+        controls.grdSecurity.selection.Select(1, controls.grdSecurity.selection.Column());
     }
     EnableDelete(users.HasUsers());
 }
 
 void SecurityPage::mnuDeleteUser_Click() {
     if (HasCurrentUser()) {
-        users.DeleteUser(controls.grdSecurity.Row());
+        users.DeleteUser(controls.grdSecurity.selection.Row());
         MarkChanged();
     }
 }
@@ -178,13 +179,13 @@ void SecurityPage::grdSecurity_AfterEdit(int row) {
 
 void SecurityPage::grdSecurity_Pasted(const PasteReport& paste) {
     ReportCount();
-    AddHint(form_.zyStatusBar, DescribeLeftOut(paste, controls.grdSecurity));
+    AddHint(form_.zyStatusBar, DescribeLeftOut(paste, controls.grdSecurity.cells));
 }
 
 void SecurityPage::grdSecurity_BeforeEdit(int column) {
     Trace("grdSecurity_BeforeEdit", "Start");
     if (column == kExpiryDate) {
-        controls.grdSecurity.SetEditList(CellList(kCalendarButton));
+        controls.grdSecurity.editor.SetList(CellList(kCalendarButton));
     }
 }
 
@@ -197,7 +198,7 @@ void SecurityPage::grdSecurity_CellButtonClick(int row, int column) {
     frmDatePicker picker(trace_, system_);
     picker.picked.Connect([this, row](const std::string& text) { SetDate(row, text); });
     picker.SetBounds(PlaceBelow(row, column));
-    picker.Form_Load(controls.grdSecurity.Text(row, column));
+    picker.Form_Load(controls.grdSecurity.cells.Text(row, column));
     picker.SetVisible(true);
     dialogs_.ShowForm(picker);
 }
@@ -205,10 +206,10 @@ void SecurityPage::grdSecurity_CellButtonClick(int row, int column) {
 void SecurityPage::CloseCell(int row, int column) {
     auto& grid = controls.grdSecurity;
     // What was typed is kept, as wherever an edit is left; a mere look at the calendar is no edit.
-    if (grid.EditText() != grid.Text(row, column)) {
-        grid.CommitEdit();
+    if (grid.editor.Text() != grid.cells.Text(row, column)) {
+        grid.editor.Commit();
     }
-    grid.CancelEdit();
+    grid.editor.Cancel();
 }
 
 Rect SecurityPage::PlaceBelow(int row, int column) const {
@@ -220,7 +221,7 @@ Rect SecurityPage::PlaceBelow(int row, int column) const {
 }
 
 void SecurityPage::SetDate(int row, const std::string& text) {
-    controls.grdSecurity.SetText(row, kExpiryDate, text);
+    controls.grdSecurity.cells.SetText(row, kExpiryDate, text);
     MarkChangedAndEnableSave(row);
 }
 
@@ -228,8 +229,8 @@ void SecurityPage::grdSecurity_KeyDown(const KeyPress& press, bool& handled) {
     Trace("grdSecurity_KeyDown", "Start");
     auto& grid = controls.grdSecurity;
     const bool shiftTab = press.key == Key::Tab && press.shift && !press.ctrl && !press.alt;
-    if (shiftTab && grid.Row() == 1 && grid.Column() == 0) {
-        grid.Select(grid.Rows() - 1, grid.Columns() - 1);
+    if (shiftTab && grid.selection.Current() == Cell{1, 0}) {
+        grid.selection.Select(grid.cells.Rows() - 1, grid.cells.Columns() - 1);
         controls.cmdHelpSecurity.SetFocus();
         handled = true;
     }
@@ -238,7 +239,7 @@ void SecurityPage::grdSecurity_KeyDown(const KeyPress& press, bool& handled) {
 void SecurityPage::grdSecurity_MouseDown(MouseButton button, int row) {
     Trace("grdSecurity_MouseDown", "Start");
     if (row >= 0) {
-        controls.grdSecurity.Select(row, controls.grdSecurity.Column());
+        controls.grdSecurity.selection.Select(row, controls.grdSecurity.selection.Column());
     }
     if (button == MouseButton::Right) {
         form_.menu.mnuDeleteUser.SetEnabled(row >= 1);

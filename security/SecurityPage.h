@@ -55,7 +55,7 @@ class SecurityPage : public Editor {
     // Editor
     void Show() override { LoadSecurity(); }
     void Resize() override { ResizeSecurity(); }
-    void CommitOpenCell() override { controls.grdSecurity.CommitEdit(); }
+    void CommitOpenCell() override { controls.grdSecurity.editor.Commit(); }
     Size LeastInnerSize() override;
     bool HasUnsavedChanges() const override { return state_.gbChanged; }
     void Save() override;
@@ -77,7 +77,7 @@ class SecurityPage : public Editor {
   private:
     void Connect();
     void Trace(std::string_view procedure, std::string_view message);
-    bool HasCurrentUser() const { return controls.grdSecurity.Row() >= 1; }
+    bool HasCurrentUser() const { return controls.grdSecurity.selection.IsInData(); }
     void EnableDelete(bool enabled);
     /// `row` is the one that was edited, if one was.
     void MarkChanged(int row = 0);

@@ -11,7 +11,7 @@
 
 namespace zy {
 
-UserChecks::UserChecks(Grid& grid, Dialogs& dialogs, const CodePage& codePage)
+UserChecks::UserChecks(GridCells& grid, Dialogs& dialogs, const CodePage& codePage)
     : grid_(grid), dialogs_(dialogs), codePage_(codePage) {}
 
 std::optional<Cell> UserChecks::FirstFailure() {

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "controls/Grid.h"
+#include "controls/GridCells.h"
 #include "platform/CodePage.h"
 #include "platform/Dialogs.h"
 #include "security/UserRecord.h"
@@ -17,7 +17,7 @@ namespace zy {
 /// empty status and a date that was never filled in are no failures: they are set right in the grid.
 class UserChecks {
   public:
-    UserChecks(Grid& grid, Dialogs& dialogs, const CodePage& codePage);
+    UserChecks(GridCells& grid, Dialogs& dialogs, const CodePage& codePage);
 
     /// Checks the rows from the first to the last, in time linear in their number. Returns the cell of the
     /// first failure; nothing when all rows pass.
@@ -39,7 +39,7 @@ class UserChecks {
     /// Shows the message when the condition holds. Returns the condition.
     bool FailsIf(bool condition, std::string_view message);
 
-    Grid& grid_;
+    GridCells& grid_;
     Dialogs& dialogs_;
     const CodePage& codePage_;
 };

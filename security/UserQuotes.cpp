@@ -56,13 +56,13 @@ std::string_view Describe(QuotesEffect effect) {
     return "a single quote makes the save fail";
 }
 
-bool HasQuotes(const Grid& grid, int row) {
+bool HasQuotes(const GridCells& grid, int row) {
     const auto texts = grid.RowTexts(row);
     return std::any_of(texts.begin(), texts.end(), [](auto text) { return Contains(text, '\''); });
 }
 
 /// The first row with single quotes; the number of rows when there is none.
-int FirstRowWithQuotes(const Grid& grid) {
+int FirstRowWithQuotes(const GridCells& grid) {
     int row = 1;
     while (row < grid.Rows() && !HasQuotes(grid, row)) {
         ++row;
@@ -90,7 +90,7 @@ QuotesEffect EffectOfQuotes(const UserRecord& user) {
     return values == inPairs ? QuotesEffect::HalfStored : QuotesEffect::Shifted;
 }
 
-std::string DescribeQuotes(const Grid& grid, int row) {
+std::string DescribeQuotes(const GridCells& grid, int row) {
     if (row < 1 || row >= grid.Rows() || !HasQuotes(grid, row)) {
         row = FirstRowWithQuotes(grid);
     }

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "controls/Grid.h"
+#include "controls/GridCells.h"
 #include "security/UserRecord.h"
 
 namespace zy {
@@ -18,6 +18,6 @@ QuotesEffect EffectOfQuotes(const UserRecord& user);
 
 /// Says for the status bar what becomes of the single quotes in one user of the grid: the one of this row, or
 /// else the first one that has any. Empty when none has. A row outside the grid, or the header's, has none.
-std::string DescribeQuotes(const Grid& grid, int row);
+std::string DescribeQuotes(const GridCells& grid, int row);
 
 } // namespace zy

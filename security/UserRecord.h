@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "controls/Grid.h"
+#include "controls/GridCells.h"
 
 namespace zy {
 
@@ -68,7 +68,7 @@ UserRecord UserOf(TextOf textOf) {
 }
 
 /// The user in a row of the grid. Run-time error 9 when there is no such row.
-inline UserRecord UserInRow(const Grid& grid, int row) {
+inline UserRecord UserInRow(const GridCells& grid, int row) {
     return UserOf([&](const auto& field) { return grid.Text(row, field.gridColumn); });
 }
 

@@ -53,8 +53,8 @@ Bool16 mSecurity::LogIn(std::string_view adminPassword) {
 
 void mSecurity::Save_Security() {
     Start("Save_Security");
-    for (int row = 1; row < grdSecurity_.Rows(); ++row) {
-        zySecure.at(static_cast<std::size_t>(row) - 1) = UserInRow(grdSecurity_, row);
+    for (int row = 1; row < grdSecurity_.cells.Rows(); ++row) {
+        zySecure.at(static_cast<std::size_t>(row) - 1) = UserInRow(grdSecurity_.cells, row);
     }
 }
 
@@ -89,21 +89,21 @@ void mSecurity::WriteDBIndex() {
 
 bool mSecurity::Add_User() {
     Start("Add_User");
-    const int row = grdSecurity_.Rows();
+    const int row = grdSecurity_.cells.Rows();
     if (row > kMaxItems) {
         return false;
     }
     zySecure.resize(static_cast<std::size_t>(row));
     zySecure.back() = NewUser();
-    grdSecurity_.AddItem(GridRow(zySecure.back()));
-    grdSecurity_.Select(row, kUserName);
+    grdSecurity_.cells.AddItem(GridRow(zySecure.back()));
+    grdSecurity_.selection.Select(row, kUserName);
     return true;
 }
 
 void mSecurity::DeleteUser(int row) {
     // Spelled so: the text itself, not the user's name, is what people who watch the trace know.
     Trace("DeleteUser", "Start item: zySecure(index).UserID");
-    grdSecurity_.RemoveItem(row);
+    grdSecurity_.cells.RemoveItem(row);
     if (zySecure.size() > 1) {
         zySecure.erase(zySecure.begin() + row - 1);
     }
@@ -113,7 +113,7 @@ Bool16 mSecurity::Validate_Security() {
     Start("Validate_Security");
     const auto failure = checks_.FirstFailure();
     if (failure) {
-        grdSecurity_.Select(failure->row, failure->column);
+        grdSecurity_.selection.Select(failure->row, failure->column);
     }
     return !failure;
 }

@@ -56,7 +56,7 @@ class mSecurity {
     Bool16 Validate_Security();
 
     /// Whether the grid holds a user.
-    bool HasUsers() const { return grdSecurity_.Rows() >= 2; }
+    bool HasUsers() const { return grdSecurity_.cells.Rows() >= 2; }
     /// The folder of the table, with its closing "\".
     std::string SecurityFolder() const { return writer_.Folder(); }
 

@@ -8,7 +8,7 @@ UnitsControls::UnitsControls(Frame& fraUnits)
       cmdDeleteUnit(&fraUnitFunction, "cmdDeleteUnit", "Delete", 'D'),
       cmdSaveUnits(&fraUnitFunction, "cmdSaveUnits", "Save", 'S'),
       cmdHelpUnits(&fraUnitFunction, "cmdHelpUnits", "Help", 'p') {
-    grdUnits.SetGrowsByPaste(true);
+    grdUnits.block.SetGrowsByPaste(true);
     cmdDeleteUnit.SetEnabled(false);
 }
 

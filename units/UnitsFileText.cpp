@@ -125,7 +125,7 @@ std::string Describe(const UnitsLeftOut& leftOut) {
     return text;
 }
 
-std::string DescribeMisreading(const Grid& grid, int row) {
+std::string DescribeMisreading(const GridCells& grid, int row) {
     const auto cells = grid.RowTexts(row);
     if (!HasComma(cells[kUnitDescription], cells[kUnit])) {
         return {};
@@ -136,7 +136,7 @@ std::string DescribeMisreading(const Grid& grid, int row) {
            Quoted(fields.Text(1)) + " at the next start";
 }
 
-UnitsFileText::UnitsFileText(const Grid& grid) {
+UnitsFileText::UnitsFileText(const GridCells& grid) {
     const Int16 last = grid.Rows() - 1;
     for (int row = 1; row <= last; ++row) {
         const auto cells = grid.RowTexts(row);

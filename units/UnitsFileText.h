@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "controls/Grid.h"
+#include "controls/GridCells.h"
 
 namespace zy {
 
@@ -30,7 +30,7 @@ UnitsLeftOut AppendUnitCells(std::string_view text, std::string_view path,
 std::string Describe(const UnitsLeftOut& leftOut);
 
 /// Says how a row with a comma in a cell will be read back once it is saved; empty for any other row.
-std::string DescribeMisreading(const Grid& grid, int row);
+std::string DescribeMisreading(const GridCells& grid, int row);
 
 /// The text of the units file that holds the rows of a grid: one unit a line, its description first. It
 /// stands in a buffer that is filled once and never cleared.
@@ -38,7 +38,7 @@ std::string DescribeMisreading(const Grid& grid, int row);
 /// More than 32,767 rows are run-time error 6.
 class UnitsFileText {
   public:
-    explicit UnitsFileText(const Grid& grid);
+    explicit UnitsFileText(const GridCells& grid);
 
     std::string_view Get() const { return {text_.get(), size_}; }
 

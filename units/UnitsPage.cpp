@@ -40,11 +40,11 @@ void UnitsPage::Connect() {
     controls.cmdSaveUnits.click.Connect([this] { cmdSaveUnits_Click(); });
     controls.UpDownUnits.upClick.Connect([this] { UpDownUnits_UpClick(); });
     controls.UpDownUnits.downClick.Connect([this] { UpDownUnits_DownClick(); });
-    grid.afterEdit.Connect([this](int row, int) { grdUnits_AfterEdit(row); });
-    grid.pasted.Connect([this](const PasteReport& paste) { grdUnits_Pasted(paste); });
-    grid.currentCellChanged.Connect(
-        [this] { controls.cmdDeleteUnit.SetEnabled(controls.grdUnits.Row() >= 1); });
-    grid.keyDownEdit.Connect([this](const KeyPress& press) { grdUnits_KeyDownEdit(press); });
+    grid.editor.afterEdit.Connect([this](int row, int) { grdUnits_AfterEdit(row); });
+    grid.block.pasted.Connect([this](const PasteReport& paste) { grdUnits_Pasted(paste); });
+    grid.selection.currentCellChanged.Connect(
+        [this] { controls.cmdDeleteUnit.SetEnabled(controls.grdUnits.selection.IsInData()); });
+    grid.editor.keyDown.Connect([this](const KeyPress& press) { grdUnits_KeyDownEdit(press); });
     grid.keyDown.Connect([this](const KeyPress& press, bool& handled) { grdUnits_KeyDown(press, handled); });
     units.reported.Connect([this](const std::string& report) { form_.zyStatusBar.SetText(report); });
 }
@@ -66,13 +66,13 @@ void UnitsPage::MarkUnitsChanged() {
 
 void UnitsPage::grdUnits_AfterEdit(int row) {
     MarkUnitsChanged();
-    AddHint(form_.zyStatusBar, DescribeMisreading(controls.grdUnits, row));
+    AddHint(form_.zyStatusBar, DescribeMisreading(controls.grdUnits.cells, row));
 }
 
 void UnitsPage::grdUnits_Pasted(const PasteReport& paste) {
     units.ReportCount();
-    AddHint(form_.zyStatusBar, DescribeLeftOut(paste, controls.grdUnits));
-    if (!paste.tooLong && controls.grdUnits.Row() >= 1) {
+    AddHint(form_.zyStatusBar, DescribeLeftOut(paste, controls.grdUnits.cells));
+    if (!paste.tooLong && controls.grdUnits.selection.IsInData()) {
         AddHint(form_.zyStatusBar, DescribeMisreadings());
     }
 }
@@ -82,8 +82,8 @@ std::string UnitsPage::DescribeMisreadings() const {
     const auto& grid = controls.grdUnits;
     std::string first;
     std::size_t more = 0;
-    for (int row = grid.Row(); row <= grid.BlockEnd().row; ++row) {
-        const auto misreading = DescribeMisreading(grid, row);
+    for (int row = grid.selection.Row(); row <= grid.selection.BlockEnd().row; ++row) {
+        const auto misreading = DescribeMisreading(grid.cells, row);
         more += !first.empty() && !misreading.empty() ? 1U : 0U;
         first = first.empty() ? misreading : first;
     }
@@ -93,16 +93,16 @@ std::string UnitsPage::DescribeMisreadings() const {
 void UnitsPage::cmdAddUNit_Click() {
     Trace("cmdAddUnit_Click", "Start");
     auto& grid = controls.grdUnits;
-    const int row = grid.Rows();
+    const int row = grid.cells.Rows();
     if (row > kMaxItems) {
         units.ReportCount();
         AddHint(form_.zyStatusBar, kListFull);
         return;
     }
-    grid.SetRows(row + 1);
-    grid.Select(row, kUnit);
+    grid.cells.SetRows(row + 1);
+    grid.selection.Select(row, kUnit);
     grid.SetFocus();
-    grid.EditCell();
+    grid.editor.Open();
     MarkUnitsChanged();
     controls.cmdDeleteUnit.SetEnabled(true);
 }
@@ -120,10 +120,10 @@ void UnitsPage::cmdDeleteUnit_Click() {
 
 void UnitsPage::DeleteCurrentRow() {
     auto& grid = controls.grdUnits;
-    grid.RemoveItem(grid.Row());
-    const bool any = grid.Rows() >= 2;
+    grid.cells.RemoveItem(grid.selection.Row());
+    const bool any = grid.cells.Rows() >= 2;
     if (any) {
-        grid.Select(1, grid.Column());
+        grid.selection.Select(1, grid.selection.Column());
     }
     controls.cmdDeleteUnit.SetEnabled(any);
 }
@@ -147,39 +147,39 @@ bool UnitsPage::SaveAtClosing() {
 // Either arrow marks the list as changed even when nothing moved, which is meant.
 
 void UnitsPage::UpDownUnits_UpClick() {
-    if (controls.grdUnits.Row() > 1) {
-        SwapWith(controls.grdUnits.Row() - 1);
+    if (controls.grdUnits.selection.Row() > 1) {
+        SwapWith(controls.grdUnits.selection.Row() - 1);
     }
     MarkUnitsChanged();
 }
 
 void UnitsPage::UpDownUnits_DownClick() {
     const auto& grid = controls.grdUnits;
-    if (grid.Row() >= 1 && grid.Row() < grid.Rows() - 1) {
-        SwapWith(grid.Row() + 1);
+    if (grid.selection.IsInData() && grid.selection.Row() < grid.cells.Rows() - 1) {
+        SwapWith(grid.selection.Row() + 1);
     }
     MarkUnitsChanged();
 }
 
 void UnitsPage::SwapWith(int neighbour) {
     auto& grid = controls.grdUnits;
-    const int row = grid.Row();
-    const auto description = grid.Text(row, kUnitDescription);
-    const auto unit = grid.Text(row, kUnit);
+    const int row = grid.selection.Row();
+    const auto description = grid.cells.Text(row, kUnitDescription);
+    const auto unit = grid.cells.Text(row, kUnit);
     for (const int column : {kUnitDescription, kUnit}) {
-        grid.SetText(row, column, grid.Text(neighbour, column));
+        grid.cells.SetText(row, column, grid.cells.Text(neighbour, column));
     }
-    grid.SetText(neighbour, kUnitDescription, description);
-    grid.SetText(neighbour, kUnit, unit);
-    grid.Select(neighbour, grid.Column());
+    grid.cells.SetText(neighbour, kUnitDescription, description);
+    grid.cells.SetText(neighbour, kUnit, unit);
+    grid.selection.Select(neighbour, grid.selection.Column());
 }
 
 void UnitsPage::grdUnits_KeyDownEdit(const KeyPress& press) {
     auto& grid = controls.grdUnits;
     const bool ctrlAlone = press.ctrl && !press.alt && !press.shift;
     const auto character = SpecialCharacter(press.key);
-    if (ctrlAlone && grid.Column() == kUnit && !character.empty()) {
-        grid.ReplaceEditSelection(character);
+    if (ctrlAlone && grid.selection.Column() == kUnit && !character.empty()) {
+        grid.editor.ReplaceSelection(character);
     }
 }
 
@@ -198,20 +198,21 @@ void UnitsPage::grdUnits_KeyDown(const KeyPress& press, bool& handled) {
 
 bool UnitsPage::LeaveForwards() {
     auto& grid = controls.grdUnits;
-    if (grid.Row() < 1 || grid.Row() != grid.Rows() - 1 || grid.Column() != grid.Columns() - 1) {
+    const Cell last{grid.cells.Rows() - 1, grid.cells.Columns() - 1};
+    if (!grid.selection.IsInData() || grid.selection.Current() != last) {
         return false;
     }
-    grid.Select(1, 0);
+    grid.selection.Select(1, 0);
     controls.cmdAddUNit.SetFocus();
     return true;
 }
 
 bool UnitsPage::LeaveBackwards() {
     auto& grid = controls.grdUnits;
-    if (grid.Row() != 1 || grid.Column() != 0) {
+    if (grid.selection.Current() != Cell{1, 0}) {
         return false;
     }
-    grid.Select(grid.Rows() - 1, grid.Columns() - 1);
+    grid.selection.Select(grid.cells.Rows() - 1, grid.cells.Columns() - 1);
     controls.cmdHelpUnits.SetFocus();
     return true;
 }

@@ -38,7 +38,7 @@ class UnitsPage : public Editor {
     // Editor
     void Show() override;
     void Resize() override { ResizeUnits(); }
-    void CommitOpenCell() override { controls.grdUnits.CommitEdit(); }
+    void CommitOpenCell() override { controls.grdUnits.editor.Commit(); }
     Size LeastInnerSize() override;
     bool HasUnsavedChanges() const override { return form_.ChangeFlag; }
     void Save() override;

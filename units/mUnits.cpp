@@ -31,7 +31,7 @@ void mUnits::LoadUnitsData() {
     const SaveTurn turn(files_, state_.gsUnitsFile); // what somebody else saves is read whole
     leftOut_.clear();
     auto& grid = controls_.grdUnits;
-    grid.SetRedraw(false);
+    grid.cells.SetRedraw(false);
     ResetGrid();
     if (files_.Exists(state_.gsUnitsFile)) {
         ReadUnits();
@@ -43,13 +43,13 @@ void mUnits::LoadUnitsData() {
     Join(leftOut_, "; ", DescribeUncertainty());
     Join(leftOut_, "; ", Obstacle(state_.gsUnitsFile, ObstacleToSave()));
     ReportCount();
-    grid.SetRedraw(true);
-    grid.FitColumns(0);
+    grid.cells.SetRedraw(true);
+    grid.columns.Fit(0);
 }
 
 void mUnits::ResetGrid() {
-    controls_.grdUnits.SetRows(0);
-    controls_.grdUnits.AddItem("Unit\tUnit Description");
+    controls_.grdUnits.cells.SetRows(0);
+    controls_.grdUnits.cells.AddItem("Unit\tUnit Description");
 }
 
 void mUnits::ReadUnits() {
@@ -64,7 +64,7 @@ void mUnits::ReadUnits() {
     opened.handle->Close();
     const bool whole = text.size() == size;
     const auto path = files_.DisplayPath(state_.gsUnitsFile);
-    controls_.grdUnits.AddRowsOf(std::move(text), [&](auto lines, auto& cells) {
+    controls_.grdUnits.cells.AddRowsOf(std::move(text), [&](auto lines, auto& cells) {
         leftOut_ = Describe(AppendUnitCells(lines, path, cells));
     });
     if (!whole) {
@@ -95,7 +95,7 @@ bool mUnits::Write_Units() {
 
 void mUnits::ReplaceFile() {
     Start("Write_Units");
-    const UnitsFileText text(controls_.grdUnits); // an error here leaves the file as it is
+    const UnitsFileText text(controls_.grdUnits.cells); // an error here leaves the file as it is
     const auto& path = state_.gsUnitsFile;
     const bool deleted = files_.Exists(path) && files_.Delete(path) == FileError::None;
     const auto created = files_.Create(path);
@@ -118,7 +118,7 @@ std::string mUnits::FileName() const {
 }
 
 void mUnits::ReportCount() {
-    auto text = Counted(static_cast<std::size_t>(controls_.grdUnits.Rows() - 1), "unit");
+    auto text = Counted(static_cast<std::size_t>(controls_.grdUnits.cells.Rows() - 1), "unit");
     Join(text, "; ", leftOut_);
     reported.Raise(text);
 }
@@ -126,9 +126,10 @@ void mUnits::ReportCount() {
 bool mUnits::ValidateUnits() {
     Start("ValidateUnits");
     const auto& grid = controls_.grdUnits;
-    const Int16 last = grid.Rows() - 1;
+    const Int16 last = grid.cells.Rows() - 1;
     for (int row = 1; row <= last; ++row) {
-        if (!Validate_Unit(grid.Text(row, kUnit)) || !Validate_Desc(grid.Text(row, kUnitDescription))) {
+        if (!Validate_Unit(grid.cells.Text(row, kUnit)) ||
+            !Validate_Desc(grid.cells.Text(row, kUnitDescription))) {
             return false;
         }
     }

@@ -25,8 +25,8 @@ std::optional<wxString> TextOnClipboard() {
 
 /// The cell that the first pasted one goes into.
 Cell FirstOf(const Grid& model) {
-    return {std::max(1, std::min(model.Row(), model.BlockEnd().row)),
-            std::min(model.Column(), model.BlockEnd().column)};
+    return {std::max(1, std::min(model.selection.Row(), model.selection.BlockEnd().row)),
+            std::min(model.selection.Column(), model.selection.BlockEnd().column)};
 }
 
 void TellWhereLacking(const ViewContext& context, const Grid& model, const wxString& shown) {
@@ -37,7 +37,7 @@ void TellWhereLacking(const ViewContext& context, const Grid& model, const wxStr
         const auto text = cells.Take();
         const auto inCell = wxString::FromUTF8(text.data(), text.size());
         if (FindLacking(context.codePage, inCell)) {
-            TellRefused(context, NameOf(model, cell), inCell);
+            TellRefused(context, NameOf(model.cells, cell), inCell);
             return;
         }
         cell = cells.EndedRow() ? Cell{cell.row + 1, first.column} : Cell{cell.row, cell.column + 1};

@@ -5,9 +5,9 @@
 
 namespace zy {
 
-std::string NameOf(const Grid& grid, const Cell& cell) {
-    const auto column = cell.column < grid.Columns() ? std::string(grid.Text(0, cell.column))
-                                                     : "column " + std::to_string(cell.column + 1);
+std::string NameOf(const GridCells& cells, const Cell& cell) {
+    const auto column = cell.column < cells.Columns() ? std::string(cells.Text(0, cell.column))
+                                                      : "column " + std::to_string(cell.column + 1);
     return "row " + std::to_string(cell.row) + ", " + column;
 }
 

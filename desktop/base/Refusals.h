@@ -2,7 +2,8 @@
 
 #include <string>
 
-#include "controls/Grid.h"
+#include "controls/Control.h"
+#include "controls/GridCells.h"
 #include "desktop/ViewContext.h"
 
 class wxString;
@@ -12,7 +13,7 @@ namespace zy {
 // What the status bar says of a text of the user's that is not taken.
 
 /// The name of a cell, for such a text: its row and the title of its column.
-std::string NameOf(const Grid& grid, const Cell& cell);
+std::string NameOf(const GridCells& cells, const Cell& cell);
 /// The name of a field: its label.
 std::string NameOf(const Control& field);
 

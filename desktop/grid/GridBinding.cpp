@@ -31,8 +31,9 @@ wxWindow* MakeBorder(wxWindow* parent) {
 
 GridBinding::GridBinding(const ViewContext& context, const Inside& inside, Grid& model)
     : ControlBinding(context, inside, model), model_(model), border_(MakeBorder(Parent())),
-      table_(new GridTable(context, model)), grid_(new GridWidget(border_, table_)),
-      columns_(context, model, *grid_), cursor_(context, model, *grid_), editor_(context, model, *grid_) {
+      table_(new GridTable(context, model.cells)), grid_(new GridWidget(border_, table_)),
+      widths_(context, model.cells, model.columns, *grid_), cursor_(context, model, *grid_),
+      editor_(context, model, *grid_) {
     border_->GetSizer()->Add(grid_, wxSizerFlags(1).Expand().Border(wxALL, grid_->FromDIP(1)));
     grid_->FitRows(editor_.NeededHeight());
     ObserveModel();
@@ -52,8 +53,8 @@ GridBinding::~GridBinding() {
 
 void GridBinding::ObserveModel() {
     model_.cellPlace = [this](int row, int column) { return PlaceOf(row, column); };
-    Keep(model_.rowsChanged.Observe([this] { rowsChanged_ = true; }));
-    Keep(model_.cellChanged.Observe([this](int, int) { cellsChanged_ = true; }));
+    Keep(model_.cells.rowsChanged.Observe([this] { rowsChanged_ = true; }));
+    Keep(model_.cells.cellChanged.Observe([this](int, int) { cellsChanged_ = true; }));
     Keep(Gate().updateViews.Observe([this] { ShowChanges(); }));
 }
 
@@ -72,7 +73,7 @@ void GridBinding::BindMouse() {
     grid_->Bind(wxEVT_GRID_LABEL_RIGHT_CLICK, down(MouseButton::Right));
     grid_->GetGridWindow()->Bind(wxEVT_RIGHT_DOWN, [this](wxMouseEvent& event) {
         event.Skip();
-        // The toolkit's grid tells of cells alone.
+        // The toolkit's grid announces clicks on cells alone.
         if (grid_->XYToCell(grid_->CalcUnscrolledPosition(event.GetPosition())) == wxGridNoCellCoords) {
             PressMouse(MouseButton::Right, kNowhere, kNowhere);
         }
@@ -87,7 +88,7 @@ void GridBinding::BindMouse() {
 
 void GridBinding::PressMouse(MouseButton button, int row, int column) {
     Gate().ActLater([this, button, row, column] {
-        if (row < model_.Rows()) {
+        if (row < model_.cells.Rows()) {
             model_.PressMouse(button, row, column);
         }
         return model_.HasFocus();
@@ -97,21 +98,21 @@ void GridBinding::PressMouse(MouseButton button, int row, int column) {
 void GridBinding::PressMenuKey(wxContextMenuEvent& event) {
     const bool isKey = event.GetPosition() == wxDefaultPosition;
     if (!isKey || !grid_->GetGridWindow()->HasFocus()) {
-        // The mouse has been told of, and an open cell has a menu of its own.
+        // A button of the mouse has its own event, and an open cell has a menu of its own.
         event.Skip();
         return;
     }
     Context().menuPlace = PlaceOfMenu();
-    Gate().Act([this] { model_.PressMouse(MouseButton::Right, model_.Row(), model_.Column()); });
+    const Cell cell = model_.selection.Current();
+    Gate().Act([&] { model_.PressMouse(MouseButton::Right, cell.row, cell.column); });
     Context().menuPlace.reset();
 }
 
 wxPoint GridBinding::PlaceOfMenu() {
     wxPoint place;
-    if (model_.Row() > kHeader) {
-        grid_->MakeCellVisible(model_.Row() - 1, model_.Column());
-        const wxRect cell = grid_->CellToRect(model_.Row() - 1, model_.Column());
-        place = grid_->CalcScrolledPosition(cell.GetBottomLeft());
+    if (model_.selection.IsInData()) {
+        grid_->Reveal(model_.selection.Current());
+        place = grid_->PlaceOf(model_.selection.Current()).GetBottomLeft();
     }
     return grid_->GetGridWindow()->ClientToScreen(place);
 }
@@ -156,7 +157,7 @@ void GridBinding::HandOn(wxKeyEvent& event) {
 bool GridBinding::UseClipboard(const wxKeyEvent& event) {
     const auto key = ClipboardKeyOf(event);
     if (key == ClipboardKey::Copy || key == ClipboardKey::Cut) {
-        CopyCells(Context(), model_.Copy());
+        CopyCells(Context(), model_.block.Copy());
     }
     if (key == ClipboardKey::SelectAll) {
         Gate().Act([this] { model_.SelectAll(); });
@@ -177,12 +178,12 @@ void GridBinding::TypeKey(wxKeyEvent& event) {
     } else if (const auto typed = TakeEdit(Context().codePage, "", wxString(character))) {
         Gate().Act([&] { model_.TypeOver(typed->text); });
     } else {
-        TellRefused(Context(), NameOf(model_, {model_.Row(), model_.Column()}), wxString(character));
+        TellRefused(Context(), NameOf(model_.cells, model_.selection.Current()), wxString(character));
     }
 }
 
 void GridBinding::TakeFocus() {
-    if (model_.IsEditing()) {
+    if (model_.editor.IsOpen()) {
         editor_.TakeFocus();
     } else {
         grid_->GetGridWindow()->SetFocus();
@@ -197,8 +198,7 @@ void GridBinding::Measure() {
 }
 
 Rect GridBinding::PlaceOf(int row, int column) const {
-    wxRect place = grid_->CellToRect(row - 1, column);
-    place.SetPosition(grid_->CalcScrolledPosition(place.GetPosition()));
+    wxRect place = grid_->PlaceOf({row, column});
     // Behind the border and below the header.
     place.Offset(grid_->GetPosition() + grid_->GetGridWindow()->GetPosition());
     const auto& scale = Context().scale;
@@ -208,7 +208,7 @@ Rect GridBinding::PlaceOf(int row, int column) const {
 
 void GridBinding::ShowAppearance() {
     ControlBinding::ShowAppearance();
-    columns_.Show();
+    widths_.Show();
 }
 
 void GridBinding::Rescale() {
@@ -225,7 +225,7 @@ void GridBinding::ShowChanges() {
         grid_->GetGridWindow()->Refresh();
         grid_->GetGridColLabelWindow()->Refresh();
     }
-    columns_.ShowFit();
+    widths_.ShowFit();
     cursor_.Show();
     editor_.Show();
     PresentCurrent();
@@ -233,10 +233,9 @@ void GridBinding::ShowChanges() {
 
 void GridBinding::PresentCurrent() {
     wxString text = Shown(model_.Parent()->Caption());
-    if (const int row = model_.Row(); row >= 1 && row < model_.Rows()) {
-        text = grid_->GetColLabelValue(model_.Column()) + " " +
-               grid_->GetCellValue(row - 1, model_.Column()) +
-               wxString::Format(", row %d of %d", row, model_.Rows() - 1);
+    if (const auto [row, column] = model_.selection.Current(); row >= 1 && row < model_.cells.Rows()) {
+        text = grid_->GetColLabelValue(column) + " " + grid_->GetCellValue(row - 1, column) +
+               wxString::Format(", row %d of %d", row, model_.cells.Rows() - 1);
     }
     if (presented_ != text) {
         presented_ = text;

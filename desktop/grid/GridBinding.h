@@ -2,7 +2,7 @@
 
 #include "controls/Grid.h"
 #include "desktop/ControlBinding.h"
-#include "desktop/GridColumns.h"
+#include "desktop/GridColumnWidths.h"
 #include "desktop/GridCursor.h"
 #include "desktop/GridEditor.h"
 #include "desktop/GridTable.h"
@@ -45,12 +45,12 @@ class GridBinding : public ControlBinding {
     wxWindow* border_;
     GridTable* table_;
     GridWidget* grid_;
-    GridColumns columns_;
+    GridColumnWidths widths_;
     GridCursor cursor_;
     GridEditor editor_;
     bool rowsChanged_ = false;
     bool cellsChanged_ = false;
-    wxString presented_; ///< what assistive technology was told last
+    wxString presented_; ///< what assistive technology got last
 };
 
 } // namespace zy

@@ -24,7 +24,7 @@ void HideButton(wxButton* button) {
 } // namespace
 
 bool GridCellButton::HasList() const {
-    return model_.EditList().HasItems();
+    return editor_.List().HasItems();
 }
 
 wxRect GridCellButton::PlaceIn(const wxRect& cell) {
@@ -38,8 +38,8 @@ wxRect GridCellButton::PlaceIn(const wxRect& cell) {
 }
 
 int GridCellButton::WidthIn(const wxRect& cell) {
-    const bool hasNone = !HasList() && !model_.EditList().HasButton();
-    return hasNone ? 0 : std::min(cell.width, std::max(Button().GetBestSize().x, cell.height));
+    const bool hasOne = HasList() || editor_.List().HasButton();
+    return !hasOne ? 0 : std::min(cell.width, std::max(Button().GetBestSize().x, cell.height));
 }
 
 wxButton& GridCellButton::Button() {
@@ -85,21 +85,20 @@ void GridCellButton::Press() {
     if (HasList()) {
         DropDown();
     } else {
-        context_.gate.Act([this] { model_.PressCellButton(); });
+        context_.gate.Act([this] { editor_.PressButton(); });
     }
 }
 
 void GridCellButton::DropDown() {
     wxMenu menu;
-    for (const auto& item : model_.EditList().Items()) {
+    for (const auto& item : editor_.List().Items()) {
         const auto label = WithMnemonic(context_.codePage, item.empty() ? " " : item, '\0');
         const int id = menu.Append(wxID_ANY, label)->GetId();
         menu.Bind(
             wxEVT_MENU,
-            [this, item](wxCommandEvent&) { context_.gate.Act([&] { model_.ChooseItem(item); }); }, id);
+            [this, item](wxCommandEvent&) { context_.gate.Act([&] { editor_.ChooseItem(item); }); }, id);
     }
-    wxRect cell = grid_.CellToRect(model_.Row() - 1, model_.Column());
-    grid_.GetGridWindow()->PopupMenu(&menu, grid_.CalcScrolledPosition(cell.GetBottomLeft()));
+    grid_.GetGridWindow()->PopupMenu(&menu, grid_.PlaceOf(selection_.Current()).GetBottomLeft());
 }
 
 bool GridCellButton::PickByLetter(wxUniChar letter) {
@@ -108,13 +107,13 @@ bool GridCellButton::PickByLetter(wxUniChar letter) {
     }
     // A character that the code page lacks begins no item.
     if (const auto typed = TakeEdit(context_.codePage, "", wxString(letter))) {
-        context_.gate.Act([&] { model_.ChooseNext(typed->text, UpperCase()); });
+        context_.gate.Act([&] { editor_.ChooseNext(typed->text, UpperCase()); });
     }
     return true;
 }
 
 void GridCellButton::CorrectText() {
-    model_.CorrectEditText(UpperCase());
+    editor_.CorrectText(UpperCase());
 }
 
 CellList::UpperCase GridCellButton::UpperCase() const {

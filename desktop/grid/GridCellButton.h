@@ -1,9 +1,9 @@
 #pragma once
 
 #include <wx/button.h>
-#include <wx/grid.h>
 
-#include "controls/Grid.h"
+#include "controls/CellEditor.h"
+#include "desktop/GridWidget.h"
 #include "desktop/ViewContext.h"
 
 namespace zy {
@@ -12,8 +12,9 @@ namespace zy {
 /// own.
 class GridCellButton {
   public:
-    GridCellButton(const ViewContext& context, Grid& model, wxGrid& grid)
-        : context_(context), model_(model), grid_(grid) {}
+    GridCellButton(const ViewContext& context, CellEditor& editor, const GridSelection& selection,
+                   GridWidget& grid)
+        : context_(context), editor_(editor), selection_(selection), grid_(grid) {}
 
     /// Takes its room off the right end of a cell and returns the rest; the whole cell where that has no
     /// button.
@@ -43,8 +44,9 @@ class GridCellButton {
     CellList::UpperCase UpperCase() const;
 
     const ViewContext& context_;
-    Grid& model_;
-    wxGrid& grid_;
+    CellEditor& editor_;
+    const GridSelection& selection_;
+    GridWidget& grid_;
     // Made for the first cell that needs them.
     wxButton* list_ = nullptr;
     wxButton* dialog_ = nullptr;

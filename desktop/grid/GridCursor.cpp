@@ -34,8 +34,8 @@ wxGridBlockCoords BlockBetween(const Cell& one, const Cell& other) {
 } // namespace
 
 GridCursor::GridCursor(const ViewContext& context, Grid& model, GridWidget& grid)
-    : context_(context), model_(model), grid_(grid), isStart_(model.HasFocus()),
-      blockChanged_(model.blockChanged.Observe([this] { Touch(); })) {
+    : context_(context), model_(model), selection_(model.selection), grid_(grid), isStart_(model.HasFocus()),
+      blockChanged_(model.selection.blockChanged.Observe([this] { Touch(); })) {
     grid_.Bind(wxEVT_GRID_SELECT_CELL, [this](wxGridEvent& event) {
         event.Skip();
         TakeCell(event);
@@ -63,10 +63,10 @@ void GridCursor::TakeCell(const wxGridEvent& event) {
         const bool isToolkits =
             grid_.GetGridCursorCoords() == wxGridNoCellCoords && event.GetRow() == 0 && event.GetCol() == 0;
         context_.gate.ActLater([this, isToolkits, row = event.GetRow() + 1, column = event.GetCol()] {
-            // The toolkit also tells of its own first cell in rows that have just come. Where the program has
-            // picked another one meanwhile, that counts.
-            const bool isCurrent = row == model_.Row() && column == model_.Column();
-            if (!isCurrent && !(isToolkits && HasCell()) && row < model_.Rows()) {
+            // The toolkit also announces its own first cell in rows that have just come. Where the program
+            // has picked another one meanwhile, that counts.
+            const bool isCurrent = selection_.Current() == Cell{row, column};
+            if (!isCurrent && !(isToolkits && HasCell()) && row < model_.cells.Rows()) {
                 model_.Pick(row, column);
             }
             return model_.HasFocus();
@@ -83,7 +83,7 @@ bool GridCursor::BeginBy(const wxKeyEvent& event) {
 }
 
 bool GridCursor::TakeFirstCell() {
-    if (grid_.GetGridWindow()->HasFocus() && !HasCell() && model_.Rows() > 1) {
+    if (grid_.GetGridWindow()->HasFocus() && !HasCell() && model_.cells.Rows() > 1) {
         model_.Pick(1, 0);
     }
     return true;
@@ -91,34 +91,34 @@ bool GridCursor::TakeFirstCell() {
 
 bool GridCursor::TakeBlock() {
     const auto block = LastBlock(grid_);
-    if (!HasCell() || !model_.TakeFocus() || block.GetBottomRow() + 1 >= model_.Rows()) {
+    if (!HasCell() || !model_.TakeFocus() || block.GetBottomRow() + 1 >= model_.cells.Rows()) {
         return model_.HasFocus();
     }
-    const wxGridCellCoords cell(model_.Row() - 1, model_.Column());
+    const wxGridCellCoords cell(selection_.Row() - 1, selection_.Column());
     if (block == wxGridNoBlockCoords) {
-        model_.SelectTo(model_.Row(), model_.Column());
+        selection_.SelectTo(selection_.Row(), selection_.Column());
     } else if (IsAtCorner(block, cell)) {
         const bool down = cell.GetRow() == block.GetTopRow();
         const bool right = cell.GetCol() == block.GetLeftCol();
-        model_.SelectTo((down ? block.GetBottomRow() : block.GetTopRow()) + 1,
-                        right ? block.GetRightCol() : block.GetLeftCol());
+        selection_.SelectTo((down ? block.GetBottomRow() : block.GetTopRow()) + 1,
+                            right ? block.GetRightCol() : block.GetLeftCol());
     } else {
         // A whole row, column or grid: the model's block begins at its current cell.
-        model_.Select(block.GetTopRow() + 1, block.GetLeftCol());
-        model_.SelectTo(block.GetBottomRow() + 1, block.GetRightCol());
+        selection_.Select(block.GetTopRow() + 1, block.GetLeftCol());
+        selection_.SelectTo(block.GetBottomRow() + 1, block.GetRightCol());
     }
     return true;
 }
 
 void GridCursor::MatchRows(GridTable& table) {
-    showing_ = model_.Rows() - 1 < grid_.GetNumberRows();
+    showing_ = model_.cells.Rows() - 1 < grid_.GetNumberRows();
     table.MatchRows();
     showing_ = false;
     Touch();
 }
 
 bool GridCursor::Show() {
-    // The toolkit tells of a block when the person lets go of the mouse. Until then it is the person's alone.
+    // The toolkit announces a block when the user releases the mouse. Until then it is the user's alone.
     if (grid_.GetGridWindow()->HasCapture() || !std::exchange(changed_, false)) {
         return false;
     }
@@ -130,7 +130,7 @@ bool GridCursor::Show() {
 }
 
 void GridCursor::ShowCell() {
-    const wxGridCellCoords cell(model_.Row() - 1, model_.Column());
+    const wxGridCellCoords cell(selection_.Row() - 1, selection_.Column());
     // A click has moved the toolkit's cursor already.
     grid_.RefreshRow(shownRow_);
     grid_.SetHasCurrent(HasCell());
@@ -143,7 +143,7 @@ void GridCursor::ShowCell() {
 
 void GridCursor::ShowBlock() {
     const auto block =
-        HasCell() ? BlockBetween({model_.Row(), model_.Column()}, model_.BlockEnd()) : wxGridNoBlockCoords;
+        HasCell() ? BlockBetween(selection_.Current(), selection_.BlockEnd()) : wxGridNoBlockCoords;
     if (block == LastBlock(grid_)) {
         return;
     }
@@ -152,7 +152,7 @@ void GridCursor::ShowBlock() {
         grid_.SelectBlock(block.GetTopLeft(), block.GetBottomRight());
     }
     if (HasCell()) {
-        grid_.MakeCellVisible(model_.BlockEnd().row - 1, model_.BlockEnd().column);
+        grid_.Reveal(selection_.BlockEnd());
     }
 }
 

@@ -18,7 +18,7 @@ wxTextCtrl* MakeText(const GridWidget& grid) {
     auto* text = new wxTextCtrl(grid.GetGridWindow(), wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
                                 wxBORDER_NONE | EveryKeyStyle());
     HideOverCells(*text);
-    // The first name a control gets is told nobody, the later ones are.
+    // Assistive technology learns of the names that a control gets after its first one.
     SetAccessibleName(*text, "Cell");
     return text;
 }
@@ -32,9 +32,10 @@ bool IsCharacterWithControl(const wxKeyEvent& event) {
 } // namespace
 
 GridEditor::GridEditor(const ViewContext& context, Grid& model, GridWidget& grid)
-    : context_(context), model_(model), grid_(grid), text_(MakeText(grid)), button_(context, model, grid),
-      editingChanged_(model.editingChanged.Observe([this] { changed_ = true; })),
-      editTextChanged_(model.editTextChanged.Observe([this] { changed_ = true; })) {
+    : context_(context), model_(model), editor_(model.editor), grid_(grid), text_(MakeText(grid)),
+      button_(context, editor_, model.selection, grid),
+      openChanged_(editor_.openChanged.Observe([this] { changed_ = true; })),
+      textChanged_(editor_.textChanged.Observe([this] { changed_ = true; })) {
     BindText();
     CommitWhenLeft();
 }
@@ -59,9 +60,9 @@ void GridEditor::CommitWhenLeft() {
     auto* window = wxGetTopLevelParent(&grid_);
     // Not every click takes the keyboard away, such as one on a button that the edit is to enable.
     ObserveMousePress(*window, [this] {
-        if (model_.IsEditing() && IsMouseBeside()) {
+        if (editor_.IsOpen() && IsMouseBeside()) {
             context_.gate.ActLater([this] {
-                model_.CommitEdit();
+                editor_.Commit();
                 return true;
             });
         }
@@ -70,7 +71,7 @@ void GridEditor::CommitWhenLeft() {
         event.Skip();
         // The list of a cell is a menu too, and belongs to the edit.
         if (!event.IsPopup()) {
-            context_.gate.Act([this] { model_.CommitEdit(); });
+            context_.gate.Act([this] { editor_.Commit(); });
         }
     });
 }
@@ -85,7 +86,7 @@ bool GridEditor::IsMouseBeside() const {
 
 void GridEditor::Show() {
     const bool changed = std::exchange(changed_, false);
-    if (!model_.IsEditing()) {
+    if (!editor_.IsOpen()) {
         Close();
         return;
     }
@@ -101,9 +102,9 @@ void GridEditor::Show() {
 }
 
 void GridEditor::Open() {
-    ShowCell();
+    grid_.Reveal(model_.selection.Current());
     Place();
-    SetAccessibleName(*text_, grid_.GetColLabelValue(model_.Column()));
+    SetAccessibleName(*text_, grid_.GetColLabelValue(model_.selection.Column()));
     if (model_.HasFocus()) {
         text_->SetFocus();
     }
@@ -121,8 +122,7 @@ void GridEditor::Close() {
 }
 
 void GridEditor::Place() {
-    wxRect place = grid_.CellToRect(model_.Row() - 1, model_.Column());
-    place.SetPosition(grid_.CalcScrolledPosition(place.GetPosition()));
+    wxRect place = grid_.PlaceOf(model_.selection.Current());
     // The lines between the cells stay.
     place.SetSize(place.GetSize() - wxSize(1, 1));
     wxRect text = button_.PlaceIn(WideEnough(place));
@@ -149,8 +149,7 @@ int GridEditor::NeededWidth() const {
 }
 
 bool GridEditor::ShowText() {
-    const wxString shown =
-        ToShown(context_.codePage, std::string_view(model_.EditText()).substr(0, kMostShown));
+    const wxString shown = ToShown(context_.codePage, std::string_view(editor_.Text()).substr(0, kMostShown));
     const bool differs = text_->GetValue() != shown;
     if (differs) {
         text_->ChangeValue(shown);
@@ -161,8 +160,8 @@ bool GridEditor::ShowText() {
 void GridEditor::ShowTextAndCaret() {
     button_.CorrectText();
     ShowText();
-    const auto start = static_cast<long>(model_.EditSelStart());
-    text_->SetSelection(start, start + static_cast<long>(model_.EditSelLength()));
+    const auto start = static_cast<long>(editor_.SelStart());
+    text_->SetSelection(start, start + static_cast<long>(editor_.SelLength()));
 }
 
 void GridEditor::TakeFocus() {
@@ -176,7 +175,7 @@ void GridEditor::PressKey(wxKeyEvent& event) {
     RememberSelection();
     if (IsAccessKey(event)) {
         // It may press a button that the edit enables.
-        context_.gate.Act([this] { model_.CommitEdit(); });
+        context_.gate.Act([this] { editor_.Commit(); });
         HandOnAccessKey(grid_, event);
         return;
     }
@@ -202,8 +201,8 @@ void GridEditor::TakeCaret() {
     long start = 0;
     long end = 0;
     text_->GetSelection(&start, &end);
-    const std::string text = model_.EditText();
-    model_.EnterEditText(text, static_cast<std::size_t>(start), static_cast<std::size_t>(end - start));
+    const std::string text = editor_.Text();
+    editor_.Enter(text, static_cast<std::size_t>(start), static_cast<std::size_t>(end - start));
 }
 
 void GridEditor::TakeText() {
@@ -211,22 +210,22 @@ void GridEditor::TakeText() {
         ShowTextAndCaret();
         return;
     }
-    const std::string before = model_.EditText().substr(0, kMostShown);
-    const std::string beyond = model_.EditText().substr(before.size());
+    const std::string before = editor_.Text().substr(0, kMostShown);
+    const std::string beyond = editor_.Text().substr(before.size());
     const auto edited = TakeEdit(context_.codePage, before, text_->GetValue());
     if (!edited) {
         Refuse();
         return;
     }
-    ShowCell();
-    context_.gate.Act([&] { model_.EnterEditText(edited->text + beyond, edited->changeEnd, 0); });
+    grid_.Reveal(model_.selection.Current());
+    context_.gate.Act([&] { editor_.Enter(edited->text + beyond, edited->changeEnd, 0); });
     if (ShowText()) {
         text_->SetInsertionPoint(static_cast<long>(edited->changeEnd));
     }
 }
 
 void GridEditor::Refuse() {
-    TellRefused(context_, NameOf(model_, {model_.Row(), model_.Column()}), text_->GetValue());
+    TellRefused(context_, NameOf(model_.cells, model_.selection.Current()), text_->GetValue());
     ShowText();
     text_->SetSelection(selectionStart_, selectionEnd_);
 }

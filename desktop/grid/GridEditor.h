@@ -11,7 +11,7 @@ namespace zy {
 
 /// The editor over the current cell of a grid: a line of text, and a button beside it where the cell has one.
 ///
-/// The model says when it is open and holds its text and selection. What a person types is handed to the
+/// The model says when it is open and holds its text and selection. What the user types is passed to the
 /// model at once, and keys are the model's before they are the text's. Where a cell has a list, its text is
 /// picked and not typed.
 class GridEditor {
@@ -32,7 +32,6 @@ class GridEditor {
     bool IsMouseBeside() const;
     void Open();
     void Close();
-    void ShowCell() { grid_.MakeCellVisible(model_.Row() - 1, model_.Column()); }
     void Place();
     /// A cell's place, made as wide as the editor needs it for its whole text, over its neighbours and as far
     /// as the grid has room.
@@ -51,15 +50,16 @@ class GridEditor {
 
     const ViewContext& context_;
     Grid& model_;
+    CellEditor& editor_;
     GridWidget& grid_;
     wxTextCtrl* text_;
     GridCellButton button_;
     bool changed_ = false;
-    // The selection before a person's change, put back when the change is refused.
+    // The selection before the user's change, put back when the change is refused.
     long selectionStart_ = 0;
     long selectionEnd_ = 0;
-    Subscription editingChanged_;
-    Subscription editTextChanged_;
+    Subscription openChanged_;
+    Subscription textChanged_;
 };
 
 } // namespace zy

@@ -12,12 +12,12 @@ constexpr std::size_t kMostDrawn = 1024;
 
 } // namespace
 
-GridTable::GridTable(const ViewContext& context, const Grid& model)
-    : context_(context), model_(model), rows_(std::max(model.Rows() - 1, 0)) {}
+GridTable::GridTable(const ViewContext& context, const GridCells& cells)
+    : context_(context), cells_(cells), rows_(std::max(cells.Rows() - 1, 0)) {}
 
 void GridTable::MatchRows() {
     const int before = rows_;
-    rows_ = std::max(model_.Rows() - 1, 0);
+    rows_ = std::max(cells_.Rows() - 1, 0);
     if (rows_ > before) {
         wxGridTableMessage appended(this, wxGRIDTABLE_NOTIFY_ROWS_APPENDED, rows_ - before);
         GetView()->ProcessTableMessage(appended);
@@ -30,7 +30,7 @@ void GridTable::MatchRows() {
 void GridTable::SetValue(int /*row*/, int /*column*/, const wxString& /*value*/) {}
 
 std::string_view GridTable::TextAt(int modelRow, int column) const {
-    return modelRow < model_.Rows() ? std::string_view(model_.Text(modelRow, column)) : std::string_view();
+    return modelRow < cells_.Rows() ? cells_.Text(modelRow, column) : std::string_view();
 }
 
 wxString GridTable::Shown(int modelRow, int column) const {

@@ -83,6 +83,12 @@ void GridWidget::SetHasCurrent(bool has) {
     SetCellHighlightROPenWidth(GetCellHighlightPenWidth());
 }
 
+wxRect GridWidget::PlaceOf(const Cell& cell) const {
+    wxRect place = CellToRect(cell.row - 1, cell.column);
+    place.SetPosition(CalcScrolledPosition(place.GetPosition()));
+    return place;
+}
+
 void GridWidget::RefreshRow(int row) {
     if (row >= 0 && row < GetNumberRows()) {
         GetGridWindow()->RefreshRect(BlockToDeviceRect({row, 0}, {row, GetNumberCols() - 1}));

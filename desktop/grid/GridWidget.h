@@ -2,6 +2,8 @@
 
 #include <wx/grid.h>
 
+#include "controls/GridCells.h"
+
 namespace zy {
 
 /// The toolkit's grid with the looks of the program's other lists, and without what the model does itself:
@@ -15,6 +17,11 @@ class GridWidget : public wxGrid {
     /// keyboard.
     void SetHasCurrent(bool has);
     bool IsCurrentRow(int row) const { return hasCurrent_ && row == GetGridCursorRow(); }
+    /// Where a cell of the model is drawn, in the window of the cells; the model's row 1 is the toolkit's row
+    /// 0.
+    wxRect PlaceOf(const Cell& cell) const;
+    /// Scrolls a cell of the model into view.
+    void Reveal(const Cell& cell) { MakeCellVisible(cell.row - 1, cell.column); }
     /// Draws anew the row that is or was current.
     void RefreshRow(int row);
 

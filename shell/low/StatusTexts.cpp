@@ -13,7 +13,7 @@ std::string DescribeSize(const PasteReport& paste) {
     return text.empty() ? text : text + " left out";
 }
 
-std::string DescribeRefused(const PasteReport& paste, const Grid& grid) {
+std::string DescribeRefused(const PasteReport& paste, const GridCells& grid) {
     if (paste.cellsRefused == 0) {
         return {};
     }
@@ -46,7 +46,7 @@ void Join(std::string& text, std::string_view separator, std::string_view part) 
     text += part;
 }
 
-std::string DescribeLeftOut(const PasteReport& paste, const Grid& grid) {
+std::string DescribeLeftOut(const PasteReport& paste, const GridCells& grid) {
     if (paste.tooLong) {
         return "Not pasted: the list would get longer than it can be";
     }

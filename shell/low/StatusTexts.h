@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "controls/Grid.h"
+#include "controls/CellBlock.h"
 #include "controls/StatusBar.h"
 #include "platform/FileError.h"
 
@@ -36,7 +36,7 @@ std::string Quoted(std::string_view text);
 void Join(std::string& text, std::string_view separator, std::string_view part);
 
 /// What of a paste into the grid was not taken; empty when all was.
-std::string DescribeLeftOut(const PasteReport& paste, const Grid& grid);
+std::string DescribeLeftOut(const PasteReport& paste, const GridCells& grid);
 
 /// Shows a hint behind what the status bar shows; nothing for an empty one.
 void AddHint(StatusBar& bar, std::string_view hint);

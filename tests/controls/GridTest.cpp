@@ -8,62 +8,62 @@ using ::testing::IsEmpty;
 
 TEST_F(GridTest, StartsWithItsHeaderRowAlone) {
     const Grid fresh(&form, "grd", 2);
-    EXPECT_EQ(fresh.Rows(), 1);
-    EXPECT_EQ(fresh.Columns(), 2);
-    EXPECT_EQ(fresh.Row(), -1);
-    EXPECT_EQ(fresh.ColumnWidth(1), 960);
+    EXPECT_EQ(fresh.cells.Rows(), 1);
+    EXPECT_EQ(fresh.cells.Columns(), 2);
+    EXPECT_EQ(fresh.selection.Row(), -1);
+    EXPECT_EQ(fresh.columns.Width(1), 960);
 }
 
 TEST_F(GridTest, AddsARowOfTabJoinedCells) {
-    EXPECT_EQ(grid.Rows(), 3);
+    EXPECT_EQ(grid.cells.Rows(), 3);
     EXPECT_THAT(Row(1), ElementsAre("a", "b", "c"));
 }
 
 TEST_F(GridTest, LeavesCellsEmptyThatARowDoesNotName) {
-    grid.AddItem("x");
+    grid.cells.AddItem("x");
     EXPECT_THAT(Row(3), ElementsAre("x", "", ""));
 }
 
 TEST_F(GridTest, RemovesARowAndKeepsTheCurrentOneInside) {
-    grid.Select(2, 1);
-    grid.RemoveItem(1);
-    EXPECT_EQ(grid.Rows(), 2);
+    grid.selection.Select(2, 1);
+    grid.cells.RemoveItem(1);
+    EXPECT_EQ(grid.cells.Rows(), 2);
     EXPECT_THAT(Row(1), ElementsAre("d", "e", "f"));
-    EXPECT_EQ(grid.Row(), 1);
+    EXPECT_EQ(grid.selection.Row(), 1);
 }
 
 TEST_F(GridTest, GrowsByEmptyRowsAndShrinksFromTheEnd) {
-    grid.SetRows(4);
+    grid.cells.SetRows(4);
     EXPECT_THAT(Row(3), ElementsAre("", "", ""));
-    grid.SetRows(2);
-    EXPECT_EQ(grid.Rows(), 2);
+    grid.cells.SetRows(2);
+    EXPECT_EQ(grid.cells.Rows(), 2);
     EXPECT_THAT(Row(1), ElementsAre("a", "b", "c"));
 }
 
 TEST_F(GridTest, TellsAChangedCellOnce) {
-    grid.SetText(1, 2, "c");
-    grid.SetText(1, 2, "C");
+    grid.cells.SetText(1, 2, "c");
+    grid.cells.SetText(1, 2, "C");
     EXPECT_THAT(notes, ElementsAre("changed 1,2"));
 }
 
 TEST_F(GridTest, RaisesSubscriptOutOfRangeForACellItDoesNotHave) {
-    EXPECT_EQ(ErrorNumber([&] { static_cast<void>(grid.Text(3, 0)); }), 9);
-    EXPECT_EQ(ErrorNumber([&] { grid.SetText(0, 3, ""); }), 9);
-    EXPECT_EQ(ErrorNumber([&] { grid.Select(-1, 0); }), 9);
-    EXPECT_EQ(ErrorNumber([&] { grid.SelectTo(0, -1); }), 9);
-    EXPECT_EQ(ErrorNumber([&] { grid.RemoveItem(3); }), 9);
-    EXPECT_EQ(ErrorNumber([&] { grid.EditCell(); }), 9) << "there is no current cell";
+    EXPECT_EQ(ErrorNumber([&] { static_cast<void>(grid.cells.Text(3, 0)); }), 9);
+    EXPECT_EQ(ErrorNumber([&] { grid.cells.SetText(0, 3, ""); }), 9);
+    EXPECT_EQ(ErrorNumber([&] { grid.selection.Select(-1, 0); }), 9);
+    EXPECT_EQ(ErrorNumber([&] { grid.selection.SelectTo(0, -1); }), 9);
+    EXPECT_EQ(ErrorNumber([&] { grid.cells.RemoveItem(3); }), 9);
+    EXPECT_EQ(ErrorNumber([&] { grid.editor.Open(); }), 9) << "there is no current cell";
 }
 
 TEST_F(GridTest, TellsItsCurrentCellOnlyWhenItIsAnotherOne) {
-    grid.Select(1, 1);
-    grid.Select(1, 1);
+    grid.selection.Select(1, 1);
+    grid.selection.Select(1, 1);
     EXPECT_THAT(notes, ElementsAre("current"));
 }
 
 TEST_F(GridTest, DoesNotMakeTheHeaderCurrentOnAClick) {
     grid.Pick(0, 1);
-    EXPECT_EQ(grid.Row(), -1);
+    EXPECT_EQ(grid.selection.Row(), -1);
 }
 
 TEST_F(GridTest, TellsWhichMouseButtonWentDownWhere) {
@@ -76,109 +76,110 @@ TEST_F(GridTest, TellsWhichMouseButtonWentDownWhere) {
 }
 
 TEST_F(GridTest, LeavesCellsOutThatARowHasTooMany) {
-    grid.AddItem("1\t2\t3\t4");
+    grid.cells.AddItem("1\t2\t3\t4");
     EXPECT_THAT(Row(3), ElementsAre("1", "2", "3"));
 }
 
 TEST_F(GridTest, AddsRowsThatArePartsOfOneTextWithoutCopyingThem) {
     std::string text = "a long text of many parts; its parts are not copied";
     const char* const place = text.data();
-    grid.AddRowsOf(std::move(text), [](std::string_view whole, std::vector<std::string_view>& parts) {
+    grid.cells.AddRowsOf(std::move(text), [](std::string_view whole, std::vector<std::string_view>& parts) {
         parts.insert(parts.end(), {whole.substr(0, 1), whole.substr(2, 4), whole.substr(7, 4)});
         parts.insert(parts.end(), {"", whole.substr(15, 4), whole.substr(20, 5)});
     });
-    EXPECT_EQ(grid.Rows(), 5);
+    EXPECT_EQ(grid.cells.Rows(), 5);
     EXPECT_THAT(Row(3), ElementsAre("a", "long", "text"));
     EXPECT_THAT(Row(4), ElementsAre("", "many", "parts"));
-    EXPECT_EQ(grid.Text(3, 1).data(), place + 2);
+    EXPECT_EQ(grid.cells.Text(3, 1).data(), place + 2);
 }
 
 TEST_F(GridTest, KeepsTheRowsItHadWhenATextCannotBeTakenApart) {
     EXPECT_EQ(ErrorNumber([&] {
-                  grid.AddRowsOf("text", [](std::string_view text, std::vector<std::string_view>& parts) {
-                      parts.push_back(text);
-                      RaiseOverflow();
-                  });
+                  grid.cells.AddRowsOf("text",
+                                       [](std::string_view text, std::vector<std::string_view>& parts) {
+                                           parts.push_back(text);
+                                           RaiseOverflow();
+                                       });
               }),
               6);
-    grid.AddItem("g\th\ti");
+    grid.cells.AddItem("g\th\ti");
     EXPECT_THAT(Row(2), ElementsAre("d", "e", "f"));
     EXPECT_THAT(Row(3), ElementsAre("g", "h", "i"));
 }
 
 TEST_F(GridTest, HandsOutTextsThatStayWhenTheirCellsGetOthers) {
-    const auto b = grid.Text(1, 1);
-    grid.SetText(1, 1, grid.Text(2, 1));
-    grid.SetText(2, 1, b);
+    const auto b = grid.cells.Text(1, 1);
+    grid.cells.SetText(1, 1, grid.cells.Text(2, 1));
+    grid.cells.SetText(2, 1, b);
     EXPECT_THAT(Row(1), ElementsAre("a", "e", "c"));
     EXPECT_THAT(Row(2), ElementsAre("d", "b", "f"));
 }
 
 TEST_F(GridTest, TellsThatRowsChangedOnceTheyAreShownAgain) {
     int told = 0;
-    grid.rowsChanged.Connect([&] { ++told; });
-    grid.SetRedraw(false);
-    grid.AddItem("1");
-    grid.AddRowsOf("", [](std::string_view, std::vector<std::string_view>&) {});
-    grid.SetRows(2);
-    grid.RemoveItem(1);
+    grid.cells.rowsChanged.Connect([&] { ++told; });
+    grid.cells.SetRedraw(false);
+    grid.cells.AddItem("1");
+    grid.cells.AddRowsOf("", [](std::string_view, std::vector<std::string_view>&) {});
+    grid.cells.SetRows(2);
+    grid.cells.RemoveItem(1);
     EXPECT_EQ(told, 0);
-    grid.SetRedraw(true);
+    grid.cells.SetRedraw(true);
     EXPECT_EQ(told, 1);
-    grid.AddItem("1");
+    grid.cells.AddItem("1");
     EXPECT_EQ(told, 2);
 }
 
 TEST_F(GridTest, TellsThatTheCurrentCellWentWithItsRow) {
-    grid.Select(2, 1);
+    grid.selection.Select(2, 1);
     notes.clear();
-    grid.SetRows(2);
+    grid.cells.SetRows(2);
     ExpectCurrent(1, 1);
-    grid.RemoveItem(1);
+    grid.cells.RemoveItem(1);
     ExpectCurrent(0, 1);
-    grid.SetRows(0);
+    grid.cells.SetRows(0);
     ExpectCurrent(-1, 1);
     EXPECT_THAT(notes, ElementsAre("current", "current", "current"));
 }
 
 TEST_F(GridTest, KeepsItsCurrentCellWhenRowsAreAddedBehindIt) {
-    grid.Select(2, 1);
+    grid.selection.Select(2, 1);
     notes.clear();
-    grid.SetRows(7);
-    grid.AddItem("1");
+    grid.cells.SetRows(7);
+    grid.cells.AddItem("1");
     ExpectCurrent(2, 1);
     EXPECT_THAT(notes, IsEmpty());
 }
 
 TEST_F(GridTest, StretchesTheBlockUntilAnotherCellIsSelected) {
-    grid.Select(1, 1);
-    grid.SelectTo(2, 2);
-    EXPECT_EQ(grid.BlockEnd(), (Cell{2, 2}));
+    grid.selection.Select(1, 1);
+    grid.selection.SelectTo(2, 2);
+    EXPECT_EQ(grid.selection.BlockEnd(), (Cell{2, 2}));
     ExpectCurrent(1, 1);
-    grid.Select(2, 0);
-    EXPECT_EQ(grid.BlockEnd(), (Cell{2, 0}));
+    grid.selection.Select(2, 0);
+    EXPECT_EQ(grid.selection.BlockEnd(), (Cell{2, 0}));
 }
 
 TEST_F(GridTest, TellsAColumnsWidthOnce) {
     int told = 0;
-    grid.appearanceChanged.Connect([&] { ++told; });
-    grid.SetColumnWidth(1, 500);
-    grid.SetColumnWidth(1, 500);
+    grid.columns.widthChanged.Connect([&] { ++told; });
+    grid.columns.SetWidth(1, 500);
+    grid.columns.SetWidth(1, 500);
     EXPECT_EQ(told, 1);
-    EXPECT_EQ(grid.ColumnWidth(1), 500);
+    EXPECT_EQ(grid.columns.Width(1), 500);
 }
 
 TEST_F(GridTest, TellsFromWhichColumnOnToFitAlsoToAViewThatComesLater) {
     int first = -1;
-    grid.fitColumns.Connect([&](int column) { first = column; });
-    EXPECT_EQ(grid.FittedFrom(), 3);
-    grid.FitColumns(1);
+    grid.columns.fit.Connect([&](int column) { first = column; });
+    EXPECT_EQ(grid.columns.FittedFrom(), 3);
+    grid.columns.Fit(1);
     EXPECT_EQ(first, 1);
-    EXPECT_EQ(grid.FittedFrom(), 1);
+    EXPECT_EQ(grid.columns.FittedFrom(), 1);
 }
 
 TEST_F(GridTest, LetsNoOneWorkOnItWhileItIsDisabled) {
-    grid.Select(1, 1);
+    grid.selection.Select(1, 1);
     grid.SetEnabled(false);
     grid.mouseDown.Connect([this](MouseButton, int, int) { notes.emplace_back("mouse"); });
     notes.clear();
@@ -189,7 +190,7 @@ TEST_F(GridTest, LetsNoOneWorkOnItWhileItIsDisabled) {
     grid.Paste("x");
     EXPECT_FALSE(grid.Press({Key::Down}));
     ExpectCurrent(1, 1);
-    EXPECT_FALSE(grid.IsEditing());
+    EXPECT_FALSE(grid.editor.IsOpen());
     EXPECT_THAT(notes, IsEmpty());
     EXPECT_THAT(Row(1), ElementsAre("a", "b", "c"));
 }

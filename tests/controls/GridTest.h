@@ -19,25 +19,25 @@ class GridTest : public ::testing::Test {
   protected:
     GridTest() {
         form.SetVisible(true);
-        grid.AddItem("a\tb\tc");
-        grid.AddItem("d\te\tf");
+        grid.cells.AddItem("a\tb\tc");
+        grid.cells.AddItem("d\te\tf");
         const auto note = [this](const char* what) {
             return [this, what](int row, int column) {
                 notes.push_back(std::string(what) + " " + std::to_string(row) + "," + std::to_string(column));
             };
         };
-        grid.cellChanged.Connect(note("changed"));
-        grid.beforeEdit.Connect(note("before"));
-        grid.afterEdit.Connect(note("after"));
-        grid.pasted.Connect([this](const PasteReport& paste) { pasted.push_back(paste); });
-        grid.currentCellChanged.Connect([this] { notes.emplace_back("current"); });
+        grid.cells.cellChanged.Connect(note("changed"));
+        grid.editor.beforeEdit.Connect(note("before"));
+        grid.editor.afterEdit.Connect(note("after"));
+        grid.block.pasted.Connect([this](const PasteReport& paste) { pasted.push_back(paste); });
+        grid.selection.currentCellChanged.Connect([this] { notes.emplace_back("current"); });
     }
 
     std::vector<std::string> Row(int row) const {
-        const auto texts = grid.RowTexts(row);
+        const auto texts = grid.cells.RowTexts(row);
         return {texts.begin(), texts.end()};
     }
-    void TypeInEditor(const std::string& text) { grid.EnterEditText(text, text.size(), 0); }
+    void TypeInEditor(const std::string& text) { grid.editor.Enter(text, text.size(), 0); }
     void Edit(int row, int column, const std::string& text) {
         grid.Pick(row, column);
         grid.OpenEditor();
@@ -52,8 +52,8 @@ class GridTest : public ::testing::Test {
         EXPECT_FALSE(pasted.back().tooLong);
     }
     void ExpectCurrent(int row, int column) {
-        EXPECT_EQ(grid.Row(), row);
-        EXPECT_EQ(grid.Column(), column);
+        EXPECT_EQ(grid.selection.Row(), row);
+        EXPECT_EQ(grid.selection.Column(), column);
     }
 
     Form form{"frm"};

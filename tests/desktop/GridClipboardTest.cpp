@@ -7,11 +7,13 @@ class GridOnTheClipboard : public UnitsWindow {
   protected:
     void SelectAllCells() {
         ClickCell(1, 0);
-        for (int row = 2; row < grid().Rows(); ++row) {
+        for (int row = 2; row < grid().cells.Rows(); ++row) {
             Press(WXK_DOWN, wxMOD_SHIFT);
         }
         Press(WXK_RIGHT, wxMOD_SHIFT);
-        WaitUntil("all is selected", [&] { return grid().BlockEnd() == Cell{grid().Rows() - 1, 1}; });
+        WaitUntil("all is selected", [&] {
+            return grid().selection.BlockEnd() == Cell{grid().cells.Rows() - 1, 1};
+        });
     }
 };
 
@@ -124,7 +126,9 @@ TEST_F(GridOnTheClipboard, CtrlASelectsAllRows) {
     Play([&] {
         ClickCell(2, 1);
         Press('A', wxMOD_CONTROL);
-        WaitUntil("all is selected", [&] { return grid().Row() == 1 && grid().BlockEnd() == Cell{3, 1}; });
+        WaitUntil("all is selected", [&] {
+            return grid().selection.Row() == 1 && grid().selection.BlockEnd() == Cell{3, 1};
+        });
         Press('C', wxMOD_CONTROL);
         const wxString all = "kg\tKilograms\r\nm\tMetres\r\ns\tSeconds\r\n";
         WaitUntil("all is copied", [&] { return TextOnClipboard() == all; });

@@ -138,7 +138,7 @@ TEST_F(GridEditing, AClickBesideTheCellsCommits) {
         hands->Click(PlaceOf(grid()));
         WaitForNoEditor();
         EXPECT_EQ(Shown(2, 1), "Ells");
-        EXPECT_EQ(grid().Row(), 2);
+        EXPECT_EQ(grid().selection.Row(), 2);
     });
 }
 
@@ -149,7 +149,7 @@ TEST_F(GridEditing, OpeningAMenuCommits) {
         WaitForEditor("Ells");
         Press('F', wxMOD_ALT);
         WaitForText(2, 1, "Ells");
-        EXPECT_FALSE(InWindow([&] { return grid().IsEditing(); }));
+        EXPECT_FALSE(InWindow([&] { return grid().editor.IsOpen(); }));
         LeaveMenu();
     });
 }
@@ -166,7 +166,7 @@ TEST_F(GridEditing, AnEditThatIsOpenStaysOpenWhileAnotherWindowIsActive) {
             return window;
         });
         WaitUntil("the other window is active", [&] { return other->IsActive(); });
-        EXPECT_TRUE(InWindow([&] { return grid().IsEditing(); }));
+        EXPECT_TRUE(InWindow([&] { return grid().editor.IsOpen(); }));
         InWindow([&] { other->Destroy(); });
         WaitUntil("the editor has the keyboard again", [&] { return RealFrame().IsActive(); });
         WaitForEditor("Ells");
@@ -192,7 +192,7 @@ TEST_F(GridEditing, ACharacterThatTheCodePageLacksDoesNotOpenTheEditor) {
         ClickCell(2, 1);
         TypeForeign(0x03A9);
         WaitForStatus(kRefused);
-        EXPECT_FALSE(InWindow([&] { return grid().IsEditing(); }));
+        EXPECT_FALSE(InWindow([&] { return grid().editor.IsOpen(); }));
     });
 }
 
@@ -214,7 +214,7 @@ TEST_F(GridEditing, CharactersOfTheCodePageAreTaken) {
         Press('V', wxMOD_CONTROL);
         Press(WXK_RETURN);
         WaitForText(2, 1, "Ångström €");
-        EXPECT_EQ(InWindow([&] { return std::string(grid().Text(2, 1)); }), "\xC5ngstr\xF6m \x80");
+        EXPECT_EQ(InWindow([&] { return std::string(grid().cells.Text(2, 1)); }), "\xC5ngstr\xF6m \x80");
     });
 }
 
@@ -255,7 +255,7 @@ TEST_F(GridEditing, TextBeyondWhatTheEditorCanShowIsKept) {
         Press(WXK_DELETE);
         Press(WXK_RETURN);
         WaitForNoEditor();
-        EXPECT_EQ(InWindow([&] { return grid().Text(1, 1).size(); }), 69999U);
+        EXPECT_EQ(InWindow([&] { return grid().cells.Text(1, 1).size(); }), 69999U);
     });
 }
 
@@ -272,7 +272,7 @@ TEST_F(GridEditing, TheEditorStandsOverItsCellAndScrollsWithIt) {
         EXPECT_LT(moved.y, cell.y);
         WaitUntil("the editor is over its cell",
                   [&] { return RealEditor().GetScreenRect().Contains(moved); });
-        EXPECT_TRUE(InWindow([&] { return grid().IsEditing(); }));
+        EXPECT_TRUE(InWindow([&] { return grid().editor.IsOpen(); }));
     });
 }
 

@@ -115,14 +115,14 @@ class GridKeys : public GridWindow, public ::testing::WithParamInterface<std::st
             }
         });
     }
-    Cell Current() { return {grid().Row(), grid().Column()}; }
+    Cell Current() { return {grid().selection.Row(), grid().selection.Column()}; }
     /// A key that was pressed on this cell has led to a cell of the grid that is current for the toolkit too.
     void ExpectSensible(const Stroke& stroke, const Cell& start) {
         const Cell cell = Current();
         EXPECT_TRUE(IsInside(cell)) << cell.row << ',' << cell.column;
-        EXPECT_TRUE(IsInside(grid().BlockEnd()));
+        EXPECT_TRUE(IsInside(grid().selection.BlockEnd()));
         EXPECT_EQ(RealGrid().GetGridCursorCoords(), wxGridCellCoords(cell.row - 1, cell.column));
-        EXPECT_EQ(grid().IsEditing(), Opens(stroke));
+        EXPECT_EQ(grid().editor.IsOpen(), Opens(stroke));
         if (IsPage(stroke) && !stroke.ctrl && !stroke.shift) {
             ExpectAnotherPage(stroke, start);
         } else if (!LeadsFurther(stroke)) {
@@ -131,15 +131,15 @@ class GridKeys : public GridWindow, public ::testing::WithParamInterface<std::st
     }
 
   private:
-    Cell Last() { return {grid().Rows() - 1, grid().Columns() - 1}; }
+    Cell Last() { return {grid().cells.Rows() - 1, grid().cells.Columns() - 1}; }
     bool IsInside(const Cell& cell) {
         return cell.row >= 1 && cell.row <= Last().row && cell.column >= 0 && cell.column <= Last().column;
     }
     /// How many rows a page has depends on the window.
     void ExpectAnotherPage(const Stroke& stroke, const Cell& start) {
-        EXPECT_EQ(grid().Row() < start.row, stroke.key == WXK_PAGEUP && start.row > 1);
-        EXPECT_EQ(grid().Row() > start.row, stroke.key == WXK_PAGEDOWN && start.row < Last().row);
-        EXPECT_EQ(grid().Column(), start.column);
+        EXPECT_EQ(grid().selection.Row() < start.row, stroke.key == WXK_PAGEUP && start.row > 1);
+        EXPECT_EQ(grid().selection.Row() > start.row, stroke.key == WXK_PAGEDOWN && start.row < Last().row);
+        EXPECT_EQ(grid().selection.Column(), start.column);
     }
     void ShowGrid() {
         wxTheApp->CallAfter([this] {
@@ -162,17 +162,17 @@ class GridKeys : public GridWindow, public ::testing::WithParamInterface<std::st
     }
     void Prepare(const Cell& start, int rows) {
         pressed_ = WXK_NONE;
-        grid().CancelEdit();
-        grid().SetRows(1);
-        grid().SetRows(rows + 1);
+        grid().editor.Cancel();
+        grid().cells.SetRows(1);
+        grid().cells.SetRows(rows + 1);
         for (int row = 1; row <= rows; ++row) {
-            for (int column = 0; column < grid().Columns(); ++column) {
-                grid().SetText(row, column, "1");
+            for (int column = 0; column < grid().cells.Columns(); ++column) {
+                grid().cells.SetText(row, column, "1");
             }
         }
         grid().SetFocus();
         if (start != kNoCell) {
-            grid().Select(start.row, start.column);
+            grid().selection.Select(start.row, start.column);
         }
     }
 
@@ -182,9 +182,9 @@ class GridKeys : public GridWindow, public ::testing::WithParamInterface<std::st
 TEST_P(GridKeys, DoNothingInAnEmptyGrid) {
     EXPECT_EQ(PressEveryKey(kNoCell, 0,
                             [&](const Stroke&) {
-                                EXPECT_LT(grid().Row(), 1);
-                                EXPECT_EQ(grid().Rows(), 1);
-                                EXPECT_FALSE(grid().IsEditing());
+                                EXPECT_LT(grid().selection.Row(), 1);
+                                EXPECT_EQ(grid().cells.Rows(), 1);
+                                EXPECT_FALSE(grid().editor.IsOpen());
                             }),
               0);
 }
@@ -195,9 +195,9 @@ TEST_P(GridKeys, LeadToTheFirstCellWhereNoneIsCurrent) {
                                 if (Moves(stroke)) {
                                     EXPECT_EQ(Current(), (Cell{1, 0}));
                                 } else {
-                                    EXPECT_TRUE(grid().Row() < 1 || Current() == (Cell{1, 0}));
+                                    EXPECT_TRUE(grid().selection.Row() < 1 || Current() == (Cell{1, 0}));
                                 }
-                                EXPECT_FALSE(grid().IsEditing());
+                                EXPECT_FALSE(grid().editor.IsOpen());
                             }),
               0);
 }

@@ -11,15 +11,15 @@ class GridListCells : public UnitsWindow {
     GridListCells() {
         PutUnits(ThreeUnits());
         prepare = [this] {
-            grid().SetColumnList(0, CellList("kg|km|s|"));
-            grid().beforeEdit.Connect([this](int, int column) {
+            grid().columns.SetList(0, CellList("kg|km|s|"));
+            grid().editor.beforeEdit.Connect([this](int, int column) {
                 if (column == 1) {
-                    grid().SetEditList(CellList("..."));
+                    grid().editor.SetList(CellList("..."));
                 }
             });
-            grid().cellButtonClick.Connect([this](int row, int column) {
-                grid().CancelEdit();
-                grid().SetText(row, column, "picked");
+            grid().editor.buttonClick.Connect([this](int row, int column) {
+                grid().editor.Cancel();
+                grid().cells.SetText(row, column, "picked");
             });
         };
     }

@@ -30,7 +30,7 @@ class GridSelection : public UnitsWindow {
         return InWindow([&] {
             constexpr int kWidth = 100;
             constexpr int kHeight = 20;
-            grid().SetText(row, column, "");
+            grid().cells.SetText(row, column, "");
             wxBitmap picture(kWidth, kHeight);
             wxMemoryDC canvas(picture);
             const wxGridCellCoords cell(row - 1, column);
@@ -51,7 +51,7 @@ class GridSelection : public UnitsWindow {
     }
     void WaitForBlockEnd(int row, int column) {
         WaitUntil("the block reaches to " + std::to_string(row) + "," + std::to_string(column), [&] {
-            return grid().BlockEnd() == Cell{row, column};
+            return grid().selection.BlockEnd() == Cell{row, column};
         });
     }
 };
@@ -59,7 +59,7 @@ class GridSelection : public UnitsWindow {
 TEST_F(GridSelection, NoCellIsCurrentAtFirst) {
     PutUnits(ThreeUnits());
     Play([&] {
-        EXPECT_EQ(InWindow([&] { return grid().Row(); }), -1);
+        EXPECT_EQ(InWindow([&] { return grid().selection.Row(); }), -1);
         EXPECT_EQ(InWindow([&] { return RealGrid().GetCellHighlightPenWidth(); }), 0);
         EXPECT_FALSE(InWindow([&] { return page().cmdDeleteUnit.Enabled(); }));
     });
@@ -100,8 +100,8 @@ TEST_F(GridSelection, PageDownAndCtrlEndMoveTheModelToo) {
     Play([&] {
         ClickCell(1, 0);
         Press(WXK_PAGEDOWN);
-        WaitUntil("the cell is a page down", [&] { return grid().Row() > 10; });
-        EXPECT_EQ(InWindow([&] { return RealGrid().GetGridCursorRow() + 1 - grid().Row(); }), 0);
+        WaitUntil("the cell is a page down", [&] { return grid().selection.Row() > 10; });
+        EXPECT_EQ(InWindow([&] { return RealGrid().GetGridCursorRow() + 1 - grid().selection.Row(); }), 0);
         Press(WXK_END, wxMOD_CONTROL);
         WaitForCell(500, 1);
         EXPECT_TRUE(IsOnScreen(500));
@@ -149,9 +149,9 @@ TEST_F(GridSelection, ShiftWithPageDownSelectsABlockToo) {
     Play([&] {
         ClickCell(2, 0);
         Press(WXK_PAGEDOWN, wxMOD_SHIFT);
-        WaitUntil("the block is a page long", [&] { return grid().BlockEnd().row > 10; });
-        EXPECT_EQ(InWindow([&] { return grid().Row(); }), 2);
-        EXPECT_EQ(ShownBlock().at(2), InWindow([&] { return grid().BlockEnd().row; }));
+        WaitUntil("the block is a page long", [&] { return grid().selection.BlockEnd().row > 10; });
+        EXPECT_EQ(InWindow([&] { return grid().selection.Row(); }), 2);
+        EXPECT_EQ(ShownBlock().at(2), InWindow([&] { return grid().selection.BlockEnd().row; }));
     });
 }
 
@@ -194,8 +194,8 @@ TEST_F(GridSelection, WhatTheProgramSelectsIsShown) {
     Play([&] {
         InWindow([&] {
             desktop.Gate().Act([&] {
-                grid().Select(250, 0);
-                grid().SelectTo(252, 1);
+                grid().selection.Select(250, 0);
+                grid().selection.SelectTo(252, 1);
             });
         });
         WaitForCell(250, 0);
@@ -219,7 +219,7 @@ TEST_F(GridSelection, AClickOnTheHeaderSelectsNothing) {
         WaitUntil("the click has come", [&] { return !pressed.empty(); });
         EXPECT_THAT(pressed, ElementsAre(1, 0, 1));
         EXPECT_THAT(ShownBlock(), ElementsAre());
-        EXPECT_EQ(InWindow([&] { return grid().Row(); }), -1);
+        EXPECT_EQ(InWindow([&] { return grid().selection.Row(); }), -1);
     });
 }
 

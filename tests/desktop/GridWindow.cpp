@@ -93,8 +93,8 @@ bool GridWindow::IsOnScreen(int row) {
 
 void GridWindow::WaitForCell(int row, int column) {
     WaitUntil("the cell " + std::to_string(row) + "," + std::to_string(column) + " is current", [&] {
-        return grid().Row() == row && grid().Column() == column && RealGrid().GetGridCursorRow() == row - 1 &&
-               RealGrid().GetGridCursorCol() == column;
+        return grid().selection.Row() == row && grid().selection.Column() == column &&
+               RealGrid().GetGridCursorRow() == row - 1 && RealGrid().GetGridCursorCol() == column;
     });
 }
 
@@ -106,7 +106,7 @@ void GridWindow::WaitForEditor(const std::string& text) {
 }
 
 void GridWindow::WaitForNoEditor() {
-    WaitUntil("the editor is closed", [&] { return !RealEditor().IsShown() && !grid().IsEditing(); });
+    WaitUntil("the editor is closed", [&] { return !RealEditor().IsShown() && !grid().editor.IsOpen(); });
 }
 
 void GridWindow::WaitForText(int row, int column, const std::string& text) {

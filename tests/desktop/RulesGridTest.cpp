@@ -285,7 +285,7 @@ TEST_F(RulesGrid, TheContextMenuOpensByItsKeyToo) {
         Press(WXK_F10, wxMOD_SHIFT);
         WaitForMenu();
         ChooseFromMenu(WXK_UP);
-        WaitUntil("the rule is gone", [&] { return grid().Rows() == 3; });
+        WaitUntil("the rule is gone", [&] { return grid().cells.Rows() == 3; });
     });
 }
 

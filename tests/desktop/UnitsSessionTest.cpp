@@ -57,7 +57,7 @@ TEST_F(UnitsSession, TheKeyboardStartsInTheGridWithoutACurrentCell) {
         Press(WXK_DELETE);
         Press(WXK_TAB);
         WaitForFocus(page().cmdAddUNit);
-        EXPECT_EQ(InWindow([&] { return grid().Row(); }), -1);
+        EXPECT_EQ(InWindow([&] { return grid().selection.Row(); }), -1);
         EXPECT_FALSE(IsEnabled(page().cmdDeleteUnit));
         EXPECT_FALSE(IsEnabled(page().cmdSaveUnits));
         Press(WXK_TAB, wxMOD_SHIFT);
@@ -201,7 +201,7 @@ TEST_F(UnitsSession, DeletingTheLastUnitMakesTheFirstCurrentAndLeavesTheKeyboard
         Click(page().cmdDeleteUnit);
         ExpectBox(kSure, kConfirm);
         PressInBox(WXK_RETURN);
-        WaitUntil("the unit is gone", [&] { return grid().Rows() == 3; });
+        WaitUntil("the unit is gone", [&] { return grid().cells.Rows() == 3; });
         Press(WXK_SPACE); // presses the button once more
         ExpectBox(kSure, kConfirm);
         PressInBox(WXK_RETURN);

@@ -105,7 +105,7 @@ TEST_F(UsersSession, TheLastUsersDeletionRemovesTheTable) {
         Press('D', wxMOD_ALT);
         ExpectBox(kSure, kConfirm);
         PressInBox(WXK_RETURN);
-        WaitUntil("there is no user", [&] { return grid().Rows() == 1; });
+        WaitUntil("there is no user", [&] { return grid().cells.Rows() == 1; });
         EXPECT_FALSE(IsEnabled(page().cmdDeleteUser));
         Click(page().cmdSaveUsers);
         WaitForStatus("Saved");
@@ -129,7 +129,7 @@ TEST_F(UsersSession, TheContextMenuDeletesTheUserUnderTheMouseAtOnce) {
         WaitForCell(1, kStatus); // the row alone follows the mouse
         ChooseFromMenu(WXK_UP);
         WaitForText(1, kUserName, "Bob");
-        EXPECT_EQ(InWindow([&] { return grid().Rows(); }), 2);
+        EXPECT_EQ(InWindow([&] { return grid().cells.Rows(); }), 2);
     });
     EXPECT_TRUE(boxes.Seen().empty());
 }
@@ -170,7 +170,7 @@ TEST_F(UsersSession, AClickWithShiftStretchesTheBlock) {
     Play([&] {
         ClickCell(1, kUserName);
         hands->ClickWith(WXK_SHIFT, PlaceOfCell(2, kStatus));
-        WaitUntil("the block is stretched", [&] { return grid().BlockEnd() == Cell{2, kStatus}; });
+        WaitUntil("the block is stretched", [&] { return grid().selection.BlockEnd() == Cell{2, kStatus}; });
         WaitForCell(1, kUserName);
     });
 }
@@ -182,7 +182,7 @@ TEST_F(UsersSession, DeletingTheLastUserMakesTheFirstCurrentAndLeavesTheKeyboard
         Click(page().cmdDeleteUser);
         ExpectBox(kSure, kConfirm);
         PressInBox(WXK_RETURN);
-        WaitUntil("the user is gone", [&] { return grid().Rows() == 3; });
+        WaitUntil("the user is gone", [&] { return grid().cells.Rows() == 3; });
         Press(WXK_SPACE); // presses the button once more
         ExpectBox(kSure, kConfirm);
         PressInBox(WXK_RETURN);
@@ -219,7 +219,7 @@ TEST_F(UsersSession, ShiftF10OpensTheContextMenuOfTheCurrentRow) {
         Press(WXK_F10, wxMOD_SHIFT);
         WaitForMenu();
         ChooseFromMenu(WXK_UP);
-        WaitUntil("the user is gone", [&] { return grid().Rows() == 2; });
+        WaitUntil("the user is gone", [&] { return grid().cells.Rows() == 2; });
         EXPECT_EQ(Shown(1, kUserName), "Ann");
     });
 }
@@ -230,7 +230,7 @@ TEST_F(UsersSession, TheMenuKeyOpensTheContextMenuOfTheCurrentRow) {
         PressMenuKey();
         WaitForMenu();
         ChooseFromMenu(WXK_UP);
-        WaitUntil("the user is gone", [&] { return grid().Rows() == 2; });
+        WaitUntil("the user is gone", [&] { return grid().cells.Rows() == 2; });
         EXPECT_EQ(Shown(1, kUserName), "Ann");
     });
 }
@@ -240,8 +240,9 @@ TEST_F(UsersSession, AnOpenExpiryDateShowsTheWholeDate) {
     users[0].EXPDATE = "30-12-31";
     StartWith(users);
     Play([&] {
-        InWindow(
-            [&] { desktop.Gate().Act([&] { grid().SetColumnWidth(kExpiryDate, Grid::kDesignedWidth); }); });
+        InWindow([&] {
+            desktop.Gate().Act([&] { grid().columns.SetWidth(kExpiryDate, GridColumns::kDesignedWidth); });
+        });
         OpenEditor(1, kExpiryDate);
         EXPECT_TRUE(InWindow([&] { return ShowsWholeText(RealEditor()); }));
     });

@@ -87,9 +87,9 @@ void WindowTest::LeaveWindow() {
     // From here on the window's thread may be gone at any moment, so nothing is asked of it and waited for.
     HandToWindow([this] {
         if (program->form.Visible()) {
-            program->rulesPage.controls.grdRules.CancelEdit();
-            program->unitsPage.controls.grdUnits.CancelEdit();
-            program->securityPage.controls.grdSecurity.CancelEdit();
+            program->rulesPage.controls.grdRules.editor.Cancel();
+            program->unitsPage.controls.grdUnits.editor.Cancel();
+            program->securityPage.controls.grdSecurity.editor.Cancel();
             program->form.ChangeFlag = false;
             program->state.gbChanged = false;
             program->window.Unload();

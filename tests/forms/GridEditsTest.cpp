@@ -14,8 +14,8 @@ class GridEdits : public GridModeForm {
     void Choose(int row, int column, const std::string& item) {
         grid().Pick(row, column);
         grid().OpenEditor();
-        ASSERT_THAT(grid().EditList().Items(), ::testing::Contains(item));
-        grid().ChooseItem(item);
+        ASSERT_THAT(grid().editor.List().Items(), ::testing::Contains(item));
+        grid().editor.ChooseItem(item);
     }
     /// Stores the grid and shows the first rule in list mode again.
     void StoreAndShowList() {
@@ -71,11 +71,11 @@ TEST_F(GridEdits, LeaveTheMarkSetWhenTheGridIsStoredAndShownAnew) {
 TEST_F(GridEdits, FitTheColumnsToTheirContents) {
     ShowGridOver({"A"});
     std::vector<int> fitted;
-    grid().fitColumns.Connect([&](int first) { fitted.push_back(first); });
+    grid().columns.fit.Connect([&](int first) { fitted.push_back(first); });
     grid().Pick(1, kDescriptionColumn);
     grid().TypeOver("a longer text");
     EXPECT_THAT(fitted, IsEmpty());
-    grid().CommitEdit();
+    grid().editor.Commit();
     EXPECT_THAT(fitted, ElementsAre(0));
 }
 

@@ -102,17 +102,17 @@ TEST_F(GridMenu, DeletesUntilNoRuleIsLeft) {
     ShowGridOver({"A", "B"});
     Delete(2);
     menu().mnuDeleteRule.Click();
-    EXPECT_EQ(grid().Rows(), 1);
+    EXPECT_EQ(grid().cells.Rows(), 1);
     EXPECT_THAT(HeldRules(), IsEmpty());
     menu().mnuDeleteRule.Click();
-    EXPECT_EQ(grid().Rows(), 1);
+    EXPECT_EQ(grid().cells.Rows(), 1);
 }
 
 TEST_F(GridMenu, DeletesNothingWithoutACurrentRowOrWithTheHeaders) {
     ShowGridOver({"A"});
     menu().mnuDeleteRule.Click();
     EXPECT_THAT(GridCodes(), ElementsAre("A"));
-    grid().Select(0, 0);
+    grid().selection.Select(0, 0);
     menu().mnuDeleteRule.Click();
     EXPECT_THAT(GridCodes(), ElementsAre("A"));
     EXPECT_EQ(rules().gaRules.UBound(), 1);
@@ -142,7 +142,7 @@ TEST_F(GridMenu, ToAFullListAddsNoRowAndTellsSo) {
     menu().mnuAddRule.Click();
     EXPECT_THAT(Status(), ::testing::StartsWith("32767 rules"));
     EXPECT_THAT(Status(), ::testing::EndsWith("   -   Not added: the list is as long as it can be"));
-    EXPECT_EQ(grid().Rows(), kMaxItems + 1);
+    EXPECT_EQ(grid().cells.Rows(), kMaxItems + 1);
     ExpectMarks(false, false);
 }
 
@@ -164,8 +164,8 @@ TEST_F(GridMenu, OpensByNoOtherButton) {
         grid().PressMouse(MouseButton{button}, 1, 0);
     }
     EXPECT_EQ(opened, 0);
-    EXPECT_EQ(grid().Row(), 2);
-    EXPECT_EQ(grid().BlockEnd(), (Cell{2, kZoneColumn}));
+    EXPECT_EQ(grid().selection.Row(), 2);
+    EXPECT_EQ(grid().selection.BlockEnd(), (Cell{2, kZoneColumn}));
 }
 
 TEST_F(GridMenu, CannotDeleteWhileThereIsNoCurrentRow) {
@@ -173,7 +173,7 @@ TEST_F(GridMenu, CannotDeleteWhileThereIsNoCurrentRow) {
     CountPopUps();
     RightClick(1);
     EXPECT_EQ(opened, 1);
-    EXPECT_EQ(grid().Row(), -1);
+    EXPECT_EQ(grid().selection.Row(), -1);
     EXPECT_FALSE(menu().mnuDeleteRule.Enabled());
     EXPECT_TRUE(menu().mnuAddRule.Enabled());
     grid().Pick(1, 0);
@@ -184,7 +184,7 @@ TEST_F(GridMenu, CannotDeleteWhileThereIsNoCurrentRow) {
 TEST_F(GridMenu, CanBeAskedToDeleteTheHeadersInVain) {
     ShowGridOver({"A"});
     Delete(1);
-    EXPECT_EQ(grid().Row(), 0);
+    EXPECT_EQ(grid().selection.Row(), 0);
     RightClick(0);
     EXPECT_TRUE(menu().mnuDeleteRule.Enabled());
     menu().mnuDeleteRule.Click();
@@ -197,7 +197,7 @@ TEST_F(GridMenu, CommitsTheOpenCellBeforeItOpens) {
     grid().TypeOver("X");
     RightClick(1);
     EXPECT_THAT(GridCodes(), ElementsAre("X"));
-    EXPECT_FALSE(grid().IsEditing());
+    EXPECT_FALSE(grid().editor.IsOpen());
 }
 
 TEST_F(GridMenu, TracesWhatIsDone) {

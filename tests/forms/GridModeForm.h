@@ -21,10 +21,10 @@ class GridModeForm : public RulesForm {
     /// The grid's rows with the header's, each with its cells joined by "|".
     std::vector<std::string> GridRows() {
         std::vector<std::string> rows;
-        for (int row = 0; row < grid().Rows(); ++row) {
-            std::string text(grid().Text(row, 0));
-            for (int column = 1; column < grid().Columns(); ++column) {
-                text += "|" + std::string(grid().Text(row, column));
+        for (int row = 0; row < grid().cells.Rows(); ++row) {
+            std::string text(grid().cells.Text(row, 0));
+            for (int column = 1; column < grid().cells.Columns(); ++column) {
+                text += "|" + std::string(grid().cells.Text(row, column));
             }
             rows.push_back(text);
         }
@@ -33,8 +33,8 @@ class GridModeForm : public RulesForm {
     /// The first column of the grid alone, without the header.
     std::vector<std::string> GridCodes() {
         std::vector<std::string> codes;
-        for (int row = 1; row < grid().Rows(); ++row) {
-            codes.emplace_back(grid().Text(row, kCodeColumn));
+        for (int row = 1; row < grid().cells.Rows(); ++row) {
+            codes.emplace_back(grid().cells.Text(row, kCodeColumn));
         }
         return codes;
     }
@@ -58,9 +58,9 @@ class GridModeForm : public RulesForm {
     /// Presses the right button of the mouse over a row.
     void RightClick(int row) { grid().PressMouse(MouseButton::Right, row, 0); }
     void ExpectWholeRow(int row) {
-        EXPECT_EQ(grid().Row(), row);
-        EXPECT_EQ(grid().Column(), kCodeColumn);
-        EXPECT_EQ(grid().BlockEnd(), (Cell{row, kDescriptionColumn}));
+        EXPECT_EQ(grid().selection.Row(), row);
+        EXPECT_EQ(grid().selection.Column(), kCodeColumn);
+        EXPECT_EQ(grid().selection.BlockEnd(), (Cell{row, kDescriptionColumn}));
     }
 };
 

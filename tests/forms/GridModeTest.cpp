@@ -17,7 +17,7 @@ class GridMode : public GridModeForm {
     CellList ListOf(int column) {
         grid().Pick(1, column);
         grid().OpenEditor();
-        return grid().EditList();
+        return grid().editor.List();
     }
 };
 
@@ -74,10 +74,10 @@ TEST_F(GridMode, ChangesNoRuleAndSetsNoMark) {
 
 TEST_F(GridMode, HasNoCurrentRowAtFirstNorWhenItIsShownAnew) {
     ShowGridOver({"A", "B"});
-    EXPECT_EQ(grid().Row(), -1);
+    EXPECT_EQ(grid().selection.Row(), -1);
     grid().Pick(2, 3);
     handlers().ShowGridMode();
-    EXPECT_EQ(grid().Row(), -1);
+    EXPECT_EQ(grid().selection.Row(), -1);
 }
 
 TEST_F(GridMode, DropsWhatIsBeingTypedWhenItIsShownAnew) {
@@ -85,18 +85,18 @@ TEST_F(GridMode, DropsWhatIsBeingTypedWhenItIsShownAnew) {
     grid().Pick(1, kCodeColumn);
     grid().TypeOver("X");
     handlers().ShowGridMode();
-    EXPECT_FALSE(grid().IsEditing());
+    EXPECT_FALSE(grid().editor.IsOpen());
     EXPECT_THAT(GridCodes(), ElementsAre("A"));
     EXPECT_FALSE(rules().gbGridChanged);
 }
 
 TEST_F(GridMode, HasSixColumnsOf960TwipsAndFitsNoneByItself) {
     ShowGridOver({"A"});
-    ASSERT_EQ(grid().Columns(), 6);
+    ASSERT_EQ(grid().cells.Columns(), 6);
     for (int column = 0; column < 6; ++column) {
-        EXPECT_EQ(grid().ColumnWidth(column), 960) << column;
+        EXPECT_EQ(grid().columns.Width(column), 960) << column;
     }
-    EXPECT_EQ(grid().FittedFrom(), 6);
+    EXPECT_EQ(grid().columns.FittedFrom(), 6);
 }
 
 TEST_F(GridMode, OffersFiveConditionsAndAnEmptyOne) {
@@ -113,7 +113,7 @@ TEST_F(GridMode, LetsTheOtherColumnsBeTyped) {
     ShowGridOver({"A"});
     for (const int column : {0, 1, 2, 5}) {
         EXPECT_EQ(ListOf(column), CellList()) << column;
-        EXPECT_TRUE(grid().IsEditing()) << column;
+        EXPECT_TRUE(grid().editor.IsOpen()) << column;
     }
 }
 
@@ -151,15 +151,15 @@ TEST_F(GridMode, IsFilledAtOnceWithAFullListOfRules) {
     }
     StartOver(text);
     int shown = 0;
-    grid().rowsChanged.Connect([&] { ++shown; });
+    grid().cells.rowsChanged.Connect([&] { ++shown; });
     const auto start = std::chrono::steady_clock::now();
     handlers().ShowGridMode();
     const auto taken = std::chrono::steady_clock::now() - start;
     EXPECT_EQ(shown, 1);
-    ASSERT_EQ(grid().Rows(), kMaxItems + 1);
-    EXPECT_EQ(grid().Text(1, kCodeColumn), "0");
-    EXPECT_EQ(grid().Text(kMaxItems, kCodeColumn), "32766");
-    EXPECT_EQ(grid().Text(kMaxItems, kDescriptionColumn), "text  ");
+    ASSERT_EQ(grid().cells.Rows(), kMaxItems + 1);
+    EXPECT_EQ(grid().cells.Text(1, kCodeColumn), "0");
+    EXPECT_EQ(grid().cells.Text(kMaxItems, kCodeColumn), "32766");
+    EXPECT_EQ(grid().cells.Text(kMaxItems, kDescriptionColumn), "text  ");
     // A tenth of that is plenty; time that grows with the square of the rules would be far beyond.
     EXPECT_LT(taken, std::chrono::seconds(1));
 }

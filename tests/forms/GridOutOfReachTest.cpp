@@ -52,7 +52,7 @@ TEST_F(GridOutOfReach, IsNotShownByAnyEntryButtonOrKeyOfAWholeSession) {
     EXPECT_EQ(unloaded, 1);
     EXPECT_EQ(changes, 0);
     EXPECT_FALSE(page().fraGridMode.Visible());
-    EXPECT_EQ(grid().Rows(), 1);
+    EXPECT_EQ(grid().cells.Rows(), 1);
     for (const auto& trace : Traces()) {
         EXPECT_THAT(trace, Not(HasSubstr("TabSwitch")));
         EXPECT_THAT(trace, Not(HasSubstr("RulesGrid")));
@@ -69,7 +69,7 @@ TEST_F(GridOutOfReach, TakesNoKeyAndNoMouseWhileItIsHidden) {
     grid().TypeOver("X");
     EXPECT_EQ(opened, 0);
     EXPECT_FALSE(grid().HasFocus());
-    EXPECT_FALSE(grid().IsEditing());
+    EXPECT_FALSE(grid().editor.IsOpen());
 }
 
 } // namespace

@@ -11,9 +11,9 @@ class TabSwitch : public GridModeForm {
   protected:
     bool Store() { return handlers().StoreBeforeTabSwitch(); }
     void ExpectOpenCell(int row, int column) {
-        EXPECT_EQ(grid().Row(), row);
-        EXPECT_EQ(grid().Column(), column);
-        EXPECT_TRUE(grid().IsEditing());
+        EXPECT_EQ(grid().selection.Row(), row);
+        EXPECT_EQ(grid().selection.Column(), column);
+        EXPECT_TRUE(grid().editor.IsOpen());
     }
 };
 
@@ -97,7 +97,7 @@ TEST_F(TabSwitch, FromTheGridPassesOnceTheFailingCellIsMended) {
     world.dialogs.ExpectMessage("Rule Description cannot contain double quotes", "Invalid Rule Description");
     EXPECT_FALSE(Store());
     ExpectOpenCell(1, kDescriptionColumn);
-    grid().EnterEditText("say no", 6, 0);
+    grid().editor.Enter("say no", 6, 0);
     EXPECT_TRUE(Store());
     EXPECT_EQ(rules().gaRules(1).Description, "say no");
 }

@@ -46,7 +46,7 @@ TEST_F(UnitsEditorInCharge, IsSavedInThisOrder) {
 
 TEST_F(UnitsEditorInCharge, TakesOverTheOpenCellBeforeItTracesThatItSaves) {
     Type("aa");
-    program().unitsPage.controls.grdUnits.afterEdit.Connect(
+    program().unitsPage.controls.grdUnits.editor.afterEdit.Connect(
         [this](int, int) { calls.emplace_back("committed"); });
     ChooseSave();
     EXPECT_THAT(calls,

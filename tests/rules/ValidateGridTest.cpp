@@ -12,29 +12,29 @@ constexpr Box kBlankCode{"Rule Code cannot be Blank", "Invalid Rule Code"};
 /// The rules grid with its header row.
 class ValidateRulesGrid : public ChecksTest {
   protected:
-    ValidateRulesGrid() { grid.SetText(0, 0, "Code is no code, and row 0 is not checked"); }
+    ValidateRulesGrid() { grid.cells.SetText(0, 0, "Code is no code, and row 0 is not checked"); }
 
     void AddRow(const std::string& code, const std::string& min = "1", const std::string& max = "2",
                 const std::string& description = "text") {
-        grid.AddItem(code + "\t" + min + "\t" + max + "\t>\tUCL\t" + description);
+        grid.cells.AddItem(code + "\t" + min + "\t" + max + "\t>\tUCL\t" + description);
     }
     /// Leaves the cell that is open and gives another one its text.
     void Correct(int row, int column, std::string_view text) {
-        grid.Select(row, column);
-        grid.SetText(row, column, text);
+        grid.selection.Select(row, column);
+        grid.cells.SetText(row, column, text);
     }
     bool Validate() { return checks.Validate_RulesGRid(grid); }
 
     void ExpectPasses() {
         Expect({}, [&] { return Validate(); });
-        EXPECT_FALSE(grid.IsEditing());
-        EXPECT_EQ(grid.Row(), -1);
+        EXPECT_FALSE(grid.editor.IsOpen());
+        EXPECT_EQ(grid.selection.Row(), -1);
     }
     void ExpectFails(int row, int column, const Box& box) {
         Expect(box, [&] { return Validate(); });
-        EXPECT_EQ(grid.Row(), row);
-        EXPECT_EQ(grid.Column(), column);
-        EXPECT_TRUE(grid.IsEditing());
+        EXPECT_EQ(grid.selection.Row(), row);
+        EXPECT_EQ(grid.selection.Column(), column);
+        EXPECT_TRUE(grid.editor.IsOpen());
     }
 
     Form form{"frm"};
@@ -78,7 +78,7 @@ TEST_F(ValidateRulesGrid, OpensTheCellThatFails) {
          {"Rule Description cannot contain double quotes", "Invalid Rule Description"}}};
     for (const auto& each : cases) {
         SCOPED_TRACE(each.box.message);
-        grid.SetRows(1);
+        grid.cells.SetRows(1);
         AddRow("OK");
         AddRow(each.code, each.min, each.max, each.description);
         ExpectFails(2, each.column, each.box);
@@ -115,8 +115,8 @@ TEST_F(ValidateRulesGrid, ChecksTheLastRowToo) {
 }
 
 TEST_F(ValidateRulesGrid, DoesNotCheckConditionAndZone) {
-    grid.AddItem("A\t1\t2\t\t\ttext");
-    grid.AddItem("B\t1\t2\t<>\t\"NONE\"\ttext");
+    grid.cells.AddItem("A\t1\t2\t\t\ttext");
+    grid.cells.AddItem("B\t1\t2\t<>\t\"NONE\"\ttext");
     ExpectPasses();
 }
 

@@ -132,7 +132,7 @@ TEST_F(BadUserValues, WhoseQuotesMakeAsManyFieldsAsThereAreGetPartsOfOthers) {
 TEST_F(BadUserValues, WithASingleQuoteInTheTableAreToldWhenItIsOpened) {
     world.files.Take(kUsersTable);
     StartOver({User("Ann"), User("O''Brien")});
-    EXPECT_EQ(grid().Text(2, kUserName), "O'Brien");
+    EXPECT_EQ(grid().cells.Text(2, kUserName), "O'Brien");
     EXPECT_EQ(Status(), "2 users; row 2: a single quote makes the save fail");
 }
 

@@ -15,12 +15,12 @@ class DatePicker : public UsersTest {
         ExpectCalendar(person);
         grid().Pick(2, kExpiryDate);
         grid().OpenEditor();
-        ASSERT_EQ(grid().EditList(), CellList("..."));
-        grid().PressCellButton();
+        ASSERT_EQ(grid().editor.List(), CellList("..."));
+        grid().editor.PressButton();
         ExpectScriptPlayed(world.dialogs);
     }
     std::chrono::year_month_day ShownFor(std::string_view cell) {
-        grid().SetText(2, kExpiryDate, cell);
+        grid().cells.SetText(2, kExpiryDate, cell);
         std::chrono::year_month_day shown{};
         OpenCalendar([&](frmDatePicker& picker) { shown = picker.dpZYSecurity.Value(); });
         return shown;
@@ -44,7 +44,7 @@ TEST_F(DatePicker, ShowsTodayWhenTheCellHoldsNoDateOfItsShape) {
 }
 
 TEST_F(DatePicker, OffersTheDatesThatTwoDigitsOfAYearCanMean) {
-    grid().SetText(2, kExpiryDate, "26-02-28");
+    grid().cells.SetText(2, kExpiryDate, "26-02-28");
     OpenCalendar([&](frmDatePicker& picker) {
         auto& calendar = picker.dpZYSecurity;
         EXPECT_EQ(calendar.First(), 1950y / 1 / 1);
@@ -52,13 +52,13 @@ TEST_F(DatePicker, OffersTheDatesThatTwoDigitsOfAYearCanMean) {
         calendar.Pick(2050y / 1 / 1);
         calendar.Pick(1949y / 12 / 31);
         EXPECT_TRUE(picker.Visible());
-        EXPECT_EQ(grid().Text(2, kExpiryDate), "26-02-28");
+        EXPECT_EQ(grid().cells.Text(2, kExpiryDate), "26-02-28");
         calendar.Pick(2049y / 12 / 31);
         EXPECT_FALSE(picker.Visible());
     });
-    EXPECT_EQ(grid().Text(2, kExpiryDate), "49-12-31");
+    EXPECT_EQ(grid().cells.Text(2, kExpiryDate), "49-12-31");
     OpenCalendar([&](frmDatePicker& picker) { picker.dpZYSecurity.Pick(1950y / 1 / 1); });
-    EXPECT_EQ(grid().Text(2, kExpiryDate), "50-01-01");
+    EXPECT_EQ(grid().cells.Text(2, kExpiryDate), "50-01-01");
 }
 
 TEST_F(DatePicker, ShowsTheNearestDateThatItOffersWhenTodayIsNone) {
@@ -73,39 +73,39 @@ TEST_F(DatePicker, ADayThatIsClickedStandsInTheCell) {
         picker.dpZYSecurity.Pick(2031y / 4 / 5);
         EXPECT_FALSE(picker.Visible());
     });
-    EXPECT_EQ(grid().Text(2, kExpiryDate), "31-04-05");
+    EXPECT_EQ(grid().cells.Text(2, kExpiryDate), "31-04-05");
     ExpectSaveEnabled(true);
     ExpectMarks(false, true);
-    EXPECT_FALSE(grid().IsEditing());
+    EXPECT_FALSE(grid().editor.IsOpen());
     EXPECT_THAT(Traces(), Contains("frmDatePicker dpZYSecurity_DateClick Start"));
 }
 
 TEST_F(DatePicker, TheDayThatIsShownCanBeClicked) {
-    grid().SetText(2, kExpiryDate, "26-02-28");
+    grid().cells.SetText(2, kExpiryDate, "26-02-28");
     OpenCalendar([&](frmDatePicker& picker) { picker.dpZYSecurity.Pick(picker.dpZYSecurity.Value()); });
-    EXPECT_EQ(grid().Text(2, kExpiryDate), "26-02-28");
+    EXPECT_EQ(grid().cells.Text(2, kExpiryDate), "26-02-28");
     ExpectSaveEnabled(true);
 }
 
 TEST_F(DatePicker, ClearEmptiesTheCell) {
-    grid().SetText(2, kExpiryDate, "26-02-28");
+    grid().cells.SetText(2, kExpiryDate, "26-02-28");
     OpenCalendar([&](frmDatePicker& picker) {
         picker.cmdClear.Click();
         EXPECT_FALSE(picker.Visible());
     });
-    EXPECT_EQ(grid().Text(2, kExpiryDate), "");
+    EXPECT_EQ(grid().cells.Text(2, kExpiryDate), "");
     ExpectSaveEnabled(true);
     ExpectMarks(false, true);
 }
 
 TEST_F(DatePicker, CancelAndTheCloseBoxChangeNothing) {
-    grid().SetText(2, kExpiryDate, "26-02-28");
+    grid().cells.SetText(2, kExpiryDate, "26-02-28");
     OpenCalendar([&](frmDatePicker& picker) {
         picker.cmdcancel.Click();
         EXPECT_FALSE(picker.Visible());
     });
     OpenCalendar([&](frmDatePicker&) {});
-    EXPECT_EQ(grid().Text(2, kExpiryDate), "26-02-28");
+    EXPECT_EQ(grid().cells.Text(2, kExpiryDate), "26-02-28");
     ExpectSaveEnabled(false);
     ExpectMarks(false, false);
 }
@@ -117,8 +117,8 @@ TEST_F(DatePicker, ATextThatWasTypedBeforeIsKept) {
     });
     grid().Pick(2, kExpiryDate);
     grid().TypeOver("30-01-02");
-    grid().PressCellButton();
-    EXPECT_EQ(grid().Text(2, kExpiryDate), "30-01-02");
+    grid().editor.PressButton();
+    EXPECT_EQ(grid().cells.Text(2, kExpiryDate), "30-01-02");
     ExpectMarks(false, true);
 }
 
@@ -135,11 +135,11 @@ TEST_F(DatePicker, StandsBelowItsCell) {
 TEST_F(DatePicker, OnlyCellsOfDatesHaveIt) {
     grid().Pick(2, kUserName);
     grid().OpenEditor();
-    EXPECT_EQ(grid().EditList(), CellList(""));
-    grid().PressCellButton();
-    EXPECT_TRUE(grid().IsEditing());
-    grid().cellButtonClick.Raise(2, kUserName);
-    EXPECT_TRUE(grid().IsEditing()) << "and no calendar came";
+    EXPECT_EQ(grid().editor.List(), CellList(""));
+    grid().editor.PressButton();
+    EXPECT_TRUE(grid().editor.IsOpen());
+    grid().editor.buttonClick.Raise(2, kUserName);
+    EXPECT_TRUE(grid().editor.IsOpen()) << "and no calendar came";
 }
 
 } // namespace

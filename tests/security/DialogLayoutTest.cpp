@@ -60,7 +60,7 @@ TEST_F(DialogLayout, OfTheCalendarKeepsItsControlsApartAndInside) {
     });
     grid().Pick(1, kExpiryDate);
     grid().OpenEditor();
-    grid().PressCellButton();
+    grid().editor.PressButton();
 }
 
 } // namespace

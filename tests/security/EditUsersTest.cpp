@@ -42,7 +42,7 @@ TEST_F(EditUsers, AUserAddedByTheMenuLeavesTheButtonsAlone) {
     StartOver({User("Ann")});
     Traces();
     ChooseAdd();
-    EXPECT_EQ(grid().Rows(), 3);
+    EXPECT_EQ(grid().cells.Rows(), 3);
     ExpectCurrent(2, 0);
     ExpectSaveEnabled(false);
     ExpectMarks(false, true);
@@ -70,7 +70,7 @@ TEST_F(EditUsers, AnsweringNoChangesNothingButIsTracedAsADeletion) {
     grid().Pick(2, 0);
     Traces();
     Delete(Answer::No);
-    EXPECT_EQ(grid().Rows(), 3);
+    EXPECT_EQ(grid().cells.Rows(), 3);
     ExpectSaveEnabled(false);
     ExpectMarks(false, false);
     EXPECT_THAT(Traces(), ElementsAre("frmGlobalSettings cmdDeleteUser_Click Start",
@@ -79,14 +79,14 @@ TEST_F(EditUsers, AnsweringNoChangesNothingButIsTracedAsADeletion) {
 
 TEST_F(EditUsers, WithoutACurrentRowNothingIsDeleted) {
     StartOver({User("Ann"), User("Bob")});
-    ASSERT_EQ(grid().Row(), -1);
+    ASSERT_EQ(grid().selection.Row(), -1);
     Delete(Answer::Yes);
-    EXPECT_EQ(grid().Rows(), 3);
+    EXPECT_EQ(grid().cells.Rows(), 3);
     ExpectMarks(false, false);
     RightClick(0);
-    EXPECT_EQ(grid().Row(), 0);
+    EXPECT_EQ(grid().selection.Row(), 0);
     Delete(Answer::Yes);
-    EXPECT_EQ(grid().Rows(), 3);
+    EXPECT_EQ(grid().cells.Rows(), 3);
     ExpectMarks(false, false);
 }
 
@@ -101,7 +101,7 @@ TEST_F(EditUsers, TheLastUserCanBeDeletedAndTheNextOneTakesItsElement) {
     EXPECT_EQ(page().users.zySecure.size(), 1U);
     controls().cmdAddUser.Click();
     EXPECT_EQ(page().users.zySecure.size(), 2U);
-    EXPECT_EQ(grid().Rows(), 3);
+    EXPECT_EQ(grid().cells.Rows(), 3);
 }
 
 TEST_F(EditUsers, TheMenuDeletesAtOnceAndLeavesTheButtonsAlone) {
@@ -125,9 +125,9 @@ TEST_F(EditUsers, TheMenuDeletesNothingWithoutACurrentRow) {
         if (row == 0) {
             grid().PressMouse(MouseButton::Left, 0, 0);
         }
-        ASSERT_EQ(grid().Row(), row);
+        ASSERT_EQ(grid().selection.Row(), row);
         ChooseDelete();
-        EXPECT_EQ(grid().Rows(), 3);
+        EXPECT_EQ(grid().cells.Rows(), 3);
         EXPECT_EQ(page().users.zySecure.size(), 2U);
         ExpectMarks(false, false);
     }
@@ -136,9 +136,9 @@ TEST_F(EditUsers, TheMenuDeletesNothingWithoutACurrentRow) {
 TEST_F(EditUsers, AClickMakesItsRowCurrent) {
     StartOver({User("Ann"), User("Bob")});
     grid().PressMouse(MouseButton::Left, 2, 3);
-    EXPECT_EQ(grid().Row(), 2);
+    EXPECT_EQ(grid().selection.Row(), 2);
     RightClick(1);
-    EXPECT_EQ(grid().Row(), 1);
+    EXPECT_EQ(grid().selection.Row(), 1);
 }
 
 TEST_F(EditUsers, TheRightButtonOpensTheMenuWhoseDeleteNeedsAUserRow) {
@@ -165,7 +165,7 @@ TEST_F(EditUsers, BesideTheRowsTheMenuOpensWithoutDeleteAndTheCurrentRowStays) {
     RightClick(-1);
     EXPECT_EQ(opened, 1);
     EXPECT_FALSE(deleteEntry().Enabled());
-    EXPECT_EQ(grid().Row(), 2);
+    EXPECT_EQ(grid().selection.Row(), 2);
 }
 
 TEST_F(EditUsers, ACommittedEditCanBeSaved) {
@@ -213,7 +213,7 @@ TEST_F(EditUsers, OneUserMoreThanACounterHoldsIsNotAddedByTheButtonNorByTheMenu)
     state().gbChanged = false;
     ChooseAdd();
     EXPECT_EQ(Status(), "32767 users   -   Not added: the list is as long as it can be");
-    EXPECT_EQ(grid().Rows(), 32768);
+    EXPECT_EQ(grid().cells.Rows(), 32768);
     EXPECT_EQ(page().users.zySecure.size(), 32767U);
     ExpectCurrent(5, kPassword);
     ExpectMarks(false, false);

@@ -68,7 +68,7 @@ TEST_F(FailingUsersDisk, ADiskThatIsFullLeavesTheOldTable) {
     StartOver({User("Ann")});
     for (int i = 0; i < 100; ++i) {
         controls().cmdAddUser.Click();
-        const int row = grid().Rows() - 1;
+        const int row = grid().cells.Rows() - 1;
         Edit(row, kUserName, "u" + std::to_string(i));
         Edit(row, kPassword, "p");
         Edit(row, kIdentification, "i");

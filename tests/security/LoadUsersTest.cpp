@@ -96,19 +96,19 @@ TEST_F(LoadUsers, AfterLoadingSaveIsOffAndDeleteFollowsWhetherThereAreUsers) {
 
 TEST_F(LoadUsers, TheGridHasItsHeadersAndAListOfStates) {
     StartOver({User("Ann")});
-    EXPECT_EQ(grid().Text(0, kUserName), "User Name");
-    EXPECT_EQ(grid().Text(0, kPassword), "Password");
-    EXPECT_EQ(grid().Text(0, kStatus), "Status");
-    EXPECT_EQ(grid().Text(0, kExpiryDate), "Expiry Date");
-    EXPECT_EQ(grid().Text(0, kIdentification), "User Identification");
-    for (int column = 0; column < grid().Columns(); ++column) {
-        EXPECT_EQ(grid().ColumnWidth(column), 960);
+    EXPECT_EQ(grid().cells.Text(0, kUserName), "User Name");
+    EXPECT_EQ(grid().cells.Text(0, kPassword), "Password");
+    EXPECT_EQ(grid().cells.Text(0, kStatus), "Status");
+    EXPECT_EQ(grid().cells.Text(0, kExpiryDate), "Expiry Date");
+    EXPECT_EQ(grid().cells.Text(0, kIdentification), "User Identification");
+    for (int column = 0; column < grid().cells.Columns(); ++column) {
+        EXPECT_EQ(grid().columns.Width(column), 960);
         grid().Pick(1, column);
         grid().OpenEditor();
-        EXPECT_EQ(grid().EditList(), CellList(column == kStatus       ? "A|I"
-                                              : column == kExpiryDate ? "..."
-                                                                      : ""));
-        grid().CancelEdit();
+        EXPECT_EQ(grid().editor.List(), CellList(column == kStatus       ? "A|I"
+                                                 : column == kExpiryDate ? "..."
+                                                                         : ""));
+        grid().editor.Cancel();
     }
 }
 
@@ -116,7 +116,7 @@ TEST_F(LoadUsers, MoreUsersThanACounterHoldsAreAnOverflowBeforeAnythingIsShown) 
     Users users(32767, User("x"));
     PutTable(users);
     EXPECT_EQ(Start("@SECURITY"), StartUp::WindowShown);
-    EXPECT_EQ(grid().Rows(), 32768);
+    EXPECT_EQ(grid().cells.Rows(), 32768);
     world.files.Take(kUsersTable);
     users.push_back(User("x"));
     PutTable(users);

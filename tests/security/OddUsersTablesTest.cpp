@@ -169,7 +169,7 @@ TEST_F(OddUsersTables, Of32767UsersAndDeletedOnesAreReadForOnlyTheShownOnesCount
         table.Add('*', {"gone", "", "", "", ""});
     }
     Open(table);
-    EXPECT_EQ(grid().Rows(), 32768);
+    EXPECT_EQ(grid().cells.Rows(), 32768);
 }
 
 } // namespace

@@ -44,9 +44,9 @@ TEST_F(SampleUsers, ShowWhatAUserCanBe) {
     Start("@SECURITY");
     std::set<std::string> states;
     std::set<bool> expire;
-    for (int row = 1; row < grid().Rows(); ++row) {
-        states.emplace(grid().Text(row, kStatus));
-        expire.insert(!grid().Text(row, kExpiryDate).empty());
+    for (int row = 1; row < grid().cells.Rows(); ++row) {
+        states.emplace(grid().cells.Text(row, kStatus));
+        expire.insert(!grid().cells.Text(row, kExpiryDate).empty());
     }
     EXPECT_EQ(states, (std::set<std::string>{"A", "I"}));
     EXPECT_THAT(expire, SizeIs(2));

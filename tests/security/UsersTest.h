@@ -51,10 +51,10 @@ class UsersTest : public ProgramTest {
     /// The user rows of the grid, cells joined by "|".
     std::vector<std::string> Rows() {
         std::vector<std::string> rows;
-        for (int row = 1; row < grid().Rows(); ++row) {
-            std::string text(grid().Text(row, 0));
-            for (int column = 1; column < grid().Columns(); ++column) {
-                text += "|" + std::string(grid().Text(row, column));
+        for (int row = 1; row < grid().cells.Rows(); ++row) {
+            std::string text(grid().cells.Text(row, 0));
+            for (int column = 1; column < grid().cells.Columns(); ++column) {
+                text += "|" + std::string(grid().cells.Text(row, column));
             }
             rows.push_back(text);
         }
@@ -64,7 +64,7 @@ class UsersTest : public ProgramTest {
     void Edit(int row, int column, std::string_view text) {
         grid().Pick(row, column);
         grid().OpenEditor();
-        grid().EnterEditText(text, text.size(), 0);
+        grid().editor.Enter(text, text.size(), 0);
         grid().Press({Key::Enter});
     }
     void Save() { controls().cmdSaveUsers.Click(); }
@@ -75,8 +75,8 @@ class UsersTest : public ProgramTest {
         controls().cmdDeleteUser.Click();
     }
     void ExpectCurrent(int row, int column) {
-        EXPECT_EQ(grid().Row(), row);
-        EXPECT_EQ(grid().Column(), column);
+        EXPECT_EQ(grid().selection.Row(), row);
+        EXPECT_EQ(grid().selection.Column(), column);
     }
     void ExpectSaveEnabled(bool enabled) { EXPECT_EQ(controls().cmdSaveUsers.Enabled(), enabled); }
     void ExpectDeleteEnabled(bool enabled) {

@@ -36,8 +36,8 @@ TEST_F(UsersTraces, TellOfAnEditFromItsBeginningToItsEnd) {
     Traces();
     grid().OpenEditor();
     EXPECT_THAT(FormLines(), ElementsAre("grdSecurity_BeforeEdit Start"));
-    grid().EnterEditText("new", 3, 0);
-    grid().CommitEdit();
+    grid().editor.Enter("new", 3, 0);
+    grid().editor.Commit();
     EXPECT_THAT(FormLines(), ElementsAre("grdSecurity_AfterEdit Start"));
 }
 
@@ -53,7 +53,7 @@ TEST_F(UsersTraces, TellOfTheCalendarAndOfItsButtons) {
             (clear ? picker.cmdClear : picker.cmdcancel).Click();
             inside = FormLines("frmDatePicker ");
         });
-        grid().PressCellButton();
+        grid().editor.PressButton();
         EXPECT_THAT(inside, ElementsAre(clear ? "cmdClear_Click Start" : "cmdcancel_Click Start"));
     }
 }

@@ -9,7 +9,7 @@ class ValidateUsers : public UsersTest {
   protected:
     ValidateUsers() {
         StartOver({User("Ann"), User("Bob"), User("Cid")});
-        grid().Select(3, 0);
+        grid().selection.Select(3, 0);
     }
 
     /// The checks fail with this message, and this cell becomes current.
@@ -30,138 +30,138 @@ TEST_F(ValidateUsers, UsersThatAreRightPass) {
 
 TEST_F(ValidateUsers, ANameOfBlanksIsRefused) {
     for (const auto* name : {"", "   "}) {
-        grid().SetText(2, kUserName, name);
+        grid().cells.SetText(2, kUserName, name);
         ExpectRefused("Invalid User Name. Cannot be blank", 2, 0);
     }
 }
 
 TEST_F(ValidateUsers, ANameOfTenCharactersPassesAndOneOfElevenDoesNot) {
-    grid().SetText(2, kUserName, "1234567890");
+    grid().cells.SetText(2, kUserName, "1234567890");
     ExpectPassed();
-    grid().SetText(2, kUserName, "1234567890 ");
+    grid().cells.SetText(2, kUserName, "1234567890 ");
     ExpectRefused("Invalid User ID. User ID must not be longer than 10 characters", 2, 0);
 }
 
 TEST_F(ValidateUsers, ANameWithADoubleQuoteIsRefused) {
-    grid().SetText(2, kUserName, "B\"b");
+    grid().cells.SetText(2, kUserName, "B\"b");
     ExpectRefused("Invalid User Name. User ID cannot contain Double Quotes", 2, 0);
 }
 
 TEST_F(ValidateUsers, ANameInTwoRowsIsRefusedWithTheCursorOnTheOtherRow) {
-    grid().SetText(1, kUserName, "Admin");
-    grid().SetText(3, kUserName, "ADMIN");
+    grid().cells.SetText(1, kUserName, "Admin");
+    grid().cells.SetText(3, kUserName, "ADMIN");
     ExpectRefused("Invalid User Name. User Name must be unique.", 3, 0);
 }
 
 TEST_F(ValidateUsers, TheFirstOtherRowOfTheNameIsShown) {
-    grid().SetText(2, kUserName, "ann");
-    grid().SetText(3, kUserName, "ANN");
+    grid().cells.SetText(2, kUserName, "ann");
+    grid().cells.SetText(3, kUserName, "ANN");
     ExpectRefused("Invalid User Name. User Name must be unique.", 2, 0);
 }
 
 TEST_F(ValidateUsers, NamesAreComparedUntrimmed) {
-    grid().SetText(2, kUserName, "Ann ");
+    grid().cells.SetText(2, kUserName, "Ann ");
     ExpectPassed();
 }
 
 TEST_F(ValidateUsers, AFailureOfAnEarlierRowComesBeforeARepeatedNameOfALaterOne) {
-    grid().SetText(1, kPassword, "");
-    grid().SetText(3, kUserName, "Bob");
+    grid().cells.SetText(1, kPassword, "");
+    grid().cells.SetText(3, kUserName, "Bob");
     ExpectRefused("Invalid Password. Password Cannot be blank", 1, 1);
 }
 
 TEST_F(ValidateUsers, APasswordOfBlanksIsRefused) {
     for (const auto* password : {"", "  "}) {
-        grid().SetText(1, kPassword, password);
+        grid().cells.SetText(1, kPassword, password);
         ExpectRefused("Invalid Password. Password Cannot be blank", 1, 1);
     }
 }
 
 TEST_F(ValidateUsers, APasswordOfTwentyCharactersPassesAndOneOfTwentyOneDoesNot) {
-    grid().SetText(1, kPassword, std::string(20, 'p'));
+    grid().cells.SetText(1, kPassword, std::string(20, 'p'));
     ExpectPassed();
-    grid().SetText(1, kPassword, std::string(21, 'p'));
+    grid().cells.SetText(1, kPassword, std::string(21, 'p'));
     ExpectRefused("Invalid Password. Password must not be longer than 20 characters", 1, 1);
 }
 
 TEST_F(ValidateUsers, APasswordWithADoubleQuoteIsRefused) {
-    grid().SetText(1, kPassword, "p\"");
+    grid().cells.SetText(1, kPassword, "p\"");
     ExpectRefused("Invalid Password. Password cannot contain Double Quotes", 1, 1);
 }
 
 TEST_F(ValidateUsers, AnEmptyStatusBecomesInactiveWithoutAWord) {
-    grid().SetText(2, kStatus, "");
+    grid().cells.SetText(2, kStatus, "");
     ExpectPassed();
-    EXPECT_EQ(grid().Text(2, kStatus), "I");
+    EXPECT_EQ(grid().cells.Text(2, kStatus), "I");
     ExpectMarks(false, false);
     ExpectSaveEnabled(false);
 }
 
 TEST_F(ValidateUsers, AnyOtherStatusPasses) {
-    grid().SetText(2, kStatus, "?");
+    grid().cells.SetText(2, kStatus, "?");
     ExpectPassed();
-    EXPECT_EQ(grid().Text(2, kStatus), "?");
+    EXPECT_EQ(grid().cells.Text(2, kStatus), "?");
 }
 
 TEST_F(ValidateUsers, AnIdentificationOfBlanksIsRefused) {
     for (const auto* text : {"", " "}) {
-        grid().SetText(2, kIdentification, text);
+        grid().cells.SetText(2, kIdentification, text);
         ExpectRefused("Invalid User Identifier. User Identifier Cannot be blank", 2, 4);
     }
 }
 
 TEST_F(ValidateUsers, AnIdentificationOfTwentyCharactersPassesAndOneOfTwentyOneDoesNot) {
-    grid().SetText(2, kIdentification, std::string(20, 'i'));
+    grid().cells.SetText(2, kIdentification, std::string(20, 'i'));
     ExpectPassed();
-    grid().SetText(2, kIdentification, std::string(21, 'i'));
+    grid().cells.SetText(2, kIdentification, std::string(21, 'i'));
     ExpectRefused("Invalid User Identifier. User Identifier must not be longer than 20 characters", 2, 4);
 }
 
 TEST_F(ValidateUsers, AnIdentificationWithADoubleQuoteIsRefused) {
-    grid().SetText(2, kIdentification, "\"");
+    grid().cells.SetText(2, kIdentification, "\"");
     ExpectRefused("Invalid User Identifier. User Identifier cannot contain Double Quotes", 2, 4);
 }
 
 TEST_F(ValidateUsers, ADateThatWasNeverFilledInIsEmptiedWithoutAWord) {
-    grid().SetText(2, kExpiryDate, "yy-mm-dd");
+    grid().cells.SetText(2, kExpiryDate, "yy-mm-dd");
     ExpectPassed();
-    EXPECT_EQ(grid().Text(2, kExpiryDate), "");
+    EXPECT_EQ(grid().cells.Text(2, kExpiryDate), "");
     ExpectMarks(false, false);
 }
 
 TEST_F(ValidateUsers, ADateOfNineCharactersIsRefusedForItsLength) {
-    grid().SetText(2, kExpiryDate, "26-11-200");
+    grid().cells.SetText(2, kExpiryDate, "26-11-200");
     ExpectRefused("Invalid Expiry Date. Expiry Date must not be longer than 8 characters", 2, 3);
 }
 
 TEST_F(ValidateUsers, ATextThatIsNoDateIsRefused) {
     for (const auto* date : {"never", "26-13-01", "26-02-29", " "}) {
-        grid().SetText(2, kExpiryDate, date);
+        grid().cells.SetText(2, kExpiryDate, date);
         ExpectRefused("Invalid Expiry Date. Must Use Format YY-MM-DD or blank for no Expiry Date", 2, 3);
     }
-    grid().SetText(2, kExpiryDate, "26-11-20");
+    grid().cells.SetText(2, kExpiryDate, "26-11-20");
     ExpectPassed();
 }
 
 TEST_F(ValidateUsers, TheCellsOfARowAreCheckedInTheirOrder) {
-    grid().SetText(1, kUserName, "");
-    grid().SetText(1, kPassword, "");
-    grid().SetText(1, kStatus, "");
-    grid().SetText(1, kIdentification, "");
-    grid().SetText(1, kExpiryDate, "x");
+    grid().cells.SetText(1, kUserName, "");
+    grid().cells.SetText(1, kPassword, "");
+    grid().cells.SetText(1, kStatus, "");
+    grid().cells.SetText(1, kIdentification, "");
+    grid().cells.SetText(1, kExpiryDate, "x");
     ExpectRefused("Invalid User Name. Cannot be blank", 1, 0);
-    grid().SetText(1, kUserName, "Ann");
+    grid().cells.SetText(1, kUserName, "Ann");
     ExpectRefused("Invalid Password. Password Cannot be blank", 1, 1);
-    EXPECT_EQ(grid().Text(1, kStatus), "") << "the status is set right behind the password";
-    grid().SetText(1, kPassword, "p");
+    EXPECT_EQ(grid().cells.Text(1, kStatus), "") << "the status is set right behind the password";
+    grid().cells.SetText(1, kPassword, "p");
     ExpectRefused("Invalid User Identifier. User Identifier Cannot be blank", 1, 4);
-    EXPECT_EQ(grid().Text(1, kStatus), "I") << "what was set right stays";
-    grid().SetText(1, kIdentification, "i");
+    EXPECT_EQ(grid().cells.Text(1, kStatus), "I") << "what was set right stays";
+    grid().cells.SetText(1, kIdentification, "i");
     ExpectRefused("Invalid Expiry Date. Must Use Format YY-MM-DD or blank for no Expiry Date", 1, 3);
 }
 
 TEST_F(ValidateUsers, SingleQuotesPass) {
-    grid().SetText(1, kUserName, "O'Neil");
+    grid().cells.SetText(1, kUserName, "O'Neil");
     ExpectPassed();
 }
 

@@ -247,10 +247,10 @@ TEST_F(StartUpTest, BringsItsOwnEditors) {
     EXPECT_TRUE(form().fraRules.Visible());
     EXPECT_EQ(Start("@UNITS"), StartUp::WindowShown);
     EXPECT_TRUE(form().FraUnits.Visible());
-    EXPECT_EQ(program().unitsPage.controls.grdUnits.Text(0, 0), "Unit");
+    EXPECT_EQ(program().unitsPage.controls.grdUnits.cells.Text(0, 0), "Unit");
     EXPECT_EQ(Start("@SECURITY"), StartUp::WindowShown);
     EXPECT_TRUE(form().fraSecurity.Visible());
-    EXPECT_EQ(program().securityPage.controls.grdSecurity.Text(1, 0), "NewUser");
+    EXPECT_EQ(program().securityPage.controls.grdSecurity.cells.Text(1, 0), "NewUser");
 }
 
 TEST_F(StartUpTest, LeavesThePlaceAloneForAnUnknownCommandLine) {

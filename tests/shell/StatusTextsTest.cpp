@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "controls/Form.h"
+#include "controls/Grid.h"
 
 namespace zy::test {
 namespace {
@@ -11,10 +12,10 @@ namespace {
 class PasteTexts : public ::testing::Test {
   protected:
     PasteTexts() {
-        grid.SetText(0, 0, "Name");
-        grid.SetText(0, 1, "Status");
+        grid.cells.SetText(0, 0, "Name");
+        grid.cells.SetText(0, 1, "Status");
     }
-    std::string Text() const { return DescribeLeftOut(paste, grid); }
+    std::string Text() const { return DescribeLeftOut(paste, grid.cells); }
 
     Form form{"frm"};
     Grid grid{&form, "grd", 2};

@@ -106,10 +106,10 @@ TEST_F(BadUnitsFile, WithEveryCharacterKeepsThoseThatAreNoSeparators) {
 TEST_F(BadUnitsFile, WithALineOfTenMegabytesIsTakenWhole) {
     const std::string text(5'000'000, 'x');
     OpenOver(text + "," + text + "\r\nB,b\r\n");
-    ASSERT_EQ(grid.Rows(), 3);
-    EXPECT_EQ(grid.Text(1, kUnit), text);
-    EXPECT_EQ(grid.Text(1, kUnitDescription), text);
-    EXPECT_EQ(grid.Text(2, kUnit), "b");
+    ASSERT_EQ(grid.cells.Rows(), 3);
+    EXPECT_EQ(grid.cells.Text(1, kUnit), text);
+    EXPECT_EQ(grid.cells.Text(1, kUnitDescription), text);
+    EXPECT_EQ(grid.cells.Text(2, kUnit), "b");
 }
 
 TEST_F(BadUnitsFile, WithAMillionFieldsOnALineGivesTheFirstTwo) {

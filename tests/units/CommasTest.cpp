@@ -15,8 +15,8 @@ class Commas : public UnitsTest {
                                 unit + "\", \"" + description + "\" at the next start");
         Save();
         page.units.LoadUnitsData();
-        EXPECT_EQ(grid.Text(row, kUnit), unit);
-        EXPECT_EQ(grid.Text(row, kUnitDescription), description);
+        EXPECT_EQ(grid.cells.Text(row, kUnit), unit);
+        EXPECT_EQ(grid.cells.Text(row, kUnitDescription), description);
     }
 };
 
@@ -84,8 +84,8 @@ TEST_F(Commas, AreToldBesideWhatASaveWouldDrop) {
 TEST_F(Commas, AreTheOnlySeparatorsThatGetIntoAPastedCell) {
     grid.Pick(1, kUnit);
     grid.Paste("\"u\tv\"\t\"one\ttwo\"\r\n");
-    EXPECT_EQ(grid.Text(1, kUnit), "u v");
-    EXPECT_EQ(grid.Text(1, kUnitDescription), "one two");
+    EXPECT_EQ(grid.cells.Text(1, kUnit), "u v");
+    EXPECT_EQ(grid.cells.Text(1, kUnitDescription), "one two");
     EXPECT_EQ(Status(), "3 units");
 }
 

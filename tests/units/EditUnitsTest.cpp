@@ -12,8 +12,8 @@ TEST_F(EditUnits, AddsAnEmptyRowAtTheEndAndOpensItsUnitForTyping) {
     Add();
     EXPECT_THAT(Units(), ElementsAre("a|A", "b|B", "c|C", "|"));
     ExpectCurrent(4, kUnit);
-    EXPECT_TRUE(grid.IsEditing());
-    EXPECT_EQ(grid.EditText(), "");
+    EXPECT_TRUE(grid.editor.IsOpen());
+    EXPECT_EQ(grid.editor.Text(), "");
     EXPECT_TRUE(grid.HasFocus());
 }
 
@@ -34,7 +34,7 @@ TEST_F(EditUnits, AddsTheFirstUnitOfAnEmptyList) {
 
 TEST_F(EditUnits, TurnsDeleteOnByAddingWhateverWasMadeOfTheNewCurrentCell) {
     Open();
-    grid.currentCellChanged.Connect([this] { controls.cmdDeleteUnit.SetEnabled(false); });
+    grid.selection.currentCellChanged.Connect([this] { controls.cmdDeleteUnit.SetEnabled(false); });
     Add();
     EXPECT_TRUE(controls.cmdDeleteUnit.Enabled());
 }
@@ -77,9 +77,9 @@ TEST_F(EditUnits, LetsDeleteFollowTheCurrentRow) {
     EXPECT_FALSE(controls.cmdDeleteUnit.Enabled());
     grid.Pick(2, 0);
     EXPECT_TRUE(controls.cmdDeleteUnit.Enabled());
-    grid.Select(0, 0);
+    grid.selection.Select(0, 0);
     EXPECT_FALSE(controls.cmdDeleteUnit.Enabled());
-    grid.Select(3, 1);
+    grid.selection.Select(3, 1);
     EXPECT_TRUE(controls.cmdDeleteUnit.Enabled());
     ExpectChanged(false);
 }
@@ -107,8 +107,8 @@ TEST_F(EditUnits, LeavesTheHeaderAloneAndDeleteOffWhenTheLastRowIsDeleted) {
     OpenOver("A,a\r\n");
     grid.Pick(1, 0);
     Delete(Answer::Yes);
-    EXPECT_EQ(grid.Rows(), 1);
-    EXPECT_EQ(grid.Text(0, 0), "Unit");
+    EXPECT_EQ(grid.cells.Rows(), 1);
+    EXPECT_EQ(grid.cells.Text(0, 0), "Unit");
     EXPECT_FALSE(controls.cmdDeleteUnit.Enabled());
     ExpectChanged(true);
     controls.cmdDeleteUnit.Click(); // asks nothing any more

@@ -19,7 +19,7 @@ class LeftOut : public UnitsTest {
     /// The report stands beside the count through everything a person does short of a save that goes well.
     void ExpectReportUntilSaved(const std::string& report) {
         const auto count = [this] {
-            const int units = grid.Rows() - 1;
+            const int units = grid.cells.Rows() - 1;
             return std::to_string(units) + (units == 1 ? " unit" : " units");
         };
         EXPECT_EQ(Status(), count() + "; " + report);

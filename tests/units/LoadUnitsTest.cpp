@@ -20,20 +20,20 @@ TEST_F(LoadUnits, ShowsThePageUnderItsTitle) {
 TEST_F(LoadUnits, ShowsTheRowsOfTheFileInTheirOrder) {
     OpenThreeUnits();
     EXPECT_THAT(Units(), ElementsAre("a|A", "b|B", "c|C"));
-    EXPECT_EQ(grid.Columns(), 2);
-    EXPECT_EQ(grid.Text(0, 0), "Unit");
-    EXPECT_EQ(grid.Text(0, 1), "Unit Description");
+    EXPECT_EQ(grid.cells.Columns(), 2);
+    EXPECT_EQ(grid.cells.Text(0, 0), "Unit");
+    EXPECT_EQ(grid.cells.Text(0, 1), "Unit Description");
 }
 
 TEST_F(LoadUnits, TakesTheDescriptionFromTheFirstFieldAndTheUnitFromTheSecond) {
     OpenOver("Kilograms,kg\r\n");
-    EXPECT_EQ(grid.Text(1, 0), "kg");
-    EXPECT_EQ(grid.Text(1, 1), "Kilograms");
+    EXPECT_EQ(grid.cells.Text(1, 0), "kg");
+    EXPECT_EQ(grid.cells.Text(1, 1), "Kilograms");
 }
 
 TEST_F(LoadUnits, FindsAnEmptyListInAnEmptyFileAndLeavesSaveOff) {
     OpenOver("");
-    EXPECT_EQ(grid.Rows(), 1);
+    EXPECT_EQ(grid.cells.Rows(), 1);
     EXPECT_FALSE(controls.cmdSaveUnits.Enabled());
 }
 
@@ -65,7 +65,7 @@ TEST_F(LoadUnits, WithAFileTurnsSaveOffAndSetsNoMark) {
 
 TEST_F(LoadUnits, WithoutAFileTurnsSaveOnAndDeleteOffAndSetsNoMark) {
     Open();
-    EXPECT_EQ(grid.Rows(), 1);
+    EXPECT_EQ(grid.cells.Rows(), 1);
     EXPECT_TRUE(controls.cmdSaveUnits.Enabled());
     EXPECT_FALSE(controls.cmdDeleteUnit.Enabled());
     EXPECT_FALSE(form.ChangeFlag);
@@ -83,7 +83,7 @@ TEST_F(LoadUnits, AgainWithoutTheFileTurnsSaveOnAndDeleteOff) {
 
 TEST_F(LoadUnits, HasNoCurrentCellAtFirst) {
     OpenThreeUnits();
-    EXPECT_EQ(grid.Row(), -1);
+    EXPECT_EQ(grid.selection.Row(), -1);
 }
 
 TEST_F(LoadUnits, TakesAFileThatTheSearchDoesNotFindForMissing) {
@@ -115,8 +115,8 @@ TEST_F(LoadUnits, ClosesTheFileBeforeItLooksAtTheLines) {
 
 TEST_F(LoadUnits, ShowsTheRowsOnceAllAreThereAndThenFitsTheColumns) {
     std::vector<std::string> told;
-    grid.rowsChanged.Connect([&] { told.push_back(std::to_string(grid.Rows()) + " rows"); });
-    grid.fitColumns.Connect([&](int first) { told.push_back("fit from " + std::to_string(first)); });
+    grid.cells.rowsChanged.Connect([&] { told.push_back(std::to_string(grid.cells.Rows()) + " rows"); });
+    grid.columns.fit.Connect([&](int first) { told.push_back("fit from " + std::to_string(first)); });
     OpenThreeUnits();
     EXPECT_THAT(told, ElementsAre("4 rows", "fit from 0"));
 }
@@ -127,7 +127,7 @@ TEST_F(LoadUnits, AgainReplacesTheRowsAndForgetsTheCurrentCell) {
     world.files.Put(kUnitsFile, "D,d\r\n");
     page.units.LoadUnitsData();
     EXPECT_THAT(Units(), ElementsAre("d|D"));
-    EXPECT_EQ(grid.Row(), -1);
+    EXPECT_EQ(grid.selection.Row(), -1);
     EXPECT_FALSE(controls.cmdDeleteUnit.Enabled());
 }
 

@@ -26,8 +26,8 @@ class ManyUnits : public UnitsTest {
 
 TEST_F(ManyUnits, AreLoadedCheckedAndSavedUpToTheLastOne) {
     OpenOver(most);
-    ASSERT_EQ(grid.Rows() - 1, kMost);
-    EXPECT_EQ(grid.Text(kMost, kUnit), "u32767");
+    ASSERT_EQ(grid.cells.Rows() - 1, kMost);
+    EXPECT_EQ(grid.cells.Text(kMost, kUnit), "u32767");
     EXPECT_TRUE(page.units.ValidateUnits());
     world.files.Take(kUnitsFile);
     ChooseSave();
@@ -45,7 +45,7 @@ TEST_F(ManyUnits, HaveTheirLastOneCheckedToo) {
 TEST_F(ManyUnits, BeyondTheLastOneAreAnOverflowAtLoading) {
     const std::string bytes = most + "One more,more\r\n";
     int shown = 0;
-    grid.rowsChanged.Connect([&] { ++shown; });
+    grid.cells.rowsChanged.Connect([&] { ++shown; });
     ExpectOverflow([&] { OpenOver(bytes); });
     EXPECT_EQ(shown, 0);
     EXPECT_EQ(File(), bytes);
@@ -53,13 +53,13 @@ TEST_F(ManyUnits, BeyondTheLastOneAreAnOverflowAtLoading) {
 
 TEST_F(ManyUnits, MayEndInATextWithoutALineEnd) {
     OpenOver(most + "One more,more");
-    EXPECT_EQ(grid.Rows() - 1, kMost);
+    EXPECT_EQ(grid.cells.Rows() - 1, kMost);
 }
 
 TEST_F(ManyUnits, CanBeMadeByAddingTheLastOne) {
     OpenOver(FileOf(kMost - 1));
     AddUnit("u32767", "Unit 32767");
-    EXPECT_EQ(grid.Rows() - 1, kMost);
+    EXPECT_EQ(grid.cells.Rows() - 1, kMost);
     Save();
     EXPECT_EQ(File(), most);
 }
@@ -69,9 +69,9 @@ TEST_F(ManyUnits, BeyondTheLastOneAreNotAdded) {
     grid.Pick(2, kUnit);
     Add();
     EXPECT_EQ(Status(), "32767 units   -   Not added: the list is as long as it can be");
-    EXPECT_EQ(grid.Rows() - 1, kMost);
+    EXPECT_EQ(grid.cells.Rows() - 1, kMost);
     ExpectCurrent(2, kUnit);
-    EXPECT_FALSE(grid.IsEditing());
+    EXPECT_FALSE(grid.editor.IsOpen());
     ExpectChanged(false);
     EXPECT_EQ(File(), most);
 }
@@ -80,7 +80,7 @@ TEST_F(ManyUnits, KeepTheirEditsWhenOneMoreIsRefused) {
     OpenOver(most);
     Edit(1, kUnit, "edited");
     Add();
-    EXPECT_EQ(grid.Text(1, kUnit), "edited");
+    EXPECT_EQ(grid.cells.Text(1, kUnit), "edited");
     ExpectChanged(true);
     Save();
     EXPECT_EQ(Status(), "Saved");
@@ -103,15 +103,15 @@ TEST_F(ManyUnits, BeyondTheLastOneAreNotPasted) {
     grid.Pick(kMost, 0);
     grid.Paste("x\r\ny\r\n");
     EXPECT_EQ(Status(), "32767 units   -   Not pasted: the list would get longer than it can be");
-    EXPECT_EQ(grid.Rows() - 1, kMost);
-    EXPECT_EQ(grid.Text(kMost, kUnit), "u32767");
+    EXPECT_EQ(grid.cells.Rows() - 1, kMost);
+    EXPECT_EQ(grid.cells.Text(kMost, kUnit), "u32767");
     EXPECT_EQ(File(), most);
     ExpectChanged(false);
 }
 
 TEST_F(ManyUnits, BeyondTheLastOneAreAnOverflowAtSavingAndTheFileIsUntouched) {
     OpenOver(most);
-    grid.SetRows(kMost + 2);
+    grid.cells.SetRows(kMost + 2);
     world.files.Plan({});
     ExpectOverflow([&] { ChooseSave(); });
     ExpectOverflow([&] { page.units.Write_Units(); });

@@ -38,9 +38,9 @@ TEST_F(MoveUnits, UpSwapsTheRowWithTheOneBeforeAndGoesWithIt) {
 
 TEST_F(MoveUnits, CopiesTheWholeNeighbourBeforeItWritesTheRowThere) {
     std::vector<std::string> changes;
-    grid.cellChanged.Connect([&](int row, int column) {
+    grid.cells.cellChanged.Connect([&](int row, int column) {
         changes.push_back(std::to_string(row) + "," + std::to_string(column) + "=" +
-                          std::string(grid.Text(row, column)));
+                          std::string(grid.cells.Text(row, column)));
     });
     grid.Pick(2, kUnit);
     Down();
@@ -76,15 +76,15 @@ TEST_F(MoveUnits, MovesNothingWithoutACurrentRowButTurnsSaveOn) {
     Up();
     ExpectNothingMoved();
     ExpectChanged(true);
-    EXPECT_EQ(grid.Row(), -1);
+    EXPECT_EQ(grid.selection.Row(), -1);
 }
 
 TEST_F(MoveUnits, MovesNothingOnTheHeaderButTurnsSaveOn) {
-    grid.Select(0, 0);
+    grid.selection.Select(0, 0);
     Down();
     Up();
     ExpectNothingMoved();
-    EXPECT_EQ(grid.Text(0, 0), "Unit");
+    EXPECT_EQ(grid.cells.Text(0, 0), "Unit");
     ExpectCurrent(0, 0);
     ExpectChanged(true);
 }

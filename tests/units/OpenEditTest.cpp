@@ -14,8 +14,8 @@ class OpenEdit : public UnitsTest {
     }
     /// The edit is part of the list, and a change like any other.
     void ExpectTaken() {
-        EXPECT_FALSE(grid.IsEditing());
-        EXPECT_EQ(grid.Text(1, kUnit), "edited");
+        EXPECT_FALSE(grid.editor.IsOpen());
+        EXPECT_EQ(grid.cells.Text(1, kUnit), "edited");
         ExpectChanged(true);
     }
 };
@@ -24,7 +24,7 @@ TEST_F(OpenEdit, IsTakenOverBeforeAUnitIsAdded) {
     Add();
     EXPECT_THAT(Units(), ElementsAre("edited|A", "b|B", "c|C", "|"));
     ExpectCurrent(4, kUnit);
-    EXPECT_TRUE(grid.IsEditing());
+    EXPECT_TRUE(grid.editor.IsOpen());
 }
 
 TEST_F(OpenEdit, IsTakenOverBeforeTheDeleteQuestion) {
@@ -49,7 +49,7 @@ TEST_F(OpenEdit, IsTakenOverWhenAnotherCellIsPicked) {
 
 TEST_F(OpenEdit, IsNotTakenOverByASaveButtonThatIsStillOff) {
     Save();
-    EXPECT_TRUE(grid.IsEditing());
+    EXPECT_TRUE(grid.editor.IsOpen());
     EXPECT_EQ(File(), "A,a\r\nB,b\r\nC,c\r\n");
 }
 
@@ -67,7 +67,7 @@ TEST_F(OpenEdit, IsTakenOverBeforeTheMenuSaves) {
 }
 
 TEST_F(OpenEdit, IsCheckedByTheSaveThatTakesItOver) {
-    grid.EnterEditText("", 0, 0);
+    grid.editor.Enter("", 0, 0);
     ExpectInvalid("Unit cannot be blank");
     ChooseSave();
     EXPECT_EQ(File(), "A,a\r\nB,b\r\nC,c\r\n");

@@ -66,7 +66,7 @@ TEST_F(PasteUnits, MarksNothingWhenThereIsNothingToPasteOrNoPlaceForIt) {
 TEST_F(PasteUnits, CountsEachCellAsAnEdit) {
     OpenThreeUnits();
     std::vector<std::string> edits;
-    grid.afterEdit.Connect(
+    grid.editor.afterEdit.Connect(
         [&](int row, int column) { edits.push_back(std::to_string(row) + "," + std::to_string(column)); });
     grid.Pick(1, 0);
     grid.Paste("a\tA\nb\tB");
@@ -85,8 +85,8 @@ TEST_F(PasteUnits, PutsEachCellOnOneLineSoThatTheFileStaysWhole) {
 TEST_F(PasteUnits, TakesWhatWasCopiedHere) {
     OpenThreeUnits();
     grid.Pick(1, 0);
-    grid.SelectTo(2, 1);
-    const auto copied = grid.Copy();
+    grid.selection.SelectTo(2, 1);
+    const auto copied = grid.block.Copy();
     EXPECT_EQ(copied, "a\tA\r\nb\tB\r\n");
     grid.Pick(3, 0);
     grid.Paste(copied);

@@ -14,38 +14,38 @@ class SpecialCharacters : public UnitsTest {
 TEST_F(SpecialCharacters, AreTypedIntoAUnitByCtrlWithADigit) {
     BeginEdit(1, kUnit, "");
     Press(Ctrl(Key::Digit0));
-    EXPECT_EQ(grid.EditText(), "\xB0");
+    EXPECT_EQ(grid.editor.Text(), "\xB0");
     Press(Ctrl(Key::Digit2));
-    EXPECT_EQ(grid.EditText(), "\xB0\xB2");
+    EXPECT_EQ(grid.editor.Text(), "\xB0\xB2");
     Press(Ctrl(Key::Digit3));
-    EXPECT_EQ(grid.EditText(), "\xB0\xB2\xB3");
+    EXPECT_EQ(grid.editor.Text(), "\xB0\xB2\xB3");
 }
 
 TEST_F(SpecialCharacters, ReplaceTheEditorsSelectionAndLeaveTheCaretBehind) {
     BeginEdit(1, kUnit, "");
-    grid.EnterEditText("kg/mX/s", 4, 1);
+    grid.editor.Enter("kg/mX/s", 4, 1);
     Press(Ctrl(Key::Digit2));
-    EXPECT_EQ(grid.EditText(), "kg/m\xB2/s");
-    EXPECT_EQ(grid.EditSelStart(), 5U);
-    EXPECT_EQ(grid.EditSelLength(), 0U);
+    EXPECT_EQ(grid.editor.Text(), "kg/m\xB2/s");
+    EXPECT_EQ(grid.editor.SelStart(), 5U);
+    EXPECT_EQ(grid.editor.SelLength(), 0U);
 }
 
 TEST_F(SpecialCharacters, GoInWhereTheCaretIs) {
     BeginEdit(1, kUnit, "");
-    grid.EnterEditText("C", 0, 0);
+    grid.editor.Enter("C", 0, 0);
     Press(Ctrl(Key::Digit0));
-    EXPECT_EQ(grid.EditText(), "\xB0"
-                               "C");
-    grid.EnterEditText("m", 1, 0);
+    EXPECT_EQ(grid.editor.Text(), "\xB0"
+                                  "C");
+    grid.editor.Enter("m", 1, 0);
     Press(Ctrl(Key::Digit3));
-    EXPECT_EQ(grid.EditText(), "m\xB3");
+    EXPECT_EQ(grid.editor.Text(), "m\xB3");
 }
 
 TEST_F(SpecialCharacters, ReplaceTheWholeTextOnlyWhenItIsAllSelected) {
     grid.Pick(1, kUnit);
     grid.OpenEditor();
     Press(Ctrl(Key::Digit2));
-    EXPECT_EQ(grid.EditText(), "\xB2");
+    EXPECT_EQ(grid.editor.Text(), "\xB2");
 }
 
 TEST_F(SpecialCharacters, NeedCtrlAlone) {
@@ -58,7 +58,7 @@ TEST_F(SpecialCharacters, NeedCtrlAlone) {
         Press({key, true, false, true});
         Press({key, true, true, true});
     }
-    EXPECT_EQ(grid.EditText(), "m");
+    EXPECT_EQ(grid.editor.Text(), "m");
 }
 
 TEST_F(SpecialCharacters, AreNotTypedIntoADescription) {
@@ -66,14 +66,14 @@ TEST_F(SpecialCharacters, AreNotTypedIntoADescription) {
     Press(Ctrl(Key::Digit0));
     Press(Ctrl(Key::Digit2));
     Press(Ctrl(Key::Digit3));
-    EXPECT_EQ(grid.EditText(), "text");
+    EXPECT_EQ(grid.editor.Text(), "text");
 }
 
 TEST_F(SpecialCharacters, NeedAnOpenEditor) {
     grid.Pick(1, kUnit);
     Press(Ctrl(Key::Digit2));
-    EXPECT_FALSE(grid.IsEditing());
-    EXPECT_EQ(grid.Text(1, kUnit), "a");
+    EXPECT_FALSE(grid.editor.IsOpen());
+    EXPECT_EQ(grid.cells.Text(1, kUnit), "a");
     ExpectChanged(false);
 }
 
@@ -81,7 +81,7 @@ TEST_F(SpecialCharacters, ComeFromNoOtherKey) {
     BeginEdit(1, kUnit, "m");
     Press(Ctrl(Key::Home));
     Press(Ctrl(Key::Delete));
-    EXPECT_EQ(grid.EditText(), "m");
+    EXPECT_EQ(grid.editor.Text(), "m");
 }
 
 TEST_F(SpecialCharacters, MarkTheListOnlyWhenTheEditIsTakenOver) {

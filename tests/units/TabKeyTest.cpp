@@ -90,7 +90,7 @@ TEST_F(TabKey, IsLeftToTheWindowInAnEmptyList) {
     Open();
     EXPECT_FALSE(Tab());
     EXPECT_FALSE(ShiftTab());
-    grid.Select(0, 1);
+    grid.selection.Select(0, 1);
     EXPECT_FALSE(Tab());
     ExpectCurrent(0, 1);
 }

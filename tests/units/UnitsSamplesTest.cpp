@@ -13,8 +13,8 @@ class UnitsSamples : public UnitsTest {
 
     std::set<std::string> ColumnOf(int column) const {
         std::set<std::string> texts;
-        for (int row = 1; row < grid.Rows(); ++row) {
-            texts.emplace(grid.Text(row, column));
+        for (int row = 1; row < grid.cells.Rows(); ++row) {
+            texts.emplace(grid.cells.Text(row, column));
         }
         return texts;
     }
@@ -41,7 +41,7 @@ TEST_F(UnitsSamples, PassEveryCheck) {
 }
 
 TEST_F(UnitsSamples, AreAllDifferentAndAllDescribed) {
-    const auto units = static_cast<std::size_t>(grid.Rows() - 1);
+    const auto units = static_cast<std::size_t>(grid.cells.Rows() - 1);
     EXPECT_EQ(ColumnOf(kUnit).size(), units);
     EXPECT_EQ(ColumnOf(kUnitDescription).size(), units);
     EXPECT_FALSE(ColumnOf(kUnitDescription).contains(""));

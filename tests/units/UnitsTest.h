@@ -41,9 +41,9 @@ class UnitsTest : public WorldTest {
     /// The data rows, each as "unit|description".
     std::vector<std::string> Units() const {
         std::vector<std::string> units;
-        for (int row = 1; row < grid.Rows(); ++row) {
-            units.push_back(std::string(grid.Text(row, kUnit)) + "|" +
-                            std::string(grid.Text(row, kUnitDescription)));
+        for (int row = 1; row < grid.cells.Rows(); ++row) {
+            units.push_back(std::string(grid.cells.Text(row, kUnit)) + "|" +
+                            std::string(grid.cells.Text(row, kUnitDescription)));
         }
         return units;
     }
@@ -60,7 +60,7 @@ class UnitsTest : public WorldTest {
     void BeginEdit(int row, int column, std::string_view text) {
         grid.Pick(row, column);
         grid.OpenEditor();
-        grid.EnterEditText(text, text.size(), 0);
+        grid.editor.Enter(text, text.size(), 0);
     }
     void Edit(int row, int column, std::string_view text) {
         BeginEdit(row, column, text);
@@ -69,7 +69,7 @@ class UnitsTest : public WorldTest {
     /// Adds a unit at the end, its cells filled in as a person does it.
     void AddUnit(std::string_view unit, std::string_view description) {
         Add();
-        grid.EnterEditText(unit, unit.size(), 0);
+        grid.editor.Enter(unit, unit.size(), 0);
         grid.Press({Key::Tab});
         grid.TypeOver(description);
         grid.Press({Key::Enter});
@@ -87,8 +87,8 @@ class UnitsTest : public WorldTest {
         EXPECT_FALSE(state.gbChanged) << "the mark of the other editors";
     }
     void ExpectCurrent(int row, int column) {
-        EXPECT_EQ(grid.Row(), row);
-        EXPECT_EQ(grid.Column(), column);
+        EXPECT_EQ(grid.selection.Row(), row);
+        EXPECT_EQ(grid.selection.Column(), column);
     }
 
     Program program{world.Get()};

@@ -72,7 +72,7 @@ TEST_F(UnitsTraces, OfARefusedSaveEndWithTheCheckThatFailed) {
 }
 
 TEST_F(UnitsTraces, OfSavingAnEmptyList) {
-    grid.SetRows(1);
+    grid.cells.SetRows(1);
     ChooseSave();
     EXPECT_THAT(Traces(), ElementsAre("frmGlobalSettings ,mnuSave_Click Units", "mUnits ValidateUnits Start",
                                       "mUnits Write_Units Start"));
@@ -91,7 +91,7 @@ TEST_F(UnitsTraces, OfClosingWithoutChanges) {
 }
 
 TEST_F(UnitsTraces, OfClosingWithASave) {
-    grid.SetRows(2);
+    grid.cells.SetRows(2);
     page.MarkUnitsChanged();
     ExpectWishToSave(Answer::Yes);
     EXPECT_TRUE(window.Unload());

@@ -70,7 +70,7 @@ TEST_F(ValidateUnits, LeavesTheCurrentCellWhereItIs) {
     grid.Pick(3, kUnitDescription);
     ExpectRefused(kBlank);
     ExpectCurrent(3, kUnitDescription);
-    EXPECT_FALSE(grid.IsEditing());
+    EXPECT_FALSE(grid.editor.IsOpen());
 }
 
 TEST_F(ValidateUnits, AcceptsBlanksAPipeInADescriptionAndAnEmptyDescription) {
@@ -90,7 +90,7 @@ TEST_F(ValidateUnits, RefusesNoCommas) {
 }
 
 TEST_F(ValidateUnits, PassesAListWithoutRows) {
-    grid.SetRows(1);
+    grid.cells.SetRows(1);
     EXPECT_TRUE(page.units.ValidateUnits());
 }
 

@@ -1,4 +1,4 @@
-#include "desktop/GridColumns.h"
+#include "desktop/GridColumnWidths.h"
 
 #include <algorithm>
 #include <numeric>
@@ -10,19 +10,19 @@
 namespace zy {
 namespace {
 
-// The narrowest and the widest that a column is fitted to, in twips. A person types into the one; of a text
+// The narrowest and the widest that a column is fitted to, in twips. The user types into the one; of a text
 // that is longer than the other the rest is reached in its editor.
-constexpr int kNarrowestFit = Grid::kDesignedWidth;
+constexpr int kNarrowestFit = GridColumns::kDesignedWidth;
 constexpr int kWidestFit = 7200;
 
 /// The data rows with the longest texts of a column.
-std::vector<int> LongestRows(const Grid& model, int column) {
+std::vector<int> LongestRows(const GridCells& cells, int column) {
     constexpr std::ptrdiff_t kMostMeasured = 32;
-    std::vector<int> rows(static_cast<std::size_t>(std::max(model.Rows() - 1, 0)));
+    std::vector<int> rows(static_cast<std::size_t>(std::max(cells.Rows() - 1, 0)));
     std::iota(rows.begin(), rows.end(), 1);
     const auto end = rows.begin() + std::min(kMostMeasured, std::ssize(rows));
     std::nth_element(rows.begin(), end, rows.end(), [&](int one, int other) {
-        return model.Text(one, column).size() > model.Text(other, column).size();
+        return cells.Text(one, column).size() > cells.Text(other, column).size();
     });
     rows.erase(end, rows.end());
     return rows;
@@ -30,9 +30,11 @@ std::vector<int> LongestRows(const Grid& model, int column) {
 
 } // namespace
 
-GridColumns::GridColumns(const ViewContext& context, Grid& model, GridWidget& grid)
-    : context_(context), model_(model), grid_(grid), fitFrom_(model.FittedFrom()),
-      fitColumns_(model.fitColumns.Observe([this](int first) { fitFrom_ = first; })) {
+GridColumnWidths::GridColumnWidths(const ViewContext& context, const GridCells& cells, GridColumns& columns,
+                                   GridWidget& grid)
+    : context_(context), cells_(cells), columns_(columns), grid_(grid), fitFrom_(columns.FittedFrom()),
+      fit_(columns.fit.Observe([this](int first) { fitFrom_ = first; })),
+      widthChanged_(columns.widthChanged.Observe([this] { Show(); })) {
     grid_.Bind(wxEVT_GRID_COL_SIZE, [this](wxGridSizeEvent& event) {
         context_.gate.Act([&] { TakeWidth(event.GetRowOrCol()); });
     });
@@ -46,14 +48,14 @@ GridColumns::GridColumns(const ViewContext& context, Grid& model, GridWidget& gr
     });
 }
 
-void GridColumns::ShowFit() {
-    if (fitFrom_ < model_.Columns() && model_.Rows() > 0) {
-        Fit(std::exchange(fitFrom_, model_.Columns()), model_.Columns());
+void GridColumnWidths::ShowFit() {
+    if (fitFrom_ < cells_.Columns() && cells_.Rows() > 0) {
+        Fit(std::exchange(fitFrom_, cells_.Columns()), cells_.Columns());
     }
 }
 
-void GridColumns::Show() {
-    for (int column = 0; column < model_.Columns(); ++column) {
+void GridColumnWidths::Show() {
+    for (int column = 0; column < cells_.Columns(); ++column) {
         const int width = PixelsOf(column);
         if (grid_.GetColSize(column) != width) {
             grid_.SetColSize(column, width);
@@ -61,46 +63,46 @@ void GridColumns::Show() {
     }
 }
 
-void GridColumns::Fit(int first, int end) {
+void GridColumnWidths::Fit(int first, int end) {
     for (int column = first; column < end; ++column) {
-        model_.SetColumnWidth(
+        columns_.SetWidth(
             column, std::clamp(context_.scale.ToTwips(NeededPixels(column)), kNarrowestFit, kWidestFit));
     }
 }
 
-int GridColumns::NeededPixels(int column) const {
+int GridColumnWidths::NeededPixels(int column) const {
     int width = TextPixels(0, column, grid_.GetLabelFont());
-    for (const int row : LongestRows(model_, column)) {
+    for (const int row : LongestRows(cells_, column)) {
         width = std::max(width, TextPixels(row, column, grid_.GetDefaultCellFont()));
     }
     return width + 2 * grid_.CellMargin() + 1;
 }
 
-int GridColumns::TextPixels(int row, int column, const wxFont& font) const {
+int GridColumnWidths::TextPixels(int row, int column, const wxFont& font) const {
     // A longer text is wider than any column is made.
     constexpr std::size_t kMostMeasured = 1024;
     int width = 0;
     int height = 0;
-    const auto text = std::string_view(model_.Text(row, column)).substr(0, kMostMeasured);
+    const auto text = cells_.Text(row, column).substr(0, kMostMeasured);
     grid_.GetTextExtent(ToShown(context_.codePage, text), &width, &height, nullptr, nullptr, &font);
     return width;
 }
 
-void GridColumns::TakeWidth(int column) {
+void GridColumnWidths::TakeWidth(int column) {
     if (grid_.GetColSize(column) != PixelsOf(column)) {
-        model_.SetColumnWidth(column, context_.scale.ToTwips(grid_.GetColSize(column)));
+        columns_.SetWidth(column, context_.scale.ToTwips(grid_.GetColSize(column)));
     }
     Show();
 }
 
-int GridColumns::PixelsOf(int column) const {
-    const int width = context_.scale.ToPixels(model_.ColumnWidth(column));
-    if (column + 1 < model_.Columns()) {
+int GridColumnWidths::PixelsOf(int column) const {
+    const int width = context_.scale.ToPixels(columns_.Width(column));
+    if (column + 1 < cells_.Columns()) {
         return width;
     }
     int left = grid_.GetGridWindow()->GetClientSize().x;
     for (int other = 0; other < column; ++other) {
-        left -= context_.scale.ToPixels(model_.ColumnWidth(other));
+        left -= context_.scale.ToPixels(columns_.Width(other));
     }
     return std::max(width, left);
 }

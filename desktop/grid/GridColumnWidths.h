@@ -1,15 +1,17 @@
 #pragma once
 
-#include "controls/Grid.h"
+#include "controls/GridCells.h"
+#include "controls/GridColumns.h"
 #include "desktop/GridWidget.h"
 #include "desktop/ViewContext.h"
 
 namespace zy {
 
 /// The widths of a grid's columns: the model's, but that the last column takes what room is left.
-class GridColumns {
+class GridColumnWidths {
   public:
-    GridColumns(const ViewContext& context, Grid& model, GridWidget& grid);
+    GridColumnWidths(const ViewContext& context, const GridCells& cells, GridColumns& columns,
+                     GridWidget& grid);
 
     /// Shows the model's widths.
     void Show();
@@ -26,10 +28,12 @@ class GridColumns {
     int PixelsOf(int column) const;
 
     const ViewContext& context_;
-    Grid& model_;
+    const GridCells& cells_;
+    GridColumns& columns_;
     GridWidget& grid_;
     int fitFrom_; ///< the first column that is to be fitted; none when there is no such column
-    Subscription fitColumns_;
+    Subscription fit_;
+    Subscription widthChanged_;
 };
 
 } // namespace zy

@@ -1,9 +1,10 @@
+#include "controls/CellBlock.h"
+
 #include <algorithm>
 
 #include "basics/Int16.h"
 #include "basics/Text.h"
 #include "controls/CopiedCells.h"
-#include "controls/Grid.h"
 
 namespace zy {
 namespace {
@@ -19,41 +20,36 @@ int CountRows(std::string_view text) {
 
 } // namespace
 
-Grid::Block Grid::Selected() const {
-    const auto [top, bottom] = std::minmax({current_.row, blockEnd_.row});
-    const auto [left, right] = std::minmax({current_.column, blockEnd_.column});
-    return {.first = {std::max(top, 1), left}, .last = {bottom, right}};
-}
+CellBlock::CellBlock(GridCells& cells, const GridColumns& columns, GridSelection& selection,
+                     CellEditor& editor)
+    : cells_(cells), columns_(columns), selection_(selection), editor_(editor) {}
 
-std::string Grid::Copy() const {
+std::string CellBlock::Copy() const {
     std::string text;
-    const auto block = Selected();
+    const auto block = selection_.Block();
     for (int row = block.first.row; row <= block.last.row; ++row) {
         for (int column = block.first.column; column <= block.last.column; ++column) {
-            AppendCopied(text, Text(row, column));
+            AppendCopied(text, cells_.Text(row, column));
             text += column < block.last.column ? "\t" : kLineEnd;
         }
     }
     return text;
 }
 
-void Grid::ClearBlock() {
-    const auto block = Selected();
+void CellBlock::Clear() {
+    const auto block = selection_.Block();
     for (int row = block.first.row; row <= block.last.row; ++row) {
         for (int column = block.first.column; column <= block.last.column; ++column) {
-            EditTo(row, column, "");
+            editor_.Overwrite(row, column, "");
         }
     }
 }
 
-void Grid::Paste(std::string_view text) {
-    if (!TakeFocus() || text.empty()) {
-        return;
-    }
-    CommitEdit();
-    if (current_.row >= 1) {
-        PasteInto(Selected().first, text);
-    } else if (growsByPaste_ && rows_ == 1) {
+void CellBlock::Paste(std::string_view text) {
+    editor_.Commit();
+    if (selection_.IsInData()) {
+        PasteInto(selection_.Block().first, text);
+    } else if (growsByPaste_ && cells_.Rows() == 1) {
         PasteInto({1, 0}, text);
     } else {
         PasteReport nothing;
@@ -62,26 +58,26 @@ void Grid::Paste(std::string_view text) {
     }
 }
 
-void Grid::PasteInto(Cell first, std::string_view text) {
+void CellBlock::PasteInto(Cell first, std::string_view text) {
     const int wanted = RowsAfterPaste(first.row + CountRows(text));
     PasteReport report;
     report.tooLong = wanted - 1 > kMaxItems;
     if (!report.tooLong) {
-        SetRows(wanted);
+        cells_.SetRows(wanted);
         PasteRows(first, text, report);
     }
     pasted.Raise(report);
 }
 
 /// As many as are there and as are missing, where the grid may grow.
-int Grid::RowsAfterPaste(int rows) const {
-    return growsByPaste_ ? std::max(rows, rows_) : rows_;
+int CellBlock::RowsAfterPaste(int rows) const {
+    return growsByPaste_ ? std::max(rows, cells_.Rows()) : cells_.Rows();
 }
 
-void Grid::PasteRows(Cell first, std::string_view text, PasteReport& report) {
+void CellBlock::PasteRows(Cell first, std::string_view text, PasteReport& report) {
     Cell last = first;
     CopiedCells cells(text);
-    for (int row = first.row; row < rows_ && !cells.AtEnd(); ++row) {
+    for (int row = first.row; row < cells_.Rows() && !cells.AtEnd(); ++row) {
         last.row = row;
         int column = first.column;
         do {
@@ -91,20 +87,20 @@ void Grid::PasteRows(Cell first, std::string_view text, PasteReport& report) {
             }
             ++column;
         } while (!cells.EndedRow());
-        report.columnsLeftOut = std::max(report.columnsLeftOut, column - columns_);
+        report.columnsLeftOut = std::max(report.columnsLeftOut, column - cells_.Columns());
     }
     report.rowsLeftOut = CountRows(cells.Rest());
-    Select(first.row, first.column);
-    SelectTo(last.row, last.column);
+    selection_.Select(first.row, first.column);
+    selection_.SelectTo(last.row, last.column);
 }
 
 /// False when the grid has no such column.
-bool Grid::PasteCell(Cell cell, std::string_view text, PasteReport& report) {
-    if (cell.column >= columns_) {
+bool CellBlock::PasteCell(Cell cell, std::string_view text, PasteReport& report) {
+    if (cell.column >= cells_.Columns()) {
         return false;
     }
-    if (columnLists_[static_cast<std::size_t>(cell.column)].Takes(text)) {
-        EditTo(cell.row, cell.column, text);
+    if (columns_.List(cell.column).Takes(text)) {
+        editor_.Overwrite(cell.row, cell.column, text);
     } else if (report.cellsRefused++ == 0) {
         report.firstRefused = cell;
         report.textRefused = text;

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "basics/RuntimeError.h"
+#include "controls/CellTexts.h"
+#include "controls/Event.h"
+
+namespace zy {
+
+/// A cell by its row and column, both counted from 0.
+struct Cell {
+    int row = -1;
+    int column = 0;
+
+    friend bool operator==(const Cell&, const Cell&) = default;
+};
+
+/// The texts of a grid, row by row. Row 0 is the header; the rows below it are the data.
+///
+/// A row or column outside the grid is run-time error 9.
+class GridCells {
+  public:
+    /// The header row alone, its cells empty.
+    explicit GridCells(int columns);
+    GridCells(const GridCells&) = delete;
+    GridCells& operator=(const GridCells&) = delete;
+
+    /// How many there are, the header counted.
+    int Rows() const { return rows_; }
+    int Columns() const { return columns_; }
+    /// Run-time error 9 for a cell outside the grid, else nothing.
+    void Require(int row, int column) const { static_cast<void>(Index(row, column)); }
+
+    /// Adds empty rows at the end or cuts rows off it; 0 cuts off the header too.
+    void SetRows(int rows);
+    /// Appends a row whose cells are joined by TAB. Cells that the text lacks are empty, more of them than
+    /// there are columns are left out.
+    void AddItem(std::string_view tabJoinedCells);
+    /// Appends many rows whose cells are parts of one text. The grid takes the text over, so that nothing is
+    /// copied; `split` finds the parts and appends them, whole rows. When it throws, nothing is appended.
+    void AddRowsOf(std::string text, const CellTexts::Split& split);
+    /// Removes a row; those below it move up.
+    void RemoveItem(int row);
+    /// While off, `rowsChanged` is held back; switching on raises it, once. For filling a grid row by row.
+    void SetRedraw(bool on);
+
+    /// Stays what it was until rows are set, removed or pasted, also when the cell's text is changed.
+    std::string_view Text(int row, int column) const { return cells_[Index(row, column)]; }
+    /// The texts of a row, column by column. To be used before anything in the grid changes.
+    std::span<const std::string_view> RowTexts(int row) const {
+        return cells_.Some(Index(row, 0), FirstCellOf(1));
+    }
+    /// Raises `cellChanged` when the text differs from the one held.
+    void SetText(int row, int column, std::string_view text);
+
+    /// SetRows or RemoveItem begins, with the rows as they were. Appending rows does not raise it.
+    Event<> resizing;
+    /// SetRows or RemoveItem is done, also while redraw is off.
+    Event<> resized;
+    /// Rows came or went in any way: what is shown of them is out of date.
+    Event<> rowsChanged;
+    /// The text of this cell, by row and column, is another one.
+    Event<int, int> cellChanged;
+
+  private:
+    std::size_t Index(int row, int column) const {
+        if (row < 0 || row >= rows_ || column < 0 || column >= columns_) {
+            RaiseSubscriptOutOfRange();
+        }
+        return FirstCellOf(row) + static_cast<std::size_t>(column);
+    }
+    std::size_t FirstCellOf(int row) const {
+        return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_);
+    }
+    void AnnounceRows();
+
+    int columns_;
+    int rows_ = 1;
+    CellTexts cells_;
+    bool redraw_ = true;
+};
+
+} // namespace zy
