@@ -13,7 +13,7 @@ namespace zy {
 /// The texts of a table's cells, numbered from 0; a new cell is empty.
 ///
 /// Made for tens of thousands of short texts: they stand one behind another in large blocks, and the blocks
-/// never move. So a text that was handed out stays what it was, also when its cell gets another one, until
+/// never move. So a text that was returned stays what it was, also when its cell gets another one, until
 /// `Resize` or `Erase` is called.
 class CellTexts {
   public:

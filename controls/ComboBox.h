@@ -14,10 +14,11 @@ class ComboBox : public Control {
     int ListIndex() const { return listIndex_; }
     /// The selected item's text, empty when none is selected.
     const std::string& Text() const;
-    /// Raises `click` when the selection changes. Run-time error 9 for an index that no item has.
+    /// Selects an item, -1 for none. Raises `click` when the selection changes. Run-time error 9 for an index
+    /// that no item has.
     void SetListIndex(int index);
 
-    /// The user picks an item.
+    /// The user picks an item, counted from 0. Run-time error 9 for an index that no item has.
     void Pick(int index);
 
     /// The selection changed, by the program or by the user.

@@ -9,7 +9,7 @@
 
 // This room holds the controls of the program's forms as plain models: their whole state, the changes they
 // announce and the actions that the user can take on them. It knows no window toolkit; a view shows a model
-// and hands the user's actions on to it. It may call basics/ alone.
+// and passes the user's actions on to it. It may call basics/ alone.
 //
 // Two kinds of call meet here and are kept apart: what the program does to a control ("Set...", "Select") and
 // what the user does ("Type", "Click", "Pick", "Press..."). The user's action first moves the focus, and so
@@ -23,6 +23,8 @@ class Form;
 /// What all controls share. Controls belong to their form, which outlives them as part of the same object.
 class Control {
   public:
+    /// A control of `parent`, which must outlive it; a form alone has none. The name is for the view and
+    /// for tests, the caption for the user.
     Control(Container* parent, std::string name, std::string caption = {});
     virtual ~Control() = default;
     Control(const Control&) = delete;
@@ -39,11 +41,12 @@ class Control {
     void SetVisible(bool visible);
     bool IsUsable() const;
 
+    /// The place inside the parent, in twips.
     const Rect& Bounds() const { return bounds_; }
     void SetBounds(const Rect& bounds);
 
-    /// The size the control needs to show its text, as the view that shows it has measured. Layout asks for
-    /// it.
+    /// The size in twips that the control needs to show its text, as the view that shows it has measured.
+    /// Layout asks for it.
     const Size& Preferred() const { return preferred_; }
     void SetPreferred(const Size& preferred) { preferred_ = preferred; }
 
@@ -54,12 +57,13 @@ class Control {
     bool TakeFocus();
     bool HasFocus();
 
-    /// Whether moving the focus here asks the control that is left. Help is to be had before a mistake is
-    /// mended.
+    /// Whether moving the focus here asks the control that is left. Help is open to the user before a
+    /// mistake is corrected.
     bool CausesValidation() const { return causesValidation_; }
     void SetCausesValidation(bool causes) { causesValidation_ = causes; }
 
     Container* Parent() const { return parent_; }
+    /// The form that the control stands on.
     Form& Window();
 
     /// Asked before the user moves the focus from this control to another; false keeps it here.

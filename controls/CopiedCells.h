@@ -8,6 +8,7 @@ namespace zy {
 // Cells as spreadsheets copy them: those of a row separated by TAB, each row ended by a line end. A cell that
 // holds one of these, or begins with a double quote, stands in double quotes with its own quotes doubled.
 
+/// Appends a cell in that form, without what separates it from the next one.
 void AppendCopied(std::string& text, std::string_view cell);
 
 /// Takes the cells off the front of such a text one by one.

@@ -4,7 +4,7 @@
 
 namespace zy {
 
-// What a window shows and nobody can do anything with.
+// What a window shows and the user can do nothing with.
 
 /// A text that stands for itself, in one or more lines.
 class TextLabel : public Control {

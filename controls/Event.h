@@ -21,6 +21,7 @@ class [[nodiscard]] Subscription {
     Subscription(const Subscription&) = delete;
     Subscription& operator=(const Subscription&) = delete;
 
+    /// Disconnects the handler before the subscription's life ends. Nothing when it has none.
     void Cancel() {
         if (alive_) {
             *alive_ = false;
@@ -32,7 +33,7 @@ class [[nodiscard]] Subscription {
     std::shared_ptr<bool> alive_;
 };
 
-/// Something that happens to a control. Raise calls the handlers in the order in which they were connected.
+/// Something that happens to a control, and the handlers that are called then, in the order of connecting.
 ///
 /// A handler may connect or cancel handlers while the event is raised; a cancelled one is not called any
 /// more.
@@ -47,6 +48,7 @@ class Event {
     /// Connects until the subscription ends: for a view, which comes and goes.
     Subscription Observe(Handler handler) { return Subscription(Add(std::move(handler))); }
 
+    /// Calls the handlers that are connected now. An exception of one ends the raise.
     void Raise(Args... args) {
         std::erase_if(entries_, [](const auto& entry) { return !*entry->alive; });
         const auto entries = entries_;

@@ -15,6 +15,7 @@ class Form : public Container {
 
     /// The control that has the focus; none before anything took it.
     Control* Focused() const { return focused_; }
+    /// Moves the focus from code: no check runs. Raises `focusChanged` also when the control has it.
     void GiveFocus(Control& control);
     /// Asks the control that is left whether it may be; false when it keeps the focus. A control that is not
     /// usable any more is not asked, and no second question starts while one is being asked. On the way to a
@@ -32,8 +33,8 @@ class Form : public Container {
 
     /// The room for controls, without menu bar and borders but with the status bar's.
     const Size& InnerSize() const { return innerSize_; }
-    /// The least inner size in which all controls have the room that they need; zero when `leastInnerSize` is
-    /// not set. A view that has less room pretends to have this much, and lets the user scroll.
+    /// The least inner size in which all controls have the room that they need; none where nothing is known
+    /// of it. A view that has less room pretends to have this much, and lets the user scroll.
     Size LeastInnerSize() const { return leastInnerSize ? leastInnerSize() : Size(); }
     /// Takes the size from the window system and raises `resize`, also when only the state changed.
     void SetInnerSize(const Size& size);

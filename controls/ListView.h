@@ -23,7 +23,9 @@ class ListView : public Control {
     ListView(Container* parent, std::string name, std::vector<Column> columns, Source source);
 
     const std::vector<Column>& Columns() const { return columns_; }
+    /// In twips. The column, counted from 0, must exist.
     void SetColumnWidth(std::size_t column, int width);
+    /// The source's text; both numbers must be those of a cell.
     std::string_view CellText(int item, int column) const { return source_(item, column); }
 
     int Count() const { return count_; }
@@ -32,18 +34,21 @@ class ListView : public Control {
 
     /// Shows `count` items anew; none is selected.
     void Refill(int count);
-    /// Takes the selected item out of the list; none is selected afterwards.
+    /// Takes the selected item out of the list; none is selected afterwards. Run-time
+    /// error 9 when none is selected.
     void RemoveSelected();
-    /// Selects from code, 0 for none: `itemClick` is not raised.
+    /// Selects from code, 0 for none: `itemClick` is not raised. Run-time error 9 for an item that the list
+    /// does not have.
     void Select(int item);
-    /// Announces that an item's texts have changed in the source.
+    /// Announces that an item's texts changed.
     void RefreshItem(int item) { itemChanged.Raise(item); }
 
     /// The selected item as a spreadsheet copies a row: cells separated by TAB, CR LF behind them. Empty when
     /// none is.
     std::string Copy() const;
 
-    /// The user chooses an item. The one that is selected already is not chosen again.
+    /// The user chooses an item. The one that is selected already is not chosen again. Run-time error 9
+    /// for an item that the list does not have.
     void Pick(int item);
     /// The user presses a key while the list has the focus.
     void Press(const KeyPress& press);
@@ -51,8 +56,9 @@ class ListView : public Control {
     Event<int> itemClick; ///< the user chose this item
     Event<const KeyPress&> keyDown;
     Event<> refilled;
-    Event<int> itemRemoved;
+    Event<int> itemRemoved; ///< the item that stood there was taken out
     Event<int> itemChanged;
+    /// An item was selected, or the user tried to: what a view shows selected may be out of date.
     Event<> selectionChanged;
 
   private:

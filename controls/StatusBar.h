@@ -12,6 +12,7 @@ class StatusBar : public Control {
     using Control::Control;
 
     const std::string& Text() const { return text_; }
+    /// Raises `change` when the text differs from the one held.
     void SetText(std::string_view text);
 
     Event<> change;
