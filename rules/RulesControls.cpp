@@ -122,4 +122,10 @@ RulesControls::RulesControls(Frame& fraRules, ListView::Source rules)
     grdRules.columns.SetList(kZoneColumn, CellList(GridZones()));
 }
 
+void RulesControls::EnableForARule(bool enabled) {
+    cmdDeleteList.SetEnabled(enabled);
+    cmdUpDown.SetEnabled(enabled);
+    FraRuleDetails.SetEnabled(enabled);
+}
+
 } // namespace zy

@@ -17,6 +17,9 @@ namespace zy {
 struct RulesControls {
     RulesControls(Frame& fraRules, ListView::Source rules);
 
+    /// Enables or disables what works on a rule: the detail form, Delete and the arrows.
+    void EnableForARule(bool enabled);
+
     Frame fraRulesList;
     ListView lstRulesList;
     UpDown cmdUpDown;

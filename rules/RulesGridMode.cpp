@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "rules/mRules.h"
+#include "shell/StatusTexts.h"
 
 namespace zy {
 namespace {
@@ -22,9 +22,10 @@ std::string GridRow(TextOf textOf) {
 
 } // namespace
 
-RulesGridMode::RulesGridMode(mRules& rules, RulesControls& controls, SettingsForm& form, SharedState& state,
-                             TraceChannel& trace, RuleChecks& checks)
-    : rules_(rules), grid_(controls.grdRules), form_(form), state_(state), trace_(trace), checks_(checks) {
+RulesGridMode::RulesGridMode(mRules& rules, RuleChecks& checks, RulesControls& controls, RulesStatus& status,
+                             SettingsForm& form, SharedState& state, TraceChannel& trace)
+    : rules_(rules), checks_(checks), grid_(controls.grdRules), status_(status), form_(form), state_(state),
+      trace_(trace) {
     Connect();
 }
 
@@ -33,8 +34,8 @@ void RulesGridMode::Connect() {
     form_.menu.mnuDeleteRule.click.Connect([this] { mnuDeleteRule_Click(); });
     grid_.mouseDown.Connect([this](MouseButton button, int, int) { grdRules_MouseDown(button); });
     grid_.editor.afterEdit.Connect([this](int, int) { grdRules_AfterEdit(); });
-    // That is all that happens then.
     grid_.cells.cellChanged.Connect([this](int, int) { rules_.gbGridChanged = true; });
+    grid_.block.pasted.Connect([this](const PasteReport& paste) { ShowPaste(paste); });
 }
 
 void RulesGridMode::Trace(std::string_view module, std::string_view procedure) {
@@ -124,12 +125,12 @@ bool RulesGridMode::StoreIfChanged() {
 void RulesGridMode::mnuAddRule_Click() {
     Trace(kMainForm, "mnuAddRule_Click");
     if (rules_.gaRules.IsFull()) {
-        addRefused.Raise();
+        status_.ShowCountAnd(kListFull);
         return;
     }
     rules_.Add_New_Rule();
     AddtoGrid();
-    TellCountChanged();
+    MarkChanged();
 }
 
 void RulesGridMode::mnuDeleteRule_Click() {
@@ -141,7 +142,7 @@ void RulesGridMode::mnuDeleteRule_Click() {
     rules_.Delete_Rule(row);
     grid_.cells.RemoveItem(row);
     KeepRuleInHand(row);
-    TellCountChanged();
+    MarkChanged();
 }
 
 /// The detail form goes on to show the rule that it shows, unless that one is gone.
@@ -153,9 +154,13 @@ void RulesGridMode::KeepRuleInHand(int deleted) {
     }
 }
 
-void RulesGridMode::TellCountChanged() {
+void RulesGridMode::MarkChanged() {
     form_.ChangeFlag = true;
-    countChanged.Raise();
+    status_.ShowCount();
+}
+
+void RulesGridMode::ShowPaste(const PasteReport& paste) {
+    status_.ShowCountAnd(DescribeLeftOut(paste, grid_.cells));
 }
 
 void RulesGridMode::grdRules_MouseDown(MouseButton button) {

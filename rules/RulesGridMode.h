@@ -2,24 +2,23 @@
 
 #include <string_view>
 
-#include "platform/World.h"
 #include "rules/RuleChecks.h"
 #include "rules/RulesControls.h"
+#include "rules/RulesStatus.h"
+#include "rules/mRules.h"
 #include "shell/SettingsForm.h"
 #include "shell/TraceChannel.h"
 #include "shell/mZYGlobal.h"
 
 namespace zy {
 
-class mRules;
-
 /// The second view of the rules page: all rules in one grid, edited in place. Row r is rule r.
 ///
 /// It is ready and out of reach: nothing in the program shows it.
 class RulesGridMode {
   public:
-    RulesGridMode(mRules& rules, RulesControls& controls, SettingsForm& form, SharedState& state,
-                  TraceChannel& trace, RuleChecks& checks);
+    RulesGridMode(mRules& rules, RuleChecks& checks, RulesControls& controls, RulesStatus& status,
+                  SettingsForm& form, SharedState& state, TraceChannel& trace);
 
     /// Fills the grid anew from the rules, in time linear in them. Text that is being typed is dropped, no
     /// cell is current, and no mark is set.
@@ -31,17 +30,14 @@ class RulesGridMode {
     /// Checks the grid and copies it into the rules when a cell was changed. False when a check failed.
     bool StoreIfChanged();
 
+    /// Adds a rule and selects its row; a list that is as long as it can be stays as it is.
     void mnuAddRule_Click();
-    /// Deletes the current row's rule at once, unlike list mode, which asks. Meant.
+    /// Deletes the current row's rule at once: only the list's button asks first.
     void mnuDeleteRule_Click();
     /// The right button selects the current row and opens the context menu; the others do nothing.
     void grdRules_MouseDown(MouseButton button);
+    /// Fits the columns to their texts.
     void grdRules_AfterEdit();
-
-    /// A rule came or went.
-    Event<> countChanged;
-    /// No rule was added: the list is as long as it can be.
-    Event<> addRefused;
 
   private:
     void Connect();
@@ -50,14 +46,16 @@ class RulesGridMode {
     void SelectRow(int row);
     bool StoreRow(int row);
     void KeepRuleInHand(int deleted);
-    void TellCountChanged();
+    void MarkChanged();
+    void ShowPaste(const PasteReport& paste);
 
     mRules& rules_;
+    RuleChecks& checks_;
     Grid& grid_;
+    RulesStatus& status_;
     SettingsForm& form_;
     SharedState& state_;
     TraceChannel& trace_;
-    RuleChecks& checks_;
 };
 
 } // namespace zy

@@ -14,8 +14,9 @@
 #include "shell/SaveTurn.h"
 #include "shell/TraceChannel.h"
 
-// The rules editor: the rule list and its file (mRules), the checks (RuleChecks), the page with its list,
-// detail form and handlers (RulesPage), and the grid view that the page carries out of reach (RulesGridMode).
+// The rules editor: the rule list and its file (mRules), the checks (RuleChecks), and the page (RulesPage)
+// with its list (RulesListMode), its detail form (RuleDetails, RuleDetailChecks), what the status bar says
+// (RulesStatus), and the grid view that the page carries out of reach (RulesGridMode).
 // It owns the rules and the rules file, and calls the low part of the shell and what lies below that.
 
 namespace zy {

@@ -40,7 +40,7 @@ class RulesGrid : public RulesWindow {
         Have([this] {
             if (program->rulesPage.StoreBeforeTabSwitch()) {
                 program->rulesPage.ShowListMode();
-                program->rulesPage.LoadRulesListMode();
+                program->rulesPage.listMode.LoadRulesListMode();
             }
         });
     }

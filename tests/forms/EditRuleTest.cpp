@@ -141,19 +141,19 @@ TEST_F(EditRule, DoesNotRunAgainForTheRuleInHand) {
 
 TEST_F(EditRule, TakesItsIndexAsText) {
     StartWithCodes({"A", "B"});
-    handlers().EditRule(" 2 ");
+    handlers().details.EditRule(" 2 ");
     EXPECT_EQ(rules().giCurRule, 2);
     EXPECT_EQ(page().txtCode.Text(), "B");
 }
 
 TEST_F(EditRule, RaisesARunTimeErrorForAnIndexThatIsNone) {
     StartWithCodes({"A", "B"});
-    EXPECT_EQ(ErrorNumber([&] { handlers().EditRule("B"); }), 13);
-    EXPECT_EQ(ErrorNumber([&] { handlers().EditRule(""); }), 13);
-    EXPECT_EQ(ErrorNumber([&] { handlers().EditRule("32768"); }), 6);
+    EXPECT_EQ(ErrorNumber([&] { handlers().details.EditRule("B"); }), 13);
+    EXPECT_EQ(ErrorNumber([&] { handlers().details.EditRule(""); }), 13);
+    EXPECT_EQ(ErrorNumber([&] { handlers().details.EditRule("32768"); }), 6);
     EXPECT_EQ(rules().giCurRule, 1) << "the rule in hand stays";
-    EXPECT_EQ(ErrorNumber([&] { handlers().EditRule("3"); }), 9);
-    EXPECT_EQ(ErrorNumber([&] { handlers().EditRule("0"); }), 9);
+    EXPECT_EQ(ErrorNumber([&] { handlers().details.EditRule("3"); }), 9);
+    EXPECT_EQ(ErrorNumber([&] { handlers().details.EditRule("0"); }), 9);
 }
 
 // Nothing sets the mark that wakes the next step; it is kept ready.
@@ -191,7 +191,7 @@ TEST_F(EditRule, StoresNothingThenWithoutARuleInHand) {
     rules().gbRulesChanged = true;
     rules().giCurRule = -1;
     Traces();
-    handlers().EditRule("2");
+    handlers().details.EditRule("2");
     EXPECT_THAT(Traces(), ::testing::Not(::testing::Contains("mRules Validate_Rule Start")));
     EXPECT_FALSE(state().gbChanged);
 }

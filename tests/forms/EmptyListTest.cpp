@@ -50,13 +50,13 @@ TEST_F(EmptyList, IsShownAfterTheLastRuleWasDeleted) {
 TEST_F(EmptyList, TracesThatTheFormWasCleared) {
     StartOver("");
     Traces();
-    handlers().LoadRulesListMode();
+    handlers().listMode.LoadRulesListMode();
     EXPECT_THAT(Traces(), ElementsAre("mRules LoadRulesListMode Start", "mRules ClearRule Start"));
 }
 
 TEST_F(EmptyList, ClearsTheFormWithoutCountingAsAnEdit) {
     StartWithCodes({"A"});
-    handlers().ClearRule();
+    handlers().details.ClearRule();
     ExpectMarks(false, false);
     EXPECT_EQ(rules().giCurRule, -1);
 }
@@ -98,7 +98,7 @@ TEST_F(EmptyList, LetsTheFocusLeaveAFieldThatWasEmptiedWithTheList) {
     page().txtCode.TakeFocus();
     page().txtCode.SetText("");
     ExpectDeleteQuestion(Answer::Yes);
-    handlers().cmdDeleteList_Click();
+    handlers().listMode.cmdDeleteList_Click();
     ExpectEmptyPage();
     EXPECT_TRUE(page().cmdAddList.TakeFocus());
 }
@@ -121,9 +121,9 @@ TEST_F(EmptyList, IsReloadedAsAnEmptyList) {
 
 TEST_F(EmptyList, HasNothingForItsHandlersToDo) {
     StartOver("");
-    handlers().cmdDeleteList_Click(); // asks nothing either
-    handlers().cmdUpDown_UpClick();
-    handlers().cmdUpDown_DownClick();
+    handlers().listMode.cmdDeleteList_Click(); // asks nothing either
+    handlers().listMode.cmdUpDown_UpClick();
+    handlers().listMode.cmdUpDown_DownClick();
     ExpectEmptyPage();
     ExpectMarks(false, false);
 }

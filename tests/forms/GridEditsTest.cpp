@@ -21,7 +21,7 @@ class GridEdits : public GridModeForm {
     void StoreAndShowList() {
         ASSERT_TRUE(handlers().StoreBeforeTabSwitch());
         handlers().ShowListMode();
-        handlers().LoadRulesListMode();
+        handlers().listMode.LoadRulesListMode();
     }
 };
 

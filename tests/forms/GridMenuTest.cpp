@@ -121,7 +121,7 @@ TEST_F(GridMenu, DeletesNothingWithoutACurrentRowOrWithTheHeaders) {
 
 TEST_F(GridMenu, KeepsTheDetailFormAtItsRuleWhileThatOneIsThere) {
     ShowGridOver({"A", "B", "C"});
-    handlers().EditRule("2");
+    handlers().details.EditRule("2");
     Delete(3);
     EXPECT_EQ(rules().giCurRule, 2);
     Delete(1);

@@ -45,9 +45,9 @@ TEST_F(Marks, AreSetByTheActionsThatChangeSomethingAndByNoOther) {
         {"moving down", [&] { page().cmdUpDown.PressDown(); }, true, true},
         {"moving the first up", [&] { page().cmdUpDown.PressUp(); }, false, false},
         {"asking for help", [&] { page().cmdHelpRules.Click(); }, false, false},
-        {"storing an unchanged form", [&] { handlers().Save_Rules_Edit(1); }, false, false},
-        {"refilling the list", [&] { handlers().LoadRulesListMode(); }, false, false},
-        {"clearing the form", [&] { handlers().ClearRule(); }, false, false},
+        {"storing an unchanged form", [&] { handlers().details.Save_Rules_Edit(1); }, false, false},
+        {"refilling the list", [&] { handlers().listMode.LoadRulesListMode(); }, false, false},
+        {"clearing the form", [&] { handlers().details.ClearRule(); }, false, false},
         {"saving an edit from the menu",
          [&] {
              page().txtCode.Enter("X");

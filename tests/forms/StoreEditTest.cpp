@@ -110,12 +110,12 @@ TEST_F(StoreEdit, TracesTheCodeThatTheRuleHadBefore) {
     list().Pick(2);
     page().txtCode.Enter("X");
     Traces();
-    handlers().Save_Rules_Edit(2);
+    handlers().details.Save_Rules_Edit(2);
     EXPECT_THAT(Traces(), ElementsAre("mRules Save_Rules_Edit Start item: B"));
 }
 
 TEST_F(StoreEdit, SetsNoMarkWhenNoFieldChanged) {
-    handlers().Save_Rules_Edit(1);
+    handlers().details.Save_Rules_Edit(1);
     ExpectMarks(false, false);
     EXPECT_THAT(Rows(), ElementsAre("A|1|2|>|UCL|text  ", "B|1|2|>|UCL|text  ", "C|1|2|>|UCL|text  "));
 }
@@ -128,7 +128,7 @@ TEST_F(StoreEdit, SetsTheSharedMarkWhenAnyFieldChanged) {
     for (const auto& edit : edits) {
         state().gbChanged = false;
         edit();
-        handlers().Save_Rules_Edit(1);
+        handlers().details.Save_Rules_Edit(1);
         EXPECT_TRUE(state().gbChanged);
     }
 }
@@ -136,21 +136,21 @@ TEST_F(StoreEdit, SetsTheSharedMarkWhenAnyFieldChanged) {
 TEST_F(StoreEdit, EndsTheTimeOfANewRule) {
     page().cmdAddList.Click();
     EXPECT_TRUE(rules().gbNewRule);
-    handlers().Save_Rules_Edit(4);
+    handlers().details.Save_Rules_Edit(4);
     EXPECT_FALSE(rules().gbNewRule);
 }
 
 TEST_F(StoreEdit, KeepsConditionAndZoneWhereNoneIsSelected) {
     page().cboCondition.SetListIndex(-1);
     page().cboZone.SetListIndex(-1);
-    handlers().Save_Rules_Edit(1);
+    handlers().details.Save_Rules_Edit(1);
     EXPECT_EQ(rules().gaRules(1).Cond, ">");
     EXPECT_EQ(rules().gaRules(1).Zone, "UCL");
 }
 
 TEST_F(StoreEdit, RaisesSubscriptOutOfRangeForARuleThatIsNotThere) {
-    EXPECT_EQ(ErrorNumber([&] { handlers().Save_Rules_Edit(4); }), 9);
-    EXPECT_EQ(ErrorNumber([&] { handlers().Save_Rules_Edit(-1); }), 9);
+    EXPECT_EQ(ErrorNumber([&] { handlers().details.Save_Rules_Edit(4); }), 9);
+    EXPECT_EQ(ErrorNumber([&] { handlers().details.Save_Rules_Edit(-1); }), 9);
 }
 
 TEST_F(StoreEdit, SpellsAZoneAsTheListDoes) {

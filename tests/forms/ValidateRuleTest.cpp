@@ -16,7 +16,7 @@ class ValidateRule : public RulesForm {
     void ExpectFails(const char* message, const char* title, Control& focus) {
         SCOPED_TRACE(message);
         world.dialogs.ExpectMessage(message, title);
-        EXPECT_FALSE(handlers().Validate_Rule());
+        EXPECT_FALSE(handlers().detailChecks.Validate_Rule());
         ExpectScriptPlayed(world.dialogs);
         EXPECT_TRUE(focus.HasFocus()) << (form().Focused() ? form().Focused()->Name() : "no focus");
     }
@@ -28,7 +28,7 @@ class ValidateRule : public RulesForm {
 
 TEST_F(ValidateRule, PassesAFormThatIsRight) {
     Traces();
-    EXPECT_TRUE(handlers().Validate_Rule());
+    EXPECT_TRUE(handlers().detailChecks.Validate_Rule());
     EXPECT_THAT(Traces(),
                 ElementsAre("mRules Validate_Rule Start", "mRules CheckCode Start", "mRules Check_Min Start",
                             "mRules Check_Max Start", "mRules Verify_MinMax Start"));
@@ -102,12 +102,12 @@ TEST_F(ValidateRule, StopsAtTheFirstFailureInItsOrder) {
     page().cboZone.SetListIndex(0);
     ExpectFails("Rule Description cannot be Blank", "Invalid Rule Description", page().txtDescription);
     page().txtDescription.SetText(" ");
-    EXPECT_TRUE(handlers().Validate_Rule());
+    EXPECT_TRUE(handlers().detailChecks.Validate_Rule());
 }
 
 TEST_F(ValidateRule, ComparesTheCodeAtTheIndexOfTheRuleInHand) {
     page().txtCode.SetText("a");
-    EXPECT_TRUE(handlers().Validate_Rule());
+    EXPECT_TRUE(handlers().detailChecks.Validate_Rule());
     list().Pick(2);
     page().txtCode.SetText("a");
     ExpectFails("Rule Code must be unique", "Invalid Rule Code", page().txtCode);
@@ -115,14 +115,14 @@ TEST_F(ValidateRule, ComparesTheCodeAtTheIndexOfTheRuleInHand) {
 
 TEST_F(ValidateRule, ChangesNoRule) {
     page().txtCode.SetText("X");
-    EXPECT_TRUE(handlers().Validate_Rule());
+    EXPECT_TRUE(handlers().detailChecks.Validate_Rule());
     EXPECT_THAT(Codes(), ElementsAre("A", "B"));
 }
 
 TEST_F(ValidateRule, ReadsTheLocalesDecimalComma) {
     world.system.SetDecimalSeparator(',');
     page().txtMin.SetText("1,5");
-    EXPECT_TRUE(handlers().Validate_Rule());
+    EXPECT_TRUE(handlers().detailChecks.Validate_Rule());
     page().txtMax.SetText("1,25");
     ExpectFails("Min Value must be less than Max Value", "Invalid Rule Max or Min Value", page().txtMin);
 }
