@@ -57,6 +57,7 @@ TEST(CellList, TakesItsItemsAsTheyStandAndNothingAtAll) {
     for (const char* text : {"a", "A ", " A", "A|I", "|", "In", "use"}) {
         EXPECT_FALSE(list.Takes(text)) << text;
     }
+    EXPECT_TRUE(CellList("A|I").Takes("")) << "a cell may be emptied";
 }
 
 TEST(CellList, TakesEveryTextWithoutItems) {
