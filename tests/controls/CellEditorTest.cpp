@@ -37,7 +37,7 @@ TEST_F(GridTest, OpensTheEditorWithTheWholeTextSelected) {
     EXPECT_EQ(grid.editor.SelLength(), 4U);
 }
 
-TEST_F(GridTest, StartsEditingOverTheCellWhenAPersonTypesOnIt) {
+TEST_F(GridTest, StartsEditingOverTheCellWhenTheUserTypesOnIt) {
     grid.selection.Select(1, 1);
     grid.TypeOver("x");
     EXPECT_EQ(grid.editor.Text(), "x");
@@ -152,7 +152,7 @@ TEST_F(GridTest, CountsACommitOfTheSameTextAsAnEdit) {
     EXPECT_THAT(notes, ElementsAre("after 1,1"));
 }
 
-TEST_F(GridTest, GoesOnInTheOpenEditorWhenAPersonTypesAgain) {
+TEST_F(GridTest, GoesOnInTheOpenEditorWhenTheUserTypesAgain) {
     grid.selection.Select(1, 1);
     grid.TypeOver("x");
     grid.TypeOver("y");

@@ -81,7 +81,7 @@ class TextBoxTest : public ControlsTest {
     TextBox box{&form, "txt"};
 };
 
-TEST_F(TextBoxTest, RaisesChangeForAPersonsTextAndForTheProgramsAlike) {
+TEST_F(TextBoxTest, RaisesChangeForTheUsersTextAndForTheProgramsAlike) {
     box.SetText("a");
     box.Type("b");
     box.Enter("c");
@@ -177,7 +177,7 @@ TEST_F(ListViewTest, SelectsNothingAfterARefill) {
     EXPECT_EQ(list.Selected(), 0);
 }
 
-TEST_F(ListViewTest, RaisesItemClickForAPersonsChoiceAlone) {
+TEST_F(ListViewTest, RaisesItemClickForTheUsersChoiceAlone) {
     list.Select(2);
     EXPECT_THAT(notes, IsEmpty());
     list.Pick(3);

@@ -34,7 +34,7 @@ TEST_F(FocusTest, NothingHasTheFocusAtFirst) {
     EXPECT_FALSE(first.HasFocus());
 }
 
-TEST_F(FocusTest, MovesToTheControlThatAPersonUses) {
+TEST_F(FocusTest, MovesToTheControlThatTheUserUses) {
     first.Type("x");
     EXPECT_TRUE(first.HasFocus());
     second.Type("y");

@@ -115,7 +115,7 @@ class GridKeys : public GridWindow, public ::testing::WithParamInterface<std::st
             }
         });
     }
-    Cell Current() { return {grid().selection.Row(), grid().selection.Column()}; }
+    Cell Current() { return grid().selection.Current(); }
     /// A key that was pressed on this cell has led to a cell of the grid that is current for the toolkit too.
     void ExpectSensible(const Stroke& stroke, const Cell& start) {
         const Cell cell = Current();

@@ -17,7 +17,7 @@ class GridWindow : public WindowTest {
     /// The grid of the editor's page.
     virtual Grid& grid() = 0;
 
-    // What the person does.
+    // What the user does.
     void ClickCell(int row, int column);
     void DoubleClickCell(int row, int column);
     void DragOverCells(const Cell& from, const Cell& to);
@@ -35,7 +35,7 @@ class GridWindow : public WindowTest {
     /// it.
     void ChooseAboveDisabledEntry();
 
-    // What the person sees.
+    // What the user sees.
     /// A cell as the grid draws it.
     std::string Shown(int row, int column);
     /// The middle of a cell on the screen.
