@@ -1,5 +1,7 @@
 #include "units/UnitsControls.h"
 
+#include "units/UnitsFileText.h"
+
 namespace zy {
 
 UnitsControls::UnitsControls(Frame& fraUnits)

@@ -6,9 +6,6 @@
 
 namespace zy {
 
-/// The columns of the units grid.
-enum UnitsColumn { kUnit = 0, kUnitDescription = 1, kUnitsColumns = 2 };
-
 /// The controls of the units page, in tab order.
 struct UnitsControls {
     explicit UnitsControls(Frame& fraUnits);

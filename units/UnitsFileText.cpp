@@ -9,7 +9,6 @@
 #include "basics/Text.h"
 #include "shell/StatusTexts.h"
 #include "shell/mZYGlobal.h"
-#include "units/UnitsControls.h"
 
 namespace zy {
 namespace {
@@ -33,7 +32,7 @@ void ReserveFor(std::string_view text, std::vector<std::string_view>& cells) {
     cells.reserve(cells.size() + 2 * std::min(text.size() / kOrdinaryLine, kMostLines));
 }
 
-/// Ends the program; the place is told so that a person can repair the file.
+/// Ends the program; its error names the place, so that the file can be repaired.
 [[noreturn]] void RaiseUnitMissing(std::string_view path, int line) {
     throw RuntimeError(kSubscriptOutOfRange, "Subscript out of range\n\n" + std::string(path) + ", line " +
                                                  std::to_string(line) +

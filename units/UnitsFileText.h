@@ -10,6 +10,9 @@
 
 namespace zy {
 
+/// The columns of the units grid.
+enum UnitsColumn { kUnit = 0, kUnitDescription = 1, kUnitsColumns = 2 };
+
 /// What a units file holds that does not come back with a save of its cells.
 struct UnitsLeftOut {
     int lines = 0;           ///< that were read

@@ -28,8 +28,8 @@ std::string_view SpecialCharacter(Key key) {
 
 UnitsPage::UnitsPage(SettingsForm& form, SharedState& state, TraceChannel& trace, FileSystem& files,
                      Dialogs& dialogs)
-    : controls(form.FraUnits), units(controls, state, trace, files, dialogs), form_(form), trace_(trace),
-      dialogs_(dialogs) {
+    : controls(form.FraUnits), units(controls.grdUnits, state, trace, files, dialogs), form_(form),
+      trace_(trace), dialogs_(dialogs) {
     Connect();
 }
 
@@ -46,6 +46,7 @@ void UnitsPage::Connect() {
         [this] { controls.cmdDeleteUnit.SetEnabled(controls.grdUnits.selection.IsInData()); });
     grid.editor.keyDown.Connect([this](const KeyPress& press) { grdUnits_KeyDownEdit(press); });
     grid.keyDown.Connect([this](const KeyPress& press, bool& handled) { grdUnits_KeyDown(press, handled); });
+    units.loaded.Connect([this](bool found) { LetSaveAfterLoading(found); });
     units.reported.Connect([this](const std::string& report) { form_.zyStatusBar.SetText(report); });
 }
 
@@ -58,10 +59,24 @@ void UnitsPage::Trace(std::string_view procedure, std::string_view message) {
     trace_.DebugTrace(kMainForm, procedure, message);
 }
 
+void UnitsPage::LetSaveAfterLoading(bool found) {
+    controls.cmdSaveUnits.SetEnabled(!found);
+    if (!found) {
+        controls.cmdDeleteUnit.SetEnabled(false);
+    }
+    ShowStatus();
+}
+
+void UnitsPage::ShowStatus() {
+    auto text = Counted(static_cast<std::size_t>(controls.grdUnits.cells.Rows() - 1), "unit");
+    Join(text, "; ", units.Dangers());
+    form_.zyStatusBar.SetText(text);
+}
+
 void UnitsPage::MarkUnitsChanged() {
     form_.ChangeFlag = true;
     controls.cmdSaveUnits.SetEnabled(true);
-    units.ReportCount();
+    ShowStatus();
 }
 
 void UnitsPage::grdUnits_AfterEdit(int row) {
@@ -70,14 +85,13 @@ void UnitsPage::grdUnits_AfterEdit(int row) {
 }
 
 void UnitsPage::grdUnits_Pasted(const PasteReport& paste) {
-    units.ReportCount();
+    ShowStatus();
     AddHint(form_.zyStatusBar, DescribeLeftOut(paste, controls.grdUnits.cells));
     if (!paste.tooLong && controls.grdUnits.selection.IsInData()) {
         AddHint(form_.zyStatusBar, DescribeMisreadings());
     }
 }
 
-/// The first row of the block that will be read back otherwise, and how many more there are.
 std::string UnitsPage::DescribeMisreadings() const {
     const auto& grid = controls.grdUnits;
     std::string first;
@@ -95,7 +109,7 @@ void UnitsPage::cmdAddUNit_Click() {
     auto& grid = controls.grdUnits;
     const int row = grid.cells.Rows();
     if (row > kMaxItems) {
-        units.ReportCount();
+        ShowStatus();
         AddHint(form_.zyStatusBar, kListFull);
         return;
     }
@@ -113,7 +127,7 @@ void UnitsPage::cmdDeleteUnit_Click() {
                           Escape::AnswersNo)) {
         DeleteCurrentRow();
     }
-    // After No as well, which is meant.
+    // After No as well. Kept: people who know the program are used to it.
     MarkUnitsChanged();
     Trace("cmdDeleteUnit_Click", "Unit Deleted");
 }
@@ -143,8 +157,6 @@ void UnitsPage::Save() {
 bool UnitsPage::SaveAtClosing() {
     return units.ValidateUnits() && units.Write_Units();
 }
-
-// Either arrow marks the list as changed even when nothing moved, which is meant.
 
 void UnitsPage::UpDownUnits_UpClick() {
     if (controls.grdUnits.selection.Row() > 1) {

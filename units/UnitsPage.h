@@ -4,6 +4,7 @@
 #include "platform/FileSystem.h"
 #include "shell/Editor.h"
 #include "shell/SettingsForm.h"
+#include "units/UnitsControls.h"
 #include "units/mUnits.h"
 
 namespace zy {
@@ -19,13 +20,17 @@ class UnitsPage : public Editor {
 
     /// Adds a row and opens it; a list that is as long as it can be stays as it is.
     void cmdAddUNit_Click();
+    /// Asks, and deletes the current row on Yes. The list counts as changed after No as well.
     void cmdDeleteUnit_Click();
+    /// Checks the units and writes them when all pass.
     void cmdSaveUnits_Click();
+    /// Swap the current unit with its neighbour and keep it current. The list counts as changed even when
+    /// nothing moved.
     void UpDownUnits_UpClick();
     void UpDownUnits_DownClick();
-    /// Tells beside the change how a row with a comma will be read back.
+    /// Marks the list as changed, and shows how a row with a comma will be read back.
     void grdUnits_AfterEdit(int row);
-    /// Tells what of a paste was left out, and how rows with commas will be read back.
+    /// Shows what of a paste was left out, and how rows with commas will be read back.
     void grdUnits_Pasted(const PasteReport& paste);
     /// Ctrl with 0, 2 or 3 types a degree sign, a superscript two or three into a unit.
     void grdUnits_KeyDownEdit(const KeyPress& press);
@@ -33,6 +38,7 @@ class UnitsPage : public Editor {
     /// with Up or Down moves the unit like the arrows do.
     void grdUnits_KeyDown(const KeyPress& press, bool& handled);
 
+    /// Lays the page out in the window's present size.
     void ResizeUnits();
 
     // Editor
@@ -50,6 +56,11 @@ class UnitsPage : public Editor {
   private:
     void Connect();
     void Trace(std::string_view procedure, std::string_view message);
+    /// A list that has no file yet can be saved at once, one that was just loaded only once it is changed.
+    void LetSaveAfterLoading(bool found);
+    /// Shows how many units there are, and what a save would drop or find in its way.
+    void ShowStatus();
+    /// The first row of the pasted block that will be read back otherwise, and how many more there are.
     std::string DescribeMisreadings() const;
     void DeleteCurrentRow();
     void SwapWith(int neighbour);

@@ -18,9 +18,9 @@ constexpr auto kLastSaveFailed = "the last save failed, save again";
 
 } // namespace
 
-mUnits::mUnits(UnitsControls& controls, SharedState& state, TraceChannel& trace, FileSystem& files,
+mUnits::mUnits(Grid& grdUnits, const SharedState& state, TraceChannel& trace, FileSystem& files,
                Dialogs& dialogs)
-    : controls_(controls), state_(state), trace_(trace), files_(files), dialogs_(dialogs) {}
+    : grdUnits_(grdUnits), state_(state), trace_(trace), files_(files), dialogs_(dialogs) {}
 
 void mUnits::Start(std::string_view procedure) {
     trace_.DebugTrace("mUnits", procedure, "Start");
@@ -29,46 +29,46 @@ void mUnits::Start(std::string_view procedure) {
 void mUnits::LoadUnitsData() {
     Start("LoadUnitsData");
     const SaveTurn turn(files_, state_.gsUnitsFile); // what somebody else saves is read whole
-    leftOut_.clear();
-    auto& grid = controls_.grdUnits;
-    grid.cells.SetRedraw(false);
+    dangers_.clear();
+    grdUnits_.cells.SetRedraw(false);
     ResetGrid();
-    if (files_.Exists(state_.gsUnitsFile)) {
+    const bool found = files_.Exists(state_.gsUnitsFile);
+    if (found) {
         ReadUnits();
-        controls_.cmdSaveUnits.SetEnabled(false);
-    } else {
-        controls_.cmdSaveUnits.SetEnabled(true);
-        controls_.cmdDeleteUnit.SetEnabled(false);
     }
-    Join(leftOut_, "; ", DescribeUncertainty());
-    Join(leftOut_, "; ", Obstacle(state_.gsUnitsFile, ObstacleToSave()));
-    ReportCount();
-    grid.cells.SetRedraw(true);
-    grid.columns.Fit(0);
+    LookForDangers();
+    grdUnits_.cells.SetRedraw(true);
+    grdUnits_.columns.Fit(0);
+    loaded.Raise(found);
+}
+
+void mUnits::LookForDangers() {
+    Join(dangers_, "; ", DescribeUncertainty());
+    Join(dangers_, "; ", Obstacle(state_.gsUnitsFile, ObstacleToSave()));
 }
 
 void mUnits::ResetGrid() {
-    controls_.grdUnits.cells.SetRows(0);
-    controls_.grdUnits.cells.AddItem("Unit\tUnit Description");
+    grdUnits_.cells.SetRows(0);
+    grdUnits_.cells.AddItem("Unit\tUnit Description");
 }
 
 void mUnits::ReadUnits() {
     const auto opened = files_.OpenAlwaysForReading(state_.gsUnitsFile);
     if (!opened.handle) {
-        leftOut_ = FileName() + " could not be read: " + std::string(Describe(opened.error)) +
+        dangers_ = FileName() + " could not be read: " + std::string(Describe(opened.error)) +
                    "; saving replaces all that it holds";
         return;
     }
     const auto size = static_cast<std::uint32_t>(opened.handle->Size());
     auto text = ReadFileText(*opened.handle, size);
-    opened.handle->Close();
+    static_cast<void>(opened.handle->Close()); // nothing was written that it could lose
     const bool whole = text.size() == size;
     const auto path = files_.DisplayPath(state_.gsUnitsFile);
-    controls_.grdUnits.cells.AddRowsOf(std::move(text), [&](auto lines, auto& cells) {
-        leftOut_ = Describe(AppendUnitCells(lines, path, cells));
+    grdUnits_.cells.AddRowsOf(std::move(text), [&](auto lines, auto& cells) {
+        dangers_ = Describe(AppendUnitCells(lines, path, cells));
     });
     if (!whole) {
-        leftOut_ = FileName() + " could not be read to its end: " + std::string(Describe(FileError::Other)) +
+        dangers_ = FileName() + " could not be read to its end: " + std::string(Describe(FileError::Other)) +
                    "; saving drops the rest";
     }
 }
@@ -95,17 +95,17 @@ bool mUnits::Write_Units() {
 
 void mUnits::ReplaceFile() {
     Start("Write_Units");
-    const UnitsFileText text(controls_.grdUnits.cells); // an error here leaves the file as it is
+    const UnitsFileText text(grdUnits_.cells); // an error here leaves the file as it is
     const auto& path = state_.gsUnitsFile;
     const bool deleted = files_.Exists(path) && files_.Delete(path) == FileError::None;
     const auto created = files_.Create(path);
     if (!created.handle) {
-        leftOut_ = deleted ? kLastSaveFailed : leftOut_;
+        dangers_ = deleted ? kLastSaveFailed : dangers_;
         reported.Raise(Failure("Not saved, " + FileName() + " could not be created", created.error));
         return;
     }
     const auto error = WriteAndClose(*created.handle, text.Get());
-    leftOut_ = error == FileError::None ? "" : kLastSaveFailed;
+    dangers_ = error == FileError::None ? "" : kLastSaveFailed;
     if (error == FileError::None) {
         reported.Raise(std::string(kListSaved));
     } else {
@@ -117,19 +117,12 @@ std::string mUnits::FileName() const {
     return std::string(FileNameOf(state_.gsUnitsFile));
 }
 
-void mUnits::ReportCount() {
-    auto text = Counted(static_cast<std::size_t>(controls_.grdUnits.cells.Rows() - 1), "unit");
-    Join(text, "; ", leftOut_);
-    reported.Raise(text);
-}
-
 bool mUnits::ValidateUnits() {
     Start("ValidateUnits");
-    const auto& grid = controls_.grdUnits;
-    const Int16 last = grid.cells.Rows() - 1;
+    const Int16 last = grdUnits_.cells.Rows() - 1;
     for (int row = 1; row <= last; ++row) {
-        if (!Validate_Unit(grid.cells.Text(row, kUnit)) ||
-            !Validate_Desc(grid.cells.Text(row, kUnitDescription))) {
+        if (!Validate_Unit(grdUnits_.cells.Text(row, kUnit)) ||
+            !Validate_Desc(grdUnits_.cells.Text(row, kUnitDescription))) {
             return false;
         }
     }
@@ -154,7 +147,7 @@ bool mUnits::Validate_Unit(std::string_view unit) {
 
 bool mUnits::Validate_Desc(std::string_view description) {
     Start("Validate_Desc");
-    // The words are the unit's, which is meant.
+    // The words are the unit's: people who know the program know them for both columns.
     return !Contains(description, '"') || Refuse("Unit cannot contain double quotes");
 }
 

@@ -4,56 +4,64 @@
 #include <string_view>
 
 #include "controls/Event.h"
+#include "controls/Grid.h"
 #include "platform/Dialogs.h"
 #include "platform/FileSystem.h"
 #include "shell/TraceChannel.h"
 #include "shell/mZYGlobal.h"
-#include "units/UnitsControls.h"
 
-// The units editor: the units file and the checks (mUnits), and the page with its grid and handlers
-// (UnitsPage). The rows of the grid are the only copy of the list. It calls the low part of the shell and
-// what lies below that.
+// units: the units editor. mUnits holds the units file (UnitsFileText) and the checks, UnitsPage is the page
+// with its grid and handlers. It calls the low part of the shell and what lies below that.
 
 namespace zy {
 
-/// The units file: one unit a line, its description first, then a comma, then the unit. The grid shows them
-/// the other way round, which is meant.
+/// The units: the list, its file, and the checks.
+///
+/// The rows of the grid are the only copy of the list, so that it is all the module knows of the page. The
+/// file has one unit a line, its description first, then a comma, then the unit; the grid shows them the
+/// other way round. The order in the file stays as it is: the product's files have it.
 class mUnits {
   public:
-    mUnits(UnitsControls& controls, SharedState& state, TraceChannel& trace, FileSystem& files,
+    mUnits(Grid& grdUnits, const SharedState& state, TraceChannel& trace, FileSystem& files,
            Dialogs& dialogs);
 
-    /// Empties the grid and fills it from the units file. Without a file the list is empty and can be saved
-    /// at once; of a file that cannot be read, the part that could be is taken.
-    ///
-    /// Whatever of the file a save would drop is told by ReportCount until a save went well.
+    /// Empties the grid and fills it from the units file. Without a file the list is empty; of a file that
+    /// cannot be read, the part that could be is taken. `loaded` is raised at the end.
     ///
     /// A line without a second field is run-time error 9, more than 32,767 lines are run-time error 6. What
     /// stands behind the last line end is not read.
     void LoadUnitsData();
 
     /// Puts a file with the rows of the grid in place of the units file. The old file goes first; whatever
-    /// fails then is told by `reported` alone. More than 32,767 rows are run-time error 6, and the file
+    /// fails then is said by `reported` alone. More than 32,767 rows are run-time error 6, and the file
     /// stays.
     ///
-    /// False when the save is refused before its first step, which `reported` tells: somebody else is saving
+    /// False when the save is refused before its first step, as `reported` says: somebody else is saving
     /// in the folder, or it is not certain which file the units file is.
     bool Write_Units();
 
-    /// Checks every row and shows the first failure. The current cell does not move to it.
+    /// Checks every row from the first one on and shows the first failure. The current cell does not move to
+    /// it.
     bool ValidateUnits();
+    /// Whether a unit may be saved; shows why not. An empty one may not, nor one with a double quote or a
+    /// pipe character.
     bool Validate_Unit(std::string_view unit);
+    /// Whether a description may be saved; shows why not. One with a double quote may not, an empty one may.
     bool Validate_Desc(std::string_view description);
 
-    /// Reports how many units there are, and what a save would drop.
-    void ReportCount();
+    /// What a save would drop of the file that was loaded, or find in its way, or that the last save failed;
+    /// for the status bar. A save that goes well ends it.
+    const std::string& Dangers() const { return dangers_; }
 
-    /// Short texts for the status bar: how many units there are, how a load or a save ended.
+    /// LoadUnitsData is done: whether there was a file.
+    Event<bool> loaded;
+    /// Short texts for the status bar: how a save ended.
     Event<const std::string&> reported;
 
   private:
     void ResetGrid();
     void ReadUnits();
+    void LookForDangers();
     void ReplaceFile();
     bool Refuse(std::string_view message);
     void Start(std::string_view procedure);
@@ -62,12 +70,12 @@ class mUnits {
     /// Why a save could neither replace the file nor write over it.
     FileError ObstacleToSave();
 
-    UnitsControls& controls_;
-    SharedState& state_;
+    Grid& grdUnits_;
+    const SharedState& state_;
     TraceChannel& trace_;
     FileSystem& files_;
     Dialogs& dialogs_;
-    std::string leftOut_; ///< what a save would drop
+    std::string dangers_;
 };
 
 } // namespace zy

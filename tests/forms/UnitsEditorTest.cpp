@@ -1,4 +1,5 @@
 #include "support/EditorsTest.h"
+#include "units/UnitsFileText.h"
 
 namespace zy::test {
 namespace {

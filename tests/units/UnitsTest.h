@@ -9,6 +9,7 @@
 #include "support/RaisedError.h"
 #include "support/RawBool16.h"
 #include "support/WorldTest.h"
+#include "units/UnitsFileText.h"
 
 namespace zy::test {
 

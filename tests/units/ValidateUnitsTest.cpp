@@ -119,7 +119,7 @@ struct Check {
 
 class UnitChecks : public UnitsTest {
   protected:
-    mUnits units{controls, state, program.trace, world.files, world.dialogs};
+    mUnits units{grid, state, program.trace, world.files, world.dialogs};
 
     void Expect(const Check& check) {
         SCOPED_TRACE(check.text);
