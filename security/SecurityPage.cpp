@@ -59,11 +59,11 @@ void SecurityPage::LoadSecurity() {
     grid.columns.Fit(0); // the designed width is too narrow for most headers
     controls.cmdSaveUsers.SetEnabled(false);
     EnableDelete(users.HasUsers());
-    ReportCount();
+    ShowStatus();
     Trace("LoadSecurity", "Finished");
 }
 
-void SecurityPage::ReportCount(int row) {
+void SecurityPage::ShowStatus(int row) {
     std::string text = Counted(static_cast<std::size_t>(controls.grdSecurity.cells.Rows() - 1), "user");
     Join(text, "; ", DescribeQuotes(controls.grdSecurity.cells, row));
     Join(text, "; ", users.Dangers());
@@ -77,7 +77,7 @@ void SecurityPage::EnableDelete(bool enabled) {
 
 void SecurityPage::MarkChanged(int row) {
     state_.gbChanged = true;
-    ReportCount(row);
+    ShowStatus(row);
 }
 
 void SecurityPage::MarkChangedAndEnableSave(int row) {
@@ -104,7 +104,7 @@ void SecurityPage::mnuAddUser_Click() {
 bool SecurityPage::AddUser() {
     const bool added = users.Add_User();
     if (!added) {
-        ReportCount();
+        ShowStatus();
         AddHint(form_.zyStatusBar, kListFull);
     }
     return added;
@@ -139,7 +139,7 @@ void SecurityPage::mnuDeleteUser_Click() {
 
 void SecurityPage::cmdSaveUsers_Click() {
     Trace("cmdSaveUsers_Click", "Start");
-    // Unlike File > Save, without users in the folder of the table.
+    // Without users the files in the table's own folder go, unlike with File > Save.
     if (CheckAndWrite(users.SecurityFolder())) {
         form_.ChangeFlag = false;
         ShowSaved();
@@ -178,7 +178,7 @@ void SecurityPage::grdSecurity_AfterEdit(int row) {
 }
 
 void SecurityPage::grdSecurity_Pasted(const PasteReport& paste) {
-    ReportCount();
+    ShowStatus();
     AddHint(form_.zyStatusBar, DescribeLeftOut(paste, controls.grdSecurity.cells));
 }
 

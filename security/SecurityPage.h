@@ -97,7 +97,7 @@ class SecurityPage : public Editor {
     void ShowSaved();
     /// Shows the number of users, what becomes of the single quotes in one, the row's before others, and what
     /// a save would drop or find in its way.
-    void ReportCount(int row = 0);
+    void ShowStatus(int row = 0);
 
     SettingsForm& form_;
     SharedState& state_;
