@@ -174,7 +174,7 @@ void Database::WriteIndex(const CreateIndex& statement, const TableImage& table,
     if (error == FileError::None) {
         error = files.CopyPermissions(PathOf(statement.table, ".DBF"), path);
         if (error != FileError::None) {
-            files.Delete(path);
+            static_cast<void>(files.Delete(path)); // the first error is the one that is reported
         }
     }
     if (error != FileError::None) {

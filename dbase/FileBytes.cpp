@@ -29,7 +29,7 @@ FileError WriteNewFile(FileSystem& files, std::string_view path, std::string_vie
     const auto error = WriteAndClose(*created.handle, bytes);
     created.handle.reset();
     if (error != FileError::None) {
-        files.Delete(path);
+        static_cast<void>(files.Delete(path)); // the first error is the one that is reported
     }
     return error;
 }

@@ -62,7 +62,7 @@ void OpenTable::Replace(std::string_view bytes) {
         error = files_.Delete(path_);
     }
     if (error != FileError::None) {
-        files_.Delete(beside);
+        static_cast<void>(files_.Delete(beside)); // the first error is the one that is reported
         RaiseWriteError(files_.DisplayPath(path_), error);
     }
     if (error = files_.Rename(beside, path_); error != FileError::None) {

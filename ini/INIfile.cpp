@@ -116,7 +116,7 @@ void INIfile::LoadFile(std::string_view Filename) {
     }
     if (const auto opened = files_.OpenAlwaysForReading(Filename); opened.handle) {
         const auto& text = lines.Keep(FileText(*opened.handle));
-        opened.handle->Close();
+        static_cast<void>(opened.handle->Close()); // nothing was written that it could lose
         AddLines(text);
     }
 }
@@ -160,7 +160,8 @@ void INIfile::SaveFile(std::string_view Filename) {
     trace_.DebugTrace("INIFile", "SaveFile", "Start " + std::string(Filename));
     const INIfileText text(*INIlines(), format_, codePage_);
     if (FileExists(Filename)) {
-        files_.Delete(Filename);
+        // One that cannot be deleted may still be written over, which is tried next.
+        static_cast<void>(files_.Delete(Filename));
     }
     const auto created = files_.Create(Filename);
     if (created.handle) {

@@ -100,7 +100,7 @@ bool mRules::WriteTemporary(const std::string& temporary, const std::string& tex
     dangers_.clear();
     const auto error = WriteAndClose(*created.handle, text);
     if (error != FileError::None) {
-        files_.Delete(temporary);
+        static_cast<void>(files_.Delete(temporary)); // one that stays is reported at the next start
         ReportFailure("Not saved, " + std::string(kRulesTemporaryName) + " could not be written", error);
         return false;
     }
@@ -140,7 +140,8 @@ void mRules::ReplaceFile() {
     const std::string rulesFile = Settings().RulesFile();
     FileError deleted = FileError::None;
     if (files.Exists(rulesFile)) {
-        files.CopyPermissions(rulesFile, temporary);
+        // Where they cannot be given on, the new file has those of any new one, and the rules are saved.
+        static_cast<void>(files.CopyPermissions(rulesFile, temporary));
         deleted = files.Delete(rulesFile);
     }
     const auto renamed = files.Rename(temporary, rulesFile);

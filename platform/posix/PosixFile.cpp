@@ -31,7 +31,7 @@ OpenedFile Open(const std::string& path, int flags, mode_t permissions) {
     if (const auto error = TypeError(status.st_mode); error != FileError::None) {
         return {.handle = nullptr, .error = error};
     }
-    ::posix_fadvise(file.Number(), 0, 0, POSIX_FADV_SEQUENTIAL);
+    static_cast<void>(::posix_fadvise(file.Number(), 0, 0, POSIX_FADV_SEQUENTIAL)); // only a hint
     return {.handle = std::make_unique<PosixFile>(std::move(file)), .error = FileError::None};
 }
 

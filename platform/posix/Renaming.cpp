@@ -58,7 +58,7 @@ int RenameByLink(const std::string& from, const std::string& to) {
     }
     const int removed = ErrorNumber(::unlink(from.c_str()));
     if (removed != 0) {
-        ::unlink(to.c_str());
+        static_cast<void>(::unlink(to.c_str())); // the first error is the one that is reported
     }
     return removed;
 }

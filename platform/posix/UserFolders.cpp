@@ -60,10 +60,11 @@ std::string UserConfigFolder() {
 
 bool MakeFolders(const std::string& path) {
     constexpr mode_t kForTheUserAlone = 0700;
+    // Most of them are there already, which mkdir calls an error; in the end it counts that the last one is.
     for (auto end = path.find('/', 1); end != std::string::npos; end = path.find('/', end + 1)) {
-        ::mkdir(path.substr(0, end).c_str(), kForTheUserAlone);
+        static_cast<void>(::mkdir(path.substr(0, end).c_str(), kForTheUserAlone));
     }
-    ::mkdir(path.c_str(), kForTheUserAlone);
+    static_cast<void>(::mkdir(path.c_str(), kForTheUserAlone));
     return IsFolder(path);
 }
 

@@ -69,7 +69,8 @@ std::vector<std::byte> Descriptor(const SystemHandle& file, SECURITY_INFORMATION
 SECURITY_INFORMATION Inheritance(std::vector<std::byte>& descriptor) {
     SECURITY_DESCRIPTOR_CONTROL control = 0;
     DWORD revision = 0;
-    ::GetSecurityDescriptorControl(descriptor.data(), &control, &revision);
+    // Where it fails nothing is known to be protected, as in a list that was just made.
+    static_cast<void>(::GetSecurityDescriptorControl(descriptor.data(), &control, &revision));
     return (control & SE_DACL_PROTECTED) != 0 ? PROTECTED_DACL_SECURITY_INFORMATION
                                               : UNPROTECTED_DACL_SECURITY_INFORMATION;
 }
@@ -79,7 +80,7 @@ void CopyOwner(const SystemHandle& source, const std::string& to) {
     constexpr SECURITY_INFORMATION kOwner = OWNER_SECURITY_INFORMATION | GROUP_SECURITY_INFORMATION;
     auto owner = Descriptor(source, kOwner);
     if (const auto target = OpenForRights(to, WRITE_OWNER); target && !owner.empty()) {
-        ::SetKernelObjectSecurity(target.Get(), kOwner, owner.data());
+        static_cast<void>(::SetKernelObjectSecurity(target.Get(), kOwner, owner.data()));
     }
 }
 

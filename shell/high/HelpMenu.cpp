@@ -48,10 +48,11 @@ void HelpMenu::mnuIndex_Click() {
 
 void HelpMenu::OpenPage(std::string_view path) {
     constexpr int kShowNormal = 1;
-    links_.Open({.owner = LinkOwner::DesktopWindow,
-                 .verb = "Open",
-                 .target = std::string(kMakerWebSite) + std::string(path),
-                 .showCommand = kShowNormal});
+    // Where no browser starts, nothing is said: it is the desktop's to say so.
+    static_cast<void>(links_.Open({.owner = LinkOwner::DesktopWindow,
+                                   .verb = "Open",
+                                   .target = std::string(kMakerWebSite) + std::string(path),
+                                   .showCommand = kShowNormal}));
 }
 
 void HelpMenu::mnuWebProducts_Click() {

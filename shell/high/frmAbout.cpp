@@ -57,7 +57,9 @@ void frmAbout::Form_Load() {
 
 void frmAbout::Open(const std::string& link) {
     constexpr int kShowHidden = 0; // kept; the menu's web pages open with the normal command, 1
-    links_.Open({.owner = LinkOwner::None, .verb = "OPEN", .target = link, .showCommand = kShowHidden});
+    // Where neither browser nor mail program starts, nothing is said: it is the desktop's to say so.
+    static_cast<void>(
+        links_.Open({.owner = LinkOwner::None, .verb = "OPEN", .target = link, .showCommand = kShowHidden}));
 }
 
 void frmAbout::lblWebsite_Click() {

@@ -98,7 +98,8 @@ void mRegistryEdit::SaveWindowPlacement(frmGlobalSettings& window) {
     key->SetText("Top", std::to_string(top));
     key->SetText("Width", std::to_string(width));
     key->SetText("State", std::to_string(static_cast<int>(state)));
-    key->Close();
+    // A place that could not be kept is not worth a word to somebody who is leaving.
+    static_cast<void>(key->Close());
 }
 
 } // namespace zy

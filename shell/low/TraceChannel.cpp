@@ -32,9 +32,10 @@ void TraceChannel::DebugTrace(std::string_view module, std::string_view procedur
         }
         return;
     }
-    // A viewer that was found counts as reached even if it could not take the record.
+    // A viewer that was found counts as reached even if it could not take the record, which is lost then:
+    // tracing never keeps the program from its work.
     state_ = TraceState::Reached;
-    IgnoringErrors([&] { server->Send(executableName_, module, procedure, message); });
+    IgnoringErrors([&] { static_cast<void>(server->Send(executableName_, module, procedure, message)); });
 }
 
 } // namespace zy
