@@ -21,16 +21,7 @@ class FileWorld {
     MemoryWorld rest_;
     PosixFileSystem files_{Windows1252()};
     TraceChannel trace_{rest_.traceServers, "bench"};
-    const World world_{.files = files_,
-                       .system = rest_.system,
-                       .traceServers = rest_.traceServers,
-                       .recycleBin = rest_.recycleBin,
-                       .registry = rest_.registry,
-                       .links = rest_.links,
-                       .dialogs = rest_.dialogs,
-                       .help = rest_.help,
-                       .window = rest_.window,
-                       .codePage = rest_.codePage};
+    const World world_ = rest_.With(files_);
 };
 
 } // namespace zy::bench

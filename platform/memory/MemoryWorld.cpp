@@ -6,8 +6,4 @@ MemoryWorld::MemoryWorld(const CodePage& page) : codePage(page) {
     files.AddFolder(system.SystemDirectory());
 }
 
-World MemoryWorld::Get() {
-    return WorldOf(*this, {.dialogs = dialogs, .help = help, .window = window});
-}
-
 } // namespace zy

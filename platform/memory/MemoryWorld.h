@@ -1,5 +1,7 @@
 #pragma once
 
+#include <type_traits>
+
 #include "platform/World.h"
 #include "platform/memory/MemoryFileSystem.h"
 #include "platform/memory/MemoryHelpSystem.h"
@@ -23,7 +25,21 @@ struct MemoryWorld {
     explicit MemoryWorld(const CodePage& page = Windows1252());
 
     /// The program's view of this world, which must outlive it.
-    World Get();
+    World Get() { return With(); }
+    /// The same with these parts, each in place of this world's one of its kind.
+    template <typename... Parts>
+    World With(Parts&... parts) {
+        return {.files = Chosen<FileSystem>(files, parts...),
+                .system = Chosen<SystemInfo>(system, parts...),
+                .traceServers = Chosen<TraceServers>(traceServers, parts...),
+                .recycleBin = Chosen<RecycleBin>(recycleBin, parts...),
+                .registry = Chosen<Registry>(registry, parts...),
+                .links = Chosen<ShellLinks>(links, parts...),
+                .dialogs = Chosen<Dialogs>(dialogs, parts...),
+                .help = Chosen<HelpSystem>(help, parts...),
+                .window = Chosen<NativeWindow>(window, parts...),
+                .codePage = codePage};
+    }
 
     const CodePage& codePage;
     MemoryFileSystem files{codePage};
@@ -35,6 +51,21 @@ struct MemoryWorld {
     ScriptedDialogs dialogs;
     MemoryHelpSystem help;
     MemoryNativeWindow window;
+
+  private:
+    /// The part of that kind; this world's own one where none is given.
+    template <typename Kind>
+    static Kind& Chosen(Kind& own) {
+        return own;
+    }
+    template <typename Kind, typename First, typename... Others>
+    static Kind& Chosen(Kind& own, First& first, Others&... others) {
+        if constexpr (std::is_base_of_v<Kind, First>) {
+            return first;
+        } else {
+            return Chosen<Kind>(own, others...);
+        }
+    }
 };
 
 } // namespace zy

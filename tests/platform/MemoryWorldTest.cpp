@@ -23,6 +23,17 @@ TEST(MemoryWorldTest, GivesItsOwnParts) {
     EXPECT_EQ(&view.codePage, &Windows1252());
 }
 
+TEST(MemoryWorldTest, GivesOtherPartsInPlaceOfItsOwn) {
+    MemoryWorld world;
+    MemoryRegistry registry(world.codePage);
+    MemoryTraceServers viewers;
+    const World view = world.With(viewers, registry);
+    EXPECT_EQ(&view.registry, &registry);
+    EXPECT_EQ(&view.traceServers, &viewers);
+    EXPECT_EQ(&view.files, &world.files);
+    EXPECT_EQ(&view.window, &world.window);
+}
+
 TEST(MemoryWorldTest, StartsWithAnEmptySystemDirectory) {
     MemoryWorld world;
     EXPECT_EQ(world.system.SystemDirectory(), R"(C:\SYS)");

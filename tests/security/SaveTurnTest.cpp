@@ -81,19 +81,7 @@ class WatchingBin final : public RecycleBin {
 
 class HeldUsersFolder : public UsersTest {
   protected:
-    World Outside() override {
-        const auto outside = world.Get();
-        return {.files = outside.files,
-                .system = outside.system,
-                .traceServers = outside.traceServers,
-                .recycleBin = bin,
-                .registry = outside.registry,
-                .links = outside.links,
-                .dialogs = outside.dialogs,
-                .help = outside.help,
-                .window = outside.window,
-                .codePage = outside.codePage};
-    }
+    World Outside() override { return world.With(bin); }
     const std::vector<std::string> kSystem{R"(C:\SYS)"};
     WatchingBin bin{world.files};
 };

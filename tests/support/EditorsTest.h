@@ -23,19 +23,7 @@ class EditorsTest : public ProgramTest {
     /// From now on somebody else is saving in the system directory.
     void LetSomebodyElseSave() { world.files.SetFolderLocked(R"(C:\SYS)", true); }
 
-    World Outside() override {
-        World outside = world.Get();
-        return {.files = outside.files,
-                .system = outside.system,
-                .traceServers = viewer,
-                .recycleBin = outside.recycleBin,
-                .registry = registry,
-                .links = outside.links,
-                .dialogs = outside.dialogs,
-                .help = outside.help,
-                .window = nativeWindow,
-                .codePage = outside.codePage};
-    }
+    World Outside() override { return world.With(viewer, registry, nativeWindow); }
 
     Calls calls;
     TracesAmongCalls viewer{calls};
