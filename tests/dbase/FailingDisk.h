@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "DbaseTest.h"
+#include "support/FailingOperations.h"
 #include "support/TableBytes.h"
 
 namespace zy::dbase::test {
@@ -16,30 +17,24 @@ struct Outcome {
 };
 using Table = std::vector<Outcome>;
 
-inline constexpr auto kFault = ": the disk reported an error";
-
 /// Does something over a disk whose first, second, third ... operation fails, until none fails any more.
 class FailingDisk : public DbaseTest {
   protected:
     /// Goes through all operations of the action, each time from the same start; the table has one line for
     /// each. `how` says in which way they fail.
     void ExpectOutcomes(const std::function<void()>& start, const std::function<void()>& action,
-                        FaultPlan how, const Table& table) {
-        for (const auto& outcome : table) {
-            ++how.operation;
-            SCOPED_TRACE("operation " + std::to_string(how.operation) + ", " + outcome.failing);
+                        const FaultPlan& how, const Table& table) {
+        RuntimeError raised(0, "");
+        const auto attempt = [&](const FaultPlan& plan) {
             Begin(start);
-            world.files.Plan(how);
-            const auto raised = RaisedBy(action);
-            EXPECT_EQ(FirstFailure(), outcome.failing);
+            world.files.Plan(plan);
+            raised = RaisedBy(action);
+        };
+        zy::test::FailOneByOne(world.files.Operations(), how, table, attempt, [&](const Outcome& outcome) {
             EXPECT_EQ(raised.Number(), outcome.number) << raised.Description();
             EXPECT_THAT(Contents(), ::testing::ElementsAreArray(outcome.files));
-        }
-        ++how.operation;
-        Begin(start);
-        world.files.Plan(how);
-        EXPECT_EQ(ErrorNumber(action), 0);
-        EXPECT_EQ(world.files.Operations().Faults(), 0U) << "the action has more operations than the table";
+        });
+        EXPECT_EQ(raised.Number(), 0) << raised.Description();
     }
 
     void AddUser(const char* name, const char* table) { Run(InsertUser({name, "", "", "", ""}, table)); }
@@ -55,15 +50,6 @@ class FailingDisk : public DbaseTest {
         }
         database = Open();
         start();
-    }
-
-    std::string FirstFailure() const {
-        for (const auto& line : world.files.Operations().Lines()) {
-            if (const auto end = line.find(kFault); end != std::string::npos) {
-                return line.substr(0, end);
-            }
-        }
-        return "none";
     }
 
     std::vector<std::string> Contents() const {
