@@ -1,19 +1,8 @@
-#include <array>
-#include <ostream>
-
 #include "RulesTest.h"
+#include "support/FailingOperations.h"
 
 namespace zy::test {
 namespace {
-
-/// What a file holds after a save on a failing disk.
-enum class Held { NoFile, Nothing, Half, Old, Leftover, New, SomethingElse };
-
-std::ostream& operator<<(std::ostream& out, Held held) {
-    constexpr std::array kNames{"no file",   "nothing",      "half of the new text", "the old text",
-                                "leftovers", "the new text", "something else"};
-    return out << kNames.at(static_cast<std::size_t>(held));
-}
 
 /// One line of a table: what a save leaves behind when `failing` is the first operation that does not work.
 struct Outcome {
@@ -60,17 +49,10 @@ class FailingDisk : public RulesTest {
 
     /// Goes through all operations of a save; the table has one line for each. `how` says in which way they
     /// fail.
-    void ExpectOutcomes(Start start, FaultPlan how, const Table& table) {
-        for (const auto& outcome : table) {
-            ++how.operation;
-            SCOPED_TRACE("operation " + std::to_string(how.operation) + ", " + outcome.failing);
-            Save(start, how);
-            EXPECT_EQ(FirstFailure(), outcome.failing);
-            Expect(start, outcome);
-        }
-        ++how.operation;
-        Save(start, how);
-        EXPECT_EQ(world.files.Operations().Faults(), 0U) << "a save has more operations than the table";
+    void ExpectOutcomes(Start start, const FaultPlan& how, const Table& table) {
+        FailOneByOne(
+            world.files.Operations(), how, table, [&](const FaultPlan& plan) { Save(start, plan); },
+            [&](const Outcome& outcome) { Expect(start, outcome); });
         Expect(start, {"", Held::New, Held::NoFile, kSaved, true});
     }
 
@@ -88,15 +70,6 @@ class FailingDisk : public RulesTest {
         rules.gbRulesChanged = true;
         world.files.Plan(plan);
         rules.Write_Rules_File();
-    }
-
-    std::string FirstFailure() const {
-        for (const auto& line : Log()) {
-            if (const auto end = line.find(": the disk reported an error"); end != std::string::npos) {
-                return line.substr(0, end);
-            }
-        }
-        return "none";
     }
 
     void Expect(Start start, const Outcome& outcome) {
@@ -129,19 +102,7 @@ class FailingDisk : public RulesTest {
     }
 
     Held HeldIn(const std::optional<std::string>& bytes) const {
-        const std::array<std::pair<std::optional<std::string>, Held>, 6> known{
-            {{std::nullopt, Held::NoFile},
-             {"", Held::Nothing},
-             {newText_.substr(0, newText_.size() / 2), Held::Half},
-             {kOldText, Held::Old},
-             {kLeftovers, Held::Leftover},
-             {newText_, Held::New}}};
-        for (const auto& [text, held] : known) {
-            if (bytes == text) {
-                return held;
-            }
-        }
-        return Held::SomethingElse;
+        return test::HeldIn(bytes, {.old = kOldText, .fresh = newText_, .leftover = kLeftovers});
     }
 
     static constexpr auto kOldText = "the old text";

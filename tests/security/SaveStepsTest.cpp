@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "UsersTest.h"
+#include "support/FailingOperations.h"
 
 namespace zy::test {
 namespace {
@@ -72,33 +73,20 @@ class SaveSteps : public UsersTest {
         }
         return contents;
     }
-    std::string FirstFailure() {
-        for (const auto& line : world.files.Operations().Lines()) {
-            if (const auto end = line.find(": the disk reported an error"); end != std::string::npos) {
-                return line.substr(0, end);
-            }
-        }
-        return "none";
-    }
-
     /// Goes through all steps of a save, each time from the same start; `how` says in which way they fail.
     void ExpectSteps(FaultPlan how, const Steps& steps) {
         how.cutShort = true;
-        for (const auto& step : steps) {
-            ++how.operation;
-            SCOPED_TRACE("operation " + std::to_string(how.operation) + ", " + step.failing);
+        RuntimeError raised(0, "");
+        const auto attempt = [&](const FaultPlan& plan) {
             BeginSave();
-            world.files.Plan(how);
-            const auto raised = RaisedBy([&] { Save(); });
-            EXPECT_EQ(FirstFailure(), step.failing);
+            world.files.Plan(plan);
+            raised = RaisedBy([&] { Save(); });
+        };
+        FailOneByOne(world.files.Operations(), how, steps, attempt, [&](const Step& step) {
             EXPECT_EQ(raised.Number(), step.number) << raised.Description();
             EXPECT_THAT(Contents(), ElementsAreArray(step.files));
-        }
-        ++how.operation;
-        BeginSave();
-        world.files.Plan(how);
-        EXPECT_EQ(RaisedBy([&] { Save(); }).Number(), 0);
-        EXPECT_EQ(world.files.Operations().Faults(), 0U) << "a save has more operations than the table";
+        });
+        EXPECT_EQ(raised.Number(), 0) << raised.Description();
         EXPECT_EQ(Contents(), kSaved);
     }
 

@@ -1,19 +1,8 @@
-#include <array>
-#include <ostream>
-
 #include "UnitsTest.h"
+#include "support/FailingOperations.h"
 
 namespace zy::test {
 namespace {
-
-/// What the units file holds after a save on a failing disk.
-enum class Held { NoFile, Nothing, Half, Old, New, SomethingElse };
-
-std::ostream& operator<<(std::ostream& out, Held held) {
-    constexpr std::array kNames{"no file",      "nothing",      "half of the new text",
-                                "the old text", "the new text", "something else"};
-    return out << kNames.at(static_cast<std::size_t>(held));
-}
 
 /// What a save leaves behind when `failing` is the first operation that does not work.
 struct Outcome {
@@ -23,6 +12,13 @@ struct Outcome {
 };
 
 using Table = std::vector<Outcome>;
+
+constexpr auto kExists = R"(Exists C:\SYS\ZYUNITS.SYS)";
+constexpr auto kDelete = R"(Delete C:\SYS\ZYUNITS.SYS)";
+constexpr auto kCreate = R"(Create C:\SYS\ZYUNITS.SYS)";
+constexpr auto kWrite = R"(Write C:\SYS\ZYUNITS.SYS)";
+constexpr auto kFlush = R"(Flush C:\SYS\ZYUNITS.SYS)";
+constexpr auto kClose = R"(Close C:\SYS\ZYUNITS.SYS)";
 
 constexpr auto kSaved = "Saved";
 constexpr auto kNotCreated = "Not saved, ZYUNITS.SYS could not be created: the disk reported an error";
@@ -43,17 +39,10 @@ class FailingDisk : public UnitsTest {
 
     /// Goes through all operations of a save; the table has one line for each. `how` says in which way they
     /// fail.
-    void ExpectOutcomes(const std::optional<std::string>& before, FaultPlan how, const Table& table) {
-        for (const auto& outcome : table) {
-            ++how.operation;
-            SCOPED_TRACE("operation " + std::to_string(how.operation) + ", " + outcome.failing);
-            SaveOver(before, how);
-            EXPECT_EQ(FirstFailure(), std::string(outcome.failing) + R"( C:\SYS\ZYUNITS.SYS)");
-            Expect(outcome);
-        }
-        ++how.operation;
-        SaveOver(before, how);
-        EXPECT_EQ(world.files.Operations().Faults(), 0U) << "a save has more operations than the table";
+    void ExpectOutcomes(const std::optional<std::string>& before, const FaultPlan& how, const Table& table) {
+        FailOneByOne(
+            world.files.Operations(), how, table, [&](const FaultPlan& plan) { SaveOver(before, plan); },
+            [this](const Outcome& outcome) { Expect(outcome); });
         Expect({"", Held::New, kSaved});
     }
 
@@ -68,37 +57,13 @@ class FailingDisk : public UnitsTest {
         Save();
     }
 
-    std::string FirstFailure() const {
-        for (const auto& line : world.files.Operations().Lines()) {
-            if (const auto end = line.find(": the disk reported an error"); end != std::string::npos) {
-                return line.substr(0, end);
-            }
-        }
-        return "none";
-    }
-
     /// Whatever fails: no box is shown, the marks go, and the rows stay, so that they can be saved again.
     void Expect(const Outcome& outcome) {
-        EXPECT_EQ(HeldInFile(), outcome.file);
+        EXPECT_EQ(HeldIn(File(), {.old = kOldText, .fresh = kNewText}), outcome.file);
         EXPECT_EQ(Status(), outcome.status);
         ExpectChanged(false);
         EXPECT_THAT(Units(), ::testing::ElementsAre("a|A", "bb|B", "c|C"));
         EXPECT_THAT(world.dialogs.Shown(), ::testing::IsEmpty());
-    }
-
-    Held HeldInFile() const {
-        const std::array<std::pair<std::optional<std::string>, Held>, 5> known{
-            {{std::nullopt, Held::NoFile},
-             {"", Held::Nothing},
-             {std::string(kNewText.substr(0, kNewText.size() / 2)), Held::Half},
-             {kOldText, Held::Old},
-             {std::string(kNewText), Held::New}}};
-        for (const auto& [text, held] : known) {
-            if (File() == text) {
-                return held;
-            }
-        }
-        return Held::SomethingElse;
     }
 };
 
@@ -106,60 +71,60 @@ using enum Held;
 
 TEST_F(FailingDisk, ThatFailsOnceLeavesTheNewFileOrNoneOrAnEmptyOne) {
     ExpectOutcomes(kOldText, {},
-                   {{"Exists", New, kSaved},
-                    {"Delete", New, kSaved},
-                    {"Create", NoFile, kNotCreated},
-                    {"Write", Nothing, kNotWritten},
-                    {"Flush", New, kNotWritten},
-                    {"Close", New, kNotWritten}});
+                   {{kExists, New, kSaved},
+                    {kDelete, New, kSaved},
+                    {kCreate, NoFile, kNotCreated},
+                    {kWrite, Nothing, kNotWritten},
+                    {kFlush, New, kNotWritten},
+                    {kClose, New, kNotWritten}});
 }
 
 TEST_F(FailingDisk, ThatCutsTheWriteShortLeavesHalfATextAndTellsSo) {
     ExpectOutcomes(kOldText, {.cutShort = true},
-                   {{"Exists", New, kSaved},
-                    {"Delete", New, kSaved},
-                    {"Create", NoFile, kNotCreated},
-                    {"Write", Half, kNotWritten},
-                    {"Flush", New, kNotWritten},
-                    {"Close", New, kNotWritten}});
+                   {{kExists, New, kSaved},
+                    {kDelete, New, kSaved},
+                    {kCreate, NoFile, kNotCreated},
+                    {kWrite, Half, kNotWritten},
+                    {kFlush, New, kNotWritten},
+                    {kClose, New, kNotWritten}});
 }
 
 TEST_F(FailingDisk, ThatGoesAwayLeavesTheOldFileUntilItIsDeleted) {
     ExpectOutcomes(kOldText, {.lasting = true},
-                   {{"Exists", Old, kNotCreated},
-                    {"Delete", Old, kNotCreated},
-                    {"Create", NoFile, kNotCreated},
-                    {"Write", Nothing, kNotWritten},
-                    {"Flush", New, kNotWritten},
-                    {"Close", New, kNotWritten}});
+                   {{kExists, Old, kNotCreated},
+                    {kDelete, Old, kNotCreated},
+                    {kCreate, NoFile, kNotCreated},
+                    {kWrite, Nothing, kNotWritten},
+                    {kFlush, New, kNotWritten},
+                    {kClose, New, kNotWritten}});
 }
 
 TEST_F(FailingDisk, ThatGoesAwayInsideTheWriteLeavesHalfATextAndTellsSo) {
     ExpectOutcomes(kOldText, {.lasting = true, .cutShort = true},
-                   {{"Exists", Old, kNotCreated},
-                    {"Delete", Old, kNotCreated},
-                    {"Create", NoFile, kNotCreated},
-                    {"Write", Half, kNotWritten},
-                    {"Flush", New, kNotWritten},
-                    {"Close", New, kNotWritten}});
+                   {{kExists, Old, kNotCreated},
+                    {kDelete, Old, kNotCreated},
+                    {kCreate, NoFile, kNotCreated},
+                    {kWrite, Half, kNotWritten},
+                    {kFlush, New, kNotWritten},
+                    {kClose, New, kNotWritten}});
 }
 
 TEST_F(FailingDisk, ThatFailsOnceAtTheFirstSaveLeavesTheNewFileOrNoneOrHalfATextAndTellsWhich) {
     ExpectOutcomes(std::nullopt, {.cutShort = true},
-                   {{"Exists", New, kSaved},
-                    {"Create", NoFile, kNotCreated},
-                    {"Write", Half, kNotWritten},
-                    {"Flush", New, kNotWritten},
-                    {"Close", New, kNotWritten}});
+                   {{kExists, New, kSaved},
+                    {kCreate, NoFile, kNotCreated},
+                    {kWrite, Half, kNotWritten},
+                    {kFlush, New, kNotWritten},
+                    {kClose, New, kNotWritten}});
 }
 
 TEST_F(FailingDisk, ThatGoesAwayAtTheFirstSaveLeavesNoFileOrAnEmptyOne) {
     ExpectOutcomes(std::nullopt, {.lasting = true},
-                   {{"Exists", NoFile, kNotCreated},
-                    {"Create", NoFile, kNotCreated},
-                    {"Write", Nothing, kNotWritten},
-                    {"Flush", New, kNotWritten},
-                    {"Close", New, kNotWritten}});
+                   {{kExists, NoFile, kNotCreated},
+                    {kCreate, NoFile, kNotCreated},
+                    {kWrite, Nothing, kNotWritten},
+                    {kFlush, New, kNotWritten},
+                    {kClose, New, kNotWritten}});
 }
 
 TEST_F(FailingDisk, ThatIsFullHoldsThePartThatFitsAndTheStatusBarTellsWhy) {
