@@ -8,19 +8,7 @@
 
 namespace zy {
 
-Int16::Int16(std::int64_t value) : value_(static_cast<std::int16_t>(value)) {
-    if (value_ != value) {
-        RaiseOverflow();
-    }
-}
-
-Int16::Int16(std::size_t value) : value_(static_cast<std::int16_t>(value)) {
-    if (value > std::size_t{kMost}) {
-        RaiseOverflow();
-    }
-}
-
-Int16 Int16::FromText(std::string_view text) {
+std::int16_t ToInt16(std::string_view text) {
     text = Trim(text);
     std::int64_t value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
@@ -30,7 +18,7 @@ Int16 Int16::FromText(std::string_view text) {
     if (error != std::errc() || end != text.data() + text.size()) {
         RaiseTypeMismatch();
     }
-    return Int16(value);
+    return ToInt16(value);
 }
 
 } // namespace zy

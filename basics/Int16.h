@@ -1,35 +1,33 @@
 #pragma once
 
-#include <cstddef>
+#include <concepts>
 #include <cstdint>
+#include <limits>
 #include <string_view>
+#include <utility>
+
+#include "basics/RuntimeError.h"
 
 namespace zy {
 
-/// A 16-bit signed integer that refuses to overflow: any result outside -32768..32767 is run-time error 6.
-class Int16 {
-  public:
-    static constexpr int kMost = 32767;
+// Counters, positions and sizes of this program are 16-bit signed where its files and its window are
+// concerned. A value is held to that where it comes from outside or is counted up; everything else works with
+// plain numbers.
 
-    constexpr Int16() = default;
-    Int16(std::int64_t value);
-    Int16(std::size_t value);
-    Int16(int value) : Int16(static_cast<std::int64_t>(value)) {}
+/// The number of items that a list can hold.
+inline constexpr int kMaxItems = std::numeric_limits<std::int16_t>::max();
 
-    /// The number that a text such as "12" stands for. Run-time error 13 when it is not a whole number, 6
-    /// when it is outside the range.
-    static Int16 FromText(std::string_view text);
+/// The value as a 16-bit signed integer. Run-time error 6 when it is outside -32768..32767.
+template <std::integral Value>
+constexpr std::int16_t ToInt16(Value value) {
+    if (!std::in_range<std::int16_t>(value)) {
+        RaiseOverflow();
+    }
+    return static_cast<std::int16_t>(value);
+}
 
-    constexpr operator int() const { return value_; }
-
-    Int16& operator++() { return *this = Int16(value_ + 1); }
-    Int16& operator--() { return *this = Int16(value_ - 1); }
-
-  private:
-    std::int16_t value_ = 0;
-};
-
-/// The number of items that a list can hold: list counters are 16-bit signed.
-inline constexpr int kMaxItems = Int16::kMost;
+/// The number that a text such as "12" stands for, blanks around it aside. Run-time error 13 when it is not a
+/// whole number, 6 when it is outside the range.
+std::int16_t ToInt16(std::string_view text);
 
 } // namespace zy

@@ -22,8 +22,8 @@ std::string_view Field::Name() const {
     return records_->Table().Fields()[index_].name;
 }
 
-Int16 Fields::Count() const {
-    return records_.Table().Fields().size();
+int Fields::Count() const {
+    return static_cast<int>(records_.Table().Fields().size());
 }
 
 Recordset::Recordset(TableImage table) : table_(std::move(table)) {

@@ -5,7 +5,6 @@
 #include <optional>
 #include <string_view>
 
-#include "basics/Int16.h"
 #include "dbase/TableImage.h"
 
 namespace zy::dbase {
@@ -38,7 +37,7 @@ class Fields {
   public:
     explicit Fields(const Recordset& records) : records_(records) {}
 
-    Int16 Count() const;
+    int Count() const;
     /// The column at a position, counted from 0. Error 3265 outside 0..Count - 1.
     Field Item(int index) const;
 

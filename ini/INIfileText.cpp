@@ -100,7 +100,7 @@ class LineLayout {
 } // namespace
 
 INIfileText::INIfileText(const INIlines& lines, const INIformat& format, const CodePage& codePage) {
-    const int count = Int16(lines.Count());
+    const int count = ToInt16(lines.Count());
     const LineLayout layout(format, codePage);
     // Enough when all lines come from the file.
     MakeRoom(static_cast<std::size_t>(count) * layout.RoomFor(0) + lines.TextSize());

@@ -1,15 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
-
-#include "basics/Int16.h"
 
 namespace zy {
 
 /// The most characters of a line: positions in one are 16-bit.
-inline constexpr int kLongestLine = Int16::kMost;
+inline constexpr int kLongestLine = std::numeric_limits<std::int16_t>::max();
 
 /// The texts of a line, as they stand in the text of a loaded file: the group is the section itself or stands
 /// before it, the value stands behind it. None is longer than kLongestLine.

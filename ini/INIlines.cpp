@@ -10,7 +10,7 @@ INIline& INIlines::Add(std::string_view group, std::string_view section, std::st
     return lines_.emplace_back(group, section, value);
 }
 
-Int16 INIlines::Clear() {
+std::int16_t INIlines::Clear() {
     Keep({});
     return 0;
 }

@@ -4,7 +4,6 @@
 #include <deque>
 #include <string_view>
 
-#include "basics/Int16.h"
 #include "ini/FileText.h"
 #include "ini/INIline.h"
 
@@ -33,7 +32,7 @@ class INIlines {
     /// Appends a line and returns it.
     INIline& Add(std::string_view group, std::string_view section = {}, std::string_view value = {});
     /// Drops all lines. Always 0.
-    Int16 Clear();
+    std::int16_t Clear();
     INIline& Item(std::int32_t index) { return lines_[Checked(index)]; }
     const INIline& Item(std::int32_t index) const { return lines_[Checked(index)]; }
     [[noreturn]] INIline& Item(std::string_view key) const;

@@ -1,5 +1,6 @@
 #include "rules/RuleChecks.h"
 
+#include "basics/Int16.h"
 #include "basics/Number.h"
 #include "basics/Text.h"
 
@@ -37,7 +38,7 @@ RuleChecks::CodeCounts RuleChecks::CountCodes() const {
     return counts;
 }
 
-bool RuleChecks::IsTaken(const CodeCounts& counts, std::string_view code, Int16 index) const {
+bool RuleChecks::IsTaken(const CodeCounts& counts, std::string_view code, int index) const {
     const auto compared = ComparedCode(code);
     const auto found = counts.find(compared);
     const int all = found == counts.end() ? 0 : found->second;
@@ -46,7 +47,7 @@ bool RuleChecks::IsTaken(const CodeCounts& counts, std::string_view code, Int16 
     return all > own;
 }
 
-bool RuleChecks::CheckCode(std::string_view code, Int16 index) {
+bool RuleChecks::CheckCode(std::string_view code, int index) {
     return CheckCode(code, [&] { return IsTaken(CountCodes(), code, index); });
 }
 
@@ -128,7 +129,7 @@ bool RuleChecks::CheckDescription(std::string_view text) {
 int RuleChecks::FailingColumn(const GridCells& grid, int row, const CodeCounts& counts) {
     // Condition and zone are not checked: their cells are edited through fixed lists.
     const auto& code = grid.Text(row, kCodeColumn);
-    if (!CheckCode(code, [&] { return IsTaken(counts, code, row); })) {
+    if (!CheckCode(code, [&] { return IsTaken(counts, code, ToInt16(row)); })) {
         return kCodeColumn;
     }
     if (!Check_Min(grid.Text(row, kMinColumn))) {

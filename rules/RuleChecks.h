@@ -5,7 +5,6 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "basics/Int16.h"
 #include "controls/Grid.h"
 #include "controls/TextBox.h"
 #include "platform/CodePage.h"
@@ -24,7 +23,7 @@ class RuleChecks {
 
     /// True when the code is acceptable for the rule at `index`: 1 to 3 characters, no double quote, and no
     /// other rule has it, whatever the case and the blanks around.
-    bool CheckCode(std::string_view code, Int16 index);
+    bool CheckCode(std::string_view code, int index);
     /// True for a number from 1 to 100, fractions included.
     bool Check_Min(std::string_view text);
     bool Check_Max(std::string_view text);
@@ -47,7 +46,7 @@ class RuleChecks {
 
     CodeCounts CountCodes() const;
     std::string ComparedCode(std::string_view code) const;
-    bool IsTaken(const CodeCounts& counts, std::string_view code, Int16 index) const;
+    bool IsTaken(const CodeCounts& counts, std::string_view code, int index) const;
     bool CheckCode(std::string_view code, const std::function<bool()>& isTaken);
     bool CheckCount(std::string_view text, std::string_view name);
     double NumberOf(std::string_view text) const;

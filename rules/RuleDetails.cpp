@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "basics/Int16.h"
+
 namespace zy {
 
 RuleDetails::RuleDetails(mRules& rules, RuleDetailChecks& checks, RulesControls& controls,
@@ -38,7 +40,7 @@ void RuleDetails::EditRule(std::string_view index) {
     if (rules_.giCurRule != -1 && rules_.gbRulesChanged && StoreShownRule()) {
         state_.gbChanged = true;
     }
-    const auto rule = Int16::FromText(index);
+    const int rule = ToInt16(index);
     rules_.gbLoadingRule = true;
     rules_.giCurRule = rule;
     Fill(rules_.gaRules(rule));
@@ -90,7 +92,7 @@ void RuleDetails::ClearRule() {
     status_.ShowCount();
 }
 
-void RuleDetails::Save_Rules_Edit(Int16 index) {
+void RuleDetails::Save_Rules_Edit(int index) {
     RunRule& rule = rules_.gaRules(index);
     trace_.DebugTrace(kRulesModule, "Save_Rules_Edit", "Start item: " + rule.Code);
     rules_.gbNewRule = false;

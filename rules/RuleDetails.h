@@ -3,7 +3,6 @@
 #include <string>
 #include <string_view>
 
-#include "basics/Int16.h"
 #include "platform/CodePage.h"
 #include "rules/RuleDetailChecks.h"
 #include "rules/RulesControls.h"
@@ -28,7 +27,7 @@ class RuleDetails {
     void ClearRule();
     /// Copies the form into a rule, unchecked, and marks a change if it is one. Run-time error 9 when no rule
     /// has that index.
-    void Save_Rules_Edit(Int16 index);
+    void Save_Rules_Edit(int index);
     /// Checks the form and copies it into the rule that it shows. False when a check failed: nothing is
     /// stored then. True also when it shows none.
     bool StoreShownRule();

@@ -13,7 +13,7 @@ std::size_t RuleList::Checked(int index) const {
     return static_cast<std::size_t>(index);
 }
 
-void RuleList::Reset(Int16 count) {
+void RuleList::Reset(int count) {
     rules_.assign(1, nullptr);
     rules_.reserve(static_cast<std::size_t>(count) + 1);
 }

@@ -15,14 +15,14 @@ namespace zy {
 class RuleList {
   public:
     /// The index of the last rule; 0 when there is none.
-    Int16 UBound() const { return rules_.size() - 1; }
+    int UBound() const { return static_cast<int>(rules_.size()) - 1; }
     bool IsFull() const { return UBound() == kMaxItems; }
 
     RunRule& operator()(int index) { return *rules_[Checked(index)]; }
     const RunRule& operator()(int index) const { return *rules_[Checked(index)]; }
 
     /// Drops all references and makes room for `count` rules.
-    void Reset(Int16 count);
+    void Reset(int count);
     void Append(RunRule& rule);
     /// Takes a rule out; those behind it move down by one place.
     void Remove(int index);

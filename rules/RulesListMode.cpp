@@ -41,21 +41,21 @@ void RulesListMode::SelectAndEdit(int item) {
     details_.EditRule(std::to_string(item));
 }
 
-void RulesListMode::Move_Rule_Up(Int16 item) {
+void RulesListMode::Move_Rule_Up(int item) {
     trace_.DebugTrace(kRulesModule, "Move_Rule_Up", "Start");
     if (item != 1) {
         Swap(item, item - 1);
     }
 }
 
-void RulesListMode::Move_Rule_Down(Int16 item) {
+void RulesListMode::Move_Rule_Down(int item) {
     trace_.DebugTrace(kRulesModule, "Move_Rule_Down", "Start");
     if (item != rules_.gaRules.UBound()) {
         Swap(item, item + 1);
     }
 }
 
-void RulesListMode::Swap(Int16 item, int neighbour) {
+void RulesListMode::Swap(int item, int neighbour) {
     rules_.gaRules.Swap(neighbour, item);
     form_.ChangeFlag = true;
     state_.gbChanged = true;

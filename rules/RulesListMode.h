@@ -1,6 +1,5 @@
 #pragma once
 
-#include "basics/Int16.h"
 #include "controls/Key.h"
 #include "platform/Dialogs.h"
 #include "rules/RuleDetails.h"
@@ -25,8 +24,8 @@ class RulesListMode {
     void LoadRulesListMode();
     /// Swap a rule with its neighbour and show it there; the first does not move up, nor the last down.
     /// Run-time error 9 when there is no such rule.
-    void Move_Rule_Up(Int16 item);
-    void Move_Rule_Down(Int16 item);
+    void Move_Rule_Up(int item);
+    void Move_Rule_Down(int item);
 
     /// Adds a rule and opens it; a list that is as long as it can be stays as it is.
     void cmdAddList_Click();
@@ -41,7 +40,7 @@ class RulesListMode {
   private:
     void Connect();
     void SelectAndEdit(int item);
-    void Swap(Int16 item, int neighbour);
+    void Swap(int item, int neighbour);
     void DeleteSelected();
 
     mRules& rules_;

@@ -6,7 +6,7 @@
 
 namespace zy {
 
-RunRule& SettingsLibrary::RuleCollection::Item(Int16 index) const {
+RunRule& SettingsLibrary::RuleCollection::Item(int index) const {
     if (index < 1 || static_cast<std::size_t>(index) > rules_.size()) {
         RaiseSubscriptOutOfRange();
     }

@@ -22,9 +22,9 @@ class SettingsLibrary {
         explicit RuleCollection(std::deque<RunRule>& rules) : rules_(rules) {}
 
         /// Run-time error 6 when the file holds more than 32,767 rules.
-        Int16 Count() const { return rules_.size(); }
+        int Count() const { return ToInt16(rules_.size()); }
         /// Run-time error 9 for an index outside 1..Count.
-        RunRule& Item(Int16 index) const;
+        RunRule& Item(int index) const;
 
       private:
         std::deque<RunRule>& rules_;

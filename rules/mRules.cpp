@@ -38,7 +38,7 @@ void mRules::Build_Rules_Array() {
     goSettings_ = std::make_unique<SettingsLibrary>(files_, system_);
     trace_.DebugTrace(kRulesModule, "Build_Rules_Array", "Start");
     const auto collection = goSettings_->Rules();
-    const Int16 count = collection.Count();
+    const int count = collection.Count();
     gaRules.Reset(count);
     for (int i = 1; i <= count; ++i) {
         RunRule& rule = collection.Item(i);
@@ -71,7 +71,7 @@ void mRules::Add_New_Rule() {
     gbNewRule = true;
 }
 
-void mRules::Delete_Rule(Int16 index) {
+void mRules::Delete_Rule(int index) {
     trace_.DebugTrace(kRulesModule, "Delete_Rule", "Start item: " + std::to_string(index));
     gaRules.Remove(index);
 }

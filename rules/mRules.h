@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "basics/Bool16.h"
-#include "basics/Int16.h"
 #include "controls/Event.h"
 #include "platform/FileSystem.h"
 #include "platform/SystemInfo.h"
@@ -41,10 +40,10 @@ class mRules {
     /// Appends a rule with the values of a new one. Run-time error 6 when the list is full.
     void Add_New_Rule();
     /// Takes a rule out of the list; those behind it move up. Run-time error 9 when there is no such rule.
-    void Delete_Rule(Int16 index);
+    void Delete_Rule(int index);
 
     RuleList gaRules;
-    Int16 giCurRule = -1;  ///< the rule in the detail form, -1 for none
+    int giCurRule = -1;    ///< the rule in the detail form, -1 for none
     Bool16 gbNewRule;      ///< a rule was added and not stored from the detail form yet
     Bool16 gbRulesChanged; ///< cleared by writing and never set, which keeps a step of EditRule dormant
     Bool16 gbLoadingRule;  ///< the program fills the detail form: its change events are no user edits

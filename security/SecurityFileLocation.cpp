@@ -28,7 +28,7 @@ std::string SecurityFileLocation(FileSystem& files, SystemInfo& system, const Co
     INIfile settings(files, codePage, trace);
     settings.LoadFile(systemDir + std::string(kSecurityLocationFile));
     auto& lines = *settings.INIlines();
-    const Int16 count = lines.Count();
+    const int count = ToInt16(lines.Count());
     for (int i = 1; i <= count; ++i) {
         const auto& line = lines.Item(i);
         if (codePage.UCase(Trim(line.Section())) == "ZYSECURE.SECURITYFILE") {

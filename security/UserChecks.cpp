@@ -16,7 +16,7 @@ UserChecks::UserChecks(GridCells& grid, Dialogs& dialogs, const CodePage& codePa
 
 std::optional<Cell> UserChecks::FirstFailure() {
     const auto sameNames = RowsOfSameName();
-    const Int16 last = grid_.Rows() - 1;
+    const int last = ToInt16(grid_.Rows() - 1);
     for (int row = 1; row <= last; ++row) {
         if (const auto failure = CheckRow(row, sameNames[static_cast<std::size_t>(row)])) {
             return failure;

@@ -86,7 +86,7 @@ LoadedUsers UsersReader::Read() {
 }
 
 void UsersReader::ReadUsers(dbase::Recordset& records, LoadedUsers& loaded) {
-    for (Int16 i = 0; !records.Eof(); i = i + 1) {
+    for (int i = 0; !records.Eof(); i = ToInt16(i + 1)) {
         loaded.users.resize(static_cast<std::size_t>(i) + 1);
         auto& user = loaded.users.back();
         user = UserIn(records.Fields());

@@ -136,7 +136,7 @@ std::string DescribeMisreading(const GridCells& grid, int row) {
 }
 
 UnitsFileText::UnitsFileText(const GridCells& grid) {
-    const Int16 last = grid.Rows() - 1;
+    const int last = ToInt16(grid.Rows() - 1);
     for (int row = 1; row <= last; ++row) {
         const auto cells = grid.RowTexts(row);
         size_ += cells[kUnitDescription].size() + cells[kUnit].size() + kSeparators;

@@ -119,7 +119,7 @@ std::string mUnits::FileName() const {
 
 bool mUnits::ValidateUnits() {
     Start("ValidateUnits");
-    const Int16 last = grdUnits_.cells.Rows() - 1;
+    const int last = ToInt16(grdUnits_.cells.Rows() - 1);
     for (int row = 1; row <= last; ++row) {
         if (!Validate_Unit(grdUnits_.cells.Text(row, kUnit)) ||
             !Validate_Desc(grdUnits_.cells.Text(row, kUnitDescription))) {

@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <string>
 #include <system_error>
 
@@ -15,21 +16,21 @@ namespace zy {
 namespace {
 
 /// The number at the front of a text; 0 when it does not begin with one.
-Int16 LeadingNumber(std::string_view text) {
+std::int16_t LeadingNumber(std::string_view text) {
     text = LTrim(text);
     std::int64_t number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error == std::errc::result_out_of_range) {
         RaiseOverflow();
     }
-    return Int16(number);
+    return ToInt16(number);
 }
 
 /// A missing value, and one that cannot be read, is 0.
-Int16 ReadNumber(const RegistryKey& key, std::string_view name) {
+std::int16_t ReadNumber(const RegistryKey& key, std::string_view name) {
     constexpr std::size_t kBuffer = 260;
     const auto text = key.QueryText(name, kBuffer);
-    return text ? LeadingNumber(StripAtNull(*text)) : Int16();
+    return text ? LeadingNumber(StripAtNull(*text)) : std::int16_t{0};
 }
 
 /// Halves go to the even number, here as on the way back.
@@ -37,8 +38,8 @@ std::int32_t ToPixels(int twips, double twipsPerPixel) {
     return static_cast<std::int32_t>(std::lrint(twips / twipsPerPixel));
 }
 
-Int16 ToTwips(std::int32_t pixels, double twipsPerPixel) {
-    return Int16(static_cast<std::int64_t>(std::llrint(pixels * twipsPerPixel)));
+std::int16_t ToTwips(std::int32_t pixels, double twipsPerPixel) {
+    return ToInt16(std::llrint(pixels * twipsPerPixel));
 }
 
 } // namespace

@@ -1,7 +1,8 @@
 #pragma once
 
+#include <cstdint>
+
 #include "basics/Bool16.h"
-#include "basics/Int16.h"
 #include "controls/Form.h"
 #include "controls/StatusBar.h"
 #include "shell/MainMenu.h"
@@ -18,8 +19,8 @@ class SettingsForm : public Form {
     Bool16 ChangeFlag;
     /// The minimum size that the registry holds, in twips. Read and kept, but the window is bounded by fixed
     /// numbers.
-    Int16 MinWidth;
-    Int16 MinHeight;
+    std::int16_t MinWidth = 0;
+    std::int16_t MinHeight = 0;
 
     Frame fraRules;
     Frame fraSecurity;
