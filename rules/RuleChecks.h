@@ -27,10 +27,10 @@ class RuleChecks {
     /// True for a number from 1 to 100, fractions included.
     bool Check_Min(std::string_view text);
     bool Check_Max(std::string_view text);
-    /// The same without a word.
+    /// What both find of a text; shows and traces nothing.
     bool IsCount(std::string_view text) const;
-    /// True unless min is greater than max. Equal counts pass although the message says "less than", which is
-    /// meant.
+    /// True unless min is greater than max. Equal counts pass although the message says "less than": rules
+    /// such as "one point above the limit" have them. A text that is no number counts as 0.
     bool Verify_MinMax(std::string_view minText, std::string_view maxText);
     /// True for a text that is not empty and holds no double quote; blanks alone pass.
     bool CheckDescription(std::string_view text);
@@ -38,6 +38,7 @@ class RuleChecks {
     /// and opened for editing. Codes are compared with the rules as held, not with the other rows.
     bool Validate_RulesGRid(Grid& grid);
 
+    /// Shows a message box with an OK button, and comes back when it was closed.
     void ShowRuleError(std::string_view message, std::string_view title);
 
   private:

@@ -45,6 +45,13 @@ inline constexpr std::size_t kRuleFrontSize = kRuleIndent.size() + kRuleKeyWidth
 
 /// A key line, without its line end: the key in a field of 13 characters behind three blanks, then "= " and
 /// the value as it is. A longer key is not cut.
-std::string FormatRuleLine(std::string_view key, std::string_view value);
+inline std::string FormatRuleLine(std::string_view key, std::string_view value) {
+    std::string line(kRuleIndent);
+    line += key;
+    line.append(key.size() < kRuleKeyWidth ? kRuleKeyWidth - key.size() : 0, ' ');
+    line += kRuleEquals;
+    line += value;
+    return line;
+}
 
 } // namespace zy

@@ -38,10 +38,6 @@ void RulesGridMode::Connect() {
     grid_.block.pasted.Connect([this](const PasteReport& paste) { ShowPaste(paste); });
 }
 
-void RulesGridMode::Trace(std::string_view module, std::string_view procedure) {
-    trace_.DebugTrace(module, procedure, "Start");
-}
-
 void RulesGridMode::Fill() {
     grid_.editor.Cancel();
     grid_.cells.SetRedraw(false);
@@ -72,7 +68,7 @@ void RulesGridMode::AddRows() {
 }
 
 void RulesGridMode::AddtoGrid() {
-    Trace(kRulesModule, "AddtoGrid");
+    trace_.DebugTrace(kRulesModule, "AddtoGrid", "Start");
     const RunRule& newest = rules_.gaRules(rules_.gaRules.UBound());
     grid_.cells.AddItem(
         GridRow([&newest](const RuleField& field) { return std::string_view(newest.*field.property); }));
@@ -85,7 +81,7 @@ void RulesGridMode::SelectRow(int row) {
 }
 
 void RulesGridMode::Save_RulesGrid() {
-    Trace(kRulesModule, "Save_RulesGrid");
+    trace_.DebugTrace(kRulesModule, "Save_RulesGrid", "Start");
     bool changed = false;
     for (int row = 1; row < grid_.cells.Rows(); ++row) {
         changed = StoreRow(row) || changed;
@@ -123,7 +119,7 @@ bool RulesGridMode::StoreIfChanged() {
 }
 
 void RulesGridMode::mnuAddRule_Click() {
-    Trace(kMainForm, "mnuAddRule_Click");
+    trace_.DebugTrace(kMainForm, "mnuAddRule_Click", "Start");
     if (rules_.gaRules.IsFull()) {
         status_.ShowCountAnd(kListFull);
         return;
@@ -134,7 +130,7 @@ void RulesGridMode::mnuAddRule_Click() {
 }
 
 void RulesGridMode::mnuDeleteRule_Click() {
-    Trace(kMainForm, "mnuDeleteRule_Click");
+    trace_.DebugTrace(kMainForm, "mnuDeleteRule_Click", "Start");
     const int row = grid_.selection.Row();
     if (row < 1) {
         return;
@@ -164,7 +160,7 @@ void RulesGridMode::ShowPaste(const PasteReport& paste) {
 }
 
 void RulesGridMode::grdRules_MouseDown(MouseButton button) {
-    Trace(kMainForm, "grdRules_MouseDown");
+    trace_.DebugTrace(kMainForm, "grdRules_MouseDown", "Start");
     if (button != MouseButton::Right) {
         return;
     }
@@ -177,7 +173,7 @@ void RulesGridMode::grdRules_MouseDown(MouseButton button) {
 }
 
 void RulesGridMode::grdRules_AfterEdit() {
-    Trace(kMainForm, "grdRules_AfterEdit");
+    trace_.DebugTrace(kMainForm, "grdRules_AfterEdit", "Start");
     grid_.columns.Fit(0);
 }
 

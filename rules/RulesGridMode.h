@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string_view>
-
 #include "rules/RuleChecks.h"
 #include "rules/RulesControls.h"
 #include "rules/RulesStatus.h"
@@ -41,7 +39,6 @@ class RulesGridMode {
 
   private:
     void Connect();
-    void Trace(std::string_view module, std::string_view procedure);
     void AddRows();
     void SelectRow(int row);
     bool StoreRow(int row);

@@ -10,8 +10,8 @@
 namespace zy {
 namespace {
 
-/// The three pieces joined by single blanks. Empty pieces leave their blanks at the end, which is meant: that
-/// text is what the editor shows and what the next save writes.
+/// The three pieces joined by single blanks. Empty pieces leave their blanks at the end: files that were
+/// saved before hold them, and a save that dropped them would change every rule's line.
 std::string JoinedDescription(const RunRule& rule) {
     const auto first = Trim(rule.Description);
     const auto second = Trim(rule.Desc2);
@@ -150,7 +150,7 @@ void mRules::ReplaceFile() {
         lastSaveFailed_ = false;
         reported.Raise(std::string(kListSaved));
     } else {
-        // That the old file is still there is told by why it did not go.
+        // Where the old file is still there, the reason is why it could not be deleted.
         const bool stayed = renamed == FileError::Exists && deleted != FileError::None;
         ReportNotReplaced(temporary, text, stayed ? deleted : renamed);
     }

@@ -30,10 +30,10 @@ class mRules {
 
     /// Writes the rule list to the rules file, by way of "Rules.tmp" in the same folder.
     ///
-    /// Whatever fails is told by `reported` alone. Until the new text stands whole on the disk the old file
-    /// is not touched; when only the last step fails, the rules stand in "Rules.tmp".
+    /// No box shows what failed, `reported` alone says so. Until the new text stands whole on the disk the
+    /// old file is not touched; when only the last step fails, the rules stand in "Rules.tmp".
     ///
-    /// False when the save is refused before its first step, which `reported` tells: somebody else is saving
+    /// False when the save is refused before its first step, and `reported` says why: somebody else is saving
     /// in the folder, or it is not certain which file one of the two is.
     bool Write_Rules_File();
 
@@ -47,7 +47,8 @@ class mRules {
     Bool16 gbNewRule;      ///< a rule was added and not stored from the detail form yet
     Bool16 gbRulesChanged; ///< cleared by writing and never set, which keeps a step of EditRule dormant
     Bool16 gbLoadingRule;  ///< the program fills the detail form: its change events are no user edits
-    Bool16 gbGridChanged;  ///< a cell of the rules grid was changed; never cleared, which is meant
+    Bool16 gbGridChanged; ///< a cell of the rules grid was changed; never cleared, so that every later switch
+                          ///< stores
 
     /// Lines of the rules file that are no part of a rule; the next save will not write them back.
     std::size_t SkippedLines() const { return skippedLines_; }
@@ -61,7 +62,7 @@ class mRules {
     /// Whether the last save ran and failed. The marks are gone then, so that closing asks nothing.
     bool LastSaveFailed() const { return lastSaveFailed_; }
 
-    /// Short texts for the status bar: how a save ended.
+    /// How a save ended, as a short text for the status bar.
     Event<const std::string&> reported;
 
   private:

@@ -6,7 +6,7 @@ namespace {
 constexpr auto kFolder = R"(C:\SYS)";
 constexpr auto kDenied = "ZYRules.sys cannot be written now: access is denied; put that right before editing";
 
-/// What keeps a save from going well is told before anything is edited, and after it failed until one goes
+/// What keeps a save from going well is said before anything is edited, and after it failed until one goes
 /// well.
 class Obstacles : public RulesForm {
   protected:

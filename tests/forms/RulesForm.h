@@ -6,7 +6,7 @@
 
 namespace zy::test {
 
-/// The rules page of a running program, driven as a person does it.
+/// The rules page of a running program, driven as a user does it.
 ///
 /// Rules that a test gives by their codes alone are "1|2|>|UCL|text"; loading leaves two blanks behind the
 /// description.

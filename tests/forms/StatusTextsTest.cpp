@@ -3,7 +3,7 @@
 namespace zy::test {
 namespace {
 
-/// What the status bar tells in the course of the work.
+/// What the status bar says in the course of the work.
 class StatusTexts : public RulesForm {};
 
 TEST_F(StatusTexts, TellTheNumberOfRules) {

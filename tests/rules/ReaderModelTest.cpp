@@ -39,7 +39,7 @@ constexpr std::array kLines{
     MeantLine{" \t", MeantLine::Blank},
 };
 
-/// What the lines mean, told line by line in the plainest way.
+/// What the lines mean, said line by line in the plainest way.
 class Model {
   public:
     void Take(const MeantLine& line) {

@@ -9,7 +9,7 @@ using ::testing::IsEmpty;
 constexpr auto kStandInTmp = "The rules stand in Rules.tmp, ZYRules.sys could not be replaced: ";
 constexpr auto kNotCreated = "Not saved, Rules.tmp could not be created: ";
 
-/// Saves that the system refuses, each for a reason of its own. No box tells of it, the report does.
+/// Saves that the system refuses, each for a reason of its own. No box says so, the report does.
 class RefusedSave : public RulesTest {
   protected:
     RefusedSave() {
