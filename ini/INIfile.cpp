@@ -121,39 +121,41 @@ void INIfile::LoadFile(std::string_view Filename) {
     }
 }
 
-void INIfile::AddLines(const FileText& text) {
-    const auto lastEnd = text.View().rfind(kLineEnd);
-    if (lastEnd == std::string_view::npos) {
-        return;
-    }
-    INIplaces places{.group = text.View().substr(0, 0), .section = {}, .value = {}};
-    const char* const behindLast = text.Begin() + lastEnd + kLineEnd.size();
-    for (char* line = text.Begin(); line != behindLast;) {
-        line = ParseLine(line, places.section, places.value) + kLineEnd.size();
-        if (!places.section.empty()) {
-            places.group = places.section.front() == '[' ? places.section : places.group;
-            lines_->Add(places);
-        }
-    }
-}
-
-char* INIfile::ParseLine(char* line, std::string_view& key, std::string_view& value) const {
+inline char* INIfile::ParseLine(char* line, INIplaces& places, const CodePage& codePage) {
     char* const first = SkipBlanks(line);
     const bool isHeader = *first == '[';
-    char* end = ScanKey(first, isHeader, codePage_);
-    key = value = std::string_view(first, first);
+    char* end = ScanKey(first, isHeader, codePage);
+    places.section = places.value = std::string_view(first, first);
     if (*end == '=') {
-        key = TrimmedBehind(first, end);
-        char* const valueBegin = SkipBlanks(end + 1);
-        end = ScanValue(valueBegin);
-        value = TrimmedBehind(valueBegin, end);
+        places.section = TrimmedBehind(first, end);
+        char* const value = SkipBlanks(end + 1);
+        end = ScanValue(value);
+        places.value = TrimmedBehind(value, end);
     } else if (isHeader) {
-        key = TrimmedBehind(first, end);
+        places.section = places.group = TrimmedBehind(first, end);
     }
     if (end - line > kLongestLine) {
         RaiseOverflow();
     }
     return end;
+}
+
+void INIfile::AddLines(const FileText& text) {
+    const auto lastEnd = text.View().rfind(kLineEnd);
+    if (lastEnd == std::string_view::npos) {
+        return;
+    }
+    // What is written into the text could otherwise be the members themselves, which costs a look each time.
+    auto& lines = *lines_;
+    const auto& codePage = codePage_;
+    INIplaces places{.group = text.View().substr(0, 0), .section = {}, .value = {}};
+    const char* const behindLast = text.Begin() + lastEnd + kLineEnd.size();
+    for (char* line = text.Begin(); line != behindLast;) {
+        line = ParseLine(line, places, codePage) + kLineEnd.size();
+        if (!places.section.empty()) {
+            lines.Add(places);
+        }
+    }
 }
 
 void INIfile::SaveFile(std::string_view Filename) {

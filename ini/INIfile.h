@@ -61,9 +61,9 @@ class INIfile {
     bool FileExists(std::string_view path) const;
     /// Adds the lines of a file's text that are to be taken; they refer to the text.
     void AddLines(const FileText& text);
-    /// Takes a line apart, in its place, and returns its end, which must stand ahead. The key comes out empty
-    /// when the line is not to be taken.
-    char* ParseLine(char* line, std::string_view& key, std::string_view& value) const;
+    /// Takes a line apart, in its place, and returns its end, which must stand ahead. The section comes out
+    /// empty when the line is not to be taken; the group stays as it is unless the line is a header.
+    static char* ParseLine(char* line, INIplaces& places, const CodePage& codePage);
 
     FileSystem& files_;
     const CodePage& codePage_;
