@@ -3,7 +3,7 @@
 #include "basics/Text.h"
 #include "rules/RulesFileText.h"
 #include "rules/RulesFormat.h"
-#include "rules/UnfinishedSave.h"
+#include "rules/TemporaryRules.h"
 #include "shell/StatusTexts.h"
 #include "shell/mZYGlobal.h"
 

@@ -1,4 +1,4 @@
-#include "rules/UnfinishedSave.h"
+#include "rules/TemporaryRules.h"
 
 #include <deque>
 
