@@ -1,5 +1,10 @@
 #pragma once
 
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <vector>
+
 #include "RulesTest.h"
 #include "rules/RulesReader.h"
 
@@ -19,10 +24,8 @@ class ReaderTest : public RulesTest {
         const auto report = ReadRules(file, read);
         skipped = report.skippedLines;
         complete = report.complete;
-        std::vector<std::string> lines;
-        for (const auto& rule : read) {
-            lines.push_back(Shown(rule));
-        }
+        std::vector<std::string> lines(read.size());
+        std::ranges::transform(read, lines.begin(), Shown);
         return lines;
     }
 
