@@ -53,15 +53,17 @@ bool HasFlag(std::string_view record) {
 TableContent ContentOf(std::string_view file, const TableHeader& header) {
     const auto whole = WholeRecords(file, header);
     TableContent content;
-    for (std::size_t i = 0; i != std::min<std::size_t>(header.records, whole); ++i) {
+    const auto present = std::min<std::size_t>(header.records, whole);
+    for (std::size_t i = 0; i != present; ++i) {
         const auto record = RecordOf(file, header, i);
-        if (!HasFlag(record)) {
+        if (record.front() == kLive) {
+            ++content.live;
+        } else if (record.front() != kDeleted) {
             content.damage = "its record " + std::to_string(i + 1) + " begins with " +
                              std::to_string(ByteAt(record, 0)) +
                              ", which is neither a blank (32) nor the mark of a deleted one (42)";
             return content;
         }
-        content.live += record.front() == kLive ? 1U : 0U;
     }
     if (header.records > whole) {
         content.damage = "byte 4 says that it has " + std::to_string(header.records) +

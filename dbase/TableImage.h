@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bit>
 #include <chrono>
 #include <cstdint>
 #include <cstring>
@@ -14,12 +15,21 @@
 
 namespace zy::dbase {
 
+/// How many of eight characters are blanks behind the last one that is none. Columns end in many.
+inline std::size_t BlanksAtEnd(const char* eight) {
+    constexpr std::uint64_t kBlanks = 0x2020202020202020;
+    std::uint64_t characters = 0;
+    std::memcpy(&characters, eight, sizeof(characters));
+    constexpr bool lastIsHighest = std::endian::native == std::endian::little;
+    const auto others = characters ^ kBlanks;
+    return static_cast<std::size_t>(lastIsHighest ? std::countl_zero(others) : std::countr_zero(others)) / 8;
+}
+
 /// A text without the blanks and NULs at its end.
 inline std::string_view WithoutFiller(std::string_view text) {
-    constexpr std::string_view kEightBlanks = "        ";
     auto size = text.size();
-    while (size >= 8 && std::memcmp(text.data() + size - 8, kEightBlanks.data(), 8) == 0) {
-        size -= 8;
+    for (std::size_t blanks = 8; blanks == 8 && size >= 8; size -= blanks) {
+        blanks = BlanksAtEnd(text.data() + size - 8);
     }
     while (size != 0 && (text[size - 1] == ' ' || text[size - 1] == '\0')) {
         --size;

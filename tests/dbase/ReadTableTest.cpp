@@ -35,6 +35,28 @@ TEST_F(ReadTable, GivesTheNamesOfItsColumns) {
     EXPECT_EQ(records->Fields().Item(1).Name(), "CITY");
 }
 
+TEST_F(ReadTable, LeavesOutTheBlanksAndNULsAtTheEndOfAValueOfAnyLength) {
+    for (const auto& filler : {" "s, "\0"s, " \0"s, "\0 "s, "         \0"s, "\0         "s}) {
+        for (std::size_t width = 1; width <= 40; ++width) {
+            for (std::size_t length = 0; length <= width; ++length) {
+                std::string value(length, 'x');
+                if (length >= 3) {
+                    value[length / 2] = filler.front(); // what stands inside belongs to the value
+                }
+                std::string filled = value;
+                while (filled.size() < width) {
+                    filled += filler;
+                }
+                filled.resize(width);
+                const auto rows = Read(TableBytes({{"NAME", static_cast<unsigned>(width)}, {"NEXT", 1}})
+                                           .Add(' ', {filled, "|"})
+                                           .Bytes());
+                EXPECT_EQ(rows, (Rows{{value, "|"}})) << width << ", " << length;
+            }
+        }
+    }
+}
+
 TEST_F(ReadTable, IsEmptyWithoutRecords) {
     EXPECT_THAT(Read(TableBytes({{"NAME", 6}}).Bytes()), IsEmpty());
 }
