@@ -2,25 +2,44 @@
 
 #include <wx/clipbrd.h>
 #include <wx/dataobj.h>
+#include <wx/log.h>
 
 #include <algorithm>
+#include <functional>
 #include <optional>
 #include <string>
 
 #include "controls/CopiedCells.h"
 #include "desktop/Refusals.h"
 #include "desktop/ShownText.h"
+#include "shell/StatusTexts.h"
 
 namespace zy {
 namespace {
 
-std::optional<wxString> TextOnClipboard() {
+/// What is done with the clipboard, while it is open for that. False when another program has it open.
+bool UseClipboard(const ViewContext& context, const std::function<bool()>& use) {
+    const wxLogNull saidBelow;
     const wxClipboardLocker open;
-    wxTextDataObject text;
-    if (!open || !wxTheClipboard->GetData(text)) {
-        return std::nullopt;
+    const bool used = !!open && use();
+    if (!used) {
+        context.showRefusal(kClipboardInUse);
     }
-    return text.GetText();
+    return used;
+}
+
+/// The text on it; nothing when it holds none.
+std::optional<wxString> TextOnClipboard(const ViewContext& context) {
+    std::optional<wxString> found;
+    UseClipboard(context, [&] {
+        wxTextDataObject text;
+        const bool isText = wxTheClipboard->IsSupported(wxDF_UNICODETEXT);
+        if (isText && wxTheClipboard->GetData(text)) {
+            found = text.GetText();
+        }
+        return found || !isText;
+    });
+    return found;
 }
 
 /// The cell that the first pasted one goes into.
@@ -46,15 +65,14 @@ void TellWhereLacking(const ViewContext& context, const Grid& model, const wxStr
 
 } // namespace
 
-void CopyCells(const ViewContext& context, const std::string& cells) {
-    const wxClipboardLocker open;
-    if (!cells.empty() && !!open) {
-        wxTheClipboard->SetData(new wxTextDataObject(ToShown(context.codePage, cells)));
-    }
+bool CopyCells(const ViewContext& context, const std::string& cells) {
+    return cells.empty() || UseClipboard(context, [&] {
+               return wxTheClipboard->SetData(new wxTextDataObject(ToShown(context.codePage, cells)));
+           });
 }
 
 void PasteCells(const ViewContext& context, Grid& model) {
-    const auto shown = TextOnClipboard();
+    const auto shown = TextOnClipboard(context);
     if (!shown) {
         return;
     }

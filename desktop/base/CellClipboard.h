@@ -9,11 +9,12 @@ namespace zy {
 
 // The cells of a grid or list as text on the clipboard, the way spreadsheets put them there.
 
-/// Copies what is selected; nothing when that is empty.
-void CopyCells(const ViewContext& context, const std::string& cells);
+/// Copies what is selected; nothing when that is empty. False when another program keeps the clipboard open,
+/// as programs do for a moment, and the status bar says so.
+bool CopyCells(const ViewContext& context, const std::string& cells);
 
 /// Pastes the clipboard's text from the current cell on. A text with a character that the code page lacks is
-/// refused as a whole, and the status bar says so.
+/// refused as a whole, and the status bar says so; so it does when the clipboard cannot be had.
 void PasteCells(const ViewContext& context, Grid& model);
 
 } // namespace zy

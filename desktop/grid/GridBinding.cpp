@@ -156,13 +156,12 @@ void GridBinding::HandOn(wxKeyEvent& event) {
 
 bool GridBinding::UseClipboard(const wxKeyEvent& event) {
     const auto key = ClipboardKeyOf(event);
-    if (key == ClipboardKey::Copy || key == ClipboardKey::Cut) {
-        CopyCells(Context(), model_.block.Copy());
-    }
+    const bool copies = key == ClipboardKey::Copy || key == ClipboardKey::Cut;
+    const bool copied = copies && CopyCells(Context(), model_.block.Copy());
     if (key == ClipboardKey::SelectAll) {
         Gate().Act([this] { model_.SelectAll(); });
     }
-    if (key == ClipboardKey::Cut) {
+    if (key == ClipboardKey::Cut && copied) {
         Gate().Act([this] { model_.Press({Key::Delete}); });
     }
     if (key == ClipboardKey::Paste) {
