@@ -1,5 +1,3 @@
-#include <chrono>
-
 #include "GridModeForm.h"
 
 namespace zy::test {
@@ -144,7 +142,7 @@ TEST_F(GridMode, TracesNothingWhenItIsShown) {
     EXPECT_THAT(Traces(), IsEmpty());
 }
 
-TEST_F(GridMode, IsFilledAtOnceWithAFullListOfRules) {
+TEST_F(GridMode, IsFilledInOneGoWithAFullListOfRules) {
     std::string text;
     for (int i = 0; i < kMaxItems; ++i) {
         text += Section(RuleOf(std::to_string(i)));
@@ -152,16 +150,12 @@ TEST_F(GridMode, IsFilledAtOnceWithAFullListOfRules) {
     StartOver(text);
     int shown = 0;
     grid().cells.rowsChanged.Connect([&] { ++shown; });
-    const auto start = std::chrono::steady_clock::now();
     handlers().ShowGridMode();
-    const auto taken = std::chrono::steady_clock::now() - start;
     EXPECT_EQ(shown, 1);
     ASSERT_EQ(grid().cells.Rows(), kMaxItems + 1);
     EXPECT_EQ(grid().cells.Text(1, kCodeColumn), "0");
     EXPECT_EQ(grid().cells.Text(kMaxItems, kCodeColumn), "32766");
     EXPECT_EQ(grid().cells.Text(kMaxItems, kDescriptionColumn), "text  ");
-    // A tenth of that is plenty; time that grows with the square of the rules would be far beyond.
-    EXPECT_LT(taken, std::chrono::seconds(1));
 }
 
 } // namespace
