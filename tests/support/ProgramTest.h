@@ -13,9 +13,6 @@
 
 namespace zy::test {
 
-inline constexpr auto kWishToSave = "Do you Wish to Save your Changes?";
-inline constexpr auto kSaveChanges = "Save Changes?";
-
 /// A whole program in a memory world, with a trace viewer that runs from the start.
 class ProgramTest : public WorldTest {
   protected:
@@ -36,11 +33,6 @@ class ProgramTest : public WorldTest {
     frmGlobalSettings& window() { return program().window; }
     SettingsForm& form() { return program().form; }
     SharedState& state() { return program().state; }
-
-    /// What the closing question will be answered; it ignores Escape, for No loses the changes.
-    void ExpectWishToSave(Answer answer) {
-        world.dialogs.ExpectYesNo(kWishToSave, kSaveChanges, answer, Escape::IsIgnored);
-    }
 
     /// The two marks of unsaved changes.
     void ExpectMarks(bool changeFlag, bool changed) {

@@ -32,6 +32,12 @@ class WorldTest : public ::testing::Test {
         return lines;
     }
 
+    /// What the question before changes are lost will be answered. It ignores Escape, for No loses them.
+    void ExpectWishToSave(Answer answer) {
+        world.dialogs.ExpectYesNo("Do you Wish to Save your Changes?", "Save Changes?", answer,
+                                  Escape::IsIgnored);
+    }
+
     MemoryWorld world;
 };
 

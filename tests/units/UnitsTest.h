@@ -76,10 +76,6 @@ class UnitsTest : public WorldTest {
         grid.Press({Key::Enter});
     }
     void ExpectInvalid(std::string_view message) { world.dialogs.ExpectMessage(message, "Invalid Unit"); }
-    void ExpectWishToSave(Answer answer) {
-        world.dialogs.ExpectYesNo("Do you Wish to Save your Changes?", "Save Changes?", answer,
-                                  Escape::IsIgnored);
-    }
 
     /// There are changes to be saved, or none.
     void ExpectChanged(bool changed) {
