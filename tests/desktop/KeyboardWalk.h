@@ -1,0 +1,100 @@
+#pragma once
+
+#include <wx/window.h>
+
+#include <functional>
+#include <map>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "HelpBook.h"
+#include "NativeLook.h"
+#include "ScreenPicture.h"
+#include "WindowThread.h"
+#include "controls/Control.h"
+#include "desktop/HelpFrame.h"
+
+namespace zy::test {
+
+/// An editor's window that is used without a mouse, by somebody who has to see where the keyboard is.
+template <typename EditorWindow>
+class KeyboardWalk : public EditorWindow {
+  protected:
+    using Stops = std::vector<const Control*>;
+
+    /// Help can be opened in it.
+    KeyboardWalk() { this->world.files.Put(R"(C:\PRODUCT\zysetup.hlp)", HelpBook()); }
+
+    /// Goes by Tab from `first`, which `leave` leaves, to the other stops and round to it again: each is
+    /// reached, and looks different while it has the keyboard.
+    void ExpectFocusSeen(const Control& first, const std::function<void()>& leave, const Stops& others) {
+        std::map<const Control*, Points> atRest;
+        for (const auto* stop : others) {
+            atRest[stop] = PointsOf(*stop);
+        }
+        this->WaitForFocus(first);
+        leave();
+        for (const auto* stop : others) {
+            this->WaitForFocus(*stop);
+            ExpectUnlike(*stop, atRest[stop]);
+            this->Press(WXK_TAB);
+        }
+        this->WaitForFocus(first);
+        leave();
+        this->WaitForFocus(*others.front());
+        atRest[&first] = PointsOf(first);
+        this->Press(WXK_TAB, wxMOD_SHIFT);
+        this->WaitForFocus(first);
+        ExpectUnlike(first, atRest[&first]);
+    }
+
+    /// Leaves a grid from whatever cell.
+    void LeaveGrid() { this->Press(WXK_TAB, wxMOD_CONTROL); }
+
+    /// Opens the help and goes back.
+    void ReadHelp() {
+        this->Press(WXK_F1);
+        WaitUntil("the help is open", [] { return Help() != nullptr && Help()->IsActive(); });
+        std::this_thread::sleep_for(UntilNewWindowKeepsKeyboard());
+        this->Press(WXK_ESCAPE);
+        WaitUntil("the help is closed", [] { return Help() == nullptr; });
+        this->WaitForWindow();
+    }
+    /// Opens About and goes back.
+    void ReadAbout() {
+        this->Press('H', wxMOD_ALT);
+        this->WaitForMenu();
+        this->Press('A');
+        this->WaitForDialog("frmAbout");
+        this->Press(WXK_ESCAPE);
+        this->WaitForNoDialog("frmAbout");
+    }
+
+  private:
+    using Points = std::vector<unsigned char>;
+
+    static HelpFrame* Help() {
+        for (auto* window : wxTopLevelWindows) {
+            if (auto* frame = dynamic_cast<HelpFrame*>(window); frame != nullptr && frame->IsShown()) {
+                return frame;
+            }
+        }
+        return nullptr;
+    }
+    void ExpectUnlike(const Control& control, const Points& atRest) {
+        WaitUntil(control.Name() + " looks as if it had the keyboard",
+                  [&] { return PicturedPoints(control) != atRest; });
+    }
+    Points PointsOf(const Control& control) {
+        return InWindow([&] { return PicturedPoints(control); });
+    }
+    Points PicturedPoints(const Control& control) {
+        const auto& window = this->Real(control);
+        const wxRect place(window.GetScreenPosition(), window.GetSize());
+        const auto image = PictureOnScreen(place);
+        return {image.GetData(), image.GetData() + 3U * static_cast<std::size_t>(place.width * place.height)};
+    }
+};
+
+} // namespace zy::test
