@@ -33,7 +33,7 @@ GridBinding::GridBinding(const ViewContext& context, const Inside& inside, Grid&
     : ControlBinding(context, inside, model), model_(model), border_(MakeBorder(Parent())),
       table_(new GridTable(context, model.cells)), grid_(new GridWidget(border_, table_)),
       widths_(context, model.cells, model.columns, *grid_), cursor_(context, model, *grid_),
-      editor_(context, model, *grid_) {
+      editor_(context, model, *grid_), access_(context, model, *grid_, editor_) {
     border_->GetSizer()->Add(grid_, wxSizerFlags(1).Expand().Border(wxALL, grid_->FromDIP(1)));
     grid_->FitRows(editor_.NeededHeight());
     ObserveModel();
@@ -216,7 +216,8 @@ void GridBinding::Rescale() {
 }
 
 void GridBinding::ShowChanges() {
-    if (std::exchange(rowsChanged_, false)) {
+    const bool hasOtherRows = std::exchange(rowsChanged_, false);
+    if (hasOtherRows) {
         cursor_.MatchRows(*table_);
         cellsChanged_ = true;
     }
@@ -227,19 +228,7 @@ void GridBinding::ShowChanges() {
     widths_.ShowFit();
     cursor_.Show();
     editor_.Show();
-    PresentCurrent();
-}
-
-void GridBinding::PresentCurrent() {
-    wxString text = Shown(model_.Parent()->Caption());
-    if (const auto [row, column] = model_.selection.Current(); row >= 1 && row < model_.cells.Rows()) {
-        text = grid_->GetColLabelValue(column) + " " + grid_->GetCellValue(row - 1, column) +
-               wxString::Format(", row %d of %d", row, model_.cells.Rows() - 1);
-    }
-    if (presented_ != text) {
-        presented_ = text;
-        PresentCell(*grid_->GetGridWindow(), text, grid_->GetGridWindow()->HasFocus());
-    }
+    access_.Tell(hasOtherRows);
 }
 
 } // namespace zy

@@ -2,6 +2,7 @@
 
 #include "controls/Grid.h"
 #include "desktop/ControlBinding.h"
+#include "desktop/GridAccess.h"
 #include "desktop/GridColumnWidths.h"
 #include "desktop/GridCursor.h"
 #include "desktop/GridEditor.h"
@@ -39,7 +40,6 @@ class GridBinding : public ControlBinding {
     void TypeKey(wxKeyEvent& event);
 
     void ShowChanges();
-    void PresentCurrent();
 
     Grid& model_;
     wxWindow* border_;
@@ -48,9 +48,9 @@ class GridBinding : public ControlBinding {
     GridColumnWidths widths_;
     GridCursor cursor_;
     GridEditor editor_;
+    GridAccess access_;
     bool rowsChanged_ = false;
     bool cellsChanged_ = false;
-    wxString presented_; ///< what assistive technology got last
 };
 
 } // namespace zy

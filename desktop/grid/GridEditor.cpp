@@ -171,6 +171,12 @@ void GridEditor::TakeFocus() {
     }
 }
 
+void GridEditor::DropList() {
+    if (text_->IsShown() && button_.HasList()) {
+        button_.Press();
+    }
+}
+
 void GridEditor::PressKey(wxKeyEvent& event) {
     RememberSelection();
     if (IsAccessKey(event)) {

@@ -22,6 +22,8 @@ class GridEditor {
     void Show();
     /// Gives the text the focus.
     void TakeFocus();
+    /// Drops the list of the open cell down; nothing where it has none.
+    void DropList();
     /// The height that its line of text needs.
     int NeededHeight() const { return text_->GetBestSize().y; }
 

@@ -89,6 +89,42 @@ wxRect GridWidget::PlaceOf(const Cell& cell) const {
     return place;
 }
 
+wxRect GridWidget::ScreenPlaceOf(const Cell& cell) const {
+    if (!HasCell(cell)) {
+        return {};
+    }
+    wxRect place = PlaceOf(cell);
+    if (cell.row == 0) {
+        place = {CalcScrolledPosition(wxPoint(GetColLeft(cell.column), 0)).x, 0, GetColWidth(cell.column),
+                 GetColLabelSize()};
+    }
+    place.SetPosition(WindowOf(cell)->ClientToScreen(place.GetPosition()));
+    return place;
+}
+
+Cell GridWidget::CellAt(const wxPoint& onScreen) const {
+    if (GetGridColLabelWindow()->GetScreenRect().Contains(onScreen)) {
+        const int column =
+            XToCol(CalcUnscrolledPosition(GetGridColLabelWindow()->ScreenToClient(onScreen)).x);
+        return {.row = column == wxNOT_FOUND ? -1 : 0, .column = std::max(column, 0)};
+    }
+    const auto cell = XYToCell(CalcUnscrolledPosition(GetGridWindow()->ScreenToClient(onScreen)));
+    const bool isInside = GetGridWindow()->GetScreenRect().Contains(onScreen) && cell != wxGridNoCellCoords;
+    return isInside ? Cell{.row = cell.GetRow() + 1, .column = cell.GetCol()} : Cell();
+}
+
+bool GridWidget::HasCell(const Cell& cell) const {
+    return cell.row >= 0 && cell.row <= GetNumberRows() && cell.column >= 0 && cell.column < GetNumberCols();
+}
+
+wxWindow* GridWidget::WindowOf(const Cell& cell) const {
+    return cell.row == 0 ? GetGridColLabelWindow() : GetGridWindow();
+}
+
+bool GridWidget::IsSeen(const Cell& cell) const {
+    return HasCell(cell) && WindowOf(cell)->GetScreenRect().Intersects(ScreenPlaceOf(cell));
+}
+
 void GridWidget::RefreshRow(int row) {
     if (row >= 0 && row < GetNumberRows()) {
         GetGridWindow()->RefreshRect(BlockToDeviceRect({row, 0}, {row, GetNumberCols() - 1}));

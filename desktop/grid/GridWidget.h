@@ -20,6 +20,13 @@ class GridWidget : public wxGrid {
     /// Where a cell of the model is drawn, in the window of the cells; the model's row 1 is the toolkit's row
     /// 0.
     wxRect PlaceOf(const Cell& cell) const;
+    /// Where a cell or a header is drawn, on the screen; nowhere for one that the grid does not have.
+    wxRect ScreenPlaceOf(const Cell& cell) const;
+    /// What lies at a place on the screen: a cell, or a header in row 0. Its row is -1 where there is none.
+    Cell CellAt(const wxPoint& onScreen) const;
+    bool HasCell(const Cell& cell) const;
+    /// Whether some of a cell or of a header is in sight.
+    bool IsSeen(const Cell& cell) const;
     /// Scrolls a cell of the model into view.
     void Reveal(const Cell& cell) { MakeCellVisible(cell.row - 1, cell.column); }
     /// Draws anew the row that is or was current.
@@ -37,6 +44,8 @@ class GridWidget : public wxGrid {
     void DrawColLabel(wxDC& dc, int column) override;
     /// The text if it is wider than what is seen of its column.
     wxString IfCut(const wxString& text, const wxFont& font, int column) const;
+
+    wxWindow* WindowOf(const Cell& cell) const;
 
     bool hasCurrent_ = false;
 };

@@ -3,9 +3,6 @@
 #include <wx/settings.h>
 #include <wx/textctrl.h>
 
-#include <oleacc.h>
-
-#include "desktop/AccessibleMsw.h"
 #include "desktop/GridNative.h"
 #include "desktop/Panels.h"
 
@@ -43,14 +40,6 @@ void ShowOverCells(wxWindow& control, const wxRect& place) {
 
 void HideOverCells(wxWindow& control) {
     control.Hide();
-}
-
-void PresentCell(wxWindow& gridWindow, const wxString& text, bool announce) {
-    AnnotateRole(gridWindow, ROLE_SYSTEM_CELL);
-    AnnotateName(gridWindow, text);
-    if (announce) {
-        AnnounceName(gridWindow);
-    }
 }
 
 } // namespace zy
