@@ -118,6 +118,7 @@ RulesControls::RulesControls(Frame& fraRules, ListView::Source rules)
       fraGridMode(&fraRules, "fraGridMode", "Grid Mode"), grdRules(&fraGridMode, "grdRules", kRuleColumns) {
     cmdUpDown.SetCaption("Move rule");
     cmdHelpRules.SetCausesValidation(false); // a field that is wrong is what help is needed for
+    grdRules.SetCaption("Rules");
     grdRules.columns.SetList(kCondColumn, CellList(GridConditions()));
     grdRules.columns.SetList(kZoneColumn, CellList(GridZones()));
 }

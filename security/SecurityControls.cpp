@@ -8,6 +8,7 @@ SecurityControls::SecurityControls(Frame& fraSecurity)
       cmdDeleteUser(&fraSecurity, "cmdDeleteUser", "Delete", 'D'),
       cmdSaveUsers(&fraSecurity, "cmdSaveUsers", "Save", 'S'),
       cmdHelpSecurity(&fraSecurity, "cmdHelpSecurity", "Help", 'p') {
+    grdSecurity.SetCaption("Users");
     grdSecurity.columns.SetList(kStatus, CellList("A|I"));
     grdSecurity.cells.SetText(0, kUserName, "User Name");
     grdSecurity.cells.SetText(0, kPassword, "Password");

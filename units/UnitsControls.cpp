@@ -10,6 +10,7 @@ UnitsControls::UnitsControls(Frame& fraUnits)
       cmdDeleteUnit(&fraUnitFunction, "cmdDeleteUnit", "Delete", 'D'),
       cmdSaveUnits(&fraUnitFunction, "cmdSaveUnits", "Save", 'S'),
       cmdHelpUnits(&fraUnitFunction, "cmdHelpUnits", "Help", 'p') {
+    grdUnits.SetCaption("Units");
     grdUnits.block.SetGrowsByPaste(true);
     cmdDeleteUnit.SetEnabled(false);
 }

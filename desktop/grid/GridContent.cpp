@@ -18,7 +18,7 @@ bool GridContent::Has(const Cell& cell) const {
 }
 
 wxString GridContent::Name() const {
-    return ToShown(context_.codePage, model_.Parent()->Caption());
+    return ToShown(context_.codePage, model_.Caption());
 }
 
 wxString GridContent::Text(const Cell& cell) const {
@@ -33,7 +33,8 @@ wxString GridContent::Description(const Cell& cell) const {
     if (!Has(cell) || cell.row == 0) {
         return {};
     }
-    std::string text = DescribeChoices(cell);
+    std::string text = model_.cells.Text(cell.row, cell.column).empty() ? "empty" : "";
+    Join(text, "; ", DescribeChoices(cell));
     Join(text, "; ", cell == Current() ? DescribeBlock() : std::string());
     return ToShown(context_.codePage, text);
 }

@@ -104,10 +104,15 @@ void GridEditor::Show() {
 void GridEditor::Open() {
     grid_.Reveal(model_.selection.Current());
     Place();
-    SetAccessibleName(*text_, grid_.GetColLabelValue(model_.selection.Column()));
+    SetAccessibleName(*text_, NameOfCell());
     if (model_.HasFocus()) {
         text_->SetFocus();
     }
+}
+
+wxString GridEditor::NameOfCell() const {
+    const auto [row, column] = model_.selection.Current();
+    return grid_.GetColLabelValue(column) + wxString::Format(", row %d of %d", row, model_.cells.Rows() - 1);
 }
 
 void GridEditor::Close() {

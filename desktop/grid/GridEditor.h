@@ -33,6 +33,8 @@ class GridEditor {
     /// Whether the mouse is over neither the open cell nor what scrolls the grid below it.
     bool IsMouseBeside() const;
     void Open();
+    /// What assistive technology calls the editor.
+    wxString NameOfCell() const;
     void Close();
     void Place();
     /// A cell's place, made as wide as the editor needs it for its whole text, over its neighbours and as far

@@ -1,58 +1,90 @@
-#include "desktop/AccessibleTable.h"
-
-#include <glib-object.h>
 #include <wx/window.h>
 
-#include "desktop/GtkFunctions.h"
-#include "desktop/Native.h"
+#include <utility>
 
-extern "C" {
-int atk_role_for_name(const char* name);
-void atk_object_set_role(_AtkObject* accessible, int role);
-}
+#include "desktop/AccessibleTable.h"
+#include "desktop/CellObject.h"
+#include "desktop/TableObject.h"
 
 namespace zy {
 namespace {
 
-/// The toolkit paints its grid, so that its cells are nothing to a screen reader: the window that has the
-/// keyboard stands for the current one, and bears its text as its name.
-class CurrentCellAsWindow : public AccessibleTable {
+class TableTold : public AccessibleTable {
   public:
-    CurrentCellAsWindow(wxWindow& cells, const TableContent& content) : cells_(cells), content_(content) {
-        atk_object_set_role(gtk_widget_get_accessible(cells.GetHandle()), atk_role_for_name("table cell"));
-        TellCurrent();
+    TableTold(wxWindow& cells, TableContent& content)
+        : content_(content), table_(MakeTableObject(cells.GetHandle(), content)),
+          // Behind what the window system itself tells of the focus, so that the cell has the last word.
+          focus_(
+              g_signal_connect_swapped(table_.get(), "state-change::focused", G_CALLBACK(TellFocus), this)) {}
+    ~TableTold() override {
+        g_signal_handler_disconnect(table_.get(), focus_);
+        DropContent(table_.get());
     }
+    TableTold(const TableTold&) = delete;
+    TableTold& operator=(const TableTold&) = delete;
 
-    void TellCurrent() override { TellText(); }
-    void TellText() override {
-        const wxString name = NameOfCurrent();
-        SetAccessibleName(cells_, name);
-        auto* accessible = gtk_widget_get_accessible(cells_.GetHandle());
-        // Known since version 2.46 of the library.
-        constexpr const char* kAnnouncement = "announcement";
-        if (cells_.HasFocus() && g_signal_lookup(kAnnouncement, G_OBJECT_TYPE(accessible)) != 0) {
-            g_signal_emit_by_name(accessible, kAnnouncement, static_cast<const char*>(name.utf8_str()));
-        }
-    }
-    void TellSelected() override {}
-    void TellRows(int /*before*/) override { TellText(); }
+    void TellCurrent() override;
+    void TellText() override;
+    void TellSelected() override;
+    void TellRows(int before) override;
 
   private:
-    wxString NameOfCurrent() const {
-        const Cell cell = content_.Current();
-        return cell.row < 1 ? content_.Name()
-                            : content_.Text({0, cell.column}) + " " + content_.Text(cell) +
-                                  wxString::Format(", row %d of %d", cell.row, content_.Rows() - 1);
-    }
+    static void TellFocus(TableTold* table) { table->TellCurrent(); }
+    /// Says that a property of the current cell's object is another one.
+    void TellChanged(const char* property);
 
-    wxWindow& cells_;
-    const TableContent& content_;
+    TableContent& content_;
+    HeldObject table_;
+    gulong focus_;
+    /// Held as long as it is the current one, so that it can be asked.
+    HeldObject current_;
 };
+
+void TableTold::TellCurrent() {
+    const HeldObject before = std::move(current_);
+    const Cell cell = content_.Current();
+    if (cell.row < 1) {
+        return;
+    }
+    current_ = MakeCellObject(table_.get(), cell);
+    g_signal_emit_by_name(table_.get(), "active-descendant-changed", current_.get());
+    if (HasKeyboard(table_.get())) {
+        atk_object_notify_state_change(current_.get(), ATK_STATE_FOCUSED, 1);
+    }
+}
+
+void TableTold::TellChanged(const char* property) {
+    if (current_ != nullptr) {
+        g_object_notify(reinterpret_cast<GObject*>(current_.get()), property);
+    }
+}
+
+void TableTold::TellText() {
+    TellChanged("accessible-name");
+    // Orca takes no notice of a new name in a table, but says that a cell has become empty.
+    TellChanged("accessible-description");
+}
+
+void TableTold::TellSelected() {
+    g_signal_emit_by_name(table_.get(), "selection-changed");
+    TellChanged("accessible-description");
+}
+
+void TableTold::TellRows(int before) {
+    const int now = content_.Rows();
+    constexpr int kHeader = 1;
+    if (now > before) {
+        g_signal_emit_by_name(table_.get(), "row-inserted", before - kHeader, now - before);
+    } else if (now < before) {
+        g_signal_emit_by_name(table_.get(), "row-deleted", now - kHeader, before - now);
+    }
+    g_signal_emit_by_name(table_.get(), "model-changed");
+}
 
 } // namespace
 
 std::unique_ptr<AccessibleTable> MakeAccessibleTable(wxWindow& cells, TableContent& content) {
-    return std::make_unique<CurrentCellAsWindow>(cells, content);
+    return std::make_unique<TableTold>(cells, content);
 }
 
 } // namespace zy

@@ -1,15 +1,16 @@
 #pragma once
 
+#include <atk/atk.h>
 #include <wx/defs.h>
 
 // The calls of GTK that the program makes itself. The toolkit's development package brings GTK's libraries
 // but not its headers, so these few are declared here, as GTK 3 has fixed them for good.
 
-struct _AtkObject;
 struct _GdkAtom;
 struct _GdkDisplay;
 struct _GdkKeymap;
 struct _GdkScreen;
+struct _GtkAccessible;
 struct _GtkComboBox;
 struct _GtkContainer;
 struct _GtkEntry;
@@ -22,6 +23,7 @@ struct _GtkTooltip;
 struct _GtkTreePath;
 struct _GtkTreeView;
 struct _GtkTreeViewColumn;
+struct _GtkWidgetClass;
 struct _GtkWindow;
 
 extern "C" {
@@ -36,7 +38,6 @@ struct GtkSizeNeeded {
     int width, height;
 };
 
-void atk_object_set_name(_AtkObject* accessible, const char* name);
 _GdkAtom* gdk_atom_intern(const char* name, int onlyIfItExists);
 _GdkDisplay* gdk_display_get_default();
 int gdk_keymap_get_entries_for_keycode(_GdkKeymap* keymap, guint keyCode, void** keys, guint** symbols,
@@ -46,6 +47,9 @@ guint gdk_keyval_to_lower(guint symbol);
 _GdkScreen* gdk_screen_get_default();
 double gdk_screen_get_resolution(_GdkScreen* screen);
 int gdk_x11_screen_supports_net_wm_hint(_GdkScreen* screen, _GdkAtom* property);
+GtkWidget* gtk_accessible_get_widget(_GtkAccessible* accessible);
+GType gtk_container_accessible_get_type();
+GType gtk_entry_get_type();
 void gtk_entry_set_invisible_char(_GtkEntry* entry, unsigned character);
 void gtk_combo_box_popdown(_GtkComboBox* comboBox);
 void gtk_container_add(_GtkContainer* container, GtkWidget* widget);
@@ -68,13 +72,15 @@ void gtk_tree_view_column_set_clickable(_GtkTreeViewColumn* column, int clickabl
 GtkWidget* gtk_tree_view_new();
 void gtk_tree_view_set_cursor(_GtkTreeView* view, _GtkTreePath* path, _GtkTreeViewColumn* focusColumn,
                               int edit);
-_AtkObject* gtk_widget_get_accessible(GtkWidget* widget);
+void gtk_widget_class_set_accessible_type(_GtkWidgetClass* type, GType accessible);
+AtkObject* gtk_widget_get_accessible(GtkWidget* widget);
 void gtk_widget_get_allocation(GtkWidget* widget, GtkRectangle* allocation);
 int gtk_widget_get_mapped(GtkWidget* widget);
 void gtk_widget_get_preferred_size(GtkWidget* widget, GtkSizeNeeded* least, GtkSizeNeeded* natural);
 _GtkStyleContext* gtk_widget_get_style_context(GtkWidget* widget);
 GtkWidget* gtk_widget_get_parent(GtkWidget* widget);
 GtkWidget* gtk_widget_get_toplevel(GtkWidget* widget);
+int gtk_widget_has_focus(GtkWidget* widget);
 int gtk_widget_is_ancestor(GtkWidget* widget, GtkWidget* ancestor);
 void gtk_widget_realize(GtkWidget* widget);
 void gtk_widget_size_allocate(GtkWidget* widget, GtkRectangle* allocation);

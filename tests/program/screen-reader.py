@@ -14,6 +14,7 @@ import time
 import unittest
 
 import pyatspi
+from gi.repository import GLib
 
 PATIENCE = 20  # seconds
 
@@ -125,24 +126,138 @@ class RulesTest(ScreenReader):
 
 
 class GridTest(ScreenReader):
-    """The grid is one item that stands for its current cell: a reader gets no table of the others."""
+    """The grid is a table whose cells are items of their own."""
 
-    def test_the_current_cell_of_the_units_grid_is_told(self):
-        self.put("ZYUNITS.SYS", "Kilograms,kg\r\nMetres,m\r\n")
+    def open_units(self, lines):
+        self.put("ZYUNITS.SYS", "".join(f"{line}\r\n" for line in lines))
         window = self.start("@UNITS", "ZY Setup - Units of Measure")
-        self.press("Down")  # no cell is current before
-        self.wait_for_focus(window, "table cell", "Unit kg, row 1 of 2")
-        self.press("Down", "Right")
-        self.wait_for_focus(window, "table cell", "Unit Description Metres, row 2 of 2")
-        self.press("F2")
-        self.wait_for_focus(window, "text", "Unit Description")
+        return window, self.find(window, "table", "Units")
 
-    def test_the_current_cell_of_the_users_grid_is_told(self):
+    def wait_for_state(self, item, state, is_set=True):
+        def look():
+            item.clear_cache()
+            return item.getState().contains(state) == is_set
+
+        self.wait_for(look, f"the state {state} of {item}")
+
+    def wait_for_cell(self, window, row, column, text):
+        """Waits until the current cell, which has the keyboard, is this one."""
+        table = self.find(window, "table", "Units").queryTable()
+
+        def look():
+            cell = table.getAccessibleAt(row, column)
+            return cell.name == text and cell.getState().contains(pyatspi.STATE_FOCUSED)
+
+        self.wait_for(look, f"the focus on {text}")
+
+    def test_its_cells_are_read_by_row_and_column(self):
+        _, grid = self.open_units(["Kilograms,kg", "Metres,m"])
+        table = grid.queryTable()
+        self.assertEqual((table.nRows, table.nColumns, grid.childCount), (2, 2, 6))
+        texts = [[table.getAccessibleAt(row, column).name for column in range(2)] for row in range(2)]
+        self.assertEqual(texts, [["kg", "Kilograms"], ["m", "Metres"]])
+        self.assertEqual([table.getColumnDescription(column) for column in range(2)], ["Unit", "Unit Description"])
+        self.assertEqual(table.getColumnHeader(1).getRoleName(), "column header")
+        self.assertTrue(grid.getState().contains(pyatspi.STATE_MANAGES_DESCENDANTS))
+
+    def test_a_cell_knows_its_place_in_the_table_and_on_the_screen(self):
+        _, grid = self.open_units(["Kilograms,kg", "Metres,m"])
+        cell = grid.queryTable().getAccessibleAt(1, 1)
+        self.assertEqual((cell.getRoleName(), cell.parent, cell.getIndexInParent()), ("table cell", grid, 5))
+        self.assertEqual(grid.getChildAtIndex(5).name, "Metres")
+        place = cell.queryTableCell()
+        self.assertEqual(tuple(place.position)[-2:], (1, 1))
+        self.assertEqual([header.name for header in place.columnHeaderCells], ["Unit Description"])
+        self.assertEqual(place.table, grid)
+        box = cell.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        around = grid.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        self.assertGreater(box.width * box.height, 0)
+        self.assertTrue(around.x < box.x and box.y + box.height <= around.y + around.height)
+        middle = (box.x + box.width // 2, box.y + box.height // 2, pyatspi.DESKTOP_COORDS)
+        self.assertEqual(grid.queryComponent().getAccessibleAtPoint(*middle).name, "Metres")
+        inside = cell.queryComponent().getExtents(pyatspi.WINDOW_COORDS)
+        frame = grid.queryComponent().getExtents(pyatspi.WINDOW_COORDS)
+        self.assertEqual((inside.x - frame.x, inside.y - frame.y), (box.x - around.x, box.y - around.y))
+
+    def test_the_focus_is_on_the_current_cell_and_then_on_its_editor(self):
+        window, grid = self.open_units(["Kilograms,kg", "Metres,m"])
+        self.press("Down")  # no cell is current before
+        self.wait_for_cell(window, 0, 0, "kg")
+        self.press("Down", "Right")
+        self.wait_for_cell(window, 1, 1, "Metres")
+        self.press("F2")
+        self.wait_for_focus(window, "text", "Unit Description, row 2 of 2")
+        self.wait_for_state(grid.queryTable().getAccessibleAt(1, 1), pyatspi.STATE_FOCUSED, False)
+
+    def test_a_block_is_told_at_its_first_cell(self):
+        window, grid = self.open_units(["Kilograms,kg", "Metres,m", "Seconds,s"])
+        self.press("Down", "shift+Down", "shift+Down")
+        cell = grid.queryTable().getAccessibleAt(0, 0)
+
+        def look():
+            cell.clear_cache()
+            return cell.description == "3 rows selected"
+
+        self.wait_for(look, "the block")
+        self.assertEqual(grid.querySelection().nSelectedChildren, 3)
+        self.assertEqual(grid.querySelection().getSelectedChild(2).name, "s")
+
+    def test_an_action_opens_a_cell_and_the_focus_can_be_put_on_one(self):
+        window, grid = self.open_units(["Kilograms,kg", "Metres,m"])
+        table = grid.queryTable()
+        table.getAccessibleAt(1, 0).queryComponent().grabFocus()
+        self.wait_for_cell(window, 1, 0, "m")
+        action = table.getAccessibleAt(0, 1).queryAction()
+        self.assertEqual((action.nActions, action.getName(0)), (1, "edit"))
+        action.doAction(0)
+        self.wait_for_focus(window, "text", "Unit Description, row 1 of 2")
+
+    def test_rows_that_come_and_go_are_read_and_a_cell_without_a_row_is_defunct(self):
+        window, grid = self.open_units(["Kilograms,kg", "Metres,m"])
+        last = grid.queryTable().getAccessibleAt(1, 1)
+        self.press("Down", "alt+d")
+        self.find(window.parent, "push button", "Yes")
+        self.press("alt+y")
+
+        def rows():
+            grid.clear_cache()
+            return grid.queryTable().nRows
+
+        self.wait_for(lambda: rows() == 1, "one row less")
+        self.wait_for_state(last, pyatspi.STATE_DEFUNCT)
+        self.press("alt+a")
+        self.wait_for(lambda: rows() == 2, "one row more")
+
+    def test_a_cell_that_is_a_list_tells_its_choices_and_its_action_drops_them_down(self):
         window = self.start("@SECURITY", "ZY Setup - Security")
-        self.wait_for_focus(window, "table cell", "User Name NewUser, row 1 of 1")
-        self.press("Right", "Right")
-        self.wait_for_focus(window, "table cell", "Status A, row 1 of 1")
-        self.assertEqual(self.names_of(window, "push button"), ["Add", "Delete", "Save", "Help"])
+        cell = self.find(window, "table", "Users").queryTable().getAccessibleAt(0, 2)
+        self.assertEqual((cell.name, cell.description), ("A", "list of A, I"))
+        cell.queryAction().doAction(0)
+
+        def choices():
+            application = window.parent
+            application.clear_cache()
+            return [each.name for each in pyatspi.findAllDescendants(
+                application, lambda each: each.getRoleName() == "menu item" and each.name in ("A", "I"))]
+
+        self.wait_for(lambda: choices() == ["A", "I"], "the list")
+
+    def test_the_cells_of_a_long_table_are_lent_and_not_kept(self):
+        _, grid = self.open_units([f"Unit number {number},u{number}" for number in range(1, 32767)])
+        table = grid.queryTable()
+        cell = table.getAccessibleAt(32765, 1)
+        self.assertEqual(cell.name, "Unit number 32766")
+        for row in range(0, 2000):
+            self.assertEqual(table.getAccessibleAt(row, 0).name, f"u{row + 1}")
+
+        def is_gone():
+            cell.clear_cache()
+            try:
+                return not cell.name
+            except GLib.Error as error:
+                return "does not exist" in str(error)
+
+        self.wait_for(is_gone, "the end of the lease")
 
 
 if __name__ == "__main__":
