@@ -34,6 +34,10 @@ void LearnBorders();
 /// The name by which a screen reader calls a control that shows no text of its own.
 void SetAccessibleName(wxWindow& window, const wxString& name);
 
+/// Has assistive technology learn that a line of text has got the focus before it learns where the caret
+/// stands in it, for all lines of text of the program. The other way round it says the text without the name.
+void TellFocusFirst();
+
 /// Gives a window that is not shown yet its size, down to its last control.
 void LayOutUnseen(wxWindow& window);
 

@@ -8,6 +8,8 @@
 #include <array>
 #include <iostream>
 
+#include "desktop/Native.h"
+
 namespace zy {
 namespace {
 
@@ -54,6 +56,7 @@ Toolkit::Toolkit() {
     delete wxLog::SetActiveTarget(new wxLogStderr);
     wxTheApp->SetExitOnFrameDelete(false);
     wxTheApp->CallOnInit();
+    TellFocusFirst();
 }
 
 Toolkit::~Toolkit() {

@@ -102,6 +102,25 @@ void MoveInOrder(_GtkEntry* entry, int step, int count, gboolean select, gpointe
     }
 }
 
+gboolean LetCaretGo(gpointer entry) {
+    g_object_thaw_notify(static_cast<GObject*>(entry));
+    return G_SOURCE_REMOVE;
+}
+
+/// GTK tells of the focus once when it comes and again when there is nothing else to do, and in between it
+/// selects the text. A screen reader takes the last word, by which time it has gone to the caret.
+gboolean HoldCaretBack(GSignalInvocationHint* /*signal*/, guint /*count*/, const GValue* values,
+                       gpointer /*unused*/) {
+    constexpr int kBehindGtk = G_PRIORITY_LOW;
+    gpointer widget = g_value_get_object(values);
+    if (g_type_is_a(G_OBJECT_TYPE(widget), gtk_entry_get_type()) != 0) {
+        g_object_freeze_notify(static_cast<GObject*>(widget));
+        g_idle_add_full(kBehindGtk, LetCaretGo, g_object_ref(widget), g_object_unref);
+    }
+    constexpr gboolean kGoesOn = 1;
+    return kGoesOn;
+}
+
 /// Otherwise the toolkit would show a window at once.
 bool CanAskForBorders() {
     return wxGetDisplayInfo().type == wxDisplayX11 &&
@@ -144,6 +163,11 @@ void LearnBorders() {
     probe->Hide();
     WaitOn(nullptr, kWindowManagersTime, [&] { return probe->m_decorSize.top != 0; });
     delete probe;
+}
+
+void TellFocusFirst() {
+    const guint signal = g_signal_lookup("focus-in-event", gtk_entry_get_type());
+    g_signal_add_emission_hook(signal, 0, HoldCaretBack, nullptr, nullptr);
 }
 
 void SetAccessibleName(wxWindow& window, const wxString& name) {

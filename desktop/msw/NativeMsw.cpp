@@ -143,6 +143,10 @@ void LearnBorders() {
     // The system knows them before there is a window.
 }
 
+void TellFocusFirst() {
+    // It does so by itself.
+}
+
 void SetAccessibleName(wxWindow& window, const wxString& name) {
     if (auto* list = dynamic_cast<wxDataViewCtrl*>(&window)) {
         list->SetAccessible(new NamedList(*list, name));
