@@ -3,6 +3,7 @@
 class wxPanel;
 class wxScrolledWindow;
 class wxStaticBox;
+class wxStaticText;
 class wxString;
 class wxWindow;
 
@@ -19,5 +20,7 @@ void KeepScrollBarsInSight(wxScrolledWindow& window);
 /// A panel in another one, and a box with a caption.
 wxPanel* MakeInnerPanel(wxWindow& parent);
 wxStaticBox* MakeInnerBox(wxWindow& parent, const wxString& caption);
+/// A text that stands for itself. To a screen reader it names no control.
+wxStaticText* MakePlainText(wxWindow& parent, const wxString& text);
 
 } // namespace zy

@@ -6,15 +6,19 @@
 #include <wx/stattext.h>
 
 #include <algorithm>
+#include <string>
 
+#include "desktop/Native.h"
+#include "desktop/Panels.h"
 #include "desktop/Pictures.h"
 #include "desktop/ShownText.h"
+#include "shell/Application.h"
 
 namespace zy {
 namespace {
 
 wxStaticText* MakeText(wxWindow* parent, const wxString& text, TextLabel::Style style) {
-    auto* label = new wxStaticText(parent, wxID_ANY, text);
+    auto* label = MakePlainText(*parent, text);
     if (style == TextLabel::Style::Heading) {
         constexpr float kLarger = 1.6F;
         label->SetFont(label->GetFont().Bold().Scale(kLarger));
@@ -59,6 +63,7 @@ PictureBinding::PictureBinding(const ViewContext& context, const Inside& inside,
         }
     });
     Attach(picture);
+    SetAccessibleName(*picture, std::string(kApplicationTitle) + " icon");
 }
 
 } // namespace zy

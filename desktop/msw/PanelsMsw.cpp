@@ -1,6 +1,7 @@
 #include <wx/msw/wrapwin.h>
 #include <wx/panel.h>
 #include <wx/statbox.h>
+#include <wx/stattext.h>
 
 #include <bit>
 #include <utility>
@@ -75,6 +76,11 @@ wxPanel* MakeInnerPanel(wxWindow& parent) {
 
 wxStaticBox* MakeInnerBox(wxWindow& parent, const wxString& caption) {
     return new Inner<wxStaticBox>(&parent, wxID_ANY, caption);
+}
+
+wxStaticText* MakePlainText(wxWindow& parent, const wxString& text) {
+    // The system has a text name what stands behind it only where that has no text of its own.
+    return new wxStaticText(&parent, wxID_ANY, text);
 }
 
 } // namespace zy
