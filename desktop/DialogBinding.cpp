@@ -42,7 +42,7 @@ DialogBinding::DialogBinding(const CodePage& codePage, EventGate& gate, Form& fo
                .showRefusal = [this](std::string_view reason) { RingForRefusal(reason); },
                .scale = Scale(DotsPerInch(dialog_)),
                .menuPlace = menuPlace_},
-      inside_{.window = MakeOuterPanel(dialog_), .origin = {}},
+      inside_{.window = MakeOuterPanel(dialog_), .origin = {}}, notice_(*inside_.window),
       children_(BindChildren(context_, inside_, form)), focus_(context_, form, dialog_),
       appearanceChanged_(form.appearanceChanged.Observe([this] {
           if (!form_.Visible()) {
@@ -51,6 +51,7 @@ DialogBinding::DialogBinding(const CodePage& codePage, EventGate& gate, Form& fo
       })) {
     dialog_.SetName(ToShown(codePage, form.Name()));
     dialog_.SetIcons(ProgramIcon());
+    SetAccessibleRole(dialog_, AccessibleRole::Dialog);
     TakeSize();
     ObserveDotsPerInch(dialog_, [this] { Rescale(); });
     PlaceOn(parent);
@@ -122,6 +123,7 @@ void DialogBinding::RingForRefusal(std::string_view reason) {
     if (refusal_ != reason) {
         refusal_ = reason;
         wxBell();
+        notice_.Say(ToShown(context_.codePage, reason));
     }
 }
 

@@ -8,6 +8,7 @@
 #include "controls/Form.h"
 #include "desktop/Bindings.h"
 #include "desktop/FocusBinding.h"
+#include "desktop/Notice.h"
 #include "desktop/ViewContext.h"
 
 namespace zy {
@@ -33,7 +34,8 @@ class DialogBinding {
     void ConnectKeys();
     void PressKey(wxKeyEvent& event);
     void End();
-    /// Rings the bell for a reason that is another one than before; a dialog has no room to show it.
+    /// Rings the bell for a reason that is another one than before; a dialog has no room to show it, but a
+    /// screen reader says it.
     void RingForRefusal(std::string_view reason);
 
     EventGate& gate_;
@@ -44,6 +46,7 @@ class DialogBinding {
     MenuPlace menuPlace_;
     ViewContext context_;
     Inside inside_;
+    Notice notice_;
     Bindings children_;
     FocusBinding focus_;
     Subscription appearanceChanged_;

@@ -33,6 +33,14 @@ void LearnBorders();
 
 /// The name by which a screen reader calls a control that shows no text of its own.
 void SetAccessibleName(wxWindow& window, const wxString& name);
+/// What there is to know of a control beside its name.
+void SetAccessibleDescription(wxWindow& window, const wxString& description);
+
+/// What a screen reader calls a window by, where the window system does not know it.
+enum class AccessibleRole : char { Dialog, StatusBar, Notice, Link, Calendar };
+void SetAccessibleRole(wxWindow& window, AccessibleRole role);
+/// Has a screen reader that listens say a notice, which has just got its text as its name.
+void AnnounceNotice(wxWindow& notice);
 
 /// Has assistive technology learn that a line of text has got the focus before it learns where the caret
 /// stands in it, for all lines of text of the program. The other way round it says the text without the name.

@@ -17,6 +17,8 @@ LinkLabelBinding::LinkLabelBinding(const ViewContext& context, const Inside& ins
     link->Bind(wxEVT_HYPERLINK, [follow](wxHyperlinkEvent&) { follow(); });
     FollowByEnter(*link, follow);
     Attach(link);
+    SetAccessibleName(*link, text);
+    SetAccessibleRole(*link, AccessibleRole::Link);
 }
 
 } // namespace zy

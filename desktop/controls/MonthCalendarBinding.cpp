@@ -18,6 +18,13 @@ wxDateTime ShownDay(std::chrono::year_month_day date) {
             static_cast<int>(date.year())};
 }
 
+/// With the names that the calendar itself shows.
+wxString LongDate(const wxDateTime& day) {
+    return wxDateTime::GetWeekDayName(day.GetWeekDay()) +
+           wxString::Format(", %d ", static_cast<int>(day.GetDay())) +
+           wxDateTime::GetMonthName(day.GetMonth()) + wxString::Format(" %d", day.GetYear());
+}
+
 } // namespace
 
 MonthCalendarBinding::MonthCalendarBinding(const ViewContext& context, const Inside& inside,
@@ -34,7 +41,24 @@ MonthCalendarBinding::MonthCalendarBinding(const ViewContext& context, const Ins
     calendar_->SetHeaderColours(wxSystemSettings::GetColour(wxSYS_COLOUR_GRAYTEXT),
                                 wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW));
     Attach(calendar_);
-    SetAccessibleName(*calendar_, Shown(model_.Caption()));
+    NameParts();
+}
+
+void MonthCalendarBinding::NameParts() {
+    SetAccessibleRole(*calendar_, AccessibleRole::Calendar);
+    SetAccessibleDescription(*calendar_, Shown(model_.Caption()));
+    SetAccessibleName(*calendar_->GetMonthControl(), "Month");
+    SetAccessibleName(*calendar_->GetYearControl(), "Year");
+    calendar_->Bind(wxEVT_CALENDAR_SEL_CHANGED, [this](wxCalendarEvent& event) {
+        event.Skip();
+        TellDay();
+    });
+    TellDay();
+}
+
+void MonthCalendarBinding::TellDay() {
+    // The calendar is drawn, so to a screen reader it stands for its current day.
+    SetAccessibleName(*calendar_, LongDate(calendar_->GetDate()));
 }
 
 void MonthCalendarBinding::PressMouse(wxMouseEvent& event) {
@@ -74,6 +98,7 @@ void MonthCalendarBinding::Pick(const wxDateTime& day) {
 
 void MonthCalendarBinding::ShowValue() {
     calendar_->SetDate(ShownDay(model_.Value()));
+    TellDay();
 }
 
 } // namespace zy

@@ -22,6 +22,9 @@ class MonthCalendarBinding : public ControlBinding {
     void PressKey(wxKeyEvent& event);
     void Pick(const wxDateTime& day);
     void ShowValue();
+    void NameParts();
+    /// Tells assistive technology which day is current.
+    void TellDay();
 
     MonthCalendar& model_;
     // The toolkit's own calendar, for it can say on which day the mouse is; the window system's cannot.

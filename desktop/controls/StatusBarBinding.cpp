@@ -17,10 +17,12 @@ wxStatusBar* MakeStatusBar(wxWindow* parent) {
 } // namespace
 
 StatusBarBinding::StatusBarBinding(const ViewContext& context, const Inside& inside, StatusBar& model)
-    : ControlBinding(context, inside, model), model_(model), bar_(MakeStatusBar(Parent())) {
+    : ControlBinding(context, inside, model), model_(model), bar_(MakeStatusBar(Parent())), notice_(*bar_) {
     Keep(model_.change.Observe([this] { ShowText(); }));
     ShowText();
     Attach(bar_);
+    SetAccessibleRole(*bar_, AccessibleRole::StatusBar);
+    SetAccessibleName(*bar_, "Status");
 }
 
 void StatusBarBinding::ShowAppearance() {
@@ -30,8 +32,8 @@ void StatusBarBinding::ShowAppearance() {
 void StatusBarBinding::ShowText() {
     const wxString text = Shown(model_.Text());
     bar_->SetStatusText(text);
-    // The bar is drawn, so a screen reader gets its text as the bar's name.
-    SetAccessibleName(*bar_, text);
+    // The bar is drawn, so a screen reader gets its text apart.
+    notice_.Say(text);
 }
 
 } // namespace zy

@@ -4,6 +4,7 @@
 
 #include "controls/StatusBar.h"
 #include "desktop/ControlBinding.h"
+#include "desktop/Notice.h"
 
 namespace zy {
 
@@ -19,6 +20,7 @@ class StatusBarBinding : public ControlBinding {
 
     StatusBar& model_;
     wxStatusBar* bar_;
+    Notice notice_;
 };
 
 } // namespace zy

@@ -37,8 +37,31 @@ GtkRectangle AllocationOf(GtkWidget* widget) {
 
 /// The widget that takes the focus, and so is the one that a screen reader meets.
 GtkWidget* FocusWidgetOf(wxWindow& window) {
-    auto* list = dynamic_cast<wxDataViewCtrl*>(&window);
-    return list != nullptr ? list->GtkGetTreeView() : window.GetHandle();
+    if (auto* list = dynamic_cast<wxDataViewCtrl*>(&window)) {
+        return list->GtkGetTreeView();
+    }
+    // What the toolkit paints stands inside its scroll bars.
+    return window.m_wxwindow != nullptr ? window.m_wxwindow : window.GetConnectWidget();
+}
+
+AtkObject* AccessibleOf(wxWindow& window) {
+    return gtk_widget_get_accessible(FocusWidgetOf(window));
+}
+
+AtkRole RoleOf(AccessibleRole role) {
+    switch (role) {
+    case AccessibleRole::Dialog:
+        return ATK_ROLE_DIALOG;
+    case AccessibleRole::StatusBar:
+        return ATK_ROLE_STATUSBAR;
+    case AccessibleRole::Notice:
+        return ATK_ROLE_NOTIFICATION;
+    case AccessibleRole::Link:
+        return ATK_ROLE_LINK;
+    case AccessibleRole::Calendar:
+        return ATK_ROLE_CALENDAR;
+    }
+    return ATK_ROLE_UNKNOWN;
 }
 
 constexpr guint kAnyButton = 0;
@@ -171,7 +194,22 @@ void TellFocusFirst() {
 }
 
 void SetAccessibleName(wxWindow& window, const wxString& name) {
-    atk_object_set_name(gtk_widget_get_accessible(FocusWidgetOf(window)), name.utf8_str());
+    atk_object_set_name(AccessibleOf(window), name.utf8_str());
+}
+
+void SetAccessibleDescription(wxWindow& window, const wxString& description) {
+    atk_object_set_description(AccessibleOf(window), description.utf8_str());
+}
+
+void SetAccessibleRole(wxWindow& window, AccessibleRole role) {
+    // A top-level window's own widget bears the role, not the one in it that is painted.
+    auto* widget = window.IsTopLevel() ? window.GetHandle() : FocusWidgetOf(window);
+    atk_object_set_role(gtk_widget_get_accessible(widget), RoleOf(role));
+}
+
+void AnnounceNotice(wxWindow& notice) {
+    // Screen readers say notices that come into sight.
+    atk_object_notify_state_change(AccessibleOf(notice), ATK_STATE_SHOWING, 1);
 }
 
 void FollowByEnter(wxHyperlinkCtrl& /*link*/, std::function<void()> /*follow*/) {

@@ -1,8 +1,10 @@
 #include "desktop/AccessibleMsw.h"
 
 #include <wx/msw/wrapwin.h>
-#include <wx/window.h>
+#include <wx/spinctrl.h>
 
+#include <bit>
+#include <commctrl.h>
 #include <memory>
 #include <oleacc.h>
 
@@ -26,12 +28,29 @@ Services MakeServices() {
 constexpr DWORD kWindowItself = CHILDID_SELF;
 constexpr auto kInside = static_cast<DWORD>(OBJID_CLIENT);
 
+/// The handle that takes the keyboard.
+HWND FocusHandleOf(wxWindow& window) {
+    // The arrows of a number stand beside its text.
+    const auto* number = dynamic_cast<const wxSpinCtrl*>(&window);
+    return number == nullptr ? window.GetHandle()
+                             : std::bit_cast<HWND>(::SendMessageW(number->GetHandle(), UDM_GETBUDDY, 0, 0));
+}
+
+void AnnotateText(wxWindow& window, const MSAAPROPID& property, const wxString& text) {
+    if (const auto services = MakeServices()) {
+        services->SetHwndPropStr(FocusHandleOf(window), kInside, kWindowItself, property, text.wc_str());
+    }
+}
+
 } // namespace
 
 void AnnotateName(wxWindow& window, const wxString& name) {
-    if (const auto services = MakeServices()) {
-        services->SetHwndPropStr(window.GetHandle(), kInside, kWindowItself, PROPID_ACC_NAME, name.wc_str());
-    }
+    AnnotateText(window, PROPID_ACC_NAME, name);
+    ::NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, FocusHandleOf(window), OBJID_CLIENT, CHILDID_SELF);
+}
+
+void AnnotateDescription(wxWindow& window, const wxString& description) {
+    AnnotateText(window, PROPID_ACC_DESCRIPTION, description);
 }
 
 void AnnotateRole(wxWindow& window, long role) {
@@ -41,10 +60,6 @@ void AnnotateRole(wxWindow& window, long role) {
         value.lVal = role;
         services->SetHwndProp(window.GetHandle(), kInside, kWindowItself, PROPID_ACC_ROLE, value);
     }
-}
-
-void AnnounceName(wxWindow& window) {
-    ::NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, window.GetHandle(), OBJID_CLIENT, CHILDID_SELF);
 }
 
 } // namespace zy

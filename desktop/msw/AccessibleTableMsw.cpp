@@ -20,12 +20,7 @@ class CurrentCellAsWindow : public AccessibleTable {
     }
 
     void TellCurrent() override { TellText(); }
-    void TellText() override {
-        AnnotateName(cells_, NameOfCurrent());
-        if (cells_.HasFocus()) {
-            AnnounceName(cells_);
-        }
-    }
+    void TellText() override { AnnotateName(cells_, NameOfCurrent()); }
     void TellSelected() override {}
     void TellRows(int /*before*/) override { TellText(); }
 

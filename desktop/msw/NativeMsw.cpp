@@ -12,6 +12,7 @@
 
 #include <cmath>
 #include <memory>
+#include <oleacc.h>
 #include <utility>
 
 #include "desktop/AccessibleMsw.h"
@@ -118,6 +119,22 @@ wxString TextOnClipboard() {
     return !!open && wxTheClipboard->GetData(text) ? text.GetText() : wxString();
 }
 
+long NumberOf(AccessibleRole role) {
+    switch (role) {
+    case AccessibleRole::Dialog:
+        return ROLE_SYSTEM_DIALOG;
+    case AccessibleRole::StatusBar:
+        return ROLE_SYSTEM_STATUSBAR;
+    case AccessibleRole::Notice:
+        return ROLE_SYSTEM_ALERT;
+    case AccessibleRole::Link:
+        return ROLE_SYSTEM_LINK;
+    case AccessibleRole::Calendar:
+        return ROLE_SYSTEM_CELL; // the system has none for calendars: it stands for its current day
+    }
+    return 0;
+}
+
 void ShowPushed(const wxButton& button, bool pushed) {
     ::SendMessageW(button.GetHandle(), BM_SETSTATE, pushed ? TRUE : FALSE, 0);
 }
@@ -153,6 +170,18 @@ void SetAccessibleName(wxWindow& window, const wxString& name) {
     } else {
         AnnotateName(window, name);
     }
+}
+
+void SetAccessibleDescription(wxWindow& window, const wxString& description) {
+    AnnotateDescription(window, description);
+}
+
+void SetAccessibleRole(wxWindow& window, AccessibleRole role) {
+    AnnotateRole(window, NumberOf(role));
+}
+
+void AnnounceNotice(wxWindow& notice) {
+    ::NotifyWinEvent(EVENT_SYSTEM_ALERT, notice.GetHandle(), OBJID_CLIENT, CHILDID_SELF);
 }
 
 void FollowByEnter(wxHyperlinkCtrl& link, std::function<void()> follow) {

@@ -10,6 +10,7 @@ import shutil
 import subprocess
 import sys
 import tempfile
+import threading
 import time
 import unittest
 
@@ -85,6 +86,31 @@ class ScreenReader(unittest.TestCase):
                 if each.getState().contains(pyatspi.STATE_SHOWING)]
 
     @staticmethod
+    def find_focused(window, role):
+        window.clear_cache()
+        return pyatspi.findDescendant(
+            window, lambda each: each.getRoleName() == role and each.getState().contains(pyatspi.STATE_FOCUSED))
+
+    def notices_while(self, act, count):
+        """Does something, and returns the notices that came into sight by it, of which there have to be so many."""
+        seen = []
+
+        def note(event):
+            if event.source.getRoleName() == "notification" and event.detail1:
+                seen.append(event.source.name)
+            if len(seen) == count:
+                pyatspi.Registry.stop()
+
+        pyatspi.Registry.registerEventListener(note, "object:state-changed:showing")
+        limit = threading.Timer(PATIENCE, pyatspi.Registry.stop)
+        limit.start()
+        act()
+        pyatspi.Registry.start()
+        limit.cancel()
+        pyatspi.Registry.deregisterEventListener(note, "object:state-changed:showing")
+        return seen
+
+    @staticmethod
     def press(*keys):
         subprocess.run(["xdotool", "key", "--delay", "60", *keys], check=True)
 
@@ -122,7 +148,48 @@ class RulesTest(ScreenReader):
     def test_buttons_bear_their_names_and_the_status_bar_its_text(self):
         self.assertEqual(self.names_of(self.window, "push button"),
                          ["Move rule up", "Move rule down", "Add", "Delete", "Save", "Help"])
-        self.assertIn("2 rules", self.names_of(self.window, "panel"))
+        self.assertEqual(self.names_of(self.find(self.window, "status bar", "Status"), "notification"), ["2 rules"])
+
+    def test_no_box_bears_the_caption_of_another_box(self):
+        details = self.find(self.window, "panel", "Rule Details")
+        self.assertEqual(list(details.getRelationSet()), [])
+
+    def test_what_the_status_bar_newly_says_is_said_at_once(self):
+        self.press("Tab", "Tab", "Tab", "Tab", "Tab", "Tab", "Tab")
+        field = self.wait_for(lambda: self.find_focused(self.window, "text"), "the focus on a field")
+        self.assertEqual(field.getRelationSet()[0].getTarget(0).name, "Rule ID:")
+        said = self.notices_while(lambda: self.press("U4E2D"), 1)
+        self.assertEqual(said, ["Rule ID: the character U+4E2D was not taken: the settings files cannot hold it"])
+
+
+class DialogTest(ScreenReader):
+    def test_about_is_a_dialog_whose_links_are_named_by_their_own_texts(self):
+        self.start("@UNITS", "ZY Setup - Units of Measure")
+        self.press("alt+h", "a")
+        about = self.wait_for(lambda: self.find_dialog("About ZY Setup"), "the dialog")
+        links = pyatspi.findAllDescendants(about, lambda each: each.getRoleName() == "link")
+        self.assertEqual([each.name for each in links], ["http://www.norvale.example", "support@norvale.example"])
+        self.assertEqual([list(each.getRelationSet()) for each in links], [[], []])
+
+    def test_the_day_that_the_arrows_reach_has_its_whole_date_for_a_name(self):
+        self.start("@SECURITY", "ZY Setup - Security")
+        self.press("Right", "Right", "Right", "2", "6", "minus", "1", "2", "minus", "0", "1", "alt+Down")
+        calendar = self.wait_for(lambda: self.find_dialog("Expiry Date"), "the calendar")
+        self.find(calendar, "combo box", "Month")
+        self.find(calendar, "spin button", "Year")
+        self.wait_for_focus(calendar, "calendar", "Tuesday, 1 December 2026")
+        self.press("Left")
+        self.wait_for_focus(calendar, "calendar", "Monday, 30 November 2026")
+        self.assertEqual(self.find_focused(calendar, "calendar").description, "Expiry Date")
+
+    @staticmethod
+    def find_dialog(title):
+        for application in pyatspi.Registry.getDesktop(0):
+            for window in application or []:
+                if (window.getRoleName(), window.name) == ("dialog", title) and window.getState().contains(
+                        pyatspi.STATE_ACTIVE):
+                    return window
+        return None
 
 
 class GridTest(ScreenReader):
