@@ -7,59 +7,79 @@
 #include <commctrl.h>
 #include <memory>
 #include <oleacc.h>
+#include <optional>
+#include <utility>
 
 namespace zy {
 namespace {
+
+template <typename Value>
+wxAccStatus Answer(const std::optional<Value>& given, int child, Value* answer) {
+    if (!given || child != wxACC_SELF) {
+        return wxACC_NOT_IMPLEMENTED; // the system knows it
+    }
+    *answer = *given;
+    return wxACC_OK;
+}
+
+/// A window with some of what there is to know of it.
+class DescribedWindow final : public wxAccessible {
+  public:
+    using wxAccessible::wxAccessible;
+
+    std::optional<wxString> name;
+    std::optional<wxString> description;
+    std::optional<wxAccRole> role;
+
+    wxAccStatus GetName(int child, wxString* text) override { return Answer(name, child, text); }
+    wxAccStatus GetDescription(int child, wxString* text) override {
+        return Answer(description, child, text);
+    }
+    wxAccStatus GetRole(int child, wxAccRole* number) override { return Answer(role, child, number); }
+};
+
+DescribedWindow& Described(wxWindow& window) {
+    auto* described = dynamic_cast<DescribedWindow*>(window.GetAccessible());
+    if (described == nullptr) {
+        described = new DescribedWindow(&window);
+        window.SetAccessible(described);
+    }
+    return *described;
+}
 
 struct Release {
     void operator()(IUnknown* object) const { object->Release(); }
 };
 
-using Services = std::unique_ptr<IAccPropServices, Release>;
-
-/// The system's keeper of such texts; null where there is none, and then they are missing.
-Services MakeServices() {
+/// The text of a number is none of the toolkit's windows; those are its arrows. The system's keeper of names
+/// is asked, and where there is none, the name is missing.
+void NameText(const wxSpinCtrl& number, const wxString& name) {
     void* made = nullptr;
-    const HRESULT result =
-        ::CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices, &made);
-    return Services(SUCCEEDED(result) ? static_cast<IAccPropServices*>(made) : nullptr);
-}
-
-constexpr DWORD kWindowItself = CHILDID_SELF;
-constexpr auto kInside = static_cast<DWORD>(OBJID_CLIENT);
-
-/// The handle that takes the keyboard.
-HWND FocusHandleOf(wxWindow& window) {
-    // The arrows of a number stand beside its text.
-    const auto* number = dynamic_cast<const wxSpinCtrl*>(&window);
-    return number == nullptr ? window.GetHandle()
-                             : std::bit_cast<HWND>(::SendMessageW(number->GetHandle(), UDM_GETBUDDY, 0, 0));
-}
-
-void AnnotateText(wxWindow& window, const MSAAPROPID& property, const wxString& text) {
-    if (const auto services = MakeServices()) {
-        services->SetHwndPropStr(FocusHandleOf(window), kInside, kWindowItself, property, text.wc_str());
+    ::CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices, &made);
+    if (made != nullptr) {
+        const std::unique_ptr<IAccPropServices, Release> services(static_cast<IAccPropServices*>(made));
+        const auto text = std::bit_cast<HWND>(::SendMessageW(number.GetHandle(), UDM_GETBUDDY, 0, 0));
+        services->SetHwndPropStr(text, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, PROPID_ACC_NAME,
+                                 name.wc_str());
     }
 }
 
 } // namespace
 
-void AnnotateName(wxWindow& window, const wxString& name) {
-    AnnotateText(window, PROPID_ACC_NAME, name);
-    ::NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, FocusHandleOf(window), OBJID_CLIENT, CHILDID_SELF);
-}
-
-void AnnotateDescription(wxWindow& window, const wxString& description) {
-    AnnotateText(window, PROPID_ACC_DESCRIPTION, description);
-}
-
-void AnnotateRole(wxWindow& window, long role) {
-    if (const auto services = MakeServices()) {
-        VARIANT value{};
-        value.vt = VT_I4;
-        value.lVal = role;
-        services->SetHwndProp(window.GetHandle(), kInside, kWindowItself, PROPID_ACC_ROLE, value);
+void GiveName(wxWindow& window, const wxString& name) {
+    if (const auto* number = dynamic_cast<const wxSpinCtrl*>(&window)) {
+        NameText(*number, name);
     }
+    Described(window).name = name;
+    wxAccessible::NotifyEvent(wxACC_EVENT_OBJECT_NAMECHANGE, &window, wxOBJID_CLIENT, wxACC_SELF);
+}
+
+void GiveDescription(wxWindow& window, const wxString& description) {
+    Described(window).description = description;
+}
+
+void GiveRole(wxWindow& window, wxAccRole role) {
+    Described(window).role = role;
 }
 
 } // namespace zy

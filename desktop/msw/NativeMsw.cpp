@@ -12,7 +12,6 @@
 
 #include <cmath>
 #include <memory>
-#include <oleacc.h>
 #include <utility>
 
 #include "desktop/AccessibleMsw.h"
@@ -119,20 +118,20 @@ wxString TextOnClipboard() {
     return !!open && wxTheClipboard->GetData(text) ? text.GetText() : wxString();
 }
 
-long NumberOf(AccessibleRole role) {
+wxAccRole SystemRole(AccessibleRole role) {
     switch (role) {
     case AccessibleRole::Dialog:
-        return ROLE_SYSTEM_DIALOG;
+        return wxROLE_SYSTEM_DIALOG;
     case AccessibleRole::StatusBar:
-        return ROLE_SYSTEM_STATUSBAR;
+        return wxROLE_SYSTEM_STATUSBAR;
     case AccessibleRole::Notice:
-        return ROLE_SYSTEM_ALERT;
+        return wxROLE_SYSTEM_ALERT;
     case AccessibleRole::Link:
-        return ROLE_SYSTEM_LINK;
+        return wxROLE_SYSTEM_LINK;
     case AccessibleRole::Calendar:
-        return ROLE_SYSTEM_CELL; // the system has none for calendars: it stands for its current day
+        return wxROLE_SYSTEM_CELL; // the system has none for calendars: it stands for its current day
     }
-    return 0;
+    return wxROLE_NONE;
 }
 
 void ShowPushed(const wxButton& button, bool pushed) {
@@ -168,20 +167,20 @@ void SetAccessibleName(wxWindow& window, const wxString& name) {
     if (auto* list = dynamic_cast<wxDataViewCtrl*>(&window)) {
         list->SetAccessible(new NamedList(*list, name));
     } else {
-        AnnotateName(window, name);
+        GiveName(window, name);
     }
 }
 
 void SetAccessibleDescription(wxWindow& window, const wxString& description) {
-    AnnotateDescription(window, description);
+    GiveDescription(window, description);
 }
 
 void SetAccessibleRole(wxWindow& window, AccessibleRole role) {
-    AnnotateRole(window, NumberOf(role));
+    GiveRole(window, SystemRole(role));
 }
 
 void AnnounceNotice(wxWindow& notice) {
-    ::NotifyWinEvent(EVENT_SYSTEM_ALERT, notice.GetHandle(), OBJID_CLIENT, CHILDID_SELF);
+    wxAccessible::NotifyEvent(wxACC_EVENT_SYSTEM_ALERT, &notice, wxOBJID_CLIENT, wxACC_SELF);
 }
 
 void FollowByEnter(wxHyperlinkCtrl& link, std::function<void()> follow) {

@@ -40,13 +40,13 @@ class AccessibleGrid : public UnitsWindow {
 
 TEST_F(AccessibleGrid, IsATableOfHeadersAndCells) {
     Play([&] {
-        EXPECT_EQ(
-            Ask([](const Reader& cells) { return cells.Lines(); }),
-            (std::vector<std::string>{
-                "table 'Units of Measure'", "  column header 'Unit'", "  column header 'Unit Description'",
-                "  cell 'Unit kg, row 1 of 3'", "  cell 'Unit Description Kilograms, row 1 of 3'",
-                "  cell 'Unit m, row 2 of 3'", "  cell 'Unit Description Metres, row 2 of 3'",
-                "  cell 'Unit s, row 3 of 3'", "  cell 'Unit Description Seconds, row 3 of 3'"}));
+        EXPECT_EQ(Ask([](const Reader& cells) { return cells.Role(); }), "table");
+        EXPECT_EQ(Ask([](const Reader& cells) { return cells.Lines(); }),
+                  (std::vector<std::string>{
+                      "column header 'Unit'", "column header 'Unit Description'",
+                      "cell 'Unit kg, row 1 of 3'", "cell 'Unit Description Kilograms, row 1 of 3'",
+                      "cell 'Unit m, row 2 of 3'", "cell 'Unit Description Metres, row 2 of 3'",
+                      "cell 'Unit s, row 3 of 3'", "cell 'Unit Description Seconds, row 3 of 3'"}));
     });
 }
 
@@ -134,7 +134,10 @@ TEST_F(AccessibleGrid, HasItsCellsWhereTheyAreSeen) {
 
 TEST_F(AccessibleGrid, SaysWhichCellsAreScrolledOutOfSight) {
     PutUnits(ManyUnits(200));
-    Play([&] { EXPECT_TRUE(Has(2 * 200 + 1, STATE_SYSTEM_OFFSCREEN)); });
+    Play([&] {
+        EXPECT_TRUE(Has(2 * 200 + 1, STATE_SYSTEM_OFFSCREEN));
+        EXPECT_FALSE(Has(kFirstUnit, STATE_SYSTEM_OFFSCREEN));
+    });
 }
 
 TEST_F(AccessibleGrid, OpensACellByItsAction) {

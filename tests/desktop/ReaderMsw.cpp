@@ -31,7 +31,23 @@ std::string Line(const Reader& reader, long child) {
     return reader.Role(child) + " '" + reader.Name(child) + '\'';
 }
 
+void ReadWindows(HWND window, const std::string& indent, std::vector<std::string>& lines) {
+    lines.push_back(indent + Line(Reader(window), CHILDID_SELF));
+    for (HWND child = ::GetWindow(window, GW_CHILD); child != nullptr;
+         child = ::GetWindow(child, GW_HWNDNEXT)) {
+        if (::IsWindowVisible(child) != FALSE) {
+            ReadWindows(child, indent + "  ", lines);
+        }
+    }
+}
+
 } // namespace
+
+std::vector<std::string> ReadWindows(HWND window) {
+    std::vector<std::string> lines;
+    ReadWindows(window, "", lines);
+    return lines;
+}
 
 Reader::Reader(HWND window) {
     void* object = nullptr;
@@ -62,7 +78,7 @@ std::string Reader::Description(long child) const {
 long Reader::State(long child) const {
     VARIANT state{};
     object_->get_accState(Numbered(child), &state);
-    return NumberIn(state);
+    return state.vt == VT_I4 ? state.lVal : 0;
 }
 
 wxRect Reader::Place(long child) const {
@@ -112,11 +128,11 @@ void Reader::Pick(long child) const {
 }
 
 std::vector<std::string> Reader::Lines() const {
-    std::vector<std::string> lines{Line(*this, CHILDID_SELF)};
+    std::vector<std::string> lines;
     long count = 0;
     object_->get_accChildCount(&count);
     for (long child = 1; child <= count; ++child) {
-        lines.push_back("  " + Line(*this, child));
+        lines.push_back(Line(*this, child));
     }
     return lines;
 }

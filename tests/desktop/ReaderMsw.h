@@ -36,7 +36,7 @@ class Reader {
     void Do(long child) const;
     /// Moves the selection to a child.
     void Pick(long child) const;
-    /// Role and name of the window and of each child, a line each.
+    /// Role and name of each child, a line each.
     std::vector<std::string> Lines() const;
 
   private:
@@ -46,6 +46,9 @@ class Reader {
 
     std::unique_ptr<IAccessible, Release> object_;
 };
+
+/// Role and name of a window and of all those in it that are shown, a line each. For the window's own thread.
+std::vector<std::string> ReadWindows(HWND window);
 
 /// The events by which a screen reader learns of a window's inside, from construction to destruction. For
 /// the thread of the script.
