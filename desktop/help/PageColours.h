@@ -1,6 +1,5 @@
 #pragma once
 
-#include <wx/colour.h>
 #include <wx/string.h>
 
 namespace zy {
@@ -9,8 +8,5 @@ namespace zy {
 /// "windowtext" and "linktext" for the whole of it, "highlight" and "highlighttext" for its title,
 /// "buttonface" and "buttontext" for the heads of tables.
 wxString WithDesktopColours(const wxString& page);
-
-/// The contrast between two colours: 1 for the same, 21 for black and white.
-double Contrast(const wxColour& one, const wxColour& other);
 
 } // namespace zy

@@ -19,6 +19,7 @@
 #include "DesktopColours.h"
 #include "NativeLook.h"
 #include "RulesWindow.h"
+#include "desktop/Contrast.h"
 #include "desktop/HelpFrame.h"
 #include "desktop/HelpPage.h"
 #include "desktop/HelpTools.h"
