@@ -46,6 +46,10 @@ void AnnounceNotice(wxWindow& notice);
 /// stands in it, for all lines of text of the program. The other way round it says the text without the name.
 void TellFocusFirst();
 
+/// Has the mark of the control that has the keyboard, and the headers of lists, stand out well in all windows
+/// of the program and in whatever colours the user has.
+void StrengthenFaintColours();
+
 /// Gives a window that is not shown yet its size, down to its last control.
 void LayOutUnseen(wxWindow& window);
 

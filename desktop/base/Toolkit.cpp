@@ -57,6 +57,7 @@ Toolkit::Toolkit() {
     wxTheApp->SetExitOnFrameDelete(false);
     wxTheApp->CallOnInit();
     TellFocusFirst();
+    StrengthenFaintColours();
 }
 
 Toolkit::~Toolkit() {

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 
+#include "desktop/Contrast.h"
 #include "desktop/GridNative.h"
 
 namespace zy {
@@ -73,7 +74,8 @@ GridWidget::GridWidget(wxWindow* parent, wxGridTableBase* table)
     DisableDragColMove();
     SetMargins(0, 0);
     SetLabelTextColour(HeaderTextColour());
-    SetCellHighlightColour(wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT));
+    SetSelectionBackground(SelectionGround());
+    SetCellHighlightColour(NoticeableColour(wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT)));
 }
 
 void GridWidget::SetHasCurrent(bool has) {

@@ -3,6 +3,8 @@
 #include <atk/atk.h>
 #include <wx/defs.h>
 
+#include <cstddef>
+
 // The calls of GTK that the program makes itself. The toolkit's development package brings GTK's libraries
 // but not its headers, so these few are declared here, as GTK 3 has fixed them for good.
 
@@ -13,12 +15,14 @@ struct _GdkScreen;
 struct _GtkAccessible;
 struct _GtkComboBox;
 struct _GtkContainer;
+struct _GtkCssProvider;
 struct _GtkEntry;
 struct _GtkEventController;
 struct _GtkGesture;
 struct _GtkGestureSingle;
 struct _GtkScrolledWindow;
 struct _GtkStyleContext;
+struct _GtkStyleProvider;
 struct _GtkTooltip;
 struct _GtkTreePath;
 struct _GtkTreeView;
@@ -54,12 +58,17 @@ void gtk_entry_set_invisible_char(_GtkEntry* entry, unsigned character);
 void gtk_combo_box_popdown(_GtkComboBox* comboBox);
 void gtk_container_add(_GtkContainer* container, GtkWidget* widget);
 void gtk_container_remove(_GtkContainer* container, GtkWidget* widget);
+_GtkCssProvider* gtk_css_provider_new();
+int gtk_css_provider_load_from_data(_GtkCssProvider* provider, const char* text, std::ptrdiff_t length,
+                                    GError** error);
 void gtk_event_controller_set_propagation_phase(_GtkEventController* controller, int phase);
 _GtkGesture* gtk_gesture_multi_press_new(GtkWidget* widget);
 void gtk_gesture_single_set_button(_GtkGestureSingle* gesture, guint button);
 GtkWidget* gtk_grab_get_current();
 GList* gtk_menu_get_for_attach_widget(GtkWidget* widget);
 void gtk_scrolled_window_set_overlay_scrolling(_GtkScrolledWindow* window, int overlay);
+void gtk_style_context_add_provider_for_screen(_GdkScreen* screen, _GtkStyleProvider* provider,
+                                               guint priority);
 void gtk_style_context_get_color(_GtkStyleContext* style, unsigned state, GtkColour* colour);
 unsigned gtk_style_context_get_state(_GtkStyleContext* style);
 void gtk_tooltip_set_text(_GtkTooltip* tip, const char* text);

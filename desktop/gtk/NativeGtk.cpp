@@ -10,9 +10,12 @@
 
 #include <algorithm>
 #include <chrono>
+#include <iterator>
 #include <memory>
+#include <string>
 #include <utility>
 
+#include "desktop/Contrast.h"
 #include "desktop/GtkFunctions.h"
 #include "desktop/Native.h"
 #include "platform/glib/Waiting.h"
@@ -191,6 +194,22 @@ void LearnBorders() {
 void TellFocusFirst() {
     const guint signal = g_signal_lookup("focus-in-event", gtk_entry_get_type());
     g_signal_add_emission_hook(signal, 0, HoldCaretBack, nullptr, nullptr);
+}
+
+void StrengthenFaintColours() {
+    // The usual themes paint the mark at a third of the text's strength, the headers at half of it,
+    // and what is selected on a ground that is too pale for white.
+    const std::string style = "*:focus { outline-color: currentColor; }"
+                              "entry:focus { border-color: currentColor; }"
+                              "treeview.view header button { color: @theme_text_color; }"
+                              "treeview.view:selected { background-color: " +
+                              SelectionGround().GetAsString(wxC2S_HTML_SYNTAX).ToStdString() + "; }";
+    constexpr unsigned kAboveTheThemes = 600;
+    auto* provider = gtk_css_provider_new();
+    gtk_css_provider_load_from_data(provider, style.c_str(), std::ssize(style), nullptr);
+    gtk_style_context_add_provider_for_screen(
+        gdk_screen_get_default(), reinterpret_cast<_GtkStyleProvider*>(provider), kAboveTheThemes);
+    g_object_unref(provider);
 }
 
 void SetAccessibleName(wxWindow& window, const wxString& name) {

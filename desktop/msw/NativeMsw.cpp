@@ -163,6 +163,10 @@ void TellFocusFirst() {
     // It does so by itself.
 }
 
+void StrengthenFaintColours() {
+    // The system's are black on white, or white on black, or as the user wants them.
+}
+
 void SetAccessibleName(wxWindow& window, const wxString& name) {
     if (auto* list = dynamic_cast<wxDataViewCtrl*>(&window)) {
         list->SetAccessible(new NamedList(*list, name));
