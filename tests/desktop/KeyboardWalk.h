@@ -1,5 +1,6 @@
 #pragma once
 
+#include <gtest/gtest.h>
 #include <wx/window.h>
 
 #include <functional>
@@ -10,9 +11,11 @@
 
 #include "HelpBook.h"
 #include "NativeLook.h"
+#include "PictureContrast.h"
 #include "ScreenPicture.h"
 #include "WindowThread.h"
 #include "controls/Control.h"
+#include "desktop/Contrast.h"
 #include "desktop/HelpFrame.h"
 
 namespace zy::test {
@@ -29,24 +32,24 @@ class KeyboardWalk : public EditorWindow {
     /// Goes by Tab from `first`, which `leave` leaves, to the other stops and round to it again: each is
     /// reached, and looks different while it has the keyboard.
     void ExpectFocusSeen(const Control& first, const std::function<void()>& leave, const Stops& others) {
-        std::map<const Control*, Points> atRest;
+        std::map<const Control*, wxImage> atRest;
         for (const auto* stop : others) {
-            atRest[stop] = PointsOf(*stop);
+            atRest[stop] = PictureOf(*stop);
         }
         this->WaitForFocus(first);
         leave();
         for (const auto* stop : others) {
             this->WaitForFocus(*stop);
-            ExpectUnlike(*stop, atRest[stop]);
+            ExpectSeen(*stop, atRest[stop]);
             this->Press(WXK_TAB);
         }
         this->WaitForFocus(first);
         leave();
         this->WaitForFocus(*others.front());
-        atRest[&first] = PointsOf(first);
+        atRest[&first] = PictureOf(first);
         this->Press(WXK_TAB, wxMOD_SHIFT);
         this->WaitForFocus(first);
-        ExpectUnlike(first, atRest[&first]);
+        ExpectSeen(first, atRest[&first]);
     }
 
     /// Leaves a grid from whatever cell.
@@ -72,8 +75,6 @@ class KeyboardWalk : public EditorWindow {
     }
 
   private:
-    using Points = std::vector<unsigned char>;
-
     static HelpFrame* Help() {
         for (auto* window : wxTopLevelWindows) {
             if (auto* frame = dynamic_cast<HelpFrame*>(window); frame != nullptr && frame->IsShown()) {
@@ -82,18 +83,23 @@ class KeyboardWalk : public EditorWindow {
         }
         return nullptr;
     }
-    void ExpectUnlike(const Control& control, const Points& atRest) {
-        WaitUntil(control.Name() + " looks as if it had the keyboard",
-                  [&] { return PicturedPoints(control) != atRest; });
+    void ExpectSeen(const Control& control, const wxImage& atRest) {
+        double contrast = 0;
+        try {
+            WaitUntil("the mark of the keyboard is seen", [&] {
+                contrast = ChangeContrast(atRest, Picture(control));
+                return contrast >= kNoticeable;
+            });
+        } catch (const GaveUp&) {
+            ADD_FAILURE() << control.Name() << " stands out by " << contrast << " while it has the keyboard";
+        }
     }
-    Points PointsOf(const Control& control) {
-        return InWindow([&] { return PicturedPoints(control); });
+    wxImage PictureOf(const Control& control) {
+        return InWindow([&] { return Picture(control); });
     }
-    Points PicturedPoints(const Control& control) {
+    wxImage Picture(const Control& control) {
         const auto& window = this->Real(control);
-        const wxRect place(window.GetScreenPosition(), window.GetSize());
-        const auto image = PictureOnScreen(place);
-        return {image.GetData(), image.GetData() + 3U * static_cast<std::size_t>(place.width * place.height)};
+        return PictureOnScreen({window.GetScreenPosition(), window.GetSize()});
     }
 };
 
