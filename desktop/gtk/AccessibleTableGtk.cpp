@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "desktop/AccessibleTable.h"
-#include "desktop/CellObject.h"
 #include "desktop/TableObject.h"
 
 namespace zy {
@@ -13,11 +12,10 @@ class TableTold : public AccessibleTable {
   public:
     TableTold(wxWindow& cells, TableContent& content)
         : content_(content), table_(MakeTableObject(cells.GetHandle(), content)),
-          // Behind what the window system itself tells of the focus, so that the cell has the last word.
-          focus_(
-              g_signal_connect_swapped(table_.get(), "state-change::focused", G_CALLBACK(TellFocus), this)) {}
+          widget_(static_cast<GtkWidget*>(g_object_ref(cells.GetHandle()))),
+          focus_(g_signal_connect_swapped(widget_.get(), "notify::has-focus", G_CALLBACK(TellFocus), this)) {}
     ~TableTold() override {
-        g_signal_handler_disconnect(table_.get(), focus_);
+        g_signal_handler_disconnect(widget_.get(), focus_);
         DropContent(table_.get());
     }
     TableTold(const TableTold&) = delete;
@@ -29,33 +27,33 @@ class TableTold : public AccessibleTable {
     void TellRows(int before) override;
 
   private:
+    /// The keyboard has come or gone.
     static void TellFocus(TableTold* table) { table->TellCurrent(); }
     /// Says that a property of the current cell's object is another one.
     void TellChanged(const char* property);
 
     TableContent& content_;
     HeldObject table_;
+    std::unique_ptr<GtkWidget, Unref> widget_;
     gulong focus_;
-    /// Held as long as it is the current one, so that it can be asked.
-    HeldObject current_;
+    AtkObject* current_ = nullptr; ///< the table's own
+    Cell focused_;                 ///< the cell that was last said to have the focus
 };
 
 void TableTold::TellCurrent() {
-    const HeldObject before = std::move(current_);
-    const Cell cell = content_.Current();
-    if (cell.row < 1) {
+    // Told twice, as when the keyboard comes and the cell is another one, a screen reader would begin anew.
+    const Cell cell = HasKeyboard(table_.get()) ? content_.Current() : Cell();
+    if (cell == std::exchange(focused_, cell) || cell.row < 1) {
         return;
     }
-    current_ = MakeCellObject(table_.get(), cell);
-    g_signal_emit_by_name(table_.get(), "active-descendant-changed", current_.get());
-    if (HasKeyboard(table_.get())) {
-        atk_object_notify_state_change(current_.get(), ATK_STATE_FOCUSED, 1);
-    }
+    current_ = MakeCurrentObject(table_.get(), cell);
+    g_signal_emit_by_name(table_.get(), "active-descendant-changed", current_);
+    atk_object_notify_state_change(current_, ATK_STATE_FOCUSED, 1);
 }
 
 void TableTold::TellChanged(const char* property) {
     if (current_ != nullptr) {
-        g_object_notify(reinterpret_cast<GObject*>(current_.get()), property);
+        g_object_notify(reinterpret_cast<GObject*>(current_), property);
     }
 }
 

@@ -16,6 +16,8 @@ struct Attached {
     TableContent& content;
     /// The headers of the columns, which nobody else holds.
     std::vector<HeldObject> headers;
+    HeldObject current;
+    Cell currentCell;
     std::string name; ///< the last one told, which has to be kept
 };
 
@@ -50,7 +52,10 @@ Cell CellNumbered(int index, const TableContent& content) {
 
 template <typename T>
 AtkObject* RefCell(T* table, const Cell& cell) {
-    return MakeCellObject(AsObject(table), cell).release();
+    const auto* attached = AttachedTo(AsObject(table));
+    const bool isHeld = attached->current != nullptr && cell == attached->currentCell;
+    return isHeld ? static_cast<AtkObject*>(g_object_ref(attached->current.get()))
+                  : MakeCellObject(AsObject(table), cell).release();
 }
 
 bool Has(const TableContent* content, const Cell& cell) {
@@ -304,7 +309,8 @@ HeldObject MakeTableObject(GtkWidget* cells, TableContent& content) {
     HeldObject table(static_cast<AtkObject*>(g_object_ref(gtk_widget_get_accessible(cells))));
     Want(0);
     atk_object_set_role(table.get(), ATK_ROLE_TABLE);
-    auto* attached = new Attached{.content = content, .headers = {}, .name = {}};
+    auto* attached =
+        new Attached{.content = content, .headers = {}, .current = {}, .currentCell = {}, .name = {}};
     for (int column = 0; column < content.Columns(); ++column) {
         attached->headers.push_back(MakeCellObject(table.get(), {.row = 0, .column = column}));
     }
@@ -314,6 +320,13 @@ HeldObject MakeTableObject(GtkWidget* cells, TableContent& content) {
 
 void DropContent(AtkObject* table) {
     delete static_cast<Attached*>(g_object_steal_data(reinterpret_cast<GObject*>(table), kAttached));
+}
+
+AtkObject* MakeCurrentObject(AtkObject* table, const Cell& cell) {
+    auto* attached = AttachedTo(table);
+    attached->current = MakeCellObject(table, cell);
+    attached->currentCell = cell;
+    return attached->current.get();
 }
 
 TableContent* ContentOf(AtkObject* table) {
