@@ -13,6 +13,7 @@ class wxHyperlinkCtrl;
 class wxKeyEvent;
 class wxStaticBox;
 class wxTextCtrl;
+class wxTreeCtrl;
 class wxWindow;
 
 namespace zy {
@@ -33,6 +34,8 @@ void LearnBorders();
 
 /// The name by which a screen reader calls a control that shows no text of its own.
 void SetAccessibleName(wxWindow& window, const wxString& name);
+/// The name of a tree. One that the toolkit paints is to a screen reader the entry that is selected in it.
+void SetAccessibleTreeName(wxTreeCtrl& tree, const wxString& name);
 /// What there is to know of a control beside its name.
 void SetAccessibleDescription(wxWindow& window, const wxString& description);
 

@@ -6,6 +6,7 @@
 #include <wx/notebook.h>
 #include <wx/statbox.h>
 #include <wx/textctrl.h>
+#include <wx/treectrl.h>
 #include <wx/utils.h>
 
 #include <algorithm>
@@ -64,7 +65,16 @@ AtkRole RoleOf(AccessibleRole role) {
     case AccessibleRole::Calendar:
         return ATK_ROLE_CALENDAR;
     }
-    return ATK_ROLE_UNKNOWN;
+    return ATK_ROLE_INVALID;
+}
+
+wxString EntryOf(const wxTreeCtrl& tree) {
+    const auto entry = tree.GetSelection();
+    if (!entry.IsOk()) {
+        return {};
+    }
+    const wxString text = tree.GetItemText(entry);
+    return !tree.ItemHasChildren(entry) ? text : text + (tree.IsExpanded(entry) ? ", open" : ", closed");
 }
 
 constexpr guint kAnyButton = 0;
@@ -214,6 +224,19 @@ void StrengthenFaintColours() {
 
 void SetAccessibleName(wxWindow& window, const wxString& name) {
     atk_object_set_name(AccessibleOf(window), name.utf8_str());
+}
+
+void SetAccessibleTreeName(wxTreeCtrl& tree, const wxString& name) {
+    const auto tell = [&tree](wxTreeEvent& event) {
+        event.Skip();
+        SetAccessibleName(tree, EntryOf(tree));
+    };
+    tree.Bind(wxEVT_TREE_SEL_CHANGED, tell);
+    tree.Bind(wxEVT_TREE_ITEM_EXPANDED, tell);
+    tree.Bind(wxEVT_TREE_ITEM_COLLAPSED, tell);
+    SetAccessibleDescription(tree, name);
+    atk_object_set_role(AccessibleOf(tree), ATK_ROLE_TREE_ITEM);
+    SetAccessibleName(tree, EntryOf(tree));
 }
 
 void SetAccessibleDescription(wxWindow& window, const wxString& description) {

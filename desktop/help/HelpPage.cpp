@@ -16,7 +16,15 @@ constexpr int kLargestText = 36;
 
 class PagePainter : public wxHtmlProcessor {
   public:
-    wxString Process(const wxString& source) const override { return WithDesktopColours(source); }
+    explicit PagePainter(std::set<wxString>& headings) : headings_(headings) {}
+
+    wxString Process(const wxString& source) const override {
+        headings_ = HeadingsIn(source);
+        return WithDesktopColours(source);
+    }
+
+  private:
+    std::set<wxString>& headings_;
 };
 
 int TopOf(const wxHtmlCell& cell) {
@@ -27,11 +35,6 @@ int BottomOf(const wxHtmlCell& cell) {
     return TopOf(cell) + cell.GetHeight();
 }
 
-/// Whether one cell comes before another in the text.
-bool StandsBefore(const wxHtmlCell& one, const wxHtmlCell& other) {
-    return &one != &other && one.IsBefore(const_cast<wxHtmlCell*>(&other));
-}
-
 bool IsEnter(int key) {
     return key == WXK_RETURN || key == WXK_NUMPAD_ENTER;
 }
@@ -40,8 +43,9 @@ bool IsEnter(int key) {
 
 HelpPage::HelpPage(wxWindow* parent, std::function<void()> opened)
     : wxHtmlWindow(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxHW_DEFAULT_STYLE | wxBORDER_THEME),
-      opened_(std::move(opened)), textSize_(std::max(wxNORMAL_FONT->GetPointSize(), kUsualText)) {
-    AddProcessor(new PagePainter);
+      opened_(std::move(opened)), reading_(*this),
+      textSize_(std::max(wxNORMAL_FONT->GetPointSize(), kUsualText)) {
+    AddProcessor(new PagePainter(headings_));
     SetStandardFonts(textSize_);
     Bind(wxEVT_CHAR_HOOK, &HelpPage::PressKey, this);
     Bind(wxEVT_SYS_COLOUR_CHANGED, &HelpPage::TakeColours, this);
@@ -51,6 +55,7 @@ bool HelpPage::LoadPage(const wxString& location) {
     Unmark();
     const bool loaded = wxHtmlWindow::LoadPage(location);
     if (loaded) {
+        reading_.Begin(headings_);
         opened_();
     }
     return loaded;
@@ -63,9 +68,12 @@ void HelpPage::ShowWords(const SoughtWords& words) {
 }
 
 void HelpPage::PressKey(wxKeyEvent& event) {
-    if (event.GetKeyCode() == WXK_TAB && !event.HasModifiers()) {
+    const int key = event.GetKeyCode();
+    if (key == WXK_TAB && !event.HasModifiers()) {
         GoToLink(!event.ShiftDown());
-    } else if (IsEnter(event.GetKeyCode()) && !event.HasAnyModifiers() && MarkedLink() != nullptr) {
+    } else if ((key == WXK_DOWN || key == WXK_UP) && event.GetModifiers() == wxMOD_CONTROL) {
+        GoToParagraph(key == WXK_DOWN);
+    } else if (IsEnter(key) && !event.HasAnyModifiers() && MarkedLink() != nullptr) {
         FollowMarked();
     } else {
         event.Skip();
@@ -79,6 +87,12 @@ void HelpPage::GoToLink(bool forward) {
     } else {
         Unmark();
         Navigate(forward ? wxNavigationKeyEvent::IsForward : wxNavigationKeyEvent::IsBackward);
+    }
+}
+
+void HelpPage::GoToParagraph(bool forward) {
+    if (const auto* next = reading_.Neighbour(forward)) {
+        Mark(*next);
     }
 }
 
@@ -113,6 +127,7 @@ void HelpPage::Mark(const PageRange& cells) {
     Unmark();
     m_selection = new wxHtmlSelection;
     m_selection->Set(cells.first, cells.last);
+    reading_.ComeTo(cells);
     if (!IsBelowTop(cells) || !IsAboveBottom(cells)) {
         const int above = GetClientSize().y / 3;
         Scroll(-1, std::max(TopOf(*cells.first) - above, 0) / wxHTML_SCROLL_STEP);
@@ -135,6 +150,7 @@ bool HelpPage::IsAboveBottom(const PageRange& cells) const {
 void HelpPage::SetTextSize(int points) {
     textSize_ = std::clamp(points, kSmallestText, kLargestText);
     SetStandardFonts(textSize_);
+    reading_.Begin(headings_);
 }
 
 void HelpPage::TakeColours(wxSysColourChangedEvent& event) {

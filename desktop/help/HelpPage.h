@@ -3,13 +3,16 @@
 #include <wx/html/htmlwin.h>
 
 #include <functional>
+#include <set>
 
 #include "desktop/PageCells.h"
+#include "desktop/PageReading.h"
 
 namespace zy {
 
 /// A page of the help, in the colours of the user's desktop. Tab and Shift+Tab go from link to link and leave
-/// the page behind the last one, Enter follows the link that is marked.
+/// the page behind the last one, Enter follows the link that is marked. Ctrl+Down and Ctrl+Up go from
+/// paragraph to paragraph, which a screen reader then reads.
 class HelpPage : public wxHtmlWindow {
   public:
     /// `opened` is called whenever another page, or another place of a page, has been opened.
@@ -28,6 +31,7 @@ class HelpPage : public wxHtmlWindow {
   private:
     void PressKey(wxKeyEvent& event);
     void GoToLink(bool forward);
+    void GoToParagraph(bool forward);
     /// The link behind what is marked, or before it; when nothing is, one that can be seen, or is yet to
     /// come.
     const PageRange* NextLink(const std::vector<PageRange>& links, bool forward) const;
@@ -43,6 +47,8 @@ class HelpPage : public wxHtmlWindow {
     void TakeColours(wxSysColourChangedEvent& event);
 
     std::function<void()> opened_;
+    std::set<wxString> headings_; ///< the texts of those on the page
+    PageReading reading_;
     int textSize_;
 };
 

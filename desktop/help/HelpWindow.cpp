@@ -100,12 +100,11 @@ void HelpWindow::DressSearch() {
 }
 
 void HelpWindow::NameParts() {
-    SetAccessibleName(*m_ContentsBox, "Contents");
+    SetAccessibleTreeName(*m_ContentsBox, "Contents");
     SetAccessibleName(*m_IndexText, "Keyword");
     SetAccessibleName(*m_IndexList, "Keywords");
     SetAccessibleName(*m_SearchText, "Words to look for");
     SetAccessibleName(*m_SearchList, "Pages found");
-    SetAccessibleName(*page_, "Page");
 }
 
 void HelpWindow::BindTools() {

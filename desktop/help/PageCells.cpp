@@ -11,15 +11,6 @@
 namespace zy {
 namespace {
 
-/// Calls `visit` for each word and picture.
-void VisitCells(const wxHtmlCell& page, const std::function<void(const wxHtmlCell&)>& visit) {
-    for (wxHtmlTerminalCellsInterator cell(page.GetFirstTerminal(), page.GetLastTerminal()); cell; ++cell) {
-        if (!cell->IsFormattingCell()) {
-            visit(**cell);
-        }
-    }
-}
-
 wxString TargetOf(const wxHtmlCell& cell) {
     const auto* link = cell.GetLink();
     return link == nullptr ? wxString() : link->GetHref();
@@ -85,6 +76,18 @@ class PageText {
 };
 
 } // namespace
+
+bool StandsBefore(const wxHtmlCell& one, const wxHtmlCell& other) {
+    return &one != &other && one.IsBefore(const_cast<wxHtmlCell*>(&other));
+}
+
+void VisitCells(const wxHtmlCell& page, const std::function<void(const wxHtmlCell&)>& visit) {
+    for (wxHtmlTerminalCellsInterator cell(page.GetFirstTerminal(), page.GetLastTerminal()); cell; ++cell) {
+        if (!cell->IsFormattingCell()) {
+            visit(**cell);
+        }
+    }
+}
 
 std::vector<PageRange> LinksOn(const wxHtmlCell& page) {
     std::vector<PageRange> links;

@@ -2,6 +2,7 @@
 
 #include <wx/string.h>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -19,6 +20,12 @@ struct PageRange {
 
     bool operator==(const PageRange&) const = default;
 };
+
+/// Whether one cell comes before another in the text.
+bool StandsBefore(const wxHtmlCell& one, const wxHtmlCell& other);
+
+/// Calls `visit` for each word and picture, in the order of the text.
+void VisitCells(const wxHtmlCell& page, const std::function<void(const wxHtmlCell&)>& visit);
 
 /// The links of a page, from its top to its bottom.
 std::vector<PageRange> LinksOn(const wxHtmlCell& page);

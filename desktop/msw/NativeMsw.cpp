@@ -9,6 +9,7 @@
 #include <wx/settings.h>
 #include <wx/statbox.h>
 #include <wx/textctrl.h>
+#include <wx/treectrl.h>
 
 #include <cmath>
 #include <memory>
@@ -173,6 +174,10 @@ void SetAccessibleName(wxWindow& window, const wxString& name) {
     } else {
         GiveName(window, name);
     }
+}
+
+void SetAccessibleTreeName(wxTreeCtrl& tree, const wxString& name) {
+    SetAccessibleName(tree, name); // the system tells of the entries
 }
 
 void SetAccessibleDescription(wxWindow& window, const wxString& description) {

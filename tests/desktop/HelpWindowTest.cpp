@@ -441,6 +441,60 @@ TEST_F(HelpWindow, TabLeavesThePageBehindItsLastLink) {
     });
 }
 
+TEST_F(HelpWindow, CtrlDownAndCtrlUpGoFromParagraphToParagraph) {
+    Play([&] {
+        OpenHelp();
+        TabToMark("Rules");
+        Press(WXK_UP, wxMOD_CONTROL);
+        WaitForMark("What you do with it");
+        Press(WXK_UP, wxMOD_CONTROL);
+        WaitForMark("Title of the window");
+        Press(WXK_DOWN, wxMOD_CONTROL);
+        WaitForMark("What you do with it");
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, CtrlDownGoesOnFromALinkThatIsMarked) {
+    Play([&] {
+        OpenHelp();
+        TabToMark("Rules");
+        Press(WXK_DOWN, wxMOD_CONTROL);
+        WaitForMark("ZY Setup - Rules");
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, CtrlDownGoesOnBelowWordsThatWereFound) {
+    Play([&] {
+        OpenHelp();
+        LookFor("nobody asks for these words");
+        WaitForFound("Not found");
+        LookFor("done without a mouse");
+        WaitForPage("Keyboard");
+        InWindow([] { Page().SetFocus(); });
+        Press(WXK_DOWN, wxMOD_CONTROL);
+        WaitForMark("Everywhere");
+        CloseHelp();
+    });
+}
+
+TEST_F(HelpWindow, LargerTextLeavesTheWayThroughThePageAsItIs) {
+    Play([&] {
+        OpenHelp();
+        const auto height = [] { return Page().GetParser()->GetCharHeight(); };
+        const int before = InWindow(height);
+        ClickOn(wxID_ZOOM_IN);
+        WaitUntil("the text is larger", [&] { return height() > before; });
+        InWindow([] { Page().SetFocus(); });
+        WaitUntil("the page has the focus", [] { return HasFocus(Page()); });
+        TabToMark("Rules");
+        Press(WXK_DOWN, wxMOD_CONTROL);
+        WaitForMark("ZY Setup - Rules");
+        CloseHelp();
+    });
+}
+
 #ifndef _WIN32
 // On Windows it goes round among the tool buttons.
 TEST_F(HelpWindow, TabComesRoundToThePageAgain) {

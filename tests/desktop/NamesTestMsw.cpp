@@ -1,6 +1,10 @@
 #include <wx/dialog.h>
 #include <wx/frame.h>
+#include <wx/html/htmlwin.h>
 #include <wx/statusbr.h>
+
+#include <fstream>
+#include <iterator>
 
 #include "ReaderMsw.h"
 #include "RulesWindow.h"
@@ -23,6 +27,62 @@ class NamesInUsers : public UsersWindow {
     }
 };
 
+/// The help as screen readers of the system read it.
+class NamesInHelp : public RulesWindow {
+  protected:
+    NamesInHelp() {
+        std::ifstream book(ZY_HELP_BOOK, std::ios::binary);
+        world.files.Put(R"(C:\PRODUCT\zysetup.hlp)", std::string{std::istreambuf_iterator<char>(book), {}});
+    }
+
+    static wxHtmlWindow* Page() {
+        auto* page = wxWindow::FindWindowByName("htmlWindow");
+        return dynamic_cast<wxHtmlWindow*>(page);
+    }
+    void OpenHelp() {
+        Press(WXK_F1);
+        WaitUntil("the page has the keyboard",
+                  [] { return Page() != nullptr && wxWindow::FindFocus() == Page(); });
+    }
+    static std::vector<std::string> FirstLines(std::size_t count) {
+        auto lines = InWindow([] { return Reader(*Page()).Lines(); });
+        lines.resize(count);
+        return lines;
+    }
+};
+
+TEST_F(NamesInHelp, APageIsADocumentOfParagraphsAndLinks) {
+    Play([&] {
+        OpenHelp();
+        EXPECT_EQ(InWindow([] { return Reader(*Page()).Role(); }), "document");
+        EXPECT_THAT(FirstLines(8),
+                    ElementsAre("static text 'ZY Setup Help'",
+                                StartsWith("static text 'This is the help of ZY Setup"),
+                                StartsWith("static text 'ZY Setup edits three lists"), "static text 'Editor'",
+                                "static text 'Title of the window'", "static text 'What you do with it'",
+                                "link 'Rules'", "static text 'ZY Setup - Rules'"));
+        EXPECT_EQ(InWindow([] { return Reader(*Page()).Description(1); }), "title");
+        InWindow([] { wxGetTopLevelParent(Page())->Close(); });
+    });
+}
+
+TEST_F(NamesInHelp, TheParagraphAndTheLinkThatTheUserComesToHaveTheFocus) {
+    constexpr long kSecond = 2;
+    constexpr long kLink = 7;
+    Play([&] {
+        OpenHelp();
+        const HeardEvents heard(InWindow([] { return Page(); }));
+        Press(WXK_DOWN, wxMOD_CONTROL);
+        heard.WaitFor({.event = EVENT_OBJECT_FOCUS, .child = kSecond});
+        EXPECT_EQ(InWindow([] { return Reader(*Page()).Focus(); }), kSecond);
+        Press(WXK_TAB);
+        heard.WaitFor({.event = EVENT_OBJECT_FOCUS, .child = kLink});
+        InWindow([&] { Reader(*Page()).Do(kLink); });
+        WaitUntil("the link is followed", [] { return Page()->GetOpenedPageTitle() == "Rules editor"; });
+        InWindow([] { wxGetTopLevelParent(Page())->Close(); });
+    });
+}
+
 TEST_F(NamesInRules, TheListAndTheDetailsAreNamedByTheirOwnCaptions) {
     PutRules({"R1|1|2|>|UCL|First"});
     Play([&] {
@@ -38,8 +98,9 @@ TEST_F(NamesInRules, TheListAndTheDetailsAreNamedByTheirOwnCaptions) {
                 "          client 'Rule ID:'", "          text 'Rule ID:'", "          client 'Minimum:'",
                 "          text 'Minimum:'", "          client 'Maximum:'", "          text 'Maximum:'",
                 "          client 'Condition:'", "          client '> - Greater Than'",
-                "          client 'Zone:'", "          client ''", "          client 'Description:'",
-                "          text 'Description:'", "  status bar 'Status'", "    alert '1 rule'"));
+                "          client 'Zone:'", "          client 'UCL - Upper Control Limit (Red)'",
+                "          client 'Description:'", "          text 'Description:'", "  status bar 'Status'",
+                "    alert '1 rule'"));
     });
 }
 

@@ -192,6 +192,58 @@ class DialogTest(ScreenReader):
         return None
 
 
+class HelpTest(ScreenReader):
+    def setUp(self):
+        super().setUp()
+        self.start("@UNITS", "ZY Setup - Units of Measure")
+        self.press("F1")
+        self.window = self.wait_for(self.find_help, "the help")
+        self.page = self.find(self.window, "document frame", "ZY Setup Help")
+        self.wait_for_focus(self.page, "heading", "ZY Setup Help")
+
+    @staticmethod
+    def find_help():
+        for application in pyatspi.Registry.getDesktop(0):
+            for window in application or []:
+                if window.name == "ZY Setup - Help" and window.getState().contains(pyatspi.STATE_ACTIVE):
+                    return window
+        return None
+
+    def test_a_page_is_read_by_its_paragraphs_and_headings(self):
+        self.assertEqual([(part.getRoleName(), part.name) for part in self.page][2:8], [
+            ("paragraph", "ZY Setup edits three lists that all users of the product share. Each one has its own editor:"),
+            ("paragraph", "Editor"), ("paragraph", "Title of the window"), ("paragraph", "What you do with it"),
+            ("link", "Rules"), ("paragraph", "ZY Setup - Rules")])
+        headings = [part for part in self.page if part.getRoleName() == "heading"]
+        self.assertEqual([(each.name, each.getAttributes()) for each in headings[:2]],
+                         [("ZY Setup Help", ["level:1"]), ("I want to ...", ["level:2"])])
+        self.press("ctrl+Down")
+        self.wait_for_focus(self.page, "paragraph", self.page[1].name)
+
+    def test_a_link_is_reached_by_tab_and_leads_to_its_page(self):
+        self.press("Tab")
+        self.wait_for_focus(self.page, "link", "Rules")
+        before = self.page[1]
+        self.press("Tab")
+        self.wait_for_focus(self.page, "link", "Users")
+        self.press("Return")
+        self.wait_for_focus(self.find(self.window, "document frame", "Users editor"), "heading", "Users editor")
+        self.assertTrue(before.getState().contains(pyatspi.STATE_DEFUNCT))
+
+    def test_a_link_is_followed_by_its_action(self):
+        link = self.find(self.page, "link", "Units of measure")
+        link.queryAction().doAction(0)
+        self.find(self.window, "document frame", "Units editor")
+
+    def test_the_contents_are_the_entry_that_is_selected_in_them(self):
+        self.press("Tab")
+        self.wait_for_focus(self.page, "link", "Rules")
+        self.press("shift+Tab")
+        self.wait_for_focus(self.window, "tree item", "ZY Setup Help, open")
+        self.press("Left")
+        self.wait_for_focus(self.window, "tree item", "ZY Setup Help, closed")
+
+
 class GridTest(ScreenReader):
     """The grid is a table whose cells are items of their own."""
 
