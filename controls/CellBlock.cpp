@@ -37,6 +37,10 @@ std::string CellBlock::Copy() const {
 }
 
 void CellBlock::Clear() {
+    cells_.Together("Clear Cells", [this] { EmptyCells(); });
+}
+
+void CellBlock::EmptyCells() {
     const auto block = selection_.Block();
     for (int row = block.first.row; row <= block.last.row; ++row) {
         for (int column = block.first.column; column <= block.last.column; ++column) {
@@ -63,8 +67,10 @@ void CellBlock::PasteInto(Cell first, std::string_view text) {
     PasteReport report;
     report.tooLong = wanted - 1 > kMaxItems;
     if (!report.tooLong) {
-        cells_.SetRows(wanted);
-        PasteRows(first, text, report);
+        cells_.Together("Paste", [&] {
+            cells_.SetRows(wanted);
+            PasteRows(first, text, report);
+        });
     }
     pasted.Raise(report);
 }

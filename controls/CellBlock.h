@@ -48,6 +48,7 @@ class CellBlock {
     Event<const PasteReport&> pasted;
 
   private:
+    void EmptyCells();
     int RowsAfterPaste(int rows) const;
     void PasteInto(Cell first, std::string_view text);
     void PasteRows(Cell first, std::string_view text, PasteReport& report);

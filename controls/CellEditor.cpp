@@ -37,6 +37,7 @@ void CellEditor::Show(std::string_view text, std::size_t selStart, std::size_t s
 void CellEditor::Close() {
     if (isOpen_) {
         isOpen_ = false;
+        NoteTyping();
         openChanged.Raise();
     }
 }
@@ -63,13 +64,50 @@ void CellEditor::ReplaceSelection(std::string_view text) {
     selStart_ += text.size();
     selLength_ = 0;
     textChanged.Raise();
+    NoteTyping();
+}
+
+void CellEditor::NoteTyping() {
+    typingTakenBack_.reset();
+    typingChanged.Raise();
+}
+
+bool CellEditor::HasTyping() const {
+    return isOpen_ && text_ != cells_.Text(selection_.Row(), selection_.Column());
+}
+
+void CellEditor::UndoTyping() {
+    if (HasTyping()) {
+        std::string typed = text_;
+        const auto text = cells_.Text(selection_.Row(), selection_.Column());
+        ShowInOpen(text, 0, text.size());
+        typingTakenBack_ = std::move(typed);
+        typingChanged.Raise();
+    }
+}
+
+void CellEditor::RedoTyping() {
+    if (typingTakenBack_) {
+        const std::string typed = *typingTakenBack_;
+        ShowInOpen(typed, typed.size(), 0);
+    }
+}
+
+void CellEditor::ShowInOpen(std::string_view text, std::size_t selStart, std::size_t selLength) {
+    Enter(text, selStart, selLength);
+    textChanged.Raise();
 }
 
 void CellEditor::Enter(std::string_view text, std::size_t selStart, std::size_t selLength) {
-    if (isOpen_) {
-        text_ = text;
-        selStart_ = std::min(selStart, text_.size());
-        selLength_ = std::min(selLength, text_.size() - selStart_);
+    if (!isOpen_) {
+        return;
+    }
+    const bool changes = text_ != text;
+    text_ = text;
+    selStart_ = std::min(selStart, text_.size());
+    selLength_ = std::min(selLength, text_.size() - selStart_);
+    if (changes) {
+        NoteTyping();
     }
 }
 

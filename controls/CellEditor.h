@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -47,6 +48,15 @@ class CellEditor {
     void Commit();
     /// Closes the editor and drops its text.
     void Cancel();
+
+    /// Whether the open editor's text is another one than its cell's.
+    bool HasTyping() const;
+    /// Takes that back: the cell's own text stands there again, all selected. Nothing without it.
+    void UndoTyping();
+    /// Whether typing was taken back, and nothing was typed since; and puts it there again.
+    bool CanRedoTyping() const { return typingTakenBack_.has_value(); }
+    void RedoTyping();
+
     /// Edits a cell without the editor, as a paste does: sets its text, which counts as an edit also when the
     /// text is the same.
     void Overwrite(int row, int column, std::string_view text);
@@ -81,12 +91,16 @@ class CellEditor {
     Event<> openChanged;
     /// The text of the open editor was changed, other than by Enter.
     Event<> textChanged;
+    /// What can be taken back of the typing, or put there again, may be another text.
+    Event<> typingChanged;
 
   private:
     void Announce();
     void Show(std::string_view text, std::size_t selStart, std::size_t selLength);
     void Close();
     void PutItem(std::string_view item);
+    void NoteTyping();
+    void ShowInOpen(std::string_view text, std::size_t selStart, std::size_t selLength);
 
     GridCells& cells_;
     const GridColumns& columns_;
@@ -96,6 +110,7 @@ class CellEditor {
     std::string text_;
     std::size_t selStart_ = 0;
     std::size_t selLength_ = 0;
+    std::optional<std::string> typingTakenBack_;
 };
 
 } // namespace zy

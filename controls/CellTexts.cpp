@@ -44,6 +44,10 @@ void CellTexts::Resize(std::size_t count) {
     DropUnused();
 }
 
+void CellTexts::Insert(std::size_t first, std::size_t count) {
+    cells_.insert(cells_.begin() + static_cast<std::ptrdiff_t>(first), count, std::string_view());
+}
+
 void CellTexts::Erase(std::size_t first, std::size_t count) {
     const auto begin = cells_.begin() + static_cast<std::ptrdiff_t>(first);
     cells_.erase(begin, begin + static_cast<std::ptrdiff_t>(count));

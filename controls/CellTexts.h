@@ -34,6 +34,8 @@ class CellTexts {
 
     /// Cuts cells off the end or appends empty ones.
     void Resize(std::size_t count);
+    /// Puts empty cells in front of one, or at the end.
+    void Insert(std::size_t first, std::size_t count);
     void Erase(std::size_t first, std::size_t count);
 
   private:

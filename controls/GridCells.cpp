@@ -1,5 +1,6 @@
 #include "controls/GridCells.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace zy {
@@ -10,13 +11,17 @@ GridCells::GridCells(int columns) : columns_(columns) {
 
 void GridCells::SetRows(int rows) {
     resizing.Raise();
+    const int kept = std::min(rows, rows_);
+    changing.Raise(kept, rows_ - kept, rows - kept);
     cells_.Resize(FirstCellOf(rows));
     rows_ = rows;
     AnnounceRows();
     resized.Raise();
+    changed.Raise();
 }
 
 void GridCells::AddItem(std::string_view tabJoinedCells) {
+    changing.Raise(rows_, 0, 1);
     for (int column = 0; column < columns_; ++column) {
         const auto tab = tabJoinedCells.find('\t');
         cells_.Append(tabJoinedCells.substr(0, tab));
@@ -24,20 +29,61 @@ void GridCells::AddItem(std::string_view tabJoinedCells) {
     }
     ++rows_;
     AnnounceRows();
+    changed.Raise();
 }
 
 void GridCells::AddRowsOf(std::string text, const CellTexts::Split& split) {
     cells_.AppendPartsOf(std::move(text), split);
-    rows_ = static_cast<int>(cells_.Count()) / columns_;
+    const int rows = static_cast<int>(cells_.Count()) / columns_;
+    changing.Raise(rows_, 0, rows - rows_);
+    rows_ = rows;
     AnnounceRows();
+    changed.Raise();
 }
 
 void GridCells::RemoveItem(int row) {
     resizing.Raise();
-    cells_.Erase(Index(row, 0), FirstCellOf(1));
+    const auto first = Index(row, 0);
+    changing.Raise(row, 1, 0);
+    cells_.Erase(first, FirstCellOf(1));
     --rows_;
     AnnounceRows();
     resized.Raise();
+    changed.Raise();
+}
+
+void GridCells::ReplaceRows(int first, int count, int others, const TextOf& textOf) {
+    if (count > 0) {
+        Require(first, 0);
+        Require(first + count - 1, 0);
+    }
+    const bool resizes = count != others;
+    if (resizes) {
+        resizing.Raise();
+    }
+    changing.Raise(first, count, others);
+    ChangeCount(first, count, others);
+    for (int row = 0; row < others; ++row) {
+        for (int column = 0; column < columns_; ++column) {
+            PutText(first + row, column, textOf(row, column));
+        }
+    }
+    if (resizes) {
+        AnnounceRows();
+        resized.Raise();
+    }
+    changed.Raise();
+}
+
+/// Takes rows out, or puts empty ones in, behind those that both have.
+void GridCells::ChangeCount(int first, int count, int others) {
+    const auto behind = FirstCellOf(first + std::min(count, others));
+    if (others < count) {
+        cells_.Erase(behind, FirstCellOf(count - others));
+    } else {
+        cells_.Insert(behind, FirstCellOf(others - count));
+    }
+    rows_ += others - count;
 }
 
 void GridCells::AnnounceRows() {
@@ -52,11 +98,25 @@ void GridCells::SetRedraw(bool on) {
 }
 
 void GridCells::SetText(int row, int column, std::string_view text) {
+    if (Text(row, column) != text) {
+        changing.Raise(row, 1, 1);
+        PutText(row, column, text);
+        changed.Raise();
+    }
+}
+
+void GridCells::PutText(int row, int column, std::string_view text) {
     const auto cell = Index(row, column);
     if (cells_[cell] != text) {
         cells_.Set(cell, text);
         cellChanged.Raise(row, column);
     }
+}
+
+void GridCells::Together(std::string_view deed, const std::function<void()>& changes, Repeats repeats) {
+    deedBegun.Raise(deed, repeats);
+    changes();
+    deedEnded.Raise();
 }
 
 } // namespace zy

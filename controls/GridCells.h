@@ -44,6 +44,10 @@ class GridCells {
     void AddRowsOf(std::string text, const CellTexts::Split& split);
     /// Removes a row; those below it move up.
     void RemoveItem(int row);
+    /// Puts `others` rows in place of `count` rows from `first` on, with the texts that `textOf` gives for
+    /// their cells, counted from 0. Run-time error 9 when there are no such rows.
+    using TextOf = std::function<std::string_view(int row, int column)>;
+    void ReplaceRows(int first, int count, int others, const TextOf& textOf);
     /// While off, `rowsChanged` is held back; switching on raises it, once. For filling a grid row by row.
     void SetRedraw(bool on);
 
@@ -56,14 +60,27 @@ class GridCells {
     /// Raises `cellChanged` when the text differs from the one held.
     void SetText(int row, int column, std::string_view text);
 
-    /// SetRows or RemoveItem begins, with the rows as they were. Appending rows does not raise it.
+    /// Makes changes that are one deed of the user's, such as a paste. One that repeats goes on with the one
+    /// before it.
+    enum class Repeats { No, Yes };
+    void Together(std::string_view deed, const std::function<void()>& changes, Repeats repeats = Repeats::No);
+
+    /// Rows are set or removed, with the rows as they were. Appending rows does not raise it.
     Event<> resizing;
-    /// SetRows or RemoveItem is done, also while redraw is off.
+    /// Rows were set or removed, also while redraw is off.
     Event<> resized;
     /// Rows came or went in any way: what is shown of them is out of date.
     Event<> rowsChanged;
     /// The text of this cell, by row and column, is another one.
     Event<int, int> cellChanged;
+    /// Rows are about to change, texts or rows: from the first one on, so many go and so many come in their
+    /// place. Behind `resizing`, which may change other rows.
+    Event<int, int, int> changing;
+    /// That change is done, behind all other events of it.
+    Event<> changed;
+    /// A deed of several changes begins, with its name, or ends.
+    Event<std::string_view, Repeats> deedBegun;
+    Event<> deedEnded;
 
   private:
     std::size_t Index(int row, int column) const {
@@ -76,6 +93,8 @@ class GridCells {
         return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_);
     }
     void AnnounceRows();
+    void ChangeCount(int first, int count, int others);
+    void PutText(int row, int column, std::string_view text);
 
     int columns_;
     int rows_ = 1;

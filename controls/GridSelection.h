@@ -43,6 +43,8 @@ class GridSelection {
     /// Moves the current cell, or with Shift the block's end, by an arrow key, Home, End or Enter, inside the
     /// data. Without a current cell the first one becomes current. False when the key moves nothing.
     bool MoveByKey(const KeyPress& press);
+    /// Asks the view to scroll the current cell into sight, where it is the current one already, too.
+    void Reveal() { revealAsked.Raise(); }
     /// One cell on or back, row by row. False at the ends of the data and without a current cell.
     bool MoveByTab(bool backwards);
 
@@ -52,6 +54,7 @@ class GridSelection {
     Event<> currentCellChanged;
     /// The current cell or the block was set, be it to what it was.
     Event<> blockChanged;
+    Event<> revealAsked;
 
   private:
     void SetCurrent(Cell cell);

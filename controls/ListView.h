@@ -40,6 +40,8 @@ class ListView : public Control {
     /// Selects from code, 0 for none: `itemClick` is not raised. Run-time error 9 for an item that the list
     /// does not have.
     void Select(int item);
+    /// Asks the view to scroll the selected item into sight, where it is selected already, too.
+    void Reveal() { revealAsked.Raise(); }
     /// Announces that an item's texts changed.
     void RefreshItem(int item) { itemChanged.Raise(item); }
 
@@ -60,6 +62,7 @@ class ListView : public Control {
     Event<int> itemChanged;
     /// An item was selected, or the user tried to: what a view shows selected may be out of date.
     Event<> selectionChanged;
+    Event<> revealAsked;
 
   private:
     std::vector<Column> columns_;

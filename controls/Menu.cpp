@@ -19,6 +19,13 @@ void MenuItem::SetEnabled(bool enabled) {
     }
 }
 
+void MenuItem::SetCaption(const std::string& caption) {
+    if (caption_ != caption) {
+        caption_ = caption;
+        captionChanged.Raise();
+    }
+}
+
 void MenuItem::Click() {
     if (enabled_) {
         click.Raise();

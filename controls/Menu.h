@@ -19,6 +19,7 @@ class MenuItem {
 
     const std::string& Name() const { return name_; }
     const std::string& Caption() const { return caption_; }
+    void SetCaption(const std::string& caption);
     const std::vector<MenuItem*>& Entries() const { return entries_; }
     bool IsSeparator() const { return caption_ == kSeparator; }
 
@@ -33,6 +34,7 @@ class MenuItem {
 
     Event<> click;
     Event<> enabledChanged;
+    Event<> captionChanged;
     Event<> popUp;
 
     /// The caption that makes an entry a separator.

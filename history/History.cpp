@@ -85,7 +85,7 @@ void History::KeepWithinBytes() {
     }
 }
 
-Place History::Undo(RowList& rows) {
+StepPlace History::Undo(RowList& rows) {
     const Step& step = Last();
     step.Undo(rows);
     --position_;
@@ -93,7 +93,7 @@ Place History::Undo(RowList& rows) {
     return step.before;
 }
 
-Place History::Redo(RowList& rows) {
+StepPlace History::Redo(RowList& rows) {
     const Step& step = steps_[position_];
     step.Redo(rows);
     ++position_;

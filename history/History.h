@@ -34,8 +34,8 @@ class History {
     const Step* ToUndo() const;
     const Step* ToRedo() const;
     /// Takes back a step and returns where it was done. There must be one.
-    Place Undo(RowList& rows);
-    Place Redo(RowList& rows);
+    StepPlace Undo(RowList& rows);
+    StepPlace Redo(RowList& rows);
 
     /// The list stands now as it is saved. The step that led here is sealed.
     void MarkSaved();

@@ -42,7 +42,7 @@ void Recorder::End() {
 
 void Recorder::Changing(int first, int removed, int added) {
     Begin({});
-    if (!isOn_) {
+    if (!isOn_ || (removed == 0 && added == 0)) {
         return;
     }
     if (Extends(first, removed, added)) {

@@ -14,7 +14,7 @@ namespace zy {
 /// A step copies the rows that were changed, and nothing else of the list.
 class Recorder {
   public:
-    using Here = std::function<Place()>;
+    using Here = std::function<StepPlace()>;
     using Take = std::function<void(Step step)>;
 
     /// `here` says where somebody works now, `take` is given each step that changed something; it has no name

@@ -10,11 +10,11 @@
 namespace zy {
 
 /// Where in a list somebody works. What rows and columns stand for is the editor's to say.
-struct Place {
+struct StepPlace {
     int row = 0;
     int column = 0;
 
-    friend bool operator==(const Place&, const Place&) = default;
+    friend bool operator==(const StepPlace&, const StepPlace&) = default;
 };
 
 /// Rows of a list, and those that stand in their place afterwards.
@@ -30,9 +30,9 @@ struct RowChange {
 struct Step {
     std::string name; ///< as the menu has it behind "Undo": "Delete Rule 2U"
     std::string
-        key;      ///< steps of one key that go on where the last one ended are one step; none of an empty one
-    Place before; ///< where to go when it is taken back
-    Place after;  ///< where to go when it is done again
+        key; ///< steps of one key that go on where the last one ended are one step; none of an empty one
+    StepPlace before;               ///< where to go when it is taken back
+    StepPlace after;                ///< where to go when it is done again
     std::vector<RowChange> changes; ///< in the order in which they were made
 
     bool ChangesNothing() const;

@@ -277,6 +277,16 @@ TEST_F(ControlsTest, AMenuHoldsItsEntriesInOrder) {
     EXPECT_FALSE(entry.IsSeparator());
 }
 
+TEST_F(ControlsTest, AMenuEntryTellsANewCaptionOnce) {
+    MenuItem entry("mnu", "Entry");
+    int told = 0;
+    entry.captionChanged.Connect([&] { ++told; });
+    entry.SetCaption("Other");
+    entry.SetCaption("Other");
+    EXPECT_EQ(entry.Caption(), "Other");
+    EXPECT_EQ(told, 1);
+}
+
 TEST_F(ControlsTest, ADisabledMenuEntryDoesNothing) {
     MenuItem entry("mnu", "Entry");
     entry.click.Connect(Note("click"));

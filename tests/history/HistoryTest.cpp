@@ -109,8 +109,8 @@ TEST_F(HistoryTest, StepsKnowWhereTheyWereDone) {
         list.here = {2, 1};
     });
     list.here = {0, 0};
-    EXPECT_EQ(list.history.Undo(list), (Place{1, 1}));
-    EXPECT_EQ(list.history.Redo(list), (Place{2, 1}));
+    EXPECT_EQ(list.history.Undo(list), (StepPlace{1, 1}));
+    EXPECT_EQ(list.history.Redo(list), (StepPlace{2, 1}));
 }
 
 // Steps that go on.
@@ -183,7 +183,7 @@ TEST_F(HistoryTest, ARunOfMovesIsOneStepOfTheRowsThatItPassed) {
     EXPECT_EQ(list.history.ToUndo()->changes.size(), 1U);
     list.Undo();
     EXPECT_THAT(list.Lines(), ElementsAre("a|A", "b|B", "c|C"));
-    EXPECT_EQ(list.here, (Place{0, 0}));
+    EXPECT_EQ(list.here, (StepPlace{0, 0}));
     list.Redo();
     EXPECT_THAT(list.Lines(), ElementsAre("b|B", "c|C", "a|A"));
 }

@@ -68,7 +68,7 @@ class Recorded : public RowList {
     }
 
     std::vector<Row> rows;
-    Place here;
+    StepPlace here;
     History history;
     Recorder recorder{*this, [this] { return here; }, [this](Step step) { history.Record(std::move(step)); }};
 
