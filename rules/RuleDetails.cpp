@@ -1,38 +1,66 @@
 #include "rules/RuleDetails.h"
 
-#include <utility>
+#include <algorithm>
 
 #include "basics/Int16.h"
 
 namespace zy {
+namespace {
+
+void SelectItem(ComboBox& box, const std::string& text) {
+    const auto& items = box.Items();
+    const auto found = std::find(items.begin(), items.end(), text);
+    box.SetListIndex(found == items.end() ? -1 : static_cast<int>(found - items.begin()));
+}
+
+} // namespace
 
 RuleDetails::RuleDetails(mRules& rules, RuleDetailChecks& checks, RulesControls& controls,
                          RulesStatus& status, SettingsForm& form, SharedState& state, TraceChannel& trace,
                          const CodePage& codePage)
     : rules_(rules), checks_(checks), controls_(controls), status_(status), form_(form), state_(state),
-      trace_(trace), codePage_(codePage) {
+      trace_(trace),
+      codePage_(codePage), fields_{&controls.txtCode,      &controls.txtMin,  &controls.txtMax,
+                                   &controls.cboCondition, &controls.cboZone, &controls.txtDescription} {
     Connect();
 }
 
 void RuleDetails::Connect() {
-    ConnectChange("txtCode_Change", controls_.txtCode.change);
-    ConnectChange("txtMin_Change", controls_.txtMin.change);
-    ConnectChange("txtMax_Change", controls_.txtMax.change);
-    ConnectChange("txtDescription_Change", controls_.txtDescription.change);
-    ConnectChange("cboCondition_Click", controls_.cboCondition.click);
-    ConnectChange("cboZone_Click", controls_.cboZone.click);
+    ConnectChange("txtCode_Change", controls_.txtCode.change, kCodeColumn);
+    ConnectChange("txtMin_Change", controls_.txtMin.change, kMinColumn);
+    ConnectChange("txtMax_Change", controls_.txtMax.change, kMaxColumn);
+    ConnectChange("txtDescription_Change", controls_.txtDescription.change, kDescriptionColumn);
+    ConnectChange("cboCondition_Click", controls_.cboCondition.click, kCondColumn);
+    ConnectChange("cboZone_Click", controls_.cboZone.click, kZoneColumn);
 }
 
-void RuleDetails::ConnectChange(std::string_view handler, Event<>& event) {
-    event.Connect([this, handler] { DetailChanged(handler); });
+void RuleDetails::ConnectChange(std::string_view handler, Event<>& event, int column) {
+    event.Connect([this, handler, column] { DetailChanged(handler, column); });
 }
 
-void RuleDetails::DetailChanged(std::string_view handler) {
+void RuleDetails::DetailChanged(std::string_view handler, int column) {
     trace_.DebugTrace(kMainForm, handler, "Start");
     if (!rules_.gbLoadingRule) {
         form_.ChangeFlag = true;
         status_.ShowCount();
+        edited.Raise(column);
     }
+}
+
+RuleDetails::Texts RuleDetails::Shown() const {
+    return {controls_.txtCode.Text(),      controls_.txtMin.Text(),  controls_.txtMax.Text(),
+            controls_.cboCondition.Text(), controls_.cboZone.Text(), controls_.txtDescription.Text()};
+}
+
+void RuleDetails::ShowTexts(const Texts& texts) {
+    rules_.gbLoadingRule = true;
+    controls_.txtCode.SetText(texts[kCodeColumn]);
+    controls_.txtMin.SetText(texts[kMinColumn]);
+    controls_.txtMax.SetText(texts[kMaxColumn]);
+    controls_.txtDescription.SetText(texts[kDescriptionColumn]);
+    SelectItem(controls_.cboCondition, texts[kCondColumn]);
+    SelectItem(controls_.cboZone, texts[kZoneColumn]);
+    rules_.gbLoadingRule = false;
 }
 
 void RuleDetails::EditRule(std::string_view index) {
@@ -41,11 +69,13 @@ void RuleDetails::EditRule(std::string_view index) {
         state_.gbChanged = true;
     }
     const int rule = ToInt16(index);
+    filling.Raise();
     rules_.gbLoadingRule = true;
     rules_.giCurRule = rule;
     Fill(rules_.gaRules(rule));
     rules_.gbLoadingRule = false;
     status_.ShowCount();
+    filled.Raise();
 }
 
 void RuleDetails::Fill(const RunRule& rule) {
@@ -79,8 +109,16 @@ void RuleDetails::SelectZone(const std::string& zone) {
 
 void RuleDetails::ClearRule() {
     trace_.DebugTrace(kRulesModule, "ClearRule", "Start");
+    filling.Raise();
     rules_.gbLoadingRule = true;
     rules_.giCurRule = -1;
+    Empty();
+    rules_.gbLoadingRule = false;
+    status_.ShowCount();
+    filled.Raise();
+}
+
+void RuleDetails::Empty() {
     for (TextBox* box :
          {&controls_.txtCode, &controls_.txtMin, &controls_.txtMax, &controls_.txtDescription}) {
         box->SetText("");
@@ -88,19 +126,19 @@ void RuleDetails::ClearRule() {
     controls_.cboCondition.SetListIndex(-1);
     controls_.cboZone.SetListIndex(-1);
     controls_.EnableForARule(false);
-    rules_.gbLoadingRule = false;
-    status_.ShowCount();
 }
 
 void RuleDetails::Save_Rules_Edit(int index) {
-    RunRule& rule = rules_.gaRules(index);
+    const RunRule& rule = rules_.gaRules(index);
     trace_.DebugTrace(kRulesModule, "Save_Rules_Edit", "Start item: " + rule.Code);
     rules_.gbNewRule = false;
-    RunRule edited = RuleInForm(controls_, rule);
-    if (edited != rule) {
-        rule = std::move(edited);
+    const RunRule inForm = RuleInForm(controls_, rule);
+    storing.Raise();
+    if (inForm != rule) {
+        rules_.gaRules.Set(index, inForm);
         state_.gbChanged = true;
     }
+    stored.Raise();
     controls_.lstRulesList.RefreshItem(index);
 }
 

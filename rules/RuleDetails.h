@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -32,11 +33,30 @@ class RuleDetails {
     /// stored then. True also when it shows none.
     bool StoreShownRule();
 
+    /// What the fields show, by the columns of RunRule's table: texts, and the items of the two lists.
+    using Texts = std::array<std::string, kRuleColumns>;
+    Texts Shown() const;
+    /// Shows other texts and items in the fields, which is no edit of the user's. An item that is in no list
+    /// is none.
+    void ShowTexts(const Texts& texts);
+    /// The control of a column's field.
+    Control& Field(int column) { return *fields_.at(static_cast<std::size_t>(column)); }
+
+    /// The form is about to show another rule or none, and shows it.
+    Event<> filling;
+    Event<> filled;
+    /// The user changed the field of this column.
+    Event<int> edited;
+    /// The form is about to be copied into its rule, and was.
+    Event<> storing;
+    Event<> stored;
+
   private:
     void Connect();
-    void ConnectChange(std::string_view handler, Event<>& event);
-    void DetailChanged(std::string_view handler);
+    void ConnectChange(std::string_view handler, Event<>& event, int column);
+    void DetailChanged(std::string_view handler, int column);
     void Fill(const RunRule& rule);
+    void Empty();
     void SelectCondition(const std::string& condition);
     void SelectZone(const std::string& zone);
 
@@ -48,6 +68,7 @@ class RuleDetails {
     SharedState& state_;
     TraceChannel& trace_;
     const CodePage& codePage_;
+    std::array<Control*, kRuleColumns> fields_; ///< by their columns
 };
 
 } // namespace zy

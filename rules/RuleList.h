@@ -1,8 +1,11 @@
 #pragma once
 
+#include <functional>
+#include <string_view>
 #include <vector>
 
 #include "basics/Int16.h"
+#include "controls/Event.h"
 #include "rules/RunRule.h"
 
 namespace zy {
@@ -24,9 +27,24 @@ class RuleList {
     /// Drops all references and makes room for `count` rules.
     void Reset(int count);
     void Append(RunRule& rule);
+    /// Puts a rule at a place, be it behind the last one; those from there on make room.
+    void Insert(int index, RunRule& rule);
     /// Takes a rule out; those behind it move down by one place.
     void Remove(int index);
     void Swap(int first, int second);
+    /// Gives a rule other values.
+    void Set(int index, const RunRule& values);
+
+    /// Makes changes that are one deed of the user's. One that repeats goes on with the one before it.
+    void Together(std::string_view deed, const std::function<void()>& changes, bool repeats = false);
+
+    /// Rules are about to change: from the first one on, so many go and so many come in their place. Reset
+    /// and what comes of values that are set otherwise are not told.
+    Event<int, int, int> changing;
+    Event<> changed;
+    /// A deed of several changes begins, with its name and whether it repeats, or ends.
+    Event<std::string_view, bool> deedBegun;
+    Event<> deedEnded;
 
   private:
     std::size_t Checked(int index) const;

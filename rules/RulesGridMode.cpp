@@ -83,9 +83,11 @@ void RulesGridMode::SelectRow(int row) {
 void RulesGridMode::Save_RulesGrid() {
     trace_.DebugTrace(kRulesModule, "Save_RulesGrid", "Start");
     bool changed = false;
-    for (int row = 1; row < grid_.cells.Rows(); ++row) {
-        changed = StoreRow(row) || changed;
-    }
+    rules_.gaRules.Together("Edit Rules", [&] {
+        for (int row = 1; row < grid_.cells.Rows(); ++row) {
+            changed = StoreRow(row) || changed;
+        }
+    });
     if (changed) {
         state_.gbChanged = true;
         form_.ChangeFlag = true; // without it no save would write what was stored
@@ -94,14 +96,13 @@ void RulesGridMode::Save_RulesGrid() {
 
 /// True when the rule is another one now.
 bool RulesGridMode::StoreRow(int row) {
-    RunRule& rule = rules_.gaRules(row);
-    bool changed = false;
+    RunRule rule = rules_.gaRules(row);
     for (int column = 0; column < kRuleColumns; ++column) {
-        auto& held = rule.*PropertyIn(column);
-        if (const auto text = grid_.cells.Text(row, column); held != text) {
-            held = text;
-            changed = true;
-        }
+        rule.*PropertyIn(column) = grid_.cells.Text(row, column);
+    }
+    const bool changed = rule != rules_.gaRules(row);
+    if (changed) {
+        rules_.gaRules.Set(row, rule);
     }
     return changed;
 }

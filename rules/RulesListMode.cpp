@@ -56,11 +56,16 @@ void RulesListMode::Move_Rule_Down(int item) {
 }
 
 void RulesListMode::Swap(int item, int neighbour) {
-    rules_.gaRules.Swap(neighbour, item);
-    form_.ChangeFlag = true;
-    state_.gbChanged = true;
-    LoadRulesListMode();
-    SelectAndEdit(neighbour);
+    rules_.gaRules.Together(
+        "Move Rule " + rules_.gaRules(item).Code,
+        [&] {
+            rules_.gaRules.Swap(neighbour, item);
+            form_.ChangeFlag = true;
+            state_.gbChanged = true;
+            LoadRulesListMode();
+            SelectAndEdit(neighbour);
+        },
+        true);
 }
 
 void RulesListMode::cmdAddList_Click() {
@@ -69,6 +74,10 @@ void RulesListMode::cmdAddList_Click() {
         status_.ShowCountAnd(kListFull);
         return;
     }
+    rules_.gaRules.Together("Add Rule", [this] { AddRule(); });
+}
+
+void RulesListMode::AddRule() {
     rules_.Add_New_Rule();
     form_.ChangeFlag = true;
     LoadRulesListMode();
@@ -82,7 +91,8 @@ void RulesListMode::cmdDeleteList_Click() {
         return;
     }
     if (dialogs_.AskYesNo("Are you Sure you want to Delete this Rule", "Confirm Delete", Escape::AnswersNo)) {
-        DeleteSelected();
+        rules_.gaRules.Together("Delete Rule " + rules_.gaRules(list_.Selected()).Code,
+                                [this] { DeleteSelected(); });
     }
     // After No as well, which whoever reads the traces is used to.
     trace_.DebugTrace(kMainForm, "cmdDeleteList_Click", "Rule Deleted");

@@ -41,6 +41,7 @@ class RulesListMode {
     void Connect();
     void SelectAndEdit(int item);
     void Swap(int item, int neighbour);
+    void AddRule();
     void DeleteSelected();
 
     mRules& rules_;

@@ -20,8 +20,12 @@ RulesPage::RulesPage(mRules& rules, RuleChecks& ruleChecks, SettingsForm& form, 
       details(rules, detailChecks, controls, status, form, state, trace, codePage),
       listMode(rules, details, controls, status, form, state, trace, dialogs),
       gridMode(rules, ruleChecks, controls, status, form, state, trace), rules_(rules), form_(form),
-      trace_(trace) {
+      trace_(trace), steps_(rules, details, controls) {
     controls.cmdSaveRules.click.Connect([this] { cmdSaveRules_Click(); });
+    steps_.moved.Connect([this](bool isSaved, const std::string& report) { ShowMoved(isSaved, report); });
+    steps_.dropped.Connect([this](const std::string& code) {
+        status.ShowCountAnd("Changes of " + code + " dropped; Edit > Undo brings them back");
+    });
 }
 
 void RulesPage::ShowListMode() {
@@ -46,12 +50,22 @@ bool RulesPage::StoreBeforeTabSwitch() {
 
 void RulesPage::Show() {
     ShowListMode();
+    steps_.Stop();
     listMode.LoadRulesListMode();
+    steps_.Start();
+}
+
+void RulesPage::ShowMoved(bool isSaved, const std::string& report) {
+    form_.ChangeFlag = !isSaved;
+    if (controls.fraGridMode.Visible()) {
+        gridMode.Fill();
+    }
+    status.ShowCountAnd(report);
 }
 
 void RulesPage::cmdSaveRules_Click() {
     trace_.DebugTrace(kMainForm, "cmdSaveRules_Click", "Start");
-    if (form_.ChangeFlag && rules_.Write_Rules_File()) {
+    if (form_.ChangeFlag && Write()) {
         form_.ChangeFlag = false;
         status.ShowAgain();
     }
@@ -60,13 +74,21 @@ void RulesPage::cmdSaveRules_Click() {
 void RulesPage::Save() {
     auto& changeFlag = form_.ChangeFlag;
     if (changeFlag && details.StoreShownRule()) {
-        changeFlag = !rules_.Write_Rules_File();
+        changeFlag = !Write();
     }
+}
+
+bool RulesPage::Write() {
+    const bool written = rules_.Write_Rules_File();
+    if (written) {
+        steps_.MarkSaved(!rules_.LastSaveFailed());
+    }
+    return written;
 }
 
 bool RulesPage::SaveAtClosing() {
     // Unlike the other two editors this one checks nothing here: whoever closes gets the list as it is held.
-    return rules_.Write_Rules_File();
+    return Write();
 }
 
 Size RulesPage::LeastInnerSize() {

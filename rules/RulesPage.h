@@ -5,6 +5,7 @@
 #include "rules/RuleChecks.h"
 #include "rules/RuleDetailChecks.h"
 #include "rules/RuleDetails.h"
+#include "rules/RuleSteps.h"
 #include "rules/RulesControls.h"
 #include "rules/RulesGridMode.h"
 #include "rules/RulesListMode.h"
@@ -51,6 +52,7 @@ class RulesPage : public Editor {
     bool HasUnsavedChanges() const override { return form_.ChangeFlag; }
     void Save() override;
     bool SaveAtClosing() override;
+    EditSteps& Steps() override { return steps_; }
 
     RulesControls controls;
     RulesStatus status;
@@ -60,9 +62,15 @@ class RulesPage : public Editor {
     RulesGridMode gridMode;
 
   private:
+    /// Writes the rules; the marks go when that was not refused.
+    bool Write();
+    /// Sets the mark after a step was taken back or done again, and shows what that was.
+    void ShowMoved(bool isSaved, const std::string& report);
+
     mRules& rules_;
     SettingsForm& form_;
     TraceChannel& trace_;
+    RuleSteps steps_;
 };
 
 } // namespace zy

@@ -35,6 +35,7 @@ SettingsLibrary& mRules::Settings() {
 }
 
 void mRules::Build_Rules_Array() {
+    spare_.clear();
     goSettings_ = std::make_unique<SettingsLibrary>(files_, system_);
     trace_.DebugTrace(kRulesModule, "Build_Rules_Array", "Start");
     const auto collection = goSettings_->Rules();
@@ -74,6 +75,30 @@ void mRules::Add_New_Rule() {
 void mRules::Delete_Rule(int index) {
     trace_.DebugTrace(kRulesModule, "Delete_Rule", "Start item: " + std::to_string(index));
     gaRules.Remove(index);
+}
+
+void mRules::ReplaceRules(int first, int count, const std::vector<RunRule>& others) {
+    const int wanted = static_cast<int>(others.size());
+    for (int i = count; i > wanted; --i) {
+        spare_.push_back(&gaRules(first + i - 1));
+        gaRules.Remove(first + i - 1);
+    }
+    for (int i = 0; i < wanted; ++i) {
+        const int index = first + i;
+        if (i >= count) {
+            gaRules.Insert(index, RuleToPutIn());
+        }
+        gaRules.Set(index, others[static_cast<std::size_t>(i)]);
+    }
+}
+
+RunRule& mRules::RuleToPutIn() {
+    if (spare_.empty()) {
+        return Settings().NewRule();
+    }
+    RunRule& rule = *spare_.back();
+    spare_.pop_back();
+    return rule;
 }
 
 std::string mRules::Dangers() const {

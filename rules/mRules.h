@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "basics/Bool16.h"
 #include "controls/Event.h"
@@ -42,6 +43,10 @@ class mRules {
     /// Takes a rule out of the list; those behind it move up. Run-time error 9 when there is no such rule.
     void Delete_Rule(int index);
 
+    /// Puts other rules in place of `count` rules from `first` on. Run-time error 9 when there are no such
+    /// rules.
+    void ReplaceRules(int first, int count, const std::vector<RunRule>& others);
+
     RuleList gaRules;
     int giCurRule = -1;    ///< the rule in the detail form, -1 for none
     Bool16 gbNewRule;      ///< a rule was added and not stored from the detail form yet
@@ -67,6 +72,8 @@ class mRules {
 
   private:
     SettingsLibrary& Settings();
+    /// A rule object that is in no list.
+    RunRule& RuleToPutIn();
     std::string TemporaryFile();
     std::string WhyNotToSaveRules(const SaveTurn& turn);
     void ReportFailure(std::string_view what, FileError error);
@@ -81,6 +88,7 @@ class mRules {
     std::size_t skippedLines_ = 0;
     std::string dangers_;
     bool lastSaveFailed_ = false;
+    std::vector<RunRule*> spare_; ///< those that ReplaceRules took out of the list
 };
 
 } // namespace zy

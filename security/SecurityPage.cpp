@@ -21,7 +21,7 @@ SecurityPage::SecurityPage(SettingsForm& form, SharedState& state, TraceChannel&
       writer_(database_, files, recycleBin), checks_(controls.grdSecurity.cells, dialogs, codePage),
       login_(form, trace, dialogs, codePage),
       users(controls.grdSecurity, reader_, writer_, checks_, login_, trace), form_(form), state_(state),
-      trace_(trace), system_(system), dialogs_(dialogs) {
+      trace_(trace), system_(system), dialogs_(dialogs), steps_(controls.grdSecurity, "User") {
     Connect();
 }
 
@@ -41,6 +41,7 @@ void SecurityPage::Connect() {
         [this](const KeyPress& press, bool& handled) { grdSecurity_KeyDown(press, handled); });
     grid.mouseDown.Connect([this](MouseButton button, int row, int) { grdSecurity_MouseDown(button, row); });
     users.reported.Connect([this](const std::string& report) { form_.zyStatusBar.SetText(report); });
+    steps_.moved.Connect([this](bool isSaved, const std::string& report) { ShowMoved(isSaved, report); });
 }
 
 void SecurityPage::Trace(std::string_view procedure, std::string_view message) {
@@ -50,12 +51,14 @@ void SecurityPage::Trace(std::string_view procedure, std::string_view message) {
 void SecurityPage::LoadSecurity() {
     auto& grid = controls.grdSecurity;
     LayOutSecurity(controls, form_);
+    steps_.Stop();
     grid.cells.SetRedraw(false);
     grid.cells.SetRows(1);
     for (const auto& user : users.zySecure) {
         grid.cells.AddItem(GridRow(user));
     }
     grid.cells.SetRedraw(true);
+    steps_.Start();
     grid.columns.Fit(0); // the designed width is too narrow for most headers
     controls.cmdSaveUsers.SetEnabled(false);
     EnableDelete(users.HasUsers());
@@ -160,14 +163,31 @@ bool SecurityPage::SaveAtClosing() {
 }
 
 bool SecurityPage::CheckAndWrite(std::string_view folderWithoutUsers) {
-    if (!users.Validate_Security()) {
+    if (!AreUsersValid()) {
         return false;
     }
     users.Save_Security();
     return users.WriteAll(folderWithoutUsers);
 }
 
+/// The checks fill in or empty fields by themselves.
+bool SecurityPage::AreUsersValid() {
+    bool valid = false;
+    controls.grdSecurity.cells.Together("Correct Fields", [&] { valid = bool(users.Validate_Security()); });
+    return valid;
+}
+
+void SecurityPage::ShowMoved(bool isSaved, const std::string& report) {
+    users.MatchRows();
+    state_.gbChanged = !isSaved;
+    controls.cmdSaveUsers.SetEnabled(!isSaved);
+    EnableDelete(users.HasUsers());
+    ShowStatus();
+    AddHint(form_.zyStatusBar, report);
+}
+
 void SecurityPage::ShowSaved() {
+    steps_.MarkSaved(true); // whatever fails is raised
     controls.cmdSaveUsers.SetEnabled(false);
     form_.zyStatusBar.SetText(kListSaved);
 }

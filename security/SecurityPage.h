@@ -13,6 +13,7 @@
 #include "security/frmLogin.h"
 #include "security/mSecurity.h"
 #include "shell/Editor.h"
+#include "shell/GridSteps.h"
 #include "shell/SettingsForm.h"
 
 namespace zy {
@@ -60,6 +61,7 @@ class SecurityPage : public Editor {
     bool HasUnsavedChanges() const override { return state_.gbChanged; }
     void Save() override;
     bool SaveAtClosing() override;
+    EditSteps& Steps() override { return steps_; }
 
     SecurityControls controls;
 
@@ -95,6 +97,9 @@ class SecurityPage : public Editor {
     Rect PlaceBelow(int row, int column) const;
     void SetDate(int row, const std::string& text);
     void ShowSaved();
+    /// Sets the marks after a step was taken back or done again, and shows what that was.
+    void ShowMoved(bool isSaved, const std::string& report);
+    bool AreUsersValid();
     /// Shows the number of users, what becomes of the single quotes in one, the row's before others, and what
     /// a save would drop or find in its way.
     void ShowStatus(int row = 0);
@@ -104,6 +109,7 @@ class SecurityPage : public Editor {
     TraceChannel& trace_;
     SystemInfo& system_;
     Dialogs& dialogs_;
+    GridSteps steps_;
 };
 
 } // namespace zy

@@ -1,5 +1,6 @@
 #include "security/mSecurity.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "basics/Int16.h"
@@ -107,6 +108,10 @@ void mSecurity::DeleteUser(int row) {
     if (zySecure.size() > 1) {
         zySecure.erase(zySecure.begin() + row - 1);
     }
+}
+
+void mSecurity::MatchRows() {
+    zySecure.resize(static_cast<std::size_t>(std::max(grdSecurity_.cells.Rows() - 1, 1)));
 }
 
 Bool16 mSecurity::Validate_Security() {

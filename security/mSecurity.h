@@ -52,6 +52,8 @@ class mSecurity {
     /// Removes a row of the grid and its user. The list keeps one element, which the next user takes.
     /// Run-time error 9 when there is no such row.
     void DeleteUser(int row);
+    /// Gives the list as many users as the grid has after rows came or went in it otherwise.
+    void MatchRows();
     /// Checks every row and shows the first failure, whose cell becomes current.
     Bool16 Validate_Security();
 

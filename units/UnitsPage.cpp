@@ -29,7 +29,7 @@ std::string_view SpecialCharacter(Key key) {
 UnitsPage::UnitsPage(SettingsForm& form, SharedState& state, TraceChannel& trace, FileSystem& files,
                      Dialogs& dialogs)
     : controls(form.FraUnits), units(controls.grdUnits, state, trace, files, dialogs), form_(form),
-      trace_(trace), dialogs_(dialogs) {
+      trace_(trace), dialogs_(dialogs), steps_(controls.grdUnits, "Unit") {
     Connect();
 }
 
@@ -48,9 +48,11 @@ void UnitsPage::Connect() {
     grid.keyDown.Connect([this](const KeyPress& press, bool& handled) { grdUnits_KeyDown(press, handled); });
     units.loaded.Connect([this](bool found) { LetSaveAfterLoading(found); });
     units.reported.Connect([this](const std::string& report) { form_.zyStatusBar.SetText(report); });
+    steps_.moved.Connect([this](bool isSaved, const std::string& report) { ShowMoved(isSaved, report); });
 }
 
 void UnitsPage::Show() {
+    steps_.Stop(); // to copy the list would take longer than to load it
     units.LoadUnitsData();
     controls.grdUnits.SetFocus(); // on an arrow, the first key would mark the list as changed
 }
@@ -60,6 +62,8 @@ void UnitsPage::Trace(std::string_view procedure, std::string_view message) {
 }
 
 void UnitsPage::LetSaveAfterLoading(bool found) {
+    steps_.Start();
+    hasFile_ = found;
     controls.cmdSaveUnits.SetEnabled(!found);
     if (!found) {
         controls.cmdDeleteUnit.SetEnabled(false);
@@ -151,7 +155,17 @@ void UnitsPage::Save() {
     if (SaveAtClosing()) {
         form_.ChangeFlag = false;
         controls.cmdSaveUnits.SetEnabled(false);
+        hasFile_ = true;
+        steps_.MarkSaved(!units.LastSaveFailed());
     }
+}
+
+void UnitsPage::ShowMoved(bool isSaved, const std::string& report) {
+    form_.ChangeFlag = !isSaved;
+    controls.cmdSaveUnits.SetEnabled(!isSaved || !hasFile_);
+    controls.cmdDeleteUnit.SetEnabled(controls.grdUnits.selection.IsInData());
+    ShowStatus();
+    AddHint(form_.zyStatusBar, report);
 }
 
 bool UnitsPage::SaveAtClosing() {
@@ -160,7 +174,7 @@ bool UnitsPage::SaveAtClosing() {
 
 void UnitsPage::UpDownUnits_UpClick() {
     if (controls.grdUnits.selection.Row() > 1) {
-        SwapWith(controls.grdUnits.selection.Row() - 1);
+        MoveTo(controls.grdUnits.selection.Row() - 1);
     }
     MarkUnitsChanged();
 }
@@ -168,9 +182,16 @@ void UnitsPage::UpDownUnits_UpClick() {
 void UnitsPage::UpDownUnits_DownClick() {
     const auto& grid = controls.grdUnits;
     if (grid.selection.IsInData() && grid.selection.Row() < grid.cells.Rows() - 1) {
-        SwapWith(grid.selection.Row() + 1);
+        MoveTo(grid.selection.Row() + 1);
     }
     MarkUnitsChanged();
+}
+
+void UnitsPage::MoveTo(int neighbour) {
+    auto& grid = controls.grdUnits;
+    grid.cells.Together(
+        "Move Unit " + std::string(grid.cells.Text(grid.selection.Row(), kUnit)),
+        [&] { SwapWith(neighbour); }, GridCells::Repeats::Yes);
 }
 
 void UnitsPage::SwapWith(int neighbour) {

@@ -3,6 +3,7 @@
 #include "platform/Dialogs.h"
 #include "platform/FileSystem.h"
 #include "shell/Editor.h"
+#include "shell/GridSteps.h"
 #include "shell/SettingsForm.h"
 #include "units/UnitsControls.h"
 #include "units/mUnits.h"
@@ -49,6 +50,7 @@ class UnitsPage : public Editor {
     bool HasUnsavedChanges() const override { return form_.ChangeFlag; }
     void Save() override;
     bool SaveAtClosing() override;
+    EditSteps& Steps() override { return steps_; }
 
     UnitsControls controls;
     mUnits units;
@@ -63,13 +65,18 @@ class UnitsPage : public Editor {
     /// The first row of the pasted block that will be read back otherwise, and how many more there are.
     std::string DescribeMisreadings() const;
     void DeleteCurrentRow();
+    void MoveTo(int neighbour);
     void SwapWith(int neighbour);
     bool LeaveForwards();
     bool LeaveBackwards();
+    /// Sets the marks after a step was taken back or done again, and shows what that was.
+    void ShowMoved(bool isSaved, const std::string& report);
 
     SettingsForm& form_;
     TraceChannel& trace_;
     Dialogs& dialogs_;
+    GridSteps steps_;
+    bool hasFile_ = true; ///< a list that has none can be saved as it is
 };
 
 } // namespace zy

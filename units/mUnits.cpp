@@ -99,17 +99,19 @@ void mUnits::ReplaceFile() {
     const auto& path = state_.gsUnitsFile;
     const bool deleted = files_.Exists(path) && files_.Delete(path) == FileError::None;
     const auto created = files_.Create(path);
-    if (!created.handle) {
+    lastSaveFailed_ = !created.handle;
+    if (lastSaveFailed_) {
         dangers_ = deleted ? kLastSaveFailed : dangers_;
         reported.Raise(Failure("Not saved, " + FileName() + " could not be created", created.error));
         return;
     }
     const auto error = WriteAndClose(*created.handle, text.Get());
-    dangers_ = error == FileError::None ? "" : kLastSaveFailed;
-    if (error == FileError::None) {
-        reported.Raise(std::string(kListSaved));
-    } else {
+    lastSaveFailed_ = error != FileError::None;
+    dangers_ = lastSaveFailed_ ? kLastSaveFailed : "";
+    if (lastSaveFailed_) {
         reported.Raise(Failure("Not saved, " + FileName() + " could not be written", error));
+    } else {
+        reported.Raise(std::string(kListSaved));
     }
 }
 

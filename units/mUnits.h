@@ -53,6 +53,9 @@ class mUnits {
     /// for the status bar. A save that goes well ends it.
     const std::string& Dangers() const { return dangers_; }
 
+    /// Whether the last save got as far as the file and failed there.
+    bool LastSaveFailed() const { return lastSaveFailed_; }
+
     /// LoadUnitsData is done: whether there was a file.
     Event<bool> loaded;
     /// Short texts for the status bar: how a save ended.
@@ -76,6 +79,7 @@ class mUnits {
     FileSystem& files_;
     Dialogs& dialogs_;
     std::string dangers_;
+    bool lastSaveFailed_ = false;
 };
 
 } // namespace zy

@@ -12,6 +12,7 @@ Program::Program(const World& outside)
       unitsPage(form, state, trace, world.files, world.dialogs), registryEdit(world.registry, world.window),
       subClasser(world.window, state), window({form, state, trace, world.dialogs, rulesPage, securityPage,
                                                unitsPage, registryEdit, subClasser}),
+      editMenu(window, {&rulesPage, &securityPage, &unitsPage}, trace),
       helpMenu(form.menu, trace, world.system, world.dialogs, world.help, world.links) {
     securityPage.users.loginCancelled.Connect([this] { window.Unload(); });
     helpMenu.ConnectButton(rulesPage.controls.cmdHelpRules);

@@ -4,6 +4,7 @@
 #include "rules/RulesPage.h"
 #include "rules/mRules.h"
 #include "security/SecurityPage.h"
+#include "shell/EditMenu.h"
 #include "shell/HelpMenu.h"
 #include "shell/SettingsForm.h"
 #include "shell/SubClasser.h"
@@ -32,6 +33,7 @@ class Program {
     mRegistryEdit registryEdit;
     SubClasser subClasser;
     frmGlobalSettings window;
+    EditMenu editMenu;
     HelpMenu helpMenu;
 };
 

@@ -106,6 +106,11 @@ const frmGlobalSettings::Mode* frmGlobalSettings::InCharge() const {
     return found == modes_.end() ? nullptr : &*found;
 }
 
+Editor* frmGlobalSettings::EditorInCharge() const {
+    const Mode* mode = InCharge();
+    return mode == nullptr ? nullptr : mode->editor;
+}
+
 void frmGlobalSettings::Form_Resize() {
     Trace("Form_Resize", "Start");
     if (parts_.form.State() == WindowState::Minimized) {

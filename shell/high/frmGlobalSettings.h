@@ -63,6 +63,8 @@ class frmGlobalSettings {
     void mnuExit_Click();
 
     SettingsForm& Form() { return parts_.form; }
+    /// The editor that is asked to save and to close; null before one is in charge.
+    Editor* EditorInCharge() const;
 
     MainMenu& menu; ///< the form's
     /// The window is gone; the program ends.
@@ -76,7 +78,7 @@ class frmGlobalSettings {
         Editor* editor;
     };
 
-    /// The editor that is asked to save and to close: of several in charge the first.
+    /// Of several in charge the first.
     const Mode* InCharge() const;
     void ShowFrame(const Frame& frame);
     void Trace(std::string_view procedure, std::string_view message);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/Geometry.h"
+#include "shell/EditSteps.h"
 
 namespace zy {
 
@@ -26,6 +27,8 @@ class Editor {
     /// Saves because the window closes. The marks stay. False when a failed check or a refused save is to
     /// keep the window open.
     virtual bool SaveAtClosing() = 0;
+    /// What can be taken back and done again.
+    virtual EditSteps& Steps() = 0;
 };
 
 } // namespace zy

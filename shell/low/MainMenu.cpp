@@ -4,8 +4,13 @@ namespace zy {
 
 MainMenu::MainMenu()
     : mnuFile("mnuFile", "&File"), mnuSave(mnuFile, "mnuSave", "&Save"), mnuExit(mnuFile, "mnuExit", "E&xit"),
-      mnuHelp("mnuHelp", "&Help"), mnuContents(mnuHelp, "mnuContents", "&Contents"),
-      mnuIndex(mnuHelp, "mnuIndex", "&Index"), mnuSeperator5(mnuHelp, "mnuSeperator5", MenuItem::kSeparator),
+      mnuEdit("mnuEdit", "&Edit"), mnuUndo(mnuEdit, "mnuUndo", "&Undo"), mnuRedo(mnuEdit, "mnuRedo", "&Redo"),
+      mnuSeparatorCut(mnuEdit, "mnuSeparatorCut", MenuItem::kSeparator), mnuCut(mnuEdit, "mnuCut", "Cu&t"),
+      mnuCopy(mnuEdit, "mnuCopy", "&Copy"), mnuPaste(mnuEdit, "mnuPaste", "&Paste"),
+      mnuSeparatorSelect(mnuEdit, "mnuSeparatorSelect", MenuItem::kSeparator),
+      mnuSelectAll(mnuEdit, "mnuSelectAll", "Select &All"), mnuHelp("mnuHelp", "&Help"),
+      mnuContents(mnuHelp, "mnuContents", "&Contents"), mnuIndex(mnuHelp, "mnuIndex", "&Index"),
+      mnuSeperator5(mnuHelp, "mnuSeperator5", MenuItem::kSeparator),
       mnuWeb(mnuHelp, "mnuWeb", "Norvale on the &Web..."),
       mnuWebProducts(mnuWeb, "mnuWebProducts", "Products"),
       mnuWebAcademy(mnuWeb, "mnuWebAcademy", "Academy Web Based Training"),

@@ -12,6 +12,16 @@ struct MainMenu {
     MenuItem mnuSave;
     MenuItem mnuExit;
 
+    MenuItem mnuEdit;
+    MenuItem mnuUndo;
+    MenuItem mnuRedo;
+    MenuItem mnuSeparatorCut;
+    MenuItem mnuCut;
+    MenuItem mnuCopy;
+    MenuItem mnuPaste;
+    MenuItem mnuSeparatorSelect;
+    MenuItem mnuSelectAll;
+
     MenuItem mnuHelp;
     MenuItem mnuContents;
     MenuItem mnuIndex;

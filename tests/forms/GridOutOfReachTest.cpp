@@ -48,6 +48,7 @@ TEST_F(GridOutOfReach, IsNotShownByAnyEntryButtonOrKeyOfAWholeSession) {
     page().cmdHelpRules.Click();
     world.dialogs.ExpectForm([](Form& /*about*/) {});
     ChooseEveryEntryOf(menu().mnuHelp);
+    ChooseEveryEntryOf(menu().mnuEdit);
     ChooseEveryEntryOf(menu().mnuFile);
     EXPECT_EQ(unloaded, 1);
     EXPECT_EQ(changes, 0);

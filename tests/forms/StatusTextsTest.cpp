@@ -73,11 +73,13 @@ TEST_F(StatusTexts, NameTheCodeThatTheRuleHas) {
     EXPECT_EQ(Status(), "2 rules   -   B edited; File > Save stores it");
 }
 
-TEST_F(StatusTexts, ForgetAnEditThatWasLeft) {
-    StartWithCodes({"A", "B"});
+TEST_F(StatusTexts, TellThatAnEditWasDroppedAndForgetItAtTheNextRule) {
+    StartWithCodes({"A", "B", "C"});
     page().txtCode.Enter("X");
     list().Pick(2);
-    EXPECT_EQ(Status(), "2 rules");
+    EXPECT_EQ(Status(), "3 rules   -   Changes of A dropped; Edit > Undo brings them back");
+    list().Pick(3);
+    EXPECT_EQ(Status(), "3 rules");
 }
 
 TEST_F(StatusTexts, TellASave) {

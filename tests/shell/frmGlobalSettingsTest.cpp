@@ -100,6 +100,14 @@ TEST(MainMenuTest, HoldsTheFileMenu) {
     EXPECT_THAT(Lines(menu.mnuFile), ElementsAre("mnuFile &File", "  mnuSave &Save", "  mnuExit E&xit"));
 }
 
+TEST(MainMenuTest, HoldsTheEditMenu) {
+    const MainMenu menu;
+    EXPECT_THAT(Lines(menu.mnuEdit),
+                ElementsAre("mnuEdit &Edit", "  mnuUndo &Undo", "  mnuRedo &Redo", "  mnuSeparatorCut -",
+                            "  mnuCut Cu&t", "  mnuCopy &Copy", "  mnuPaste &Paste", "  mnuSeparatorSelect -",
+                            "  mnuSelectAll Select &All"));
+}
+
 TEST(MainMenuTest, HoldsTheHelpMenu) {
     const MainMenu menu;
     EXPECT_THAT(Lines(menu.mnuHelp),

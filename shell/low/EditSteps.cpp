@@ -1,0 +1,79 @@
+#include "shell/EditSteps.h"
+
+#include <utility>
+
+namespace zy {
+namespace {
+
+/// A text that is typed into a cell or field.
+constexpr auto kTyping = "Typing";
+
+/// A step's name with no more of the texts in it than a menu has room for.
+std::string Shortened(const Step* step) {
+    constexpr std::size_t kMost = 50;
+    if (step == nullptr || step->name.size() <= kMost) {
+        return step == nullptr ? std::string() : step->name;
+    }
+    return step->name.substr(0, kMost) + "...";
+}
+
+} // namespace
+
+EditSteps::EditSteps()
+    : recorder_(
+          *this, [this] { return Here(); }, [this](Step step) { Take(std::move(step)); }) {}
+
+void EditSteps::Start() {
+    history_.Clear();
+    recorder_.Start();
+    changed.Raise();
+}
+
+void EditSteps::MarkSaved(bool success) {
+    history_.MarkSaved();
+    if (!success) {
+        history_.ForgetSaved();
+    }
+}
+
+std::string EditSteps::UndoName() const {
+    return HasTyping() ? kTyping : Shortened(history_.ToUndo());
+}
+
+std::string EditSteps::RedoName() const {
+    return CanRetype() ? kTyping : Shortened(history_.ToRedo());
+}
+
+void EditSteps::Take(Step step) {
+    Describe(step);
+    history_.Record(std::move(step));
+    changed.Raise();
+}
+
+void EditSteps::Undo() {
+    if (HasTyping()) {
+        UndoTyping();
+    } else if (CanUndo()) {
+        Move(&History::Undo, "Undone: " + UndoName());
+    }
+}
+
+void EditSteps::Redo() {
+    if (CanRetype()) {
+        RedoTyping();
+    } else if (CanRedo()) {
+        Move(&History::Redo, "Redone: " + RedoName());
+    }
+}
+
+void EditSteps::Move(StepPlace (History::*move)(RowList&), const std::string& report) {
+    LeaveTyping();
+    recorder_.Stop();
+    const StepPlace place = (history_.*move)(*this);
+    Show(place);
+    recorder_.Start();
+    moved.Raise(history_.IsSaved(), report);
+    changed.Raise();
+}
+
+} // namespace zy

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <string>
+
+#include "controls/Event.h"
+#include "history/History.h"
+#include "history/Recorder.h"
+#include "history/RowList.h"
+
+namespace zy {
+
+/// The steps of one editor: what was done to its list can be taken back, and done again. What is typed and
+/// not part of the list yet comes first.
+///
+/// Marks of unsaved changes are the editor's: it sets them as it always did, and after `moved` by what that
+/// tells.
+class EditSteps : protected RowList {
+  public:
+    EditSteps(const EditSteps&) = delete;
+    EditSteps& operator=(const EditSteps&) = delete;
+
+    /// Begins to record, without steps; the list counts as saved.
+    void Start();
+    /// Leaves out what happens until the next Start, such as loading.
+    void Stop() { recorder_.Stop(); }
+    /// A save is done; without success no earlier state counts as saved any more either.
+    void MarkSaved(bool success);
+
+    bool CanUndo() const { return HasTyping() || history_.ToUndo() != nullptr; }
+    bool CanRedo() const { return CanRetype() || history_.ToRedo() != nullptr; }
+    /// What that would be, such as "Delete Rule 2U"; empty when there is nothing.
+    std::string UndoName() const;
+    std::string RedoName() const;
+    /// Nothing when there is nothing to take back, or to be done again.
+    void Undo();
+    void Redo();
+
+    /// What can be taken back or done again is something else.
+    Event<> changed;
+    /// A step was taken back or done again, as a text for the status bar tells. Whether the list stands now
+    /// as it was last saved.
+    Event<bool, const std::string&> moved;
+
+  protected:
+    EditSteps();
+
+    /// Where somebody works now.
+    virtual StepPlace Here() const = 0;
+    /// Names a step that has no name yet, and puts its places right.
+    virtual void Describe(Step& step) const = 0;
+    virtual void Take(Step step);
+    /// Shows a place after a step was taken back or done again there, and gives it the keyboard.
+    virtual void Show(const StepPlace& place) = 0;
+
+    // What is typed and not part of the list yet.
+    virtual bool HasTyping() const { return false; }
+    virtual bool CanRetype() const { return false; }
+    virtual void UndoTyping() {}
+    virtual void RedoTyping() {}
+    /// Lets go of what would be in the way of a step, without taking it over.
+    virtual void LeaveTyping() {}
+
+    Recorder& ToRecord() { return recorder_; }
+    History& Steps() { return history_; }
+
+  private:
+    void Move(StepPlace (History::*move)(RowList&), const std::string& report);
+
+    History history_;
+    Recorder recorder_;
+};
+
+} // namespace zy
