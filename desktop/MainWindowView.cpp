@@ -5,6 +5,16 @@
 #include "desktop/Native.h"
 
 namespace zy {
+namespace {
+
+std::vector<Shortcut> Shortcuts(const MainMenu& menu) {
+    return {{menu.mnuSave, "Ctrl+S"},      {menu.mnuUndo, "Ctrl+Z"}, {menu.mnuRedo, "Ctrl+Y", "Ctrl+Shift+Z"},
+            {menu.mnuCut, "Ctrl+X"},       {menu.mnuCopy, "Ctrl+C"}, {menu.mnuPaste, "Ctrl+V"},
+            {menu.mnuSelectAll, "Ctrl+A"}, {menu.mnuContents, "F1"}};
+}
+
+} // namespace
+
 MainWindowView::MainWindowView(Desktop& desktop, frmGlobalSettings& window)
     : desktop_(desktop), window_(window),
       appearanceChanged_(window.Form().appearanceChanged.Observe([this] { ShowOrHide(); })),
@@ -30,8 +40,9 @@ void MainWindowView::Open() {
         .menuPlace = menuPlace_});
     binding_.emplace(*context_, window_.Form(), [this] { window_.Unload(); });
     auto& menu = window_.menu;
-    menuBar_.emplace(*context_, binding_->Frame(), std::vector{&menu.mnuFile, &menu.mnuHelp},
-                     std::vector{Shortcut{menu.mnuSave, "Ctrl+S"}, Shortcut{menu.mnuContents, "F1"}});
+    menuBar_.emplace(*context_, binding_->Frame(), std::vector{&menu.mnuFile, &menu.mnuEdit, &menu.mnuHelp},
+                     Shortcuts(menu));
+    clipboard_.emplace(*context_, window_.Form(), menu, binding_->Frame());
     menuBar_->AddContextMenu(menu.mnuGridPopMenu);
     menuBar_->AddContextMenu(menu.mnuSecuritypopMenu);
     desktop_.Window().Attach(binding_->Frame());

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "desktop/BoundControls.h"
+#include "desktop/ClipboardMenu.h"
 #include "desktop/Desktop.h"
 #include "desktop/MenuBarBinding.h"
 #include "desktop/WindowBinding.h"
@@ -27,6 +28,7 @@ class MainWindowView {
     std::optional<ViewContext> context_;
     std::optional<WindowBinding> binding_;
     std::optional<MenuBarBinding> menuBar_;
+    std::optional<ClipboardMenu> clipboard_;
     Subscription appearanceChanged_;
     Subscription unloaded_;
 };

@@ -1,9 +1,11 @@
 #include "desktop/MenuBarBinding.h"
 
+#include <wx/accel.h>
 #include <wx/app.h>
 #include <wx/frame.h>
 #include <wx/menu.h>
 
+#include <algorithm>
 #include <utility>
 
 #include "desktop/ShownText.h"
@@ -51,7 +53,10 @@ void MenuBarBinding::AddEntry(wxMenu& menu, MenuItem& entry) {
     }
     wxMenu* submenu = entry.Entries().empty() ? nullptr : MakeMenu(entry);
     auto* item = menu.Append(new wxMenuItem(&menu, wxID_ANY, LabelOf(entry), "", wxITEM_NORMAL, submenu));
+    AddOtherKey(*item, entry);
     item->Enable(entry.Enabled());
+    subscriptions_.push_back(
+        entry.captionChanged.Observe([this, item, &entry] { item->SetItemLabel(LabelOf(entry)); }));
     subscriptions_.push_back(entry.enabledChanged.Observe([item, &entry] { item->Enable(entry.Enabled()); }));
     frame_.Bind(
         wxEVT_MENU, [this, &entry](wxCommandEvent&) { context_.gate.Act([&] { entry.Click(); }); },
@@ -60,12 +65,25 @@ void MenuBarBinding::AddEntry(wxMenu& menu, MenuItem& entry) {
 
 wxString MenuBarBinding::LabelOf(const MenuItem& entry) const {
     wxString label = ToShown(context_.codePage, entry.Caption());
-    for (const auto& shortcut : shortcuts_) {
-        if (&shortcut.entry == &entry) {
-            label << "\t" << shortcut.key;
-        }
+    if (const auto* shortcut = ShortcutOf(entry)) {
+        label << "\t" << shortcut->key;
     }
     return label;
+}
+
+void MenuBarBinding::AddOtherKey(wxMenuItem& item, const MenuItem& entry) const {
+    const auto* shortcut = ShortcutOf(entry);
+    wxAcceleratorEntry other;
+    if (shortcut != nullptr && !shortcut->otherKey.empty() && other.FromString(shortcut->otherKey)) {
+        item.AddExtraAccel(other);
+        item.SetItemLabel(LabelOf(entry)); // where one table holds the keys, that makes it anew
+    }
+}
+
+const Shortcut* MenuBarBinding::ShortcutOf(const MenuItem& entry) const {
+    const auto found = std::find_if(shortcuts_.begin(), shortcuts_.end(),
+                                    [&](const Shortcut& shortcut) { return &shortcut.entry == &entry; });
+    return found == shortcuts_.end() ? nullptr : &*found;
 }
 
 } // namespace zy

@@ -13,10 +13,12 @@ class wxMenuItem;
 
 namespace zy {
 
-/// A menu entry that a key chooses as well, such as "Ctrl+S". The key is shown beside the caption.
+/// A menu entry that a key chooses as well, such as "Ctrl+S". The key is shown beside the caption; another
+/// one that does the same is not.
 struct Shortcut {
     const MenuItem& entry;
     std::string key;
+    std::string otherKey = {};
 };
 
 /// The menu bar and the context menus of a window.
@@ -33,6 +35,8 @@ class MenuBarBinding {
     wxMenu* MakeMenu(const MenuItem& menu);
     void AddEntry(wxMenu& menu, MenuItem& entry);
     wxString LabelOf(const MenuItem& entry) const;
+    void AddOtherKey(wxMenuItem& item, const MenuItem& entry) const;
+    const Shortcut* ShortcutOf(const MenuItem& entry) const;
 
     const ViewContext& context_;
     wxFrame& frame_;

@@ -1,6 +1,7 @@
 #include "desktop/ListViewBinding.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "desktop/CellClipboard.h"
 #include "desktop/CellKeys.h"
@@ -29,6 +30,7 @@ ListViewBinding::ListViewBinding(const ViewContext& context, const Inside& insid
         [this](int item) { ChangeList([&] { rows_->RowDeleted(static_cast<unsigned>(item - 1)); }); }));
     Keep(
         model_.itemChanged.Observe([this](int item) { rows_->RowChanged(static_cast<unsigned>(item - 1)); }));
+    Keep(model_.revealAsked.Observe([this] { reveals_ = true; }));
     Keep(Gate().updateViews.Observe([this] { ShowChanges(); }));
     Attach(list_);
 }
@@ -119,7 +121,8 @@ void ListViewBinding::ShowChanges() {
 
 void ListViewBinding::ShowSelection() {
     const int item = model_.Selected();
-    if (RealSelection() == item) {
+    const bool reveals = std::exchange(reveals_, false) && item != 0;
+    if (RealSelection() == item && !reveals) {
         return;
     }
     ChangeList([&] {

@@ -37,6 +37,7 @@ class ListViewBinding : public ControlBinding {
     wxObjectDataPtr<ListRows> rows_;
     std::vector<int> shownWidths_;
     bool rowsChanged_ = false;
+    bool reveals_ = false;  ///< the selected item is to be seen, be it the one that was selected last
     bool changing_ = false; ///< the program changes the real list
 };
 

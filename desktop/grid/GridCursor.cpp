@@ -35,7 +35,8 @@ wxGridBlockCoords BlockBetween(const Cell& one, const Cell& other) {
 
 GridCursor::GridCursor(const ViewContext& context, Grid& model, GridWidget& grid)
     : context_(context), model_(model), selection_(model.selection), grid_(grid), isStart_(model.HasFocus()),
-      blockChanged_(model.selection.blockChanged.Observe([this] { Touch(); })) {
+      blockChanged_(model.selection.blockChanged.Observe([this] { Touch(); })),
+      revealAsked_(model.selection.revealAsked.Observe([this] { reveals_ = true; })) {
     grid_.Bind(wxEVT_GRID_SELECT_CELL, [this](wxGridEvent& event) {
         event.Skip();
         TakeCell(event);
@@ -126,6 +127,9 @@ bool GridCursor::Show() {
     ShowCell();
     ShowBlock();
     showing_ = false;
+    if (std::exchange(reveals_, false) && HasCell()) {
+        grid_.Reveal(selection_.Current());
+    }
     return true;
 }
 

@@ -41,8 +41,10 @@ class GridCursor {
     bool changed_ = true;
     const bool isStart_;   ///< the program starts here, and picks a cell of its own or none
     int shownRow_ = -1;    ///< where the current row was shown last
+    bool reveals_ = false; ///< the cell is to be seen, be it the one that was shown last
     bool showing_ = false; ///< the toolkit announces a move because the model's is shown
     Subscription blockChanged_;
+    Subscription revealAsked_;
 };
 
 } // namespace zy

@@ -100,11 +100,15 @@ TEST_F(KeyboardWindow, TheMenusBearTheirCaptions) {
     Play([&] {
         InWindow([&] {
             const auto& bar = *RealFrame().GetMenuBar();
-            ASSERT_EQ(bar.GetMenuCount(), 2U);
+            ASSERT_EQ(bar.GetMenuCount(), 3U);
             EXPECT_EQ(bar.GetMenuLabel(0), "&File");
-            EXPECT_EQ(bar.GetMenuLabel(1), "&Help");
+            EXPECT_EQ(bar.GetMenuLabel(1), "&Edit");
+            EXPECT_EQ(bar.GetMenuLabel(2), "&Help");
             EXPECT_THAT(EntriesOf(*bar.GetMenu(0)), ElementsAre("&Save\tCtrl+S", "E&xit"));
-            const auto& help = *bar.GetMenu(1);
+            EXPECT_THAT(EntriesOf(*bar.GetMenu(1)),
+                        ElementsAre("&Undo\tCtrl+Z", "&Redo\tCtrl+Y", "-", "Cu&t\tCtrl+X", "&Copy\tCtrl+C",
+                                    "&Paste\tCtrl+V", "-", "Select &All\tCtrl+A"));
+            const auto& help = *bar.GetMenu(2);
             EXPECT_THAT(EntriesOf(help), ElementsAre("&Contents\tF1", "&Index", "-", "Norvale on the &Web...",
                                                      "-", "&About ZY Setup"));
             EXPECT_THAT(EntriesOf(*help.GetMenuItems()[3]->GetSubMenu()),
