@@ -18,6 +18,9 @@ class RuleSteps : public EditSteps {
     /// The three must outlive the steps.
     RuleSteps(mRules& rules, RuleDetails& details, RulesControls& controls);
 
+    /// Whether the detail form holds what is in no rule.
+    bool HasDraft() const { return !form_.rule.empty() && form_ != filled_; }
+
     /// A draft was dropped, because another rule was picked or the list changed; with its rule's code.
     Event<const std::string&> dropped;
 
@@ -45,7 +48,6 @@ class RuleSteps : public EditSteps {
     void ConnectList();
     void ConnectDetails();
     Form ShownForm() const;
-    bool HasDraft() const { return !form_.rule.empty() && form_ != filled_; }
     void BeginFilling();
     void EndFilling();
     void NoteEdit(int column);

@@ -81,7 +81,8 @@ void RulesPage::Save() {
 bool RulesPage::Write() {
     const bool written = rules_.Write_Rules_File();
     if (written) {
-        steps_.MarkSaved(!rules_.LastSaveFailed());
+        // What the form alone holds is not in the file, and stays to be saved.
+        steps_.MarkSaved(!rules_.LastSaveFailed() && !steps_.HasDraft());
     }
     return written;
 }

@@ -21,7 +21,7 @@ SecurityPage::SecurityPage(SettingsForm& form, SharedState& state, TraceChannel&
       writer_(database_, files, recycleBin), checks_(controls.grdSecurity.cells, dialogs, codePage),
       login_(form, trace, dialogs, codePage),
       users(controls.grdSecurity, reader_, writer_, checks_, login_, trace), form_(form), state_(state),
-      trace_(trace), system_(system), dialogs_(dialogs), steps_(controls.grdSecurity, "User") {
+      trace_(trace), system_(system), dialogs_(dialogs), steps_("User", controls.grdSecurity) {
     Connect();
 }
 

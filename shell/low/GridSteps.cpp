@@ -27,7 +27,7 @@ StepPlace Among(const RowChange& change, const RowTexts& rows, const StepPlace& 
 
 } // namespace
 
-GridSteps::GridSteps(Grid& grid, std::string noun) : grid_(grid), noun_(std::move(noun)) {
+GridSteps::GridSteps(std::string noun, Grid& grid) : grid_(grid), noun_(std::move(noun)) {
     Connect();
 }
 

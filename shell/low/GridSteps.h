@@ -11,8 +11,8 @@ namespace zy {
 /// The steps of an editor whose list is the rows of a grid. Row 0 is the header.
 class GridSteps : public EditSteps {
   public:
-    /// Records the changes of a grid, whose rows are called so: "Unit". The grid must outlive the steps.
-    GridSteps(Grid& grid, std::string noun);
+    /// Records the changes of a grid whose rows are called so: "Unit". The grid must outlive the steps.
+    GridSteps(std::string noun, Grid& grid);
 
   private:
     // RowList

@@ -258,6 +258,18 @@ TEST_F(UndoRules, TheLastSaveIsWhereNothingIsChanged) {
     EXPECT_EQ(File(), Text({Loaded("A"), Loaded("B"), Loaded("C")}));
 }
 
+TEST_F(UndoRules, TextThatTheFileLacksBringsTheMarkBack) {
+    Type(page().txtMin, "2");
+    page().cmdSaveRules.Click();
+    ExpectMarks(false, false);
+    list().Pick(2);
+    Undo();
+    ExpectMarks(true, false);
+    ChooseSave();
+    EXPECT_EQ(rules().gaRules(1).Min, "2");
+    ExpectMarks(false, true);
+}
+
 // The grid.
 
 TEST_F(UndoRules, ARuleDeletedInTheGridComesBackThere) {
