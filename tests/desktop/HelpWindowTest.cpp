@@ -592,7 +592,7 @@ TEST_F(HelpWindow, SearchOpensTheNextPageThatWasFoundAtTheWords) {
         OpenHelp();
         LookFor("expiry");
         WaitForPage(kFirstPage);
-        WaitForFound("Found on 9 pages");
+        WaitForFound("Found on 10 pages");
         WaitUntil("the pages found have the focus",
                   [] { return HasFocus(Part<wxListBox>(wxID_HTML_SEARCHLIST)); });
         Press(WXK_DOWN);
