@@ -8,6 +8,7 @@
 #include "UnitsEditor.h"
 #include "Workplace.h"
 #include "basics/Int16.h"
+#include "units/UnitsFileText.h"
 
 // units_bench: loading, checking, pasting and saving the units.
 
@@ -70,6 +71,42 @@ void AddPaste(UnitsPlace& many, UnitsEditor& empty) {
                  .ours = InFreshProcess(paste)}));
 }
 
+/// What somebody did to a loaded list is taken back.
+template <typename Deed>
+Seconds UndoOf(UnitsPlace& many, Deed deed) {
+    return InFreshProcess([&many, deed] {
+        const auto units = many.Loaded();
+        auto& grid = units->page.controls.grdUnits;
+        const std::string before(UnitsFileText(grid.cells).Get());
+        deed(grid);
+        const auto seconds = Working([&] { units->page.Steps().Undo(); })();
+        if (UnitsFileText(grid.cells).Get() != before) {
+            throw std::runtime_error("the units are not as they were");
+        }
+        return seconds;
+    });
+}
+
+/// Both are far below what a person notices: taking back never takes longer than reading the list.
+void AddUndo(UnitsPlace& many) {
+    const auto peer = InFreshProcess(LoopOverLines(many.File()));
+    Add(Against(peer, {.work = "undo of a paste over " + many.Records(),
+                       .goal = 1,
+                       .rounds = 21,
+                       .ours = UndoOf(many, [block = Cells(kMaxItems)](Grid& grid) {
+                           grid.Pick(1, 0);
+                           grid.Paste(block);
+                       })}));
+    Add(Against(peer, {.work = "undo of an edit among " + many.Records(),
+                       .goal = 0.1,
+                       .rounds = 21,
+                       .ours = UndoOf(many, [](Grid& grid) {
+                           grid.Pick(kMaxItems / 2, 1);
+                           grid.TypeOver("x");
+                           grid.editor.Commit();
+                       })}));
+}
+
 int Run(int argumentCount, char** arguments) {
     constexpr int kTenth = kMaxItems / 10;
     UnitsPlace many(Disk(), kMaxItems);
@@ -82,6 +119,7 @@ int Run(int argumentCount, char** arguments) {
     AddPlainSave(inMemory, 6);
     AddCheck(tenTenths, tenth);
     AddPaste(many, empty);
+    AddUndo(many);
     return RunDuels(argumentCount, arguments);
 }
 
