@@ -42,6 +42,16 @@ TEST_F(UndoUsers, AnEditIsTakenBackAndDoneAgain) {
     EXPECT_EQ(Status(), "2 users   -   Redone: Edit Password");
 }
 
+TEST_F(UndoUsers, AnOpenCellThatAStepClosesIsNoEdit) {
+    Edit(1, kPassword, "open");
+    grid().Pick(2, kPassword);
+    grid().OpenEditor();
+    Traces();
+    Undo();
+    EXPECT_FALSE(grid().editor.IsOpen());
+    EXPECT_THAT(Traces(), ElementsAre("frmGlobalSettings mnuUndo_Click Start"));
+}
+
 TEST_F(UndoUsers, ADateThatWasPickedIsAStep) {
     PickDate(1);
     EXPECT_THAT(Rows(), ElementsAre("Ann|secret|A|01-02-03|id of Ann", kBob));
