@@ -72,8 +72,7 @@ void ClipboardMenu::Cut() {
     if (auto* text = FocusedText()) {
         text->Cut();
     } else if (auto* grid = Focused<Grid>()) {
-        CopyCells(context_, grid->block.Copy());
-        grid->Press({Key::Delete});
+        CutCells(context_, *grid);
     }
 }
 

@@ -71,6 +71,12 @@ bool CopyCells(const ViewContext& context, const std::string& cells) {
            });
 }
 
+void CutCells(const ViewContext& context, Grid& model) {
+    if (CopyCells(context, model.block.Copy())) {
+        context.gate.Act([&] { model.Press({Key::Delete}); });
+    }
+}
+
 void PasteCells(const ViewContext& context, Grid& model) {
     const auto shown = TextOnClipboard(context);
     if (!shown) {

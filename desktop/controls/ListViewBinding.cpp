@@ -103,7 +103,7 @@ void ListViewBinding::TakePick() {
 void ListViewBinding::PressKey(wxKeyEvent& event) {
     const auto press = KeyPressOf(event);
     if (ClipboardKeyOf(event) == ClipboardKey::Copy) {
-        static_cast<void>(CopyCells(Context(), model_.Copy())); // the user has been told of a failure
+        CopyCells(Context(), model_.Copy());
     } else if (press && (press->alt || press->key == Key::Delete)) {
         Gate().Act([&] { model_.Press(*press); });
     } else {

@@ -156,15 +156,13 @@ void GridBinding::HandOn(wxKeyEvent& event) {
 
 bool GridBinding::UseClipboard(const wxKeyEvent& event) {
     const auto key = ClipboardKeyOf(event);
-    const bool copies = key == ClipboardKey::Copy || key == ClipboardKey::Cut;
-    const bool copied = copies && CopyCells(Context(), model_.block.Copy());
     if (key == ClipboardKey::SelectAll) {
         Gate().Act([this] { model_.SelectAll(); });
-    }
-    if (key == ClipboardKey::Cut && copied) {
-        Gate().Act([this] { model_.Press({Key::Delete}); });
-    }
-    if (key == ClipboardKey::Paste) {
+    } else if (key == ClipboardKey::Copy) {
+        CopyCells(Context(), model_.block.Copy());
+    } else if (key == ClipboardKey::Cut) {
+        CutCells(Context(), model_);
+    } else if (key == ClipboardKey::Paste) {
         PasteCells(Context(), model_);
     }
     return key != ClipboardKey::None;
