@@ -5,6 +5,7 @@
 
 #include "RulesWindow.h"
 #include "UnitsWindow.h"
+#include "UsersWindow.h"
 
 namespace zy::test {
 namespace {
@@ -150,6 +151,23 @@ TEST_F(UndoInUnits, TheMenuIsGreyWhereThereIsNothingToWorkOn) {
         OpenEditMenu();
         EXPECT_THAT(Entries(), ElementsAre("Undo Add Unit", "(Redo)", "Cut", "Copy", "Paste", "Select All"));
         LeaveMenu();
+    });
+}
+
+class UndoInUsers : public UsersWindow {};
+
+TEST_F(UndoInUsers, ControlZBringsTheOldPasswordBack) {
+    PutUsers(TwoUsers());
+    Play([&] {
+        Fill(2, kPassword, "open");
+        EXPECT_TRUE(IsEnabled(page().cmdSaveUsers));
+        Press('Z', wxMOD_CONTROL);
+        WaitForText(2, kPassword, "secret");
+        WaitForCell(2, kPassword);
+        EXPECT_FALSE(IsEnabled(page().cmdSaveUsers));
+        EXPECT_EQ(Status(), "2 users   -   Undone: Edit Password");
+        Press('Y', wxMOD_CONTROL);
+        WaitForText(2, kPassword, "open");
     });
 }
 
