@@ -1,6 +1,7 @@
 #include "desktop/MonthCalendarBinding.h"
 
 #include <wx/settings.h>
+#include <wx/stattext.h>
 
 #include "desktop/Native.h"
 
@@ -44,7 +45,17 @@ MonthCalendarBinding::MonthCalendarBinding(const ViewContext& context, const Ins
     NameParts();
 }
 
+void MonthCalendarBinding::TakeUnseenTexts() {
+    const wxWindowList siblings = Parent()->GetChildren();
+    for (auto* sibling : siblings) {
+        if (dynamic_cast<wxStaticText*>(sibling) != nullptr && !sibling->IsShown()) {
+            sibling->Reparent(calendar_);
+        }
+    }
+}
+
 void MonthCalendarBinding::NameParts() {
+    TakeUnseenTexts();
     SetAccessibleRole(*calendar_, AccessibleRole::Calendar);
     SetAccessibleDescription(*calendar_, Shown(model_.Caption()));
     SetAccessibleName(*calendar_->GetMonthControl(), "Month");

@@ -23,6 +23,9 @@ class MonthCalendarBinding : public ControlBinding {
     void Pick(const wxDateTime& day);
     void ShowValue();
     void NameParts();
+    /// The toolkit keeps month and year as texts too, which nobody sees here. Beside the calendar they would
+    /// name the controls behind them.
+    void TakeUnseenTexts();
     /// Tells assistive technology which day is current.
     void TellDay();
 

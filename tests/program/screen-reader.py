@@ -175,8 +175,8 @@ class DialogTest(ScreenReader):
         self.start("@SECURITY", "ZY Setup - Security")
         self.press("Right", "Right", "Right", "2", "6", "minus", "1", "2", "minus", "0", "1", "alt+Down")
         calendar = self.wait_for(lambda: self.find_dialog("Expiry Date"), "the calendar")
-        self.find(calendar, "combo box", "Month")
-        self.find(calendar, "spin button", "Year")
+        fields = [self.find(calendar, "combo box", "Month"), self.find(calendar, "spin button", "Year")]
+        self.assertEqual([list(each.getRelationSet()) for each in fields], [[], []])
         self.wait_for_focus(calendar, "calendar", "Tuesday, 1 December 2026")
         self.press("Left")
         self.wait_for_focus(calendar, "calendar", "Monday, 30 November 2026")
