@@ -241,9 +241,10 @@ void InitComponent(gpointer interface, gpointer /*unused*/) {
 // of accessible object. So that a panel is no table, that kind is the usual one, under another name, until a
 // table is asked for.
 
-constexpr const char* kWanted = "zy-wanted-kind";
+constexpr const char* kWanted = "zy-table-wanted";
 
 GType RegisterUsual();
+GType TableKind();
 
 GType UsualKind() {
     static const GType type = RegisterUsual();
@@ -251,9 +252,8 @@ GType UsualKind() {
 }
 
 GObject* Construct(GType kind, guint count, GObjectConstructParam* properties) {
-    const auto wanted =
-        reinterpret_cast<GType>(g_type_get_qdata(UsualKind(), g_quark_from_static_string(kWanted)));
-    return reinterpret_cast<GObjectClass&>(Usual()).constructor(wanted == 0 ? kind : wanted, count,
+    const bool isTable = g_type_get_qdata(UsualKind(), g_quark_from_static_string(kWanted)) != nullptr;
+    return reinterpret_cast<GObjectClass&>(Usual()).constructor(isTable ? TableKind() : kind, count,
                                                                 properties);
 }
 
@@ -285,8 +285,9 @@ GType TableKind() {
     return type;
 }
 
-void Want(GType kind) {
-    g_type_set_qdata(UsualKind(), g_quark_from_static_string(kWanted), reinterpret_cast<gpointer>(kind));
+/// The next object that is made is to be a table, or no longer.
+void Want(TableContent* table) {
+    g_type_set_qdata(UsualKind(), g_quark_from_static_string(kWanted), table);
 }
 
 } // namespace
@@ -305,9 +306,9 @@ void AddInterface(GType type, GType interface, GInterfaceInitFunc init) {
 HeldObject MakeTableObject(GtkWidget* cells, TableContent& content) {
     gtk_widget_class_set_accessible_type(reinterpret_cast<_GtkWidgetClass*>(G_OBJECT_GET_CLASS(cells)),
                                          UsualKind());
-    Want(TableKind());
+    Want(&content);
     HeldObject table(static_cast<AtkObject*>(g_object_ref(gtk_widget_get_accessible(cells))));
-    Want(0);
+    Want(nullptr);
     atk_object_set_role(table.get(), ATK_ROLE_TABLE);
     auto* attached =
         new Attached{.content = content, .headers = {}, .current = {}, .currentCell = {}, .name = {}};
