@@ -15,7 +15,10 @@ class TableTold : public AccessibleTable {
           widget_(static_cast<GtkWidget*>(g_object_ref(cells.GetHandle()))),
           focus_(g_signal_connect_swapped(widget_.get(), "notify::has-focus", G_CALLBACK(TellFocus), this)) {}
     ~TableTold() override {
-        g_signal_handler_disconnect(widget_.get(), focus_);
+        // A widget that is destroyed before has lost its handlers.
+        if (g_signal_handler_is_connected(widget_.get(), focus_) != 0) {
+            g_signal_handler_disconnect(widget_.get(), focus_);
+        }
         DropContent(table_.get());
     }
     TableTold(const TableTold&) = delete;
