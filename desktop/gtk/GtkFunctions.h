@@ -8,6 +8,7 @@
 // The calls of GTK that the program makes itself. The toolkit's development package brings GTK's libraries
 // but not its headers, so these few are declared here, as GTK 3 has fixed them for good.
 
+// NOLINTBEGIN(bugprone-reserved-identifier): the names are GTK's own
 struct _GdkAtom;
 struct _GdkDisplay;
 struct _GdkKeymap;
@@ -29,6 +30,7 @@ struct _GtkTreeView;
 struct _GtkTreeViewColumn;
 struct _GtkWidgetClass;
 struct _GtkWindow;
+// NOLINTEND(bugprone-reserved-identifier)
 
 extern "C" {
 

@@ -18,7 +18,8 @@ inline constexpr std::string_view kCharacterRefused = " was not taken: the setti
 inline constexpr std::string_view kFieldFull = "Not taken: the field would get longer than it can be";
 
 /// Shown when cells could be neither copied nor pasted because another program keeps the clipboard to itself.
-inline constexpr std::string_view kClipboardInUse = "Not copied or pasted: another program is using the clipboard";
+inline constexpr std::string_view kClipboardInUse =
+    "Not copied or pasted: another program is using the clipboard";
 
 /// Shown when the user adds to a list that is as long as it can be.
 inline constexpr std::string_view kListFull = "Not added: the list is as long as it can be";
