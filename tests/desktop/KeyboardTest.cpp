@@ -1,6 +1,8 @@
 #include <wx/frame.h>
 #include <wx/menu.h>
 
+#include <ranges>
+
 #include "RulesWindow.h"
 
 namespace zy::test {
@@ -39,9 +41,9 @@ TEST_F(KeyboardWindow, ShiftTabGoesTheSameWayBack) {
     Play([&] {
         WaitForFocus(page().lstRulesList);
         const auto order = ControlsInOrder();
-        for (auto control = order.rbegin(); control != order.rend(); ++control) {
+        for (const auto* control : std::views::reverse(order)) {
             Press(WXK_TAB, wxMOD_SHIFT);
-            WaitForFocus(**control);
+            WaitForFocus(*control);
         }
     });
 }

@@ -15,7 +15,6 @@
 #include "ScreenPicture.h"
 #include "WindowThread.h"
 #include "controls/Control.h"
-#include "desktop/Contrast.h"
 #include "desktop/HelpFrame.h"
 
 namespace zy::test {
@@ -46,6 +45,7 @@ class KeyboardWalk : public EditorWindow {
         this->WaitForFocus(first);
         leave();
         this->WaitForFocus(*others.front());
+        ExpectSeen(*others.front(), atRest[others.front()]); // by then both are painted
         atRest[&first] = PictureOf(first);
         this->Press(WXK_TAB, wxMOD_SHIFT);
         this->WaitForFocus(first);
@@ -88,7 +88,7 @@ class KeyboardWalk : public EditorWindow {
         try {
             WaitUntil("the mark of the keyboard is seen", [&] {
                 contrast = ChangeContrast(atRest, Picture(control));
-                return contrast >= kNoticeable;
+                return contrast >= LeastContrastOfFocus();
             });
         } catch (const GaveUp&) {
             ADD_FAILURE() << control.Name() << " stands out by " << contrast << " while it has the keyboard";

@@ -16,6 +16,7 @@
 
 #include "Hands.h"
 #include "NativeLook.h"
+#include "desktop/Contrast.h"
 #include "desktop/GtkFunctions.h"
 
 struct _GtkDialog;
@@ -155,6 +156,10 @@ std::optional<wxUniChar> PasswordCharacterOf(const wxTextCtrl& box) {
         return std::nullopt;
     }
     return wxUniChar(gtk_entry_get_invisible_char(entry));
+}
+
+double LeastContrastOfFocus() {
+    return kNoticeable;
 }
 
 bool ShowsWholeText(const wxTextCtrl& box) {

@@ -1,3 +1,4 @@
+#include <wx/dataview.h>
 #include <wx/frame.h>
 #include <wx/grid.h>
 #include <wx/menu.h>
@@ -9,8 +10,6 @@
 
 namespace zy::test {
 namespace {
-
-using ::testing::ElementsAre;
 
 /// The entries of the Edit menu in a real window. For the window's thread.
 std::vector<std::string> EditEntries(const wxFrame& frame) {
@@ -28,8 +27,10 @@ std::vector<std::string> EditEntries(const wxFrame& frame) {
 template <typename Window>
 class WithEditMenu : public Window {
   protected:
-    std::vector<std::string> Entries() {
-        return InWindow([] { return EditEntries(Window::RealFrame()); });
+    /// Waits until the entries are these; those that cannot be chosen stand in brackets.
+    void ExpectEntries(const std::vector<std::string>& entries) {
+        WaitUntil("the menu has the entries " + ::testing::PrintToString(entries),
+                  [&] { return EditEntries(Window::RealFrame()) == entries; });
     }
     void OpenEditMenu() {
         this->Press('E', wxMOD_ALT);
@@ -68,23 +69,37 @@ TEST_F(UndoInUnits, ControlZTakesAnEditBackAndControlYAndControlShiftZDoItAgain)
 
 TEST_F(UndoInUnits, TheMenuNamesTheSteps) {
     Play([&] {
-        EXPECT_THAT(Entries(), ElementsAre("(Undo)", "(Redo)", "Cut", "Copy", "Paste", "Select All"));
+        ExpectEntries({"(Undo)", "(Redo)", "Cut", "Copy", "Paste", "Select All"});
         ClickCell(3, 0);
         Click(page().cmdDeleteUnit);
         ExpectBox("Are you sure you wish to delete this Unit of Measure?", "Confirm Delete");
         PressInBox(WXK_RETURN);
         WaitUntil("the unit is gone", [&] { return grid().cells.Rows() == 3; });
-        EXPECT_THAT(Entries(),
-                    ElementsAre("Undo Delete Unit s", "(Redo)", "Cut", "Copy", "Paste", "Select All"));
+        ExpectEntries({"Undo Delete Unit s", "(Redo)", "Cut", "Copy", "Paste", "Select All"});
         ChooseFromEditMenu('U');
         WaitForText(3, 0, "s");
-        EXPECT_THAT(Entries(),
-                    ElementsAre("(Undo)", "Redo Delete Unit s", "Cut", "Copy", "Paste", "Select All"));
+        ExpectEntries({"(Undo)", "Redo Delete Unit s", "Cut", "Copy", "Paste", "Select All"});
         ChooseFromEditMenu('R');
         WaitUntil("the unit is gone again", [&] { return grid().cells.Rows() == 3; });
     });
 }
 
+TEST_F(UndoInUnits, ControlZInAnOpenCellLeavesTheTextThatWasThere) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        OpenEditor(2, 1);
+        Type("Ells");
+        WaitForEditor("Ells");
+        Press('Z', wxMOD_CONTROL);
+        Press('S', wxMOD_CONTROL);
+        Press(WXK_F2);
+        WaitForEditor("Metres");
+        EXPECT_FALSE(program->form.ChangeFlag);
+    });
+}
+
+#ifndef _WIN32
+// There a key of the menu bar goes by way of the menu, which closes the cell: what was typed is a step then.
 TEST_F(UndoInUnits, ControlZInAnOpenCellTakesTheTypingBackFirst) {
     Play([&] {
         Fill(1, 0, "g");
@@ -103,6 +118,7 @@ TEST_F(UndoInUnits, ControlZInAnOpenCellTakesTheTypingBackFirst) {
         WaitForCell(1, 0);
     });
 }
+#endif
 
 TEST_F(UndoInUnits, TheCellThatComesBackIsScrolledIntoSight) {
     PutUnits(ManyUnits(500));
@@ -112,10 +128,8 @@ TEST_F(UndoInUnits, TheCellThatComesBackIsScrolledIntoSight) {
         Press(WXK_DOWN);
         Press(WXK_UP);
         WaitForCell(1, 1);
-        for (int turns = 0; turns < 50 && IsOnScreen(1); ++turns) {
-            hands->TurnWheelOver(PlaceOf(grid()));
-        }
-        ASSERT_FALSE(IsOnScreen(1));
+        InWindow([&] { RealGrid().MakeCellVisible(400, 0); });
+        WaitUntil("the cell is out of sight", [&] { return !RealGrid().IsVisible(0, 0, true); });
         Press('Z', wxMOD_CONTROL);
         WaitForText(1, 1, "Unit number 1");
         WaitUntil("the cell is in sight", [&] { return RealGrid().IsVisible(0, 0, true); });
@@ -141,7 +155,7 @@ TEST_F(UndoInUnits, TheMenuIsGreyWhereThereIsNothingToWorkOn) {
     Play([&] {
         PutOnClipboard("x");
         OpenEditMenu();
-        EXPECT_THAT(Entries(), ElementsAre("(Undo)", "(Redo)", "(Cut)", "(Copy)", "Paste", "Select All"));
+        ExpectEntries({"(Undo)", "(Redo)", "(Cut)", "(Copy)", "Paste", "Select All"});
         LeaveMenu();
         Click(page().cmdAddUNit);
         WaitForEditor("");
@@ -149,7 +163,7 @@ TEST_F(UndoInUnits, TheMenuIsGreyWhereThereIsNothingToWorkOn) {
         Press(WXK_TAB, wxMOD_SHIFT);
         WaitForCell(3, 1);
         OpenEditMenu();
-        EXPECT_THAT(Entries(), ElementsAre("Undo Add Unit", "(Redo)", "Cut", "Copy", "Paste", "Select All"));
+        ExpectEntries({"Undo Add Unit", "(Redo)", "Cut", "Copy", "Paste", "Select All"});
         LeaveMenu();
     });
 }
@@ -216,10 +230,9 @@ TEST_F(UndoInRules, TheRuleThatComesBackIsScrolledIntoSight) {
         ExpectBox("Are you Sure you want to Delete this Rule", "Confirm Delete");
         PressInBox(WXK_RETURN);
         WaitUntil("the rule is gone", [&] { return page().lstRulesList.Count() == 199; });
-        for (int turns = 0; turns < 50 && IsRowVisible(1); ++turns) {
-            hands->TurnWheelOver(PlaceOf(page().lstRulesList));
-        }
-        ASSERT_FALSE(IsRowVisible(1));
+        InWindow([&] { RealList().EnsureVisible(wxDataViewItem(wxUIntToPtr(150U))); });
+        WaitUntil("the first rule is out of sight",
+                  [&] { return RealList().GetTopItem() != wxDataViewItem(wxUIntToPtr(1U)); });
         Press('Z', wxMOD_CONTROL);
         WaitUntil("the rule is back", [&] { return page().lstRulesList.Count() == 200; });
         WaitForSelection(1);
@@ -258,7 +271,7 @@ TEST_F(UndoInRules, TheMenuCopiesTheRuleThatIsSelected) {
     Play([&] {
         WaitForFocus(page().lstRulesList);
         OpenEditMenu();
-        EXPECT_THAT(Entries(), ElementsAre("(Undo)", "(Redo)", "(Cut)", "Copy", "(Paste)", "(Select All)"));
+        ExpectEntries({"(Undo)", "(Redo)", "(Cut)", "Copy", "(Paste)", "(Select All)"});
         Press('C');
         WaitForNoMenu();
         EXPECT_EQ(OnClipboard(), InWindow([&] { return page().lstRulesList.Copy(); }));
