@@ -33,6 +33,7 @@ class OneLine : public wxGridCellStringRenderer {
             dc.SetBrush(TintOf(grid));
             dc.DrawRectangle(place);
         } else {
+            // NOLINTNEXTLINE(bugprone-parent-virtual-call): the parent would draw the text, too
             wxGridCellRenderer::Draw(grid, attr, dc, place, row, column, isSelected);
         }
         // Without the keyboard a block is grey, on which the selection's own colour of text is hard to read.

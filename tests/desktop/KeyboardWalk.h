@@ -94,8 +94,16 @@ class KeyboardWalk : public EditorWindow {
             ADD_FAILURE() << control.Name() << " stands out by " << contrast << " while it has the keyboard";
         }
     }
+    /// The picture of a control at rest, of which nothing is still to be painted.
     wxImage PictureOf(const Control& control) {
+        InWindow([&] { Paint(this->Real(control)); });
         return InWindow([&] { return Picture(control); });
+    }
+    static void Paint(wxWindow& window) {
+        window.Update();
+        for (auto* child : window.GetChildren()) {
+            Paint(*child);
+        }
     }
     wxImage Picture(const Control& control) {
         const auto& window = this->Real(control);
