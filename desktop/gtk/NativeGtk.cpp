@@ -184,6 +184,7 @@ double DotsPerInch(const wxWindow& /*window*/) {
     return DotsPerInch();
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the other system keeps it
 void ObserveDotsPerInch(wxWindow& /*window*/, std::function<void()> /*changed*/) {
     // It is the same on all screens.
 }
@@ -254,6 +255,7 @@ void AnnounceNotice(wxWindow& notice) {
     atk_object_notify_state_change(AccessibleOf(notice), ATK_STATE_SHOWING, 1);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the other system keeps it
 void FollowByEnter(wxHyperlinkCtrl& /*link*/, std::function<void()> /*follow*/) {
     // A link is a button to GTK, which Enter presses.
 }

@@ -27,9 +27,11 @@ void AddReaders() {
     if (wxImage::FindHandler(wxBITMAP_TYPE_GIF) == nullptr) {
         wxImage::AddHandler(new wxGIFHandler);
     }
+    // NOLINTBEGIN(clang-analyzer-cplusplus.NewDeleteLeaks): the toolkit deletes them in the end
     wxFileSystem::AddHandler(new wxMemoryFSHandler);
     wxFileSystem::AddHandler(new wxArchiveFSHandler);
 }
+// NOLINTEND(clang-analyzer-cplusplus.NewDeleteLeaks)
 
 } // namespace
 

@@ -12,7 +12,7 @@ LinkEnd FollowLinks(std::string path) {
         if (noLink) {
             return {.path = std::move(path), .error = FileError::None};
         }
-        path = target.starts_with('/') ? target : FolderOfPath(path) + target;
+        path = target.starts_with('/') ? target : FolderOfPath(path).append(target);
     }
     return {.path = "", .error = FileError::LinkLoop};
 }

@@ -63,7 +63,7 @@ std::optional<std::string> PathResolver::Resolve(std::string_view path) const {
     }
     const auto start = StartOf(path);
     // Nearly always the path is right as it stands: then one look is enough.
-    const auto exact = ResolveEach(
+    auto exact = ResolveEach(
         start, [this](const std::string&, std::string_view name) { return text_.NameToOutside(name); });
     if (exact && NameExists(*exact)) {
         return exact;
@@ -116,8 +116,9 @@ std::optional<std::string_view> PathResolver::Behind(std::string_view folder, st
 }
 
 template <typename NameInFolder>
-std::optional<std::string> PathResolver::ResolveEach(Start start, const NameInFolder& nameInFolder) const {
-    auto& [resolved, rest] = start;
+std::optional<std::string> PathResolver::ResolveEach(const Start& start,
+                                                     const NameInFolder& nameInFolder) const {
+    auto [resolved, rest] = start;
     for (auto name = TakeName(rest); !name.empty(); name = TakeName(rest)) {
         const auto found = nameInFolder(resolved + '/', name);
         if (!found) {

@@ -59,7 +59,7 @@ class PathResolver {
     std::optional<std::string_view> Behind(std::string_view folder, std::string_view path) const;
     /// The path whose parts are named by `nameInFolder`, from the first on; nothing when one has no name.
     template <typename NameInFolder>
-    std::optional<std::string> ResolveEach(Start start, const NameInFolder& nameInFolder) const;
+    std::optional<std::string> ResolveEach(const Start& start, const NameInFolder& nameInFolder) const;
     /// The name in the system of one part of a path.
     std::optional<std::string> ResolveName(const std::string& folder, std::string_view name) const;
     Names NamesIgnoringCase(const std::string& folder, std::string_view name) const;

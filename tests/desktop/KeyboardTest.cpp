@@ -1,8 +1,6 @@
 #include <wx/frame.h>
 #include <wx/menu.h>
 
-#include <ranges>
-
 #include "RulesWindow.h"
 
 namespace zy::test {
@@ -41,9 +39,9 @@ TEST_F(KeyboardWindow, ShiftTabGoesTheSameWayBack) {
     Play([&] {
         WaitForFocus(page().lstRulesList);
         const auto order = ControlsInOrder();
-        for (const auto* control : std::views::reverse(order)) {
+        for (auto control = order.rbegin(); control != order.rend(); ++control) {
             Press(WXK_TAB, wxMOD_SHIFT);
-            WaitForFocus(*control);
+            WaitForFocus(**control);
         }
     });
 }
