@@ -15,6 +15,7 @@
 #include "ScreenPicture.h"
 #include "WindowThread.h"
 #include "controls/Control.h"
+#include "desktop/Contrast.h"
 #include "desktop/HelpFrame.h"
 
 namespace zy::test {
@@ -88,7 +89,7 @@ class KeyboardWalk : public EditorWindow {
         try {
             WaitUntil("the mark of the keyboard is seen", [&] {
                 contrast = ChangeContrast(atRest, Picture(control));
-                return contrast >= LeastContrastOfFocus();
+                return contrast >= kNoticeable;
             });
         } catch (const GaveUp&) {
             ADD_FAILURE() << control.Name() << " stands out by " << contrast << " while it has the keyboard";

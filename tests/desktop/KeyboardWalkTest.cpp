@@ -126,15 +126,6 @@ TEST_F(RulesWalk, EditsAddsDeletesMovesAndSaves) {
     EXPECT_EQ(File(), FileOf({"R2|3|4|<=|TARG|Edited", "A7|1|2|=|USL|New", "R3|5|6|=|-3S|Third rule  "}));
 }
 
-TEST_F(RulesWalk, ShowsWhereTheKeyboardIs) {
-    Play([&] {
-        auto others = ControlsInOrder();
-        others.erase(others.begin());
-        ExpectFocusSeen(
-            page().lstRulesList, [&] { Press(WXK_TAB); }, others);
-    });
-}
-
 TEST_F(UnitsWalk, EditsAddsDeletesMovesAndSaves) {
     EXPECT_EQ(Play([&] {
                   WaitForFocus(page().grdUnits);
@@ -176,17 +167,6 @@ TEST_F(UnitsWalk, EditsAddsDeletesMovesAndSaves) {
     EXPECT_EQ(File(), "Some Kilograms,kg\r\nAmperes,A\r\nSeconds,s\r\n");
 }
 
-TEST_F(UnitsWalk, ShowsWhereTheKeyboardIs) {
-    Play([&] {
-        WaitForFocus(page().grdUnits);
-        Press(WXK_DOWN); // lets Delete be pressed
-        WaitForCell(1, 0);
-        ExpectFocusSeen(page().grdUnits, [&] { LeaveGrid(); },
-                        {&page().cmdAddUNit, &page().cmdDeleteUnit, &page().cmdHelpUnits, &page().UpDownUnits,
-                         &page().UpDownUnits});
-    });
-}
-
 TEST_F(UsersWalk, LogsInEditsAddsDeletesAndSaves) {
     PutUsers({User("ADMIN", "Secret"), User("Ann"), User("Bob")});
     EXPECT_EQ(PlayFromTheStart([&] {
@@ -219,6 +199,29 @@ TEST_F(UsersWalk, LogsInEditsAddsDeletesAndSaves) {
     EXPECT_THAT(NamesAndStates(*Table()), ElementsAre("ADMIN A", "Ann I", "Cy A"));
 }
 
+#ifndef _WIN32
+// The system's marks there are the system's to show; what it has painted reaches the screen when it likes.
+
+TEST_F(RulesWalk, ShowsWhereTheKeyboardIs) {
+    Play([&] {
+        auto others = ControlsInOrder();
+        others.erase(others.begin());
+        ExpectFocusSeen(
+            page().lstRulesList, [&] { Press(WXK_TAB); }, others);
+    });
+}
+
+TEST_F(UnitsWalk, ShowsWhereTheKeyboardIs) {
+    Play([&] {
+        WaitForFocus(page().grdUnits);
+        Press(WXK_DOWN); // lets Delete be pressed
+        WaitForCell(1, 0);
+        ExpectFocusSeen(page().grdUnits, [&] { LeaveGrid(); },
+                        {&page().cmdAddUNit, &page().cmdDeleteUnit, &page().cmdHelpUnits, &page().UpDownUnits,
+                         &page().UpDownUnits});
+    });
+}
+
 TEST_F(UsersWalk, ShowsWhereTheKeyboardIs) {
     PutUsers(TwoUsers());
     Play([&] {
@@ -226,6 +229,8 @@ TEST_F(UsersWalk, ShowsWhereTheKeyboardIs) {
                         {&page().cmdAddUser, &page().cmdDeleteUser, &page().cmdHelpSecurity});
     });
 }
+
+#endif
 
 } // namespace
 } // namespace zy::test

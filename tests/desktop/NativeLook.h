@@ -51,9 +51,6 @@ bool KeysStopAtDisabledEntries();
 /// What a box shows in place of each of its characters; nothing when it shows the characters themselves.
 std::optional<wxUniChar> PasswordCharacterOf(const wxTextCtrl& box);
 
-/// How much the mark of the control that has the keyboard stands out at least.
-double LeastContrastOfFocus();
-
 /// Whether a line of text has room for all of it.
 bool ShowsWholeText(const wxTextCtrl& box);
 

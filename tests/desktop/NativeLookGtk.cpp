@@ -16,7 +16,6 @@
 
 #include "Hands.h"
 #include "NativeLook.h"
-#include "desktop/Contrast.h"
 #include "desktop/GtkFunctions.h"
 
 struct _GtkDialog;
@@ -156,10 +155,6 @@ std::optional<wxUniChar> PasswordCharacterOf(const wxTextCtrl& box) {
         return std::nullopt;
     }
     return wxUniChar(gtk_entry_get_invisible_char(entry));
-}
-
-double LeastContrastOfFocus() {
-    return kNoticeable;
 }
 
 bool ShowsWholeText(const wxTextCtrl& box) {

@@ -178,11 +178,6 @@ std::optional<wxUniChar> PasswordCharacterOf(const wxTextCtrl& box) {
     return character == 0 ? std::nullopt : std::optional(wxUniChar(static_cast<unsigned>(character)));
 }
 
-double LeastContrastOfFocus() {
-    // The marks are the system's, which draws a fine line around what is selected in a list.
-    return 1.2;
-}
-
 bool ShowsWholeText(const wxTextCtrl& box) {
     const auto last = static_cast<WPARAM>(std::max(box.GetLastPosition() - 1, 0L));
     const auto leftOf = [&](WPARAM character) {

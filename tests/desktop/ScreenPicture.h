@@ -5,7 +5,7 @@
 
 namespace zy::test {
 
-/// What stands on the screen at a place, in the screen's own pixels. Each system has one file of this.
+/// What stands on the screen at a place, in its own pixels. Linux alone has this.
 wxImage PictureOnScreen(const wxRect& place);
 
 } // namespace zy::test
