@@ -9,19 +9,21 @@
 #include <wx/uiaction.h>
 
 #include <chrono>
+#include <cmath>
 #include <cstdlib>
 #include <memory>
 #include <stdexcept>
-#include <utility>
 
 #include "Hands.h"
 #include "NativeLook.h"
 #include "desktop/GtkFunctions.h"
 
+// NOLINTBEGIN(bugprone-reserved-identifier): the names are GTK's own
 struct _GtkDialog;
 struct _GtkLabel;
 struct _GtkMessageDialog;
 struct _GtkWindow;
+// NOLINTEND(bugprone-reserved-identifier)
 
 extern "C" {
 int gdk_window_get_origin(GdkWindow* window, int* x, int* y);
@@ -94,8 +96,9 @@ void AwaitWork() {
     // The toolkit's own way of handing work over needs nothing.
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the other system keeps it
 void HandToWindow(std::function<void()> work) {
-    wxTheApp->CallAfter(std::move(work));
+    wxTheApp->CallAfter(work);
 }
 
 bool HasKeyboard(const wxMessageDialog& box) {
@@ -183,7 +186,7 @@ wxColour HeaderColourOf(wxDataViewCtrl& list) {
     auto* style = gtk_widget_get_style_context(gtk_tree_view_column_get_button(column));
     GtkColour colour{};
     gtk_style_context_get_color(style, gtk_style_context_get_state(style), &colour);
-    const auto part = [](double share) { return static_cast<unsigned char>(share * 255 + 0.5); };
+    const auto part = [](double share) { return static_cast<unsigned char>(std::lround(share * 255)); };
     return {part(colour.red), part(colour.green), part(colour.blue)};
 }
 
