@@ -109,7 +109,7 @@ void DialogBinding::PressKey(wxKeyEvent& event) {
         return;
     }
     // Behind the key itself: a message box that opens at once would get the key as well.
-    dialog_.CallAfter([this, button] { gate_.Act([button] { button->Click(); }); });
+    RunBehindEvent(dialog_, [this, button] { gate_.Act([button] { button->Click(); }); });
 }
 
 void DialogBinding::Run() {

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/Native.h"
 #include "desktop/ShownText.h"
 
 namespace zy {
@@ -30,7 +31,7 @@ void MenuBarBinding::AddContextMenu(MenuItem& menu) {
         const auto& asked = context_.menuPlace;
         const wxPoint place = asked ? frame_.ScreenToClient(*asked) : wxDefaultPosition;
         // Behind the handler that asks for it, for what is chosen is an action of its own.
-        frame_.CallAfter([this, made, place] {
+        RunBehindEvent(frame_, [this, made, place] {
             // The end of the click that asks for the menu would close it.
             wxTheApp->Yield(true);
             frame_.PopupMenu(made, place);

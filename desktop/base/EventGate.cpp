@@ -5,6 +5,8 @@
 
 #include <utility>
 
+#include "desktop/Native.h"
+
 namespace zy {
 namespace {
 
@@ -120,7 +122,7 @@ bool EventGate::Settle() {
 
 void EventGate::Schedule() {
     if (!std::exchange(scheduled_, true)) {
-        wxTheApp->CallAfter([this] { RunPutOff(); });
+        RunBehindEvent(*wxTheApp, [this] { RunPutOff(); });
     }
 }
 

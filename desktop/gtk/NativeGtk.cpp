@@ -256,6 +256,10 @@ void AnnounceNotice(wxWindow& notice) {
 }
 
 // NOLINTNEXTLINE(performance-unnecessary-value-param): the other system keeps it
+void RunBehindEvent(wxEvtHandler& owner, std::function<void()> work) {
+    owner.CallAfter(std::move(work)); // runs between two events
+}
+
 void FollowByEnter(wxHyperlinkCtrl& /*link*/, std::function<void()> /*follow*/) {
     // A link is a button to GTK, which Enter presses.
 }

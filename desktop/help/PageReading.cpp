@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "desktop/Native.h"
+
 namespace zy {
 namespace {
 
@@ -57,7 +59,8 @@ wxRect PageReading::PlaceOf(int part) const {
 void PageReading::Follow(int part) {
     if (KindOf(part) == Kind::Link) {
         // Behind the question: the page's parts go with it.
-        page_.CallAfter([this, link = *At(part).cells.first->GetLink()] { page_.OnLinkClicked(link); });
+        RunBehindEvent(page_,
+                       [this, link = *At(part).cells.first->GetLink()] { page_.OnLinkClicked(link); });
     }
 }
 

@@ -10,7 +10,9 @@
 #include <wx/statbox.h>
 #include <wx/textctrl.h>
 #include <wx/treectrl.h>
+#include <wx/weakref.h>
 
+#include <bit>
 #include <cmath>
 #include <memory>
 #include <utility>
@@ -21,6 +23,26 @@
 
 namespace zy {
 namespace {
+
+struct PutOffWork {
+    wxWeakRef<wxEvtHandler> owner;
+    std::function<void()> work;
+};
+
+constexpr UINT kRunPutOffWork = WM_APP;
+
+/// For a window that nobody sees and that is there for one message.
+LRESULT CALLBACK RunPutOffWork(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message != kRunPutOffWork) {
+        return ::DefWindowProcW(window, message, wParam, lParam);
+    }
+    const std::unique_ptr<PutOffWork> putOff(std::bit_cast<PutOffWork*>(lParam));
+    ::DestroyWindow(window);
+    if (putOff->owner) {
+        putOff->work();
+    }
+    return 0;
+}
 
 class ScreenContext {
   public:
@@ -192,6 +214,18 @@ void AnnounceNotice(wxWindow& notice) {
     wxAccessible::NotifyEvent(wxACC_EVENT_SYSTEM_ALERT, &notice, wxOBJID_CLIENT, wxACC_SELF);
 }
 
+void RunBehindEvent(wxEvtHandler& owner, std::function<void()> work) {
+    // The toolkit runs pending work in a hook on each message that is taken from the queue. That message is not
+    // done before the hook is, and in a box that the hook opens Wine would keep back all that is posted.
+    auto putOff = std::make_unique<PutOffWork>(PutOffWork{&owner, std::move(work)});
+    const HWND window =
+        ::CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+    ::SetWindowLongPtrW(window, GWLP_WNDPROC, std::bit_cast<LONG_PTR>(&RunPutOffWork));
+    if (::PostMessageW(window, kRunPutOffWork, 0, std::bit_cast<LPARAM>(putOff.get())) != FALSE) {
+        putOff.release();
+    }
+}
+
 void FollowByEnter(wxHyperlinkCtrl& link, std::function<void()> follow) {
     link.Bind(wxEVT_CHAR_HOOK, [&link, follow = std::move(follow)](wxKeyEvent& event) {
         const bool enters = event.GetKeyCode() == WXK_RETURN || event.GetKeyCode() == WXK_NUMPAD_ENTER;
@@ -200,7 +234,7 @@ void FollowByEnter(wxHyperlinkCtrl& link, std::function<void()> follow) {
             return;
         }
         // Behind the key itself, which a dialog would take for that of a button.
-        link.CallAfter(follow);
+        RunBehindEvent(link, follow);
     });
 }
 
