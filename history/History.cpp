@@ -25,14 +25,21 @@ void History::Record(Step step) {
     KeepWithinBytes();
 }
 
+void History::Join(Step step) {
+    CutRedo();
+    GoOnWithLast(std::move(step));
+    KeepWithinBytes();
+}
+
 void History::RecordWithLast(Step step) {
     if (position_ == 0) {
         Record(std::move(step));
         return;
     }
-    bytes_ -= Last().Bytes();
-    Last().GoOn(std::move(step));
-    bytes_ += Last().Bytes();
+    if (log_ != nullptr) {
+        log_->Appended(step);
+    }
+    GoOnFrom(std::move(step));
     KeepWithinBytes();
 }
 
@@ -54,6 +61,9 @@ void History::CutRedo() {
 }
 
 void History::Push(Step step) {
+    if (log_ != nullptr) {
+        log_->Pushed(step);
+    }
     bytes_ += step.Bytes();
     steps_.push_back(std::move(step));
     ++position_;
@@ -61,12 +71,21 @@ void History::Push(Step step) {
 }
 
 void History::GoOnWithLast(Step step) {
+    const Step part = log_ == nullptr ? Step() : step;
+    GoOnFrom(std::move(step));
+    const bool vanishes = Last().ChangesNothing();
+    if (log_ != nullptr) {
+        log_->Joined(part, vanishes);
+    }
+    if (vanishes) {
+        DropLast();
+    }
+}
+
+void History::GoOnFrom(Step step) {
     bytes_ -= Last().Bytes();
     Last().GoOn(std::move(step));
     bytes_ += Last().Bytes();
-    if (Last().ChangesNothing()) {
-        DropLast();
-    }
 }
 
 void History::DropLast() {
@@ -88,6 +107,9 @@ void History::KeepWithinBytes() {
 StepPlace History::Undo(RowList& rows) {
     const Step& step = Last();
     step.Undo(rows);
+    if (log_ != nullptr) {
+        log_->Undone(step);
+    }
     --position_;
     sealed_ = true;
     return step.before;
@@ -96,6 +118,9 @@ StepPlace History::Undo(RowList& rows) {
 StepPlace History::Redo(RowList& rows) {
     const Step& step = steps_[position_];
     step.Redo(rows);
+    if (log_ != nullptr) {
+        log_->Redone(step);
+    }
     ++position_;
     sealed_ = true;
     return step.after;

@@ -6,6 +6,7 @@
 
 #include "history/RowList.h"
 #include "history/Step.h"
+#include "history/StepLog.h"
 
 namespace zy {
 
@@ -20,10 +21,16 @@ class History {
 
     explicit History(std::size_t mostBytes = kMostBytes) : mostBytes_(mostBytes) {}
 
+    /// Has a log learn of what happens from here on; null for none. It must outlive the history.
+    void SetLog(StepLog* log) { log_ = log; }
+
     /// Takes up what was just done; what could have been done again is gone. A step goes on with the last one
     /// where both have the same key and it begins where that one ended, unless the last one is sealed. What
     /// comes to nothing is no step.
     void Record(Step step);
+    /// Takes up what was just done as part of the last step, which there must be; what could have been done
+    /// again is gone, and so is a step that comes to nothing.
+    void Join(Step step);
     /// Takes up what was just done as part of the last step, whose name stays. What can be done again stays.
     /// A step of its own when there is none to be part of.
     void RecordWithLast(Step step);
@@ -55,6 +62,7 @@ class History {
     void CutRedo();
     void Push(Step step);
     void GoOnWithLast(Step step);
+    void GoOnFrom(Step step);
     void DropLast();
     void KeepWithinBytes();
 
@@ -64,6 +72,7 @@ class History {
     std::optional<std::size_t> saved_ = 0;
     std::size_t bytes_ = 0;
     bool sealed_ = true;
+    StepLog* log_ = nullptr;
 };
 
 } // namespace zy

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "history/History.h"
+#include "history/StepLog.h"
+
+namespace zy {
+
+/// What happened to a history, as it is noted down.
+struct StepNote {
+    enum class Kind : char { Push, Join, Append, Undo, Redo };
+
+    Kind kind = Kind::Push;
+    Step step; ///< nothing for Undo and Redo, which mean the step that the notes before them lead to
+
+    /// Nothing when the bytes are no note.
+    static std::optional<StepNote> Of(std::string_view bytes);
+    std::string Bytes() const;
+
+    /// Does it to a list and its history. False, and nothing is done, when they are not those that it was
+    /// noted of.
+    bool Replay(RowList& rows, History& history) const;
+};
+
+/// Notes down what happens to a history from here on, so that it can be done again to a list that is as this
+/// one is now, and which has no history yet.
+class StepNotes : public StepLog {
+  public:
+    using Take = std::function<void(const StepNote& note)>;
+
+    explicit StepNotes(Take take) : take_(std::move(take)) {}
+
+    /// The list as it is now is what the notes begin with from now on.
+    void StartAnew();
+
+    void Pushed(const Step& step) override;
+    void Joined(const Step& part, bool vanishes) override;
+    void Appended(const Step& part) override;
+    void Undone(const Step& step) override;
+    void Redone(const Step& step) override;
+
+  private:
+    bool NotePart(StepNote::Kind kind, const Step& part);
+    void NotePush(const Step& step);
+
+    Take take_;
+    int depth_ = 0;  ///< how many steps of the notes can be taken back
+    int undone_ = 0; ///< how many of them can be done again
+    /// A step was taken back that was done before the notes begin: from then on each note stands for itself.
+    bool isBeforeStart_ = false;
+};
+
+} // namespace zy
