@@ -1,5 +1,6 @@
 #pragma once
 
+#include <sys/file.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -31,6 +32,12 @@ class FileDescriptor {
   private:
     int number_;
 };
+
+/// Holds a file or folder for as long as it is open here, against whoever else opens it, in this process or
+/// another. Returns 0 or the error number: EWOULDBLOCK while another one holds it.
+inline int TryLock(const FileDescriptor& file) {
+    return ::flock(file.Number(), LOCK_EX | LOCK_NB) == 0 ? 0 : errno;
+}
 
 /// Repeats a call of the operating system for as long as a signal interrupts it.
 template <typename Call>

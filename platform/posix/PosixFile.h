@@ -21,6 +21,9 @@ class PosixFile final : public FileHandle {
     FileError Flush() override;
     FileError Close() override;
 
+    /// For calls of the system that only some files need.
+    const FileDescriptor& Descriptor() const { return file_; }
+
   private:
     FileDescriptor file_;
 };

@@ -1,7 +1,6 @@
 #include "platform/posix/PosixFolderLock.h"
 
 #include <fcntl.h>
-#include <sys/file.h>
 
 #include <chrono>
 #include <thread>
@@ -19,12 +18,7 @@ class PosixFolderLock final : public FolderLock {
     FileDescriptor folder_;
 };
 
-/// Returns 0 or the error number: EWOULDBLOCK while another one holds it.
-int TryLock(const FileDescriptor& folder) {
-    return ::flock(folder.Number(), LOCK_EX | LOCK_NB) == 0 ? 0 : errno;
-}
-
-/// The same, after waiting for the other one for as long as a save may take.
+/// Returns 0 or the error number, after waiting for the other one for as long as a save may take.
 int LockInTime(const FileDescriptor& folder) {
     constexpr std::chrono::seconds kPatience{2};
     constexpr std::chrono::milliseconds kPause{10};

@@ -2,6 +2,7 @@
 
 #include "platform/World.h"
 #include "platform/posix/PosixFileSystem.h"
+#include "platform/posix/PosixJournals.h"
 #include "platform/posix/PosixRecycleBin.h"
 #include "platform/posix/PosixRegistry.h"
 #include "platform/posix/PosixShellLinks.h"
@@ -11,9 +12,9 @@
 namespace zy {
 
 // platform/posix: the operating system below the program on Linux. It owns the files, the recycle bin, the
-// registry, the links, what is known of the system, and the trace channel; it alone includes headers of the
-// operating system and of GLib, and calls nothing of the program but the interfaces and the code page in
-// platform/.
+// registry, the links, the journals, what is known of the system, and the trace channel; it alone includes
+// headers of the operating system and of GLib, and calls nothing of the program but the interfaces and the
+// code page in platform/.
 
 /// The world of the real program, but for the part that the window toolkit supplies.
 struct PosixWorld {
@@ -31,6 +32,7 @@ struct PosixWorld {
     PosixRecycleBin recycleBin{codePage, system.KnownFolders()};
     PosixRegistry registry{codePage};
     PosixShellLinks links{codePage};
+    PosixJournals journals;
 };
 
 } // namespace zy

@@ -1,7 +1,6 @@
 #include "platform/posix/RegistryFile.h"
 
 #include <fcntl.h>
-#include <sys/file.h>
 
 #include <chrono>
 #include <cstdio>
@@ -50,7 +49,7 @@ std::optional<FileDescriptor> RegistryFile::Lock() const {
     const auto name = path_ + ".lock";
     FileDescriptor lock(::open(name.c_str(), O_CREAT | O_RDWR | O_CLOEXEC, kForTheUserAlone));
     for (int attempt = 0; lock.IsOpen() && attempt < kAttempts; ++attempt) {
-        if (::flock(lock.Number(), LOCK_EX | LOCK_NB) == 0) {
+        if (TryLock(lock) == 0) {
             return lock;
         }
         std::this_thread::sleep_for(kPause);

@@ -1,7 +1,9 @@
 #include "platform/posix/UserFolders.h"
 
+#include <linux/magic.h>
 #include <pwd.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
 #include <array>
@@ -43,6 +45,18 @@ bool IsFolder(const std::string& path) {
     return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
+bool IsForTheUserAlone(const std::string& folder) {
+    constexpr mode_t kForOthers = S_IRWXG | S_IRWXO;
+    struct stat status {};
+    return ::stat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == ::geteuid() &&
+           (status.st_mode & kForOthers) == 0;
+}
+
+bool LiesInMemory(const std::string& path) {
+    struct statfs disk {};
+    return ::statfs(path.c_str(), &disk) == 0 && (disk.f_type == TMPFS_MAGIC || disk.f_type == RAMFS_MAGIC);
+}
+
 } // namespace
 
 std::string Environment(const char* name) {
@@ -56,6 +70,15 @@ std::string UserDataFolder() {
 
 std::string UserConfigFolder() {
     return UserFolder("XDG_CONFIG_HOME", "/.config");
+}
+
+std::string UserStateFolder() {
+    return UserFolder("XDG_STATE_HOME", "/.local/state");
+}
+
+std::string UserRuntimeFolder() {
+    auto named = Environment("XDG_RUNTIME_DIR");
+    return IsAbsolute(named) && IsForTheUserAlone(named) && LiesInMemory(named) ? named : "";
 }
 
 bool MakeFolders(const std::string& path) {

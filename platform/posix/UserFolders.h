@@ -15,6 +15,14 @@ std::string UserDataFolder();
 /// folder. Empty when the user has none.
 std::string UserConfigFolder();
 
+/// The folder for what programs keep from one start to the next: $XDG_STATE_HOME when it is absolute, else
+/// ".local/state" in the home folder. Empty when the user has none.
+std::string UserStateFolder();
+
+/// The folder for what must reach no disk and goes when the user logs out: $XDG_RUNTIME_DIR. Empty unless
+/// that is absolute, lies in memory, and is a folder of the user's that nobody else may enter.
+std::string UserRuntimeFolder();
+
 /// Makes a folder and those above it that are missing, for the user alone to enter. False when it does not
 /// exist afterwards.
 bool MakeFolders(const std::string& path);

@@ -2,19 +2,14 @@
 
 #include "platform/posix/PosixFolderLock.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/prctl.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <array>
 #include <chrono>
-#include <csignal>
 #include <filesystem>
 #include <string>
 #include <thread>
 
+#include "OtherProcess.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "support/ChildProcess.h"
 #include "support/OrdinaryUser.h"
@@ -25,62 +20,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Another process, which asks for a folder and keeps it until it is killed.
-class Holder {
-  public:
-    explicit Holder(const std::string& path) : Holder(path, Pipe()) {}
-    Holder(const Holder&) = delete;
-    Holder& operator=(const Holder&) = delete;
-    ~Holder() { Kill(); }
-
-    /// "held" or "refused"; waits for it.
-    std::string Answer() { return answers_.Next().value_or("none"); }
-
-    void Kill() {
-        if (process_ > 0) {
-            ::kill(process_, SIGKILL);
-            ::waitpid(std::exchange(process_, 0), nullptr, 0);
-        }
-    }
-
-  private:
-    struct Pipe {
-        Pipe() {
-            std::array<int, 2> ends{};
-            EXPECT_EQ(::pipe2(ends.data(), O_CLOEXEC), 0);
-            reader = ends[0];
-            writer = ends[1];
-        }
-        int reader = -1;
-        int writer = -1;
-    };
-
-    Holder(const std::string& path, Pipe pipe)
-        : process_(Start(path, pipe.writer)), answers_(FileDescriptor(pipe.reader)) {
-        ::close(pipe.writer);
-    }
-
-    static pid_t Start(const std::string& path, int answers) {
-        const pid_t process = ::fork();
-        if (process == 0) {
-            ::prctl(PR_SET_PDEATHSIG, SIGKILL);
-            Hold(path, answers);
-        }
-        return process;
-    }
-
-    [[noreturn]] static void Hold(const std::string& path, int answers) {
+/// Another process, which asks for a folder and keeps it until it is killed. It tells "held" or "refused".
+OtherProcess Holder(const std::string& path) {
+    return OtherProcess([&](const OtherProcess::Tell& tell) {
         const auto held = PosixFileSystem(Windows1252()).LockFolderOf(path);
-        const std::string answer = held.lock ? "held\n" : "refused\n";
-        [[maybe_unused]] const auto written = ::write(answers, answer.data(), answer.size());
-        while (true) {
-            ::pause();
-        }
-    }
-
-    pid_t process_;
-    LineReader answers_;
-};
+        tell(held.lock ? "held" : "refused");
+        OtherProcess::StayAlive();
+    });
+}
 
 class PosixFolderLockTest : public ::testing::Test {
   protected:
@@ -95,12 +42,12 @@ class PosixFolderLockTest : public ::testing::Test {
 TEST_F(PosixFolderLockTest, KeepsAnotherProcessOut) {
     const auto held = Lock(folder, "a.sys");
     ASSERT_TRUE(held.lock);
-    Holder other(folder.InsidePath("B.SYS"));
+    auto other = Holder(folder.InsidePath("B.SYS"));
     EXPECT_EQ(other.Answer(), "refused");
 }
 
 TEST_F(PosixFolderLockTest, IsKeptOutByAnotherProcessAndFreeWhenThatIsKilled) {
-    Holder other(folder.InsidePath("a.sys"));
+    auto other = Holder(folder.InsidePath("a.sys"));
     ASSERT_EQ(other.Answer(), "held");
     EXPECT_EQ(Lock(folder, "a.sys").error, FileError::InUse);
     other.Kill();
@@ -108,7 +55,7 @@ TEST_F(PosixFolderLockTest, IsKeptOutByAnotherProcessAndFreeWhenThatIsKilled) {
 }
 
 TEST_F(PosixFolderLockTest, WaitsForOneWhoLetsGo) {
-    Holder other(folder.InsidePath("a.sys"));
+    auto other = Holder(folder.InsidePath("a.sys"));
     ASSERT_EQ(other.Answer(), "held");
     std::thread release([&other] {
         std::this_thread::sleep_for(std::chrono::milliseconds(200));

@@ -2,10 +2,13 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <linux/magic.h>
 #include <pwd.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
+#include "support/AnotherDisk.h"
 #include "support/EnvironmentVariable.h"
 #include "support/TemporaryFolder.h"
 
@@ -54,6 +57,71 @@ TEST(UserConfigFolderTest, IsTheOneThatTheEnvironmentNamesElseInTheHomeFolder) {
     EXPECT_EQ(UserConfigFolder(), "/home/u/.config");
     const EnvironmentVariable unset("XDG_CONFIG_HOME", std::nullopt);
     EXPECT_EQ(UserConfigFolder(), "/home/u/.config");
+}
+
+TEST(UserStateFolderTest, IsTheOneThatTheEnvironmentNamesElseInTheHomeFolder) {
+    const EnvironmentVariable home("HOME", "/home/u");
+    const EnvironmentVariable state("XDG_STATE_HOME", "/state");
+    EXPECT_EQ(UserStateFolder(), "/state");
+    const EnvironmentVariable relative("XDG_STATE_HOME", "state");
+    EXPECT_EQ(UserStateFolder(), "/home/u/.local/state");
+    const EnvironmentVariable unset("XDG_STATE_HOME", std::nullopt);
+    EXPECT_EQ(UserStateFolder(), "/home/u/.local/state");
+}
+
+/// The folder for what must reach no disk, when the environment names this one.
+std::string RuntimeFolderOf(const std::optional<std::string>& named) {
+    const EnvironmentVariable runtime("XDG_RUNTIME_DIR", named);
+    return UserRuntimeFolder();
+}
+
+TEST(UserRuntimeFolderTest, IsTheOneInMemoryThatTheEnvironmentNames) {
+    const TemporaryFolder memory(kAnotherDisk);
+    EXPECT_EQ(RuntimeFolderOf(memory.Path()), memory.Path());
+}
+
+TEST(UserRuntimeFolderTest, IsNoneWhereTheEnvironmentNamesNone) {
+    const TemporaryFolder memory(kAnotherDisk);
+    memory.Put("file", "");
+    std::filesystem::permissions(memory.Path("file"), std::filesystem::perms{0700});
+    for (const auto& named : {std::optional<std::string>(), std::optional<std::string>(""),
+                              std::optional(memory.Path("missing")), std::optional(memory.Path("file"))}) {
+        EXPECT_EQ(RuntimeFolderOf(named), "") << named.value_or("unset");
+    }
+}
+
+TEST(UserRuntimeFolderTest, IsNoneFromARelativePathThatLeadsToOne) {
+    const TemporaryFolder memory(kAnotherDisk);
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(memory.Path());
+    EXPECT_EQ(RuntimeFolderOf("."), "");
+    std::filesystem::current_path(before);
+}
+
+TEST(UserRuntimeFolderTest, IsNoneThatOthersMayDoAnythingWith) {
+    const TemporaryFolder memory(kAnotherDisk);
+    for (const unsigned mode : {0710U, 0701U, 0740U, 0702U, 01777U}) {
+        std::filesystem::permissions(memory.Path(), std::filesystem::perms{mode});
+        EXPECT_EQ(RuntimeFolderOf(memory.Path()), "") << std::oct << mode;
+    }
+}
+
+TEST(UserRuntimeFolderTest, IsNoneThatBelongsToSomebodyElse) {
+    const TemporaryFolder memory(kAnotherDisk);
+    if (::chown(memory.Path().c_str(), ::geteuid() + 1, ::getegid()) != 0) {
+        GTEST_SKIP() << "The user of this test may not give a folder away.";
+    }
+    EXPECT_EQ(RuntimeFolderOf(memory.Path()), "");
+}
+
+TEST(UserRuntimeFolderTest, IsNoneOnADisk) {
+    const TemporaryFolder folder;
+    struct statfs disk {};
+    ASSERT_EQ(::statfs(folder.Path().c_str(), &disk), 0);
+    if (disk.f_type == TMPFS_MAGIC) {
+        GTEST_SKIP() << "The temporary files of this system lie in memory.";
+    }
+    EXPECT_EQ(RuntimeFolderOf(folder.Path()), "");
 }
 
 TEST(UserDataFolderTest, IsFoundThroughTheUserDatabaseWithoutAHomeInTheEnvironment) {
