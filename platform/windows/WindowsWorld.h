@@ -3,6 +3,7 @@
 #include "platform/World.h"
 #include "platform/windows/AnsiCodePage.h"
 #include "platform/windows/WindowsFileSystem.h"
+#include "platform/windows/WindowsJournals.h"
 #include "platform/windows/WindowsRecycleBin.h"
 #include "platform/windows/WindowsRegistry.h"
 #include "platform/windows/WindowsShellLinks.h"
@@ -12,8 +13,9 @@
 namespace zy {
 
 // platform/windows: the operating system below the program on Windows. It owns the files, the recycle bin,
-// the registry, the links, what is known of the system, and the trace channel; it alone includes headers of
-// the operating system, and calls nothing of the program but the interfaces and the code page in platform/.
+// the registry, the links, the journals, what is known of the system, and the trace channel; it alone
+// includes headers of the operating system, and calls nothing of the program but the interfaces and the code
+// page in platform/.
 //
 // Text inside is in the system's ANSI code page: the system's calls for bytes take it as it is.
 
@@ -29,6 +31,7 @@ struct WindowsWorld {
     WindowsRecycleBin recycleBin;
     WindowsRegistry registry;
     WindowsShellLinks links;
+    WindowsJournals journals;
 };
 
 } // namespace zy
