@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "Disk.h"
+#include "platform/Journals.h"
 #include "platform/RecycleBin.h"
 #include "platform/Registry.h"
 #include "platform/SystemInfo.h"
@@ -60,13 +61,25 @@ class Desktop {
     virtual std::optional<std::string> NextRecord() = 0;
 };
 
+/// A place for journals that holds none at first.
+class JournalPlace {
+  public:
+    virtual ~JournalPlace() = default;
+    /// As one session of the program has it, and as one has it later or at the same time.
+    virtual Journals& Session() = 0;
+    virtual Journals& OtherSession() = 0;
+};
+
 /// Such as "OverPosix", for the names of tests.
 extern const char* const kOverSystem;
+/// Such as "ForPasswordsOverPosix".
+extern const char* const kForPasswordsOverSystem;
 
 std::unique_ptr<Disk> SystemDisk();
 std::unique_ptr<Bin> SystemBin();
 std::unique_ptr<Store> SystemStore();
 std::unique_ptr<Start> SystemStart();
 std::unique_ptr<Desktop> SystemDesktop();
+std::unique_ptr<JournalPlace> SystemJournalPlace();
 
 } // namespace zy::test

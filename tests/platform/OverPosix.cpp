@@ -5,10 +5,12 @@
 #include "FolderWorlds.h"
 #include "RecyclePlaces.h"
 #include "platform/posix/PosixFileSystem.h"
+#include "platform/posix/PosixJournals.h"
 #include "platform/posix/PosixRecycleBin.h"
 #include "platform/posix/PosixRegistry.h"
 #include "platform/posix/PosixTraceServers.h"
 #include "platform/posix/PosixWorld.h"
+#include "support/AnotherDisk.h"
 #include "support/EnvironmentVariable.h"
 #include "support/FileSizeLimit.h"
 #include "support/OrdinaryUser.h"
@@ -120,9 +122,24 @@ class PosixDesktop final : public Desktop {
     PosixTraceServers servers_{Windows1252()};
 };
 
+class PosixJournalPlace final : public JournalPlace {
+  public:
+    Journals& Session() override { return journals_; }
+    Journals& OtherSession() override { return others_; }
+
+  private:
+    TemporaryFolder disk_;
+    TemporaryFolder memory_{kAnotherDisk};
+    EnvironmentVariable state_{"XDG_STATE_HOME", disk_.Path().string()};
+    EnvironmentVariable runtime_{"XDG_RUNTIME_DIR", memory_.Path().string()};
+    PosixJournals journals_;
+    PosixJournals others_;
+};
+
 } // namespace
 
 const char* const kOverSystem = "OverPosix";
+const char* const kForPasswordsOverSystem = "ForPasswordsOverPosix";
 
 std::unique_ptr<Disk> SystemDisk() {
     return std::make_unique<PosixDisk>();
@@ -142,6 +159,10 @@ std::unique_ptr<Start> SystemStart() {
 
 std::unique_ptr<Desktop> SystemDesktop() {
     return std::make_unique<PosixDesktop>();
+}
+
+std::unique_ptr<JournalPlace> SystemJournalPlace() {
+    return std::make_unique<PosixJournalPlace>();
 }
 
 } // namespace zy::test

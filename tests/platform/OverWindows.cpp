@@ -7,6 +7,7 @@
 #include "WindowsRegistryAside.h"
 #include "platform/windows/AnsiCodePage.h"
 #include "platform/windows/WindowsFileSystem.h"
+#include "platform/windows/WindowsJournals.h"
 #include "platform/windows/WindowsRecycleBin.h"
 #include "platform/windows/WindowsRegistry.h"
 #include "platform/windows/WindowsSystemInfo.h"
@@ -59,9 +60,21 @@ class WindowsDesktop final : public Desktop {
     std::optional<WindowsTraceViewer> viewer_;
 };
 
+class WindowsJournalPlace final : public JournalPlace {
+  public:
+    Journals& Session() override { return journals_; }
+    Journals& OtherSession() override { return others_; }
+
+  private:
+    TemporaryFolder folder_;
+    WindowsJournals journals_{folder_.Path().wstring()};
+    WindowsJournals others_{folder_.Path().wstring()};
+};
+
 } // namespace
 
 const char* const kOverSystem = "OverWindows";
+const char* const kForPasswordsOverSystem = "ForPasswordsOverWindows";
 
 std::unique_ptr<Disk> SystemDisk() {
     return MakeWindowsDisk();
@@ -81,6 +94,10 @@ std::unique_ptr<Start> SystemStart() {
 
 std::unique_ptr<Desktop> SystemDesktop() {
     return std::make_unique<WindowsDesktop>();
+}
+
+std::unique_ptr<JournalPlace> SystemJournalPlace() {
+    return std::make_unique<WindowsJournalPlace>();
 }
 
 } // namespace zy::test
