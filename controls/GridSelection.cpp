@@ -4,6 +4,11 @@
 
 namespace zy {
 
+bool CellRange::Contains(const Cell& cell) const {
+    return cell.row >= first.row && cell.row <= last.row && cell.column >= first.column &&
+           cell.column <= last.column;
+}
+
 GridSelection::GridSelection(GridCells& cells) : cells_(cells) {
     cells_.resized.Connect([this] { KeepInside(); });
 }

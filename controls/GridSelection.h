@@ -12,6 +12,8 @@ namespace zy {
 struct CellRange {
     Cell first;
     Cell last;
+
+    bool Contains(const Cell& cell) const;
 };
 
 /// The current cell of a grid and the block that is selected with it, which reaches from the current cell to

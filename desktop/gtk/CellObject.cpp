@@ -63,7 +63,7 @@ void Add(AtkStateSet* set, States... states) {
 
 void AddCellStates(AtkStateSet* set, const Place& place, const TableContent& content) {
     Add(set, ATK_STATE_FOCUSABLE, ATK_STATE_SELECTABLE, ATK_STATE_EDITABLE);
-    if (IsInside(content.Selected(), place.cell)) {
+    if (content.Selected().Contains(place.cell)) {
         Add(set, ATK_STATE_SELECTED);
     }
     if (place.cell == content.Current() && HasKeyboard(place.table.get())) {

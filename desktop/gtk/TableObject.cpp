@@ -161,7 +161,7 @@ const char* NameOfColumn(AtkTable* table, int column) {
 
 gboolean IsSelected(AtkTable* table, int row, int column) {
     const auto* content = ContentIn(table);
-    return content != nullptr && IsInside(content->Selected(), {.row = row + 1, .column = column}) ? 1 : 0;
+    return content != nullptr && content->Selected().Contains({.row = row + 1, .column = column}) ? 1 : 0;
 }
 
 void InitTable(gpointer interface, gpointer /*unused*/) {
@@ -209,7 +209,7 @@ AtkObject* RefSelected(AtkSelection* table, int index) {
 
 gboolean IsChildSelected(AtkSelection* table, int index) {
     const auto cell = CellAtIndex(reinterpret_cast<AtkTable*>(table), index);
-    return cell.row > 0 && IsInside(ContentIn(table)->Selected(), cell) ? 1 : 0;
+    return cell.row > 0 && ContentIn(table)->Selected().Contains(cell) ? 1 : 0;
 }
 
 void InitSelection(gpointer interface, gpointer /*unused*/) {
@@ -291,11 +291,6 @@ void Want(TableContent* table) {
 }
 
 } // namespace
-
-bool IsInside(const CellRange& range, const Cell& cell) {
-    return cell.row >= range.first.row && cell.row <= range.last.row && cell.column >= range.first.column &&
-           cell.column <= range.last.column;
-}
 
 void AddInterface(GType type, GType interface, GInterfaceInitFunc init) {
     const GInterfaceInfo info{

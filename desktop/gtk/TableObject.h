@@ -30,8 +30,6 @@ TableContent* ContentOf(AtkObject* table);
 /// Whether the table's window has the keyboard.
 bool HasKeyboard(AtkObject* table);
 
-bool IsInside(const CellRange& range, const Cell& cell);
-
 /// Gives the objects of a type the answers of an interface.
 void AddInterface(GType type, GType interface, GInterfaceInitFunc init);
 

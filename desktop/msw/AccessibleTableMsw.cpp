@@ -12,11 +12,6 @@ namespace {
 
 constexpr int kItself = wxACC_SELF;
 
-bool IsWithin(const Cell& cell, const CellRange& range) {
-    return cell.row >= range.first.row && cell.row <= range.last.row && cell.column >= range.first.column &&
-           cell.column <= range.last.column;
-}
-
 Cell Neighbour(Cell cell, wxNavDir direction) {
     switch (direction) {
     case wxNAVDIR_UP:
@@ -173,7 +168,7 @@ class CellsAccessible final : public wxAccessible {
         if (cell == content_.Current() && cells_.HasFocus()) {
             state |= wxACC_STATE_SYSTEM_FOCUSED;
         }
-        return IsWithin(cell, content_.Selected()) ? state | wxACC_STATE_SYSTEM_SELECTED : state;
+        return content_.Selected().Contains(cell) ? state | wxACC_STATE_SYSTEM_SELECTED : state;
     }
     /// That of the table itself where there is nothing in this direction.
     int NumberFrom(int from, wxNavDir direction) const {

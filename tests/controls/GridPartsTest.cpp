@@ -34,6 +34,24 @@ class GridParts : public ::testing::Test {
     std::vector<std::string> notes;
 };
 
+TEST(CellRange, ContainsTheCellsFromItsFirstToItsLastOne) {
+    const CellRange range{.first = {.row = 2, .column = 1}, .last = {.row = 3, .column = 2}};
+    std::string contained;
+    for (int row = 0; row < 5; ++row) {
+        for (int column = 0; column < 4; ++column) {
+            contained += range.Contains({.row = row, .column = column}) ? 'x' : '.';
+        }
+        contained += '/';
+    }
+    EXPECT_EQ(contained, "..../..../.xx./.xx./..../");
+}
+
+TEST(CellRange, ContainsNothingWhenItsLastRowLiesAboveItsFirst) {
+    const CellRange none{.first = {.row = 1, .column = 0}, .last = {.row = 0, .column = 0}};
+    EXPECT_FALSE(none.Contains(none.first));
+    EXPECT_FALSE(none.Contains(none.last));
+}
+
 TEST_F(GridParts, AnnounceRowsThatAreSetOrRemovedBeforeAndAfter) {
     cells.SetRows(4);
     EXPECT_THAT(notes, ElementsAre("resizing 3", "rows", "resized 4"));
