@@ -1,6 +1,5 @@
 #include "desktop/AccessiblePage.h"
 
-#include <glib-object.h>
 #include <wx/nativewin.h>
 #include <wx/weakref.h>
 #include <wx/window.h>
@@ -9,6 +8,7 @@
 #include <tuple>
 #include <vector>
 
+#include "desktop/AccessibleObject.h"
 #include "desktop/GtkFunctions.h"
 #include "desktop/Native.h"
 
@@ -24,11 +24,6 @@ namespace {
 constexpr const char* kContent = "zy-content";
 constexpr int kGone = -1;
 
-struct Unref {
-    void operator()(AtkObject* object) const { g_object_unref(object); }
-};
-using HeldObject = std::unique_ptr<AtkObject, Unref>;
-
 /// What a document, or one of its parts, tells of.
 struct Shown {
     wxWindow& page;
@@ -37,24 +32,6 @@ struct Shown {
 
 const Shown* ShownBy(gpointer document) {
     return static_cast<const Shown*>(g_object_get_data(static_cast<GObject*>(document), kContent));
-}
-
-GType RegisterKind(GType from, const char* name, GClassInitFunc init, guint16 more) {
-    GTypeQuery size;
-    g_type_query(from, &size);
-    return g_type_register_static_simple(from, name, static_cast<guint16>(size.class_size), init,
-                                         static_cast<guint16>(size.instance_size + more), nullptr,
-                                         GTypeFlags{});
-}
-
-template <typename Class>
-Class& KnownClass(GType type) {
-    return *static_cast<Class*>(g_type_class_peek(type));
-}
-
-template <typename... States>
-void Add(AtkStateSet* set, States... states) {
-    (atk_state_set_add_state(set, states), ...);
 }
 
 // A paragraph, a heading or a link of the page.
@@ -188,12 +165,6 @@ void InitPartClass(gpointer type, gpointer /*unused*/) {
     answers->ref_state_set = StatesOfPart;
 }
 
-void AddInterface(GType type, GType interface, GInterfaceInitFunc init) {
-    const GInterfaceInfo info{
-        .interface_init = init, .interface_finalize = nullptr, .interface_data = nullptr};
-    g_type_add_interface_static(type, interface, &info);
-}
-
 GType RegisterPart() {
     const GType type =
         RegisterKind(ATK_TYPE_OBJECT, "ZyPagePart", InitPartClass, sizeof(PartObject) - sizeof(AtkObject));
@@ -205,7 +176,7 @@ GType RegisterPart() {
 AtkObject* MakePart(AtkObject* document, int number) {
     static const GType kType = RegisterPart();
     auto* part = static_cast<AtkObject*>(g_object_new(kType, nullptr));
-    Part(part).document = static_cast<AtkObject*>(g_object_ref(document));
+    Part(part).document = Ref(document);
     Part(part).number = number;
     Part(part).text = new std::string;
     return part;
@@ -228,9 +199,7 @@ int CountParts(AtkObject* document) {
 
 AtkObject* RefPart(AtkObject* document, int number) {
     const bool isThere = number >= 0 && number < CountParts(document);
-    return isThere ? static_cast<AtkObject*>(
-                         g_object_ref(PartsIn(document)[static_cast<std::size_t>(number)].get()))
-                   : nullptr;
+    return isThere ? Ref(PartsIn(document)[static_cast<std::size_t>(number)].get()) : nullptr;
 }
 
 void InitDocumentClass(gpointer type, gpointer /*unused*/) {
@@ -242,11 +211,11 @@ void InitDocumentClass(gpointer type, gpointer /*unused*/) {
 void InitWidgetClass(gpointer type, gpointer /*unused*/) {
     gtk_widget_class_set_accessible_type(
         static_cast<_GtkWidgetClass*>(type),
-        RegisterKind(gtk_widget_accessible_get_type(), "ZyDocument", InitDocumentClass, 0));
+        RegisterKind(gtk_widget_accessible_get_type(), "ZyDocument", InitDocumentClass));
 }
 
 GtkWidget* MakeWidget() {
-    static const GType kType = RegisterKind(gtk_drawing_area_get_type(), "ZyPageWidget", InitWidgetClass, 0);
+    static const GType kType = RegisterKind(gtk_drawing_area_get_type(), "ZyPageWidget", InitWidgetClass);
     auto* widget = static_cast<GtkWidget*>(g_object_new(kType, nullptr));
     gtk_widget_set_has_window(widget, 0);
     return widget;
@@ -268,7 +237,7 @@ class Document final : public AccessiblePage {
         auto* holder = new Holder;
         holder->Create(&page, wxID_ANY, widget);
         holder->SetSize(1, 1);
-        object_.reset(static_cast<AtkObject*>(g_object_ref(gtk_widget_get_accessible(widget))));
+        object_.reset(Ref(gtk_widget_get_accessible(widget)));
         atk_object_set_role(object_.get(), ATK_ROLE_DOCUMENT_FRAME);
         Attach(&shown_, new Parts);
         SetAccessibleName(page, "Page");

@@ -56,11 +56,6 @@ int IndexOf(AtkObject* object) {
     return IsGone(object) ? -1 : cell.row * ContentAround(object)->Columns() + cell.column;
 }
 
-template <typename... States>
-void Add(AtkStateSet* set, States... states) {
-    (atk_state_set_add_state(set, states), ...);
-}
-
 void AddCellStates(AtkStateSet* set, const Place& place, const TableContent& content) {
     Add(set, ATK_STATE_FOCUSABLE, ATK_STATE_SELECTABLE, ATK_STATE_EDITABLE);
     if (content.Selected().Contains(place.cell)) {
@@ -99,7 +94,7 @@ void Init(GTypeInstance* instance, gpointer /*type*/) {
 
 void Finalize(GObject* object) {
     delete reinterpret_cast<CellObject*>(object)->place;
-    static_cast<GObjectClass*>(g_type_class_peek(ATK_TYPE_OBJECT))->finalize(object);
+    KnownClass<GObjectClass>(ATK_TYPE_OBJECT).finalize(object);
 }
 
 void InitClass(gpointer type, gpointer /*unused*/) {
@@ -176,7 +171,7 @@ GPtrArray* GetColumnHeaders(AtkTableCell* object) {
 }
 
 AtkObject* GetTable(AtkTableCell* cell) {
-    return static_cast<AtkObject*>(g_object_ref(PlaceIn(cell).table.get()));
+    return Ref(PlaceIn(cell).table.get());
 }
 
 void InitTableCell(gpointer interface, gpointer /*unused*/) {
@@ -223,9 +218,8 @@ void InitAction(gpointer interface, gpointer /*unused*/) {
 }
 
 GType RegisterHeader() {
-    const GType type =
-        g_type_register_static_simple(ATK_TYPE_OBJECT, "ZyColumnHeader", sizeof(AtkObjectClass), InitClass,
-                                      sizeof(CellObject), Init, GTypeFlags{});
+    const GType type = RegisterKind(ATK_TYPE_OBJECT, "ZyColumnHeader", InitClass,
+                                    sizeof(CellObject) - sizeof(AtkObject), Init);
     AddInterface(type, ATK_TYPE_COMPONENT, InitComponent);
     return type;
 }
@@ -237,8 +231,7 @@ GType HeaderType() {
 
 /// One that also knows its row, and can be edited.
 GType RegisterCell() {
-    const GType type = g_type_register_static_simple(HeaderType(), "ZyTableCell", sizeof(AtkObjectClass),
-                                                     nullptr, sizeof(CellObject), nullptr, GTypeFlags{});
+    const GType type = RegisterKind(HeaderType(), "ZyTableCell", nullptr);
     AddInterface(type, ATK_TYPE_TABLE_CELL, InitTableCell);
     AddInterface(type, ATK_TYPE_ACTION, InitAction);
     return type;
@@ -255,7 +248,7 @@ HeldObject MakeCellObject(AtkObject* table, const Cell& cell) {
     const bool isHeader = cell.row == 0;
     HeldObject object(static_cast<AtkObject*>(g_object_new(isHeader ? HeaderType() : CellType(), nullptr)));
     auto& place = PlaceIn(object.get());
-    place.table.reset(static_cast<AtkObject*>(g_object_ref(table)));
+    place.table.reset(Ref(table));
     place.cell = cell;
     atk_object_set_role(object.get(), isHeader ? ATK_ROLE_COLUMN_HEADER : ATK_ROLE_TABLE_CELL);
     return object;

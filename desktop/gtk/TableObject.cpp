@@ -39,7 +39,7 @@ TableContent* ContentIn(T* table) {
 
 /// The answers of the windows that are no tables.
 AtkObjectClass& Usual() {
-    return *static_cast<AtkObjectClass*>(g_type_class_peek(gtk_container_accessible_get_type()));
+    return KnownClass<AtkObjectClass>(gtk_container_accessible_get_type());
 }
 
 int CountCells(const TableContent& content) {
@@ -54,8 +54,7 @@ template <typename T>
 AtkObject* RefCell(T* table, const Cell& cell) {
     const auto* attached = AttachedTo(AsObject(table));
     const bool isHeld = attached->current != nullptr && cell == attached->currentCell;
-    return isHeld ? static_cast<AtkObject*>(g_object_ref(attached->current.get()))
-                  : MakeCellObject(AsObject(table), cell).release();
+    return isHeld ? Ref(attached->current.get()) : MakeCellObject(AsObject(table), cell).release();
 }
 
 bool Has(const TableContent* content, const Cell& cell) {
@@ -92,8 +91,7 @@ AtkObject* RefChild(AtkObject* table, int index) {
 
 AtkStateSet* StatesOf(AtkObject* table) {
     auto* set = Usual().ref_state_set(table);
-    atk_state_set_add_state(set, ATK_STATE_MANAGES_DESCENDANTS);
-    atk_state_set_add_state(set, ATK_STATE_MULTISELECTABLE);
+    Add(set, ATK_STATE_MANAGES_DESCENDANTS, ATK_STATE_MULTISELECTABLE);
     return set;
 }
 
@@ -261,19 +259,12 @@ void InitUsualClass(gpointer type, gpointer /*unused*/) {
     static_cast<GObjectClass*>(type)->constructor = Construct;
 }
 
-GType RegisterDerived(GType from, const char* name, GClassInitFunc init) {
-    GTypeQuery size;
-    g_type_query(from, &size);
-    return g_type_register_static_simple(from, name, size.class_size, init, size.instance_size, nullptr,
-                                         GTypeFlags{});
-}
-
 GType RegisterUsual() {
-    return RegisterDerived(gtk_container_accessible_get_type(), "ZyDrawnWindow", InitUsualClass);
+    return RegisterKind(gtk_container_accessible_get_type(), "ZyDrawnWindow", InitUsualClass);
 }
 
 GType RegisterTable() {
-    const GType type = RegisterDerived(UsualKind(), "ZyTable", InitTableClass);
+    const GType type = RegisterKind(UsualKind(), "ZyTable", InitTableClass);
     AddInterface(type, ATK_TYPE_TABLE, InitTable);
     AddInterface(type, ATK_TYPE_SELECTION, InitSelection);
     AddInterface(type, ATK_TYPE_COMPONENT, InitComponent);
@@ -292,17 +283,11 @@ void Want(TableContent* table) {
 
 } // namespace
 
-void AddInterface(GType type, GType interface, GInterfaceInitFunc init) {
-    const GInterfaceInfo info{
-        .interface_init = init, .interface_finalize = nullptr, .interface_data = nullptr};
-    g_type_add_interface_static(type, interface, &info);
-}
-
 HeldObject MakeTableObject(GtkWidget* cells, TableContent& content) {
     gtk_widget_class_set_accessible_type(reinterpret_cast<_GtkWidgetClass*>(G_OBJECT_GET_CLASS(cells)),
                                          UsualKind());
     Want(&content);
-    HeldObject table(static_cast<AtkObject*>(g_object_ref(gtk_widget_get_accessible(cells))));
+    HeldObject table(Ref(gtk_widget_get_accessible(cells)));
     Want(nullptr);
     atk_object_set_role(table.get(), ATK_ROLE_TABLE);
     auto* attached =

@@ -1,19 +1,11 @@
 #pragma once
 
-#include <atk/atk.h>
 #include <wx/defs.h>
 
-#include <memory>
-
+#include "desktop/AccessibleObject.h"
 #include "desktop/AccessibleTable.h"
 
 namespace zy {
-
-struct Unref {
-    void operator()(gpointer object) const { g_object_unref(object); }
-};
-/// An accessible object that is held by who has this.
-using HeldObject = std::unique_ptr<AtkObject, Unref>;
 
 /// Has the window system present the widget of a grid's cells as a table with this content, to be called
 /// before anybody has asked for the widget's accessible object. What is returned is that object.
@@ -29,8 +21,5 @@ AtkObject* MakeCurrentObject(AtkObject* table, const Cell& cell);
 TableContent* ContentOf(AtkObject* table);
 /// Whether the table's window has the keyboard.
 bool HasKeyboard(AtkObject* table);
-
-/// Gives the objects of a type the answers of an interface.
-void AddInterface(GType type, GType interface, GInterfaceInitFunc init);
 
 } // namespace zy
