@@ -3,26 +3,43 @@
 #include <utility>
 
 namespace zy {
+namespace {
+
+/// Keeps what there is now; says whether that is something else.
+template <typename Known, typename Present>
+bool Note(Known& known, const Present& present) {
+    const bool isOther = known != present;
+    if (isOther) {
+        known = present;
+    }
+    return isOther;
+}
+
+} // namespace
 
 GridAccess::GridAccess(const ViewContext& context, Grid& model, GridWidget& grid, GridEditor& editor)
-    : content_(context, model, grid, editor), selection_(model.selection),
-      table_(MakeAccessibleTable(*grid.GetGridWindow(), content_)), told_(Now()), rows_(content_.Rows()) {}
+    : model_(model), content_(context, model, grid, editor),
+      table_(MakeAccessibleTable(*grid.GetGridWindow(), content_)), current_(content_.Current()),
+      blockEnd_(model.selection.BlockEnd()), text_(CurrentText()), rows_(content_.Rows()) {}
 
-GridAccess::Told GridAccess::Now() const {
+/// The model's own, for nobody may be there to read it.
+std::string_view GridAccess::CurrentText() const {
     const Cell current = content_.Current();
-    return {.current = current, .blockEnd = selection_.BlockEnd(), .text = content_.Text(current)};
+    return current.row < 0 ? std::string_view() : model_.cells.Text(current.row, current.column);
 }
 
 void GridAccess::Tell(bool hasOtherRows) {
     if (hasOtherRows) {
         table_->TellRows(std::exchange(rows_, content_.Rows()));
     }
-    const Told before = std::exchange(told_, Now());
-    if (before.current != told_.current) {
+    const bool isOtherCell = Note(current_, content_.Current());
+    const bool isOtherBlock = Note(blockEnd_, model_.selection.BlockEnd());
+    const bool isOtherText = Note(text_, CurrentText());
+    if (isOtherCell) {
         table_->TellCurrent();
-    } else if (before.blockEnd != told_.blockEnd) {
+    } else if (isOtherBlock) {
         table_->TellSelected();
-    } else if (before.text != told_.text) {
+    } else if (isOtherText) {
         table_->TellText();
     }
 }

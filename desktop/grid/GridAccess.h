@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <string>
+#include <string_view>
 
 #include "desktop/AccessibleTable.h"
 #include "desktop/GridContent.h"
@@ -17,18 +19,15 @@ class GridAccess {
     void Tell(bool hasOtherRows);
 
   private:
-    /// What was told last of the current cell and the block around it.
-    struct Told {
-        Cell current;
-        Cell blockEnd;
-        wxString text;
-    };
-    Told Now() const;
+    std::string_view CurrentText() const;
 
+    const Grid& model_;
     GridContent content_;
-    const GridSelection& selection_;
     std::unique_ptr<AccessibleTable> table_;
-    Told told_;
+    // What was told last.
+    Cell current_;
+    Cell blockEnd_;
+    std::string text_; ///< the current cell's
     int rows_;
 };
 

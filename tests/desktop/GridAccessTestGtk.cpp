@@ -20,6 +20,8 @@ class GridAccess : public UnitsWindow {
   protected:
     GridAccess() { PutUnits(ThreeUnits()); }
 
+    using HeldStates = std::unique_ptr<AtkStateSet, Unref>;
+
     static AtkObject* ObjectOf(const wxWindow& window) {
         return gtk_widget_get_accessible(window.GetHandle());
     }
@@ -35,9 +37,12 @@ class GridAccess : public UnitsWindow {
     void Listen() {
         for (const char* name : {"row-inserted", "row-deleted", "model-changed", "children-changed",
                                  "active-descendant-changed", "state-change::focused"}) {
-            signals_[name] = 0;
-            g_signal_connect_swapped(Table(), name, G_CALLBACK(Count), &signals_[name]);
+            ListenTo(Table(), name);
         }
+    }
+    void ListenTo(AtkObject* object, const char* name) {
+        signals_[name] = 0;
+        g_signal_connect_swapped(object, name, G_CALLBACK(Count), &signals_[name]);
     }
     int Heard(const std::string& name) {
         return InWindow([&] { return signals_.at(name); });
@@ -49,11 +54,6 @@ class GridAccess : public UnitsWindow {
     std::map<std::string, int> signals_;
 
   private:
-    struct UnrefStates {
-        void operator()(AtkStateSet* states) const { g_object_unref(states); }
-    };
-    using HeldStates = std::unique_ptr<AtkStateSet, UnrefStates>;
-
     static void Count(int* signals) { ++*signals; }
 };
 
@@ -136,6 +136,22 @@ TEST_F(GridAccess, SaysOnceWhereTheKeyboardHasCome) {
     });
 }
 
+TEST_F(GridAccess, TellsOfANewTextInTheCurrentCell) {
+    Play([&] {
+        ClickCell(1, 0);
+        WaitForCell(1, 0);
+        InWindow([&] { ListenTo(CellAt(1, 0).get(), "notify::accessible-name"); });
+        const auto namesAfter = [&](int row, const std::string& text) {
+            Have([&] { grid().cells.SetText(row, 0, text); });
+            return Heard("notify::accessible-name");
+        };
+        EXPECT_EQ(namesAfter(1, "t"), 1);
+        EXPECT_EQ(namesAfter(1, "t"), 1);
+        EXPECT_EQ(namesAfter(2, "km"), 1);
+        EXPECT_EQ(namesAfter(1, ""), 2);
+    });
+}
+
 TEST_F(GridAccess, ACellIsDefunctWhenItsRowHasGone) {
     Play([&] {
         const auto cell = InWindow([&] { return std::shared_ptr<AtkObject>(CellAt(3, 1)); });
@@ -152,7 +168,7 @@ TEST_F(GridAccess, ACellThatSomebodyHoldsOutlivesTheWindowAsADefunctOne) {
     Play([&] {
         InWindow([&] {
             cell = CellAt(2, 0);
-            table.reset(ATK_OBJECT(g_object_ref(Table())));
+            table.reset(Ref(Table()));
         });
     });
     EXPECT_TRUE(HasState(cell.get(), ATK_STATE_DEFUNCT));
