@@ -13,6 +13,7 @@ namespace {
 
 std::vector<ListView::Column> ListColumns() {
     std::vector<ListView::Column> columns;
+    columns.reserve(kRuleFields.size());
     for (const auto& field : kRuleFields) {
         columns.push_back({std::string(field.listHeader), field.listWidth});
     }
@@ -50,6 +51,7 @@ constexpr std::array<Zone, 15> kZones{{{"USL - Upper Spec. Limit (White)"},
 
 std::vector<std::string> Zones() {
     std::vector<std::string> items;
+    items.reserve(kZones.size());
     for (const auto& zone : kZones) {
         items.emplace_back(zone.item);
     }

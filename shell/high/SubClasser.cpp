@@ -47,6 +47,7 @@ std::intptr_t SubClasser::Answer(const WindowMessage& message) {
         const auto own = state_.glOldWndProc;
         return own(message);
     }
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the system hands the address over in a number
     auto* const record = reinterpret_cast<void*>(message.lParam);
     if (record == nullptr) {
         return 0;
