@@ -1,36 +1,23 @@
 #include "desktop/AccessiblePage.h"
 
-#include <wx/access.h>
-#include <wx/weakref.h>
 #include <wx/window.h>
+
+#include "desktop/AccessiblePartsMsw.h"
 
 namespace zy {
 namespace {
 
-constexpr int kItself = wxACC_SELF;
-
-/// The page as the system's screen readers know it, who count its parts from 1 on.
-class PartsAccessible final : public wxAccessible {
+/// The page as the system's screen readers know it.
+class PartsOfPage final : public AccessibleParts {
   public:
-    PartsAccessible(wxWindow& page, PageContent& content)
-        : wxAccessible(&page), page_(page), content_(content) {}
+    PartsOfPage(wxWindow& page, PageContent& content) : AccessibleParts(page), content_(content) {}
 
-    int NumberOfCurrent() const { return content_.Current() + 1; }
-    bool HasKeyboard() const { return page_.wxWindow::HasFocus(); }
+    int NumberOfCurrent() const override { return content_.Current() + 1; }
 
-    wxAccStatus GetChildCount(int* count) override {
-        *count = content_.Count();
-        return wxACC_OK;
-    }
-    wxAccStatus GetChild(int /*number*/, wxAccessible** child) override {
-        *child = nullptr;
-        return wxACC_OK;
-    }
     wxAccStatus GetName(int number, wxString* name) override {
         *name = number == kItself ? content_.Name() : content_.Text(number - 1);
         return wxACC_OK;
     }
-    wxAccStatus GetValue(int /*number*/, wxString* /*value*/) override { return wxACC_NOT_SUPPORTED; }
     wxAccStatus GetDescription(int number, wxString* description) override {
         *description =
             number == kItself ? content_.Description() : DescriptionOf(content_.KindOf(number - 1));
@@ -47,40 +34,20 @@ class PartsAccessible final : public wxAccessible {
         if (HasKeyboard() && (number == kItself || number == NumberOfCurrent())) {
             *state |= wxACC_STATE_SYSTEM_FOCUSED;
         }
-        if (number != kItself && !page_.GetScreenRect().Intersects(content_.PlaceOf(number - 1))) {
+        if (number != kItself && !Window().GetScreenRect().Intersects(PlaceOf(number))) {
             *state |= wxACC_STATE_SYSTEM_OFFSCREEN;
         }
-        return wxACC_OK;
-    }
-    wxAccStatus GetLocation(wxRect& place, int number) override {
-        if (number == kItself) {
-            return wxACC_NOT_IMPLEMENTED; // the system knows it
-        }
-        place = content_.PlaceOf(number - 1);
         return wxACC_OK;
     }
     wxAccStatus HitTest(const wxPoint& onScreen, int* number, wxAccessible** child) override {
         *child = nullptr;
         // A link lies on its paragraph, and is counted behind it.
         for (*number = content_.Count(); *number > kItself; --*number) {
-            if (content_.PlaceOf(*number - 1).Contains(onScreen)) {
+            if (PlaceOf(*number).Contains(onScreen)) {
                 return wxACC_OK;
             }
         }
         *child = this;
-        return wxACC_OK;
-    }
-    wxAccStatus Navigate(wxNavDir direction, int from, int* number, wxAccessible** child) override {
-        *child = nullptr;
-        if (from == kItself && direction != wxNAVDIR_FIRSTCHILD && direction != wxNAVDIR_LASTCHILD) {
-            return wxACC_NOT_IMPLEMENTED; // from window to window
-        }
-        *number = NumberFrom(from, direction);
-        return *number > kItself && *number <= content_.Count() ? wxACC_OK : wxACC_FALSE;
-    }
-    wxAccStatus GetFocus(int* number, wxAccessible** child) override {
-        *number = HasKeyboard() ? NumberOfCurrent() : kItself;
-        *child = HasKeyboard() && *number == kItself ? this : nullptr;
         return wxACC_OK;
     }
     wxAccStatus GetDefaultAction(int number, wxString* action) override {
@@ -96,6 +63,8 @@ class PartsAccessible final : public wxAccessible {
     }
 
   private:
+    int Count() const override { return content_.Count(); }
+    wxRect PlaceOf(int number) const override { return content_.PlaceOf(number - 1); }
     bool IsLink(int number) const {
         return number != kItself && content_.KindOf(number - 1) == PageContent::Kind::Link;
     }
@@ -105,7 +74,7 @@ class PartsAccessible final : public wxAccessible {
                : kind == PageContent::Kind::Heading ? "heading"
                                                     : "";
     }
-    int NumberFrom(int from, wxNavDir direction) const {
+    int NumberFrom(int from, wxNavDir direction) const override {
         switch (direction) {
         case wxNAVDIR_FIRSTCHILD:
             return from == kItself ? 1 : kItself;
@@ -122,49 +91,22 @@ class PartsAccessible final : public wxAccessible {
         }
     }
 
-    wxWindow& page_;
     PageContent& content_;
 };
 
 /// Tells the system's listeners where the user has come to.
 class PageOfParts final : public AccessiblePage {
   public:
-    PageOfParts(wxWindow& page, PageContent& content)
-        : page_(&page), accessible_(new PartsAccessible(page, content)) {
-        page.SetAccessible(accessible_);
-        page.Bind(wxEVT_SET_FOCUS, &PageOfParts::TakeFocus, this);
-    }
-    ~PageOfParts() override {
-        if (page_) {
-            page_->Unbind(wxEVT_SET_FOCUS, &PageOfParts::TakeFocus, this);
-            page_->SetAccessible(nullptr);
-        }
-    }
-    PageOfParts(const PageOfParts&) = delete;
-    PageOfParts& operator=(const PageOfParts&) = delete;
+    PageOfParts(wxWindow& page, PageContent& content) : parts_(page, new PartsOfPage(page, content)) {}
 
-    void TellCurrent() override {
-        if (accessible_->HasKeyboard() && accessible_->NumberOfCurrent() != kItself) {
-            Tell(wxACC_EVENT_OBJECT_FOCUS, accessible_->NumberOfCurrent());
-        }
-    }
+    void TellCurrent() override { parts_.TellFocus(); }
     void TellPage() override {
-        Tell(wxACC_EVENT_OBJECT_REORDER, kItself);
+        parts_.TellOfItself(wxACC_EVENT_OBJECT_REORDER);
         TellCurrent();
     }
 
   private:
-    void TakeFocus(wxFocusEvent& event) {
-        event.Skip();
-        // Behind the system's own event, which is of the window as a whole.
-        page_->CallAfter([this] { TellCurrent(); });
-    }
-    void Tell(int event, int number) const {
-        wxAccessible::NotifyEvent(event, page_, wxOBJID_CLIENT, number);
-    }
-
-    wxWeakRef<wxWindow> page_;
-    PartsAccessible* accessible_; ///< the window's own
+    PartsTold parts_;
 };
 
 } // namespace

@@ -1,16 +1,12 @@
 #include "desktop/AccessibleTable.h"
 
-#include <wx/access.h>
 #include <wx/variant.h>
-#include <wx/weakref.h>
 #include <wx/window.h>
 
-#include <optional>
+#include "desktop/AccessiblePartsMsw.h"
 
 namespace zy {
 namespace {
-
-constexpr int kItself = wxACC_SELF;
 
 Cell Neighbour(Cell cell, wxNavDir direction) {
     switch (direction) {
@@ -32,38 +28,22 @@ Cell Neighbour(Cell cell, wxNavDir direction) {
     return cell;
 }
 
-/// The table as the system's screen readers know it. They count the cells from 1 on, row by row from the
-/// header on, and there is no object for a cell: screen readers take no deeper tree of a table. Since that
-/// tells nothing of columns and rows, a cell is called by them.
-class CellsAccessible final : public wxAccessible {
+/// The table as the system's screen readers know it: its cells are counted row by row from the header on,
+/// and have no objects, for screen readers take no deeper tree of a table. Since that tells nothing of
+/// columns and rows, a cell is called by them.
+class PartsOfTable final : public AccessibleParts {
   public:
-    CellsAccessible(wxWindow& cells, TableContent& content)
-        : wxAccessible(&cells), cells_(cells), content_(content) {}
+    PartsOfTable(wxWindow& cells, TableContent& content) : AccessibleParts(cells), content_(content) {}
 
-    /// The number of a cell; that of the table itself where there is no such cell.
-    int NumberOf(const Cell& cell) const {
-        const bool isCell = cell.row >= 0 && cell.row < content_.Rows() && cell.column >= 0 &&
-                            cell.column < content_.Columns();
-        return isCell ? cell.row * content_.Columns() + cell.column + 1 : kItself;
-    }
-    int NumberOfCurrent() const {
+    int NumberOfCurrent() const override {
         const Cell current = content_.Current();
         return current.row < 1 ? kItself : NumberOf(current);
     }
 
-    wxAccStatus GetChildCount(int* count) override {
-        *count = content_.Rows() * content_.Columns();
-        return wxACC_OK;
-    }
-    wxAccStatus GetChild(int /*number*/, wxAccessible** child) override {
-        *child = nullptr;
-        return wxACC_OK;
-    }
     wxAccStatus GetName(int number, wxString* name) override {
         *name = number == kItself ? content_.Name() : NameOf(CellOf(number));
         return wxACC_OK;
     }
-    wxAccStatus GetValue(int /*number*/, wxString* /*value*/) override { return wxACC_NOT_SUPPORTED; }
     wxAccStatus GetDescription(int number, wxString* description) override {
         *description = number == kItself ? wxString() : content_.Description(CellOf(number));
         return wxACC_OK;
@@ -78,33 +58,13 @@ class CellsAccessible final : public wxAccessible {
         *state = number == kItself ? StateOfTable() : StateOf(CellOf(number));
         return wxACC_OK;
     }
-    wxAccStatus GetLocation(wxRect& place, int number) override {
-        if (number == kItself) {
-            return wxACC_NOT_IMPLEMENTED; // the system knows it
-        }
-        place = content_.PlaceOf(CellOf(number));
-        return wxACC_OK;
-    }
     wxAccStatus HitTest(const wxPoint& onScreen, int* number, wxAccessible** child) override {
         *child = nullptr;
         *number = NumberOf(content_.CellAt(onScreen));
-        if (*number == kItself && cells_.GetScreenRect().Contains(onScreen)) {
+        if (*number == kItself && Window().GetScreenRect().Contains(onScreen)) {
             *child = this;
         }
         return *number == kItself && *child == nullptr ? wxACC_FALSE : wxACC_OK;
-    }
-    wxAccStatus Navigate(wxNavDir direction, int from, int* number, wxAccessible** child) override {
-        *child = nullptr;
-        if (from == kItself && direction != wxNAVDIR_FIRSTCHILD && direction != wxNAVDIR_LASTCHILD) {
-            return wxACC_NOT_IMPLEMENTED; // from window to window
-        }
-        *number = NumberFrom(from, direction);
-        return *number == kItself ? wxACC_FALSE : wxACC_OK;
-    }
-    wxAccStatus GetFocus(int* number, wxAccessible** child) override {
-        *number = cells_.HasFocus() ? NumberOfCurrent() : kItself;
-        *child = cells_.HasFocus() && *number == kItself ? this : nullptr;
-        return wxACC_OK;
     }
     wxAccStatus GetSelections(wxVariant* selections) override {
         // Of a block the current cell alone: nobody can go safely through the toolkit's list of several,
@@ -120,7 +80,7 @@ class CellsAccessible final : public wxAccessible {
             return wxACC_NOT_SUPPORTED;
         }
         if ((flags & wxACC_SEL_TAKEFOCUS) != 0) {
-            cells_.SetFocus();
+            Window().SetFocus();
         }
         content_.Pick(CellOf(number));
         return wxACC_OK;
@@ -141,6 +101,14 @@ class CellsAccessible final : public wxAccessible {
     }
 
   private:
+    int Count() const override { return content_.Rows() * content_.Columns(); }
+    wxRect PlaceOf(int number) const override { return content_.PlaceOf(CellOf(number)); }
+    /// The number of a cell; that of the table itself where there is no such cell.
+    int NumberOf(const Cell& cell) const {
+        const bool isCell = cell.row >= 0 && cell.row < content_.Rows() && cell.column >= 0 &&
+                            cell.column < content_.Columns();
+        return isCell ? cell.row * content_.Columns() + cell.column + 1 : kItself;
+    }
     Cell CellOf(int number) const {
         return {.row = (number - 1) / content_.Columns(), .column = (number - 1) % content_.Columns()};
     }
@@ -157,7 +125,7 @@ class CellsAccessible final : public wxAccessible {
         return name;
     }
     long StateOfTable() const {
-        return wxACC_STATE_SYSTEM_FOCUSABLE | (cells_.HasFocus() ? wxACC_STATE_SYSTEM_FOCUSED : 0);
+        return wxACC_STATE_SYSTEM_FOCUSABLE | (HasKeyboard() ? wxACC_STATE_SYSTEM_FOCUSED : 0);
     }
     long StateOf(const Cell& cell) const {
         long state = content_.IsSeen(cell) ? 0 : wxACC_STATE_SYSTEM_OFFSCREEN;
@@ -165,21 +133,19 @@ class CellsAccessible final : public wxAccessible {
             return state;
         }
         state |= wxACC_STATE_SYSTEM_FOCUSABLE | wxACC_STATE_SYSTEM_SELECTABLE;
-        if (cell == content_.Current() && cells_.HasFocus()) {
+        if (cell == content_.Current() && HasKeyboard()) {
             state |= wxACC_STATE_SYSTEM_FOCUSED;
         }
         return content_.Selected().Contains(cell) ? state | wxACC_STATE_SYSTEM_SELECTED : state;
     }
-    /// That of the table itself where there is nothing in this direction.
-    int NumberFrom(int from, wxNavDir direction) const {
-        const int count = content_.Rows() * content_.Columns();
+    int NumberFrom(int from, wxNavDir direction) const override {
         switch (direction) {
         case wxNAVDIR_FIRSTCHILD:
-            return from == kItself && count > 0 ? 1 : kItself;
+            return from == kItself ? 1 : kItself;
         case wxNAVDIR_LASTCHILD:
-            return from == kItself ? count : kItself;
+            return from == kItself ? Count() : kItself;
         case wxNAVDIR_NEXT:
-            return from < count ? from + 1 : kItself;
+            return from + 1;
         case wxNAVDIR_PREVIOUS:
             return from - 1;
         default:
@@ -187,58 +153,28 @@ class CellsAccessible final : public wxAccessible {
         }
     }
 
-    wxWindow& cells_;
     TableContent& content_;
 };
 
 /// Tells the system's listeners of the changes.
 class TableOfCells final : public AccessibleTable {
   public:
-    TableOfCells(wxWindow& cells, TableContent& content)
-        : cells_(&cells), accessible_(new CellsAccessible(cells, content)) {
-        cells.SetAccessible(accessible_);
-        cells.Bind(wxEVT_SET_FOCUS, &TableOfCells::TakeFocus, this);
-    }
-    ~TableOfCells() override {
-        if (cells_) {
-            cells_->Unbind(wxEVT_SET_FOCUS, &TableOfCells::TakeFocus, this);
-            cells_->SetAccessible(nullptr);
-        }
-    }
-    TableOfCells(const TableOfCells&) = delete;
-    TableOfCells& operator=(const TableOfCells&) = delete;
+    TableOfCells(wxWindow& cells, TableContent& content) : parts_(cells, new PartsOfTable(cells, content)) {}
 
     void TellCurrent() override {
-        if (cells_->HasFocus()) {
-            TellOfCurrent(wxACC_EVENT_OBJECT_FOCUS);
-        }
-        TellOfCurrent(wxACC_EVENT_OBJECT_SELECTION);
+        parts_.TellFocus();
+        parts_.TellOfCurrent(wxACC_EVENT_OBJECT_SELECTION);
     }
-    void TellText() override { TellOfCurrent(wxACC_EVENT_OBJECT_NAMECHANGE); }
+    void TellText() override { parts_.TellOfCurrent(wxACC_EVENT_OBJECT_NAMECHANGE); }
     void TellSelected() override {
-        Tell(wxACC_EVENT_OBJECT_SELECTIONWITHIN, kItself);
+        parts_.TellOfItself(wxACC_EVENT_OBJECT_SELECTIONWITHIN);
         // It says how much is selected.
-        TellOfCurrent(wxACC_EVENT_OBJECT_DESCRIPTIONCHANGE);
+        parts_.TellOfCurrent(wxACC_EVENT_OBJECT_DESCRIPTIONCHANGE);
     }
-    void TellRows(int /*before*/) override { Tell(wxACC_EVENT_OBJECT_REORDER, kItself); }
+    void TellRows(int /*before*/) override { parts_.TellOfItself(wxACC_EVENT_OBJECT_REORDER); }
 
   private:
-    void TakeFocus(wxFocusEvent& event) {
-        event.Skip();
-        // Behind the system's own event, which is of the window as a whole.
-        cells_->CallAfter([this] {
-            if (cells_->HasFocus()) {
-                TellOfCurrent(wxACC_EVENT_OBJECT_FOCUS);
-            }
-        });
-    }
-    void TellOfCurrent(int event) const { Tell(event, accessible_->NumberOfCurrent()); }
-    void Tell(int event, int number) const {
-        wxAccessible::NotifyEvent(event, cells_, wxOBJID_CLIENT, number);
-    }
-
-    wxWeakRef<wxWindow> cells_;
-    CellsAccessible* accessible_; ///< the window's own
+    PartsTold parts_;
 };
 
 } // namespace
