@@ -11,16 +11,14 @@
 #include <wx/treectrl.h>
 
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <regex>
 #include <thread>
 
 #include "DesktopColours.h"
+#include "HelpBook.h"
 #include "NativeLook.h"
 #include "RulesWindow.h"
 #include "desktop/Contrast.h"
-#include "desktop/HelpFrame.h"
 #include "desktop/HelpPage.h"
 #include "desktop/HelpTools.h"
 #include "desktop/PageColours.h"
@@ -32,30 +30,16 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::Not;
 
-constexpr auto kHelpFile = R"(C:\PRODUCT\zysetup.hlp)";
 constexpr auto kFirstPage = "ZY Setup Help";
 
 /// Help as the user reads it.
 class HelpWindow : public RulesWindow {
   protected:
-    HelpWindow() { PutHelp(Book()); }
+    HelpWindow() { PutHelp(HelpBook()); }
 
     void PutHelp(const std::string& bytes) { world.files.Put(kHelpFile, bytes); }
-    /// The book that is built with the program.
-    static std::string Book() {
-        std::ifstream file(ZY_HELP_BOOK, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
 
     // The parts of the window. For the window's thread.
-    static HelpFrame* Frame() {
-        for (auto* window : wxTopLevelWindows) {
-            if (auto* frame = dynamic_cast<HelpFrame*>(window); frame != nullptr && frame->IsShown()) {
-                return frame;
-            }
-        }
-        return nullptr;
-    }
     template <typename Kind>
     static Kind* Find(wxWindow& window) {
         for (auto* child : window.GetChildren()) {
@@ -69,9 +53,9 @@ class HelpWindow : public RulesWindow {
     }
     template <typename Kind>
     static Kind& Part(int id) {
-        return dynamic_cast<Kind&>(*Frame()->FindWindow(id));
+        return dynamic_cast<Kind&>(*ShownHelp()->FindWindow(id));
     }
-    static HelpPage& Page() { return *Find<HelpPage>(*Frame()); }
+    static HelpPage& Page() { return *Find<HelpPage>(*ShownHelp()); }
     static wxTreeCtrl& Contents() { return Part<wxTreeCtrl>(wxID_HTML_TREECTRL); }
     /// The entry of that name below another.
     static wxTreeItemId Entry(const wxTreeItemId& above, const std::string& name) {
@@ -98,9 +82,9 @@ class HelpWindow : public RulesWindow {
     void OpenHelp() {
         Press(WXK_F1);
         WaitForPage(kFirstPage);
-        WaitUntil("the help has the keyboard", [] { return Frame()->IsActive() && HasFocus(Page()); });
+        WaitUntil("the help has the keyboard", [] { return ShownHelp()->IsActive() && HasFocus(Page()); });
         std::this_thread::sleep_for(UntilNewWindowKeepsKeyboard());
-        WaitUntil("the help keeps the keyboard", [] { return Frame()->IsActive() && HasFocus(Page()); });
+        WaitUntil("the help keeps the keyboard", [] { return ShownHelp()->IsActive() && HasFocus(Page()); });
     }
     void ClickOn(int part) {
         hands->Click(InWindow([&] {
@@ -118,7 +102,7 @@ class HelpWindow : public RulesWindow {
     }
     void LookFor(const std::string& words) {
         InWindow([] {
-            Find<wxNotebook>(*Frame())->SetSelection(2);
+            Find<wxNotebook>(*ShownHelp())->SetSelection(2);
             Part<wxTextCtrl>(wxID_HTML_SEARCHTEXT).SetFocus();
         });
         WaitUntil("the text box has the focus",
@@ -132,21 +116,21 @@ class HelpWindow : public RulesWindow {
         WaitForMark(text);
     }
     void CloseHelp() {
-        InWindow([] { Frame()->Close(); });
+        InWindow([] { ShownHelp()->Close(); });
         WaitForNoHelp();
     }
 
     // What the user sees.
     void WaitForPage(const wxString& title) {
         WaitUntil("the help shows " + title.utf8_string(),
-                  [&] { return Frame() != nullptr && Page().GetOpenedPageTitle() == title; });
+                  [&] { return ShownHelp() != nullptr && Page().GetOpenedPageTitle() == title; });
     }
     static std::string Marked() { return Page().SelectionToText().Strip(wxString::both).utf8_string(); }
     void WaitForMark(const std::string& text) {
         WaitUntil("\"" + text + "\" is marked", [&] { return Marked() == text; });
     }
     void WaitForNoHelp() {
-        WaitUntil("the help is closed", [] { return Frame() == nullptr; });
+        WaitUntil("the help is closed", [] { return ShownHelp() == nullptr; });
     }
     void WaitForFound(const std::string& text) {
         WaitUntil("the search says " + text, [&] {
@@ -156,7 +140,7 @@ class HelpWindow : public RulesWindow {
     /// The caption of the list that is in front.
     static std::string List() {
         return InWindow([] {
-            auto& lists = *Find<wxNotebook>(*Frame());
+            auto& lists = *Find<wxNotebook>(*ShownHelp());
             return lists.GetPageText(static_cast<std::size_t>(lists.GetSelection())).utf8_string();
         });
     }
@@ -198,7 +182,7 @@ TEST_F(HelpWindow, OpensAtItsContentsByF1AndByTheHelpButton) {
 }
 
 TEST_F(HelpWindow, OpensWhileAFieldIsWrongWhichIsAskedAboutAfterwards) {
-    PutHelp(Book());
+    PutHelp(HelpBook());
     PutRules(ThreeRules());
     Play([&] {
         Fill(page().txtMin, "0");
@@ -222,7 +206,7 @@ TEST_F(HelpWindow, OpensAtItsIndexByTheMenu) {
     Play([&] {
         Press('H', wxMOD_ALT);
         Press('I');
-        WaitUntil("the help is open", [] { return Frame() != nullptr; });
+        WaitUntil("the help is open", [] { return ShownHelp() != nullptr; });
         EXPECT_EQ(List(), "Index");
         CloseHelp();
     });
@@ -235,7 +219,7 @@ TEST_F(HelpWindow, StaysOpenBesideTheEditorAndGoesWithIt) {
                   InWindow([] { RealFrame().Raise(); });
                   WaitUntil("the editor has the keyboard", [] { return RealFrame().IsActive(); });
                   EXPECT_TRUE(IsEnabled(page().cmdAddList));
-                  EXPECT_NE(InWindow([] { return Frame(); }), nullptr);
+                  EXPECT_NE(InWindow([] { return ShownHelp(); }), nullptr);
               }),
               0);
 }
@@ -252,7 +236,7 @@ TEST_F(HelpWindow, TellsOfAMissingFile) {
 }
 
 TEST_F(HelpWindow, TellsOfADamagedFileAndReadsAGoodOneLater) {
-    const auto book = Book();
+    const auto book = HelpBook();
     Play([&] {
         for (const auto& bytes : {std::string(), std::string("no archive"), book.substr(0, book.size() / 2),
                                   std::string(20000, '\0')}) {
@@ -274,7 +258,7 @@ TEST_F(HelpWindow, TellsOfADamagedFileAndReadsAGoodOneLater) {
 TEST_F(HelpWindow, SaysInItsTitleWhatItIsOnEveryPage) {
     Play([&] {
         OpenHelp();
-        const auto title = [] { return InWindow([] { return Frame()->GetTitle().utf8_string(); }); };
+        const auto title = [] { return InWindow([] { return ShownHelp()->GetTitle().utf8_string(); }); };
         EXPECT_EQ(title(), "ZY Setup - Help");
         TabToMark("Rules");
         Press(WXK_RETURN);
@@ -291,7 +275,7 @@ TEST_F(HelpWindow, OpensOverTheMiddleOfTheEditor) {
         OpenHelp();
         InWindow([] {
             const auto middle = [](const wxRect& place) { return place.GetPosition() + place.GetSize() / 2; };
-            const auto away = middle(Frame()->GetScreenRect()) - middle(RealFrame().GetScreenRect());
+            const auto away = middle(ShownHelp()->GetScreenRect()) - middle(RealFrame().GetScreenRect());
             constexpr int kBorders = 30;
             EXPECT_LE(std::abs(away.x), kBorders);
             EXPECT_LE(std::abs(away.y), kBorders);
@@ -306,8 +290,8 @@ TEST_F(HelpWindow, OpensOnTheScreenWhereverTheEditorStands) {
         WaitUntil("the editor is there", [] { return RealFrame().GetPosition().x >= 1380; });
         OpenHelp();
         InWindow([] {
-            const auto screen = wxDisplay(Frame()).GetClientArea();
-            EXPECT_TRUE(screen.Contains(Frame()->GetScreenRect()));
+            const auto screen = wxDisplay(ShownHelp()).GetClientArea();
+            EXPECT_TRUE(screen.Contains(ShownHelp()->GetScreenRect()));
         });
         CloseHelp();
     });
@@ -333,10 +317,10 @@ TEST_F(HelpWindow, OpensAnewAtOnceAfterItWasClosed) {
     Play([&] {
         OpenHelp();
         const auto pressed = InWindow([&] {
-            const auto* closed = Frame();
-            Frame()->Close();
+            const auto* closed = ShownHelp();
+            ShownHelp()->Close();
             program->form.menu.mnuContents.Click();
-            return std::pair(closed, Frame());
+            return std::pair(closed, ShownHelp());
         });
         EXPECT_NE(pressed.first, pressed.second);
         WaitUntil("the closed window is gone", [&] { return !wxTopLevelWindows.Find(pressed.first); });
@@ -350,7 +334,7 @@ TEST_F(HelpWindow, EscapeClosesItFromATextBox) {
         Press('H', wxMOD_ALT);
         Press('I');
         WaitUntil("the box for a keyword has the focus", [] {
-            return Frame() != nullptr && Frame()->IsActive() &&
+            return ShownHelp() != nullptr && ShownHelp()->IsActive() &&
                    HasFocus(Part<wxTextCtrl>(wxID_HTML_INDEXTEXT));
         });
         Press(WXK_ESCAPE);
@@ -391,7 +375,7 @@ TEST_F(HelpWindow, TabScrollsToTheLinkThatItMarks) {
 TEST_F(HelpWindow, TabBeginsWithTheLinksThatCanBeSeen) {
     Play([&] {
         OpenHelp();
-        InWindow([] { Frame()->SetSize(700, 420); });
+        InWindow([] { ShownHelp()->SetSize(700, 420); });
         Press(WXK_END);
         WaitUntil("the first link is scrolled away", [] { return Page().GetViewStart().y > 10; });
         Press(WXK_TAB);
@@ -640,7 +624,7 @@ TEST_F(HelpWindow, EveryButtonSaysWhatItDoesAndShowsAPicture) {
         OpenHelp();
         const auto names = InWindow([] {
             std::vector<std::string> texts;
-            for (auto* child : Find<HelpTools>(*Frame())->GetChildren()) {
+            for (auto* child : Find<HelpTools>(*ShownHelp())->GetChildren()) {
                 texts.push_back(child->GetToolTipText().utf8_string());
                 const auto& button = dynamic_cast<wxBitmapButton&>(*child);
                 EXPECT_GE(button.GetBitmap().GetLogicalWidth(), 16) << texts.back();

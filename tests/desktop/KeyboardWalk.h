@@ -16,7 +16,6 @@
 #include "WindowThread.h"
 #include "controls/Control.h"
 #include "desktop/Contrast.h"
-#include "desktop/HelpFrame.h"
 
 namespace zy::test {
 
@@ -27,7 +26,7 @@ class KeyboardWalk : public EditorWindow {
     using Stops = std::vector<const Control*>;
 
     /// Help can be opened in it.
-    KeyboardWalk() { this->world.files.Put(R"(C:\PRODUCT\zysetup.hlp)", HelpBook()); }
+    KeyboardWalk() { this->world.files.Put(kHelpFile, HelpBook()); }
 
     /// Goes by Tab from `first`, which `leave` leaves, to the other stops and round to it again: each is
     /// reached, and looks different while it has the keyboard.
@@ -59,10 +58,10 @@ class KeyboardWalk : public EditorWindow {
     /// Opens the help and goes back.
     void ReadHelp() {
         this->Press(WXK_F1);
-        WaitUntil("the help is open", [] { return Help() != nullptr && Help()->IsActive(); });
+        WaitUntil("the help is open", [] { return ShownHelp() != nullptr && ShownHelp()->IsActive(); });
         std::this_thread::sleep_for(UntilNewWindowKeepsKeyboard());
         this->Press(WXK_ESCAPE);
-        WaitUntil("the help is closed", [] { return Help() == nullptr; });
+        WaitUntil("the help is closed", [] { return ShownHelp() == nullptr; });
         this->WaitForWindow();
     }
     /// Opens About and goes back.
@@ -76,14 +75,6 @@ class KeyboardWalk : public EditorWindow {
     }
 
   private:
-    static HelpFrame* Help() {
-        for (auto* window : wxTopLevelWindows) {
-            if (auto* frame = dynamic_cast<HelpFrame*>(window); frame != nullptr && frame->IsShown()) {
-                return frame;
-            }
-        }
-        return nullptr;
-    }
     void ExpectSeen(const Control& control, const wxImage& atRest) {
         double contrast = 0;
         try {

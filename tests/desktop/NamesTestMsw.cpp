@@ -3,9 +3,7 @@
 #include <wx/html/htmlwin.h>
 #include <wx/statusbr.h>
 
-#include <fstream>
-#include <iterator>
-
+#include "HelpBook.h"
 #include "ReaderMsw.h"
 #include "RulesWindow.h"
 #include "UsersWindow.h"
@@ -30,10 +28,7 @@ class NamesInUsers : public UsersWindow {
 /// The help as screen readers of the system read it.
 class NamesInHelp : public RulesWindow {
   protected:
-    NamesInHelp() {
-        std::ifstream book(ZY_HELP_BOOK, std::ios::binary);
-        world.files.Put(R"(C:\PRODUCT\zysetup.hlp)", std::string{std::istreambuf_iterator<char>(book), {}});
-    }
+    NamesInHelp() { world.files.Put(kHelpFile, HelpBook()); }
 
     static wxHtmlWindow* Page() {
         auto* page = wxWindow::FindWindowByName("htmlWindow");
