@@ -13,11 +13,11 @@
 #include <wx/weakref.h>
 
 #include <bit>
-#include <cmath>
 #include <memory>
 #include <utility>
 
 #include "desktop/AccessibleMsw.h"
+#include "desktop/Contrast.h"
 #include "desktop/Native.h"
 #include "desktop/ShownText.h"
 
@@ -125,10 +125,8 @@ void TellSystem(const wxKeyEvent& key) {
 /// The system's colour for links, else the toolkit's, else that of other text. Each may be much like what
 /// lies below the link: the first in some themes, the second in high contrast.
 wxColour ReadableLinkColour(const wxHyperlinkCtrl& link) {
-    constexpr double kContrast = 0.4;
-    const double below = link.GetBackgroundColour().GetLuminance();
     for (const auto& colour : {wxSystemSettings::GetColour(wxSYS_COLOUR_HOTLIGHT), link.GetNormalColour()}) {
-        if (std::abs(colour.GetLuminance() - below) > kContrast) {
+        if (Contrast(colour, link.GetBackgroundColour()) >= kReadable) {
             return colour;
         }
     }

@@ -12,6 +12,7 @@ constexpr COLORREF kBlack = RGB(0, 0, 0);
 constexpr COLORREF kWhite = RGB(255, 255, 255);
 constexpr COLORREF kYellow = RGB(255, 255, 0);
 constexpr COLORREF kBlue = RGB(0, 0, 255);
+constexpr COLORREF kGrey = RGB(150, 150, 150);
 constexpr COLORREF kLightGrey = RGB(230, 230, 230);
 
 /// The colours of all programs' windows, of the text on them, and of links.
@@ -76,6 +77,11 @@ TEST_F(LinkColour, IsTheOneThatTheSystemHasForLinks) {
 
 TEST_F(LinkColour, IsBlueWhereTheSystemsCannotBeRead) {
     const SystemColours colours(kWhite, kBlack, kLightGrey);
+    ExpectLinksIn(kBlue);
+}
+
+TEST_F(LinkColour, IsBlueWhereTheSystemsIsSeenButTooPaleToBeRead) {
+    const SystemColours colours(kWhite, kBlack, kGrey);
     ExpectLinksIn(kBlue);
 }
 
