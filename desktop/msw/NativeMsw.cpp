@@ -213,8 +213,8 @@ void AnnounceNotice(wxWindow& notice) {
 }
 
 void RunBehindEvent(wxEvtHandler& owner, std::function<void()> work) {
-    // The toolkit runs pending work in a hook on each message that is taken from the queue. That message is not
-    // done before the hook is, and in a box that the hook opens Wine would keep back all that is posted.
+    // The toolkit runs pending work in a hook on each message that is taken from the queue. That message is
+    // not done before the hook is, and in a box that the hook opens Wine would keep back all that is posted.
     auto putOff = std::make_unique<PutOffWork>(PutOffWork{&owner, std::move(work)});
     const HWND window =
         ::CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
