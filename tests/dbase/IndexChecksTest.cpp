@@ -31,18 +31,19 @@ class IndexChecks : public ::testing::Test {
     std::string RefusalWith32At(std::size_t at, std::uint32_t value) {
         const auto before = bytes;
         Put32(bytes, at, value);
-        const auto refusal = Refusal();
+        auto refusal = Refusal();
         bytes = before;
         return refusal;
     }
     std::string RefusalWith16At(std::size_t at, unsigned value) {
         const auto before = bytes;
         Put16(bytes, at, value);
-        const auto refusal = Refusal();
+        auto refusal = Refusal();
         bytes = before;
         return refusal;
     }
-    static std::size_t EntryAt(std::size_t page, std::size_t entry) { return page * 512 + 4 + entry * 20; }
+    static std::size_t PageAt(std::size_t page) { return page * 512; }
+    static std::size_t EntryAt(std::size_t page, std::size_t entry) { return PageAt(page) + 4 + entry * 20; }
 
     TableImage table;
     std::string bytes;
@@ -84,8 +85,8 @@ TEST_F(IndexChecks, IgnoreWhatMayBeArbitrary) {
     for (const std::size_t at : {8U, 9U, 20U, 21U, 22U, 31U, 200U}) {
         bytes[at] = '\x7F';
     }
-    bytes[1 * 512 + 4 + 19] = '\x7F'; // the filler behind a key
-    bytes[3 * 512 + 511] = '\x7F';    // the end of a leaf
+    bytes[EntryAt(1, 0) + 19] = '\x7F'; // the filler behind a key
+    bytes[PageAt(4) - 1] = '\x7F';      // the end of a leaf
     EXPECT_EQ(Refusal(), "");
     bytes += std::string(512, 'x');
     EXPECT_EQ(Refusal(), "");
@@ -111,13 +112,13 @@ TEST_F(IndexChecks, TakeKeysWhoseLengthWasRoundedUp) {
 }
 
 TEST_F(IndexChecks, RefusePagesThatCountMoreThanTheyHold) {
-    EXPECT_EQ(RefusalWith32At(512, 26), "page 1 counts 26 entries.");
-    EXPECT_EQ(RefusalWith32At(512, 0xFFFFFFFF), "page 1 counts 4294967295 entries.");
+    EXPECT_EQ(RefusalWith32At(PageAt(1), 26), "page 1 counts 26 entries.");
+    EXPECT_EQ(RefusalWith32At(PageAt(1), 0xFFFFFFFF), "page 1 counts 4294967295 entries.");
 }
 
 TEST_F(IndexChecks, RefusePagesThatAreEmpty) {
-    EXPECT_EQ(RefusalWith32At(2 * 512, 0), "page 2 is an empty leaf.");
-    EXPECT_EQ(RefusalWith32At(4 * 512, 0), "page 4 has one child and no key.");
+    EXPECT_EQ(RefusalWith32At(PageAt(2), 0), "page 2 is an empty leaf.");
+    EXPECT_EQ(RefusalWith32At(PageAt(4), 0), "page 4 has one child and no key.");
 }
 
 TEST_F(IndexChecks, RefusePagesOutOfRangeAndLoops) {
@@ -136,7 +137,7 @@ TEST_F(IndexChecks, RefuseLeavesOnDifferentLevels) {
     Put32(page, 24, 3);
     bytes += page;
     Put32(bytes, 4, 6);
-    Put32(bytes, 4 * 512, 1);
+    Put32(bytes, PageAt(4), 1);
     Put32(bytes, EntryAt(4, 1), 5);
     EXPECT_EQ(Refusal(), "page 2 is a leaf on another level than the first.");
 }
@@ -208,7 +209,7 @@ TEST_F(IndexChecks, EndASearchInALoop) {
 
 TEST_F(IndexChecks, GoOnWithTheNextLeafInASearchThatEndsInOne) {
     // The highest key of the first leaf is taken away, and its separator stays.
-    Put32(bytes, 512, 24);
+    Put32(bytes, PageAt(1), 24);
     EXPECT_EQ(IndexFile(bytes, "T.NDX").Find("K123"), 24U);
     EXPECT_EQ(IndexFile(bytes, "T.NDX").Find("K124"), std::nullopt);
     EXPECT_EQ(IndexFile(bytes, "T.NDX").Find("K125"), 26U);

@@ -180,7 +180,7 @@ std::string HighCharacters() {
 TEST_F(ReadTable, LeavesCharactersAsTheyAreUnlessTheyAreOfDos) {
     TableBytes table({{"C", 128}});
     table.Add(' ', {HighCharacters()});
-    for (const auto& language : {"\0"s, "\x03"s, "\x57"s, "\xC8"s, "\xFF"s}) {
+    for (const char language : {'\0', '\x03', '\x57', '\xC8', '\xFF'}) {
         table.language = language;
         EXPECT_EQ(Read(table.Bytes()), Rows{{HighCharacters()}});
     }

@@ -38,7 +38,7 @@ TEST_F(RefusedTables, AreTooShort) {
 
 TEST_F(RefusedTables, AreOfAnotherVersion) {
     auto table = Table();
-    for (const auto* version : {"\x83", "\x30", "\x02", "\xFF"}) {
+    for (const char version : {'\x83', '\x30', '\x02', '\xFF'}) {
         table.version = version;
         EXPECT_THAT(Refusal(table.Bytes()),
                     ::testing::HasSubstr("which is not that of a dBase III table (3)."));

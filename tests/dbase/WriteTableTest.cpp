@@ -117,12 +117,12 @@ TEST_F(WriteTable, StatesALanguageThatAnotherProgramLeftOut) {
 
 TEST_F(WriteTable, KeepsALanguageThatIsStated) {
     auto table = UserTable();
-    for (const auto* language : {"\x01", "\x03", "\x57", "\xC8"}) {
+    for (const char language : {'\x01', '\x03', '\x57', '\xC8'}) {
         table.language = language;
         Put("ZYSECURE.DBF", table.Bytes());
         Run(InsertUser({"A", "", "", "", ""}, "ZYSECURE.DBF"));
         database->Flush();
-        EXPECT_EQ(Get("ZYSECURE.DBF")[29], language[0]);
+        EXPECT_EQ(Get("ZYSECURE.DBF")[29], language);
     }
 }
 
