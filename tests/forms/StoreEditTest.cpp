@@ -13,7 +13,7 @@ class StoreEdit : public RulesForm {
     StoreEdit() { StartWithCodes({"A", "B", "C"}); }
 
     /// Edits rule 2 and saves; `expected` is what has to stand in the file for it.
-    void ExpectStored(const std::function<void()>& edit, RunRule expected) {
+    void ExpectStored(const std::function<void()>& edit, const RunRule& expected) {
         list().Pick(2);
         edit();
         ChooseSave();
