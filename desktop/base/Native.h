@@ -36,7 +36,7 @@ void LearnBorders();
 /// Runs work that may wait for the user, in a message box or a menu, once the event at hand is done; not any
 /// more when its owner is gone by then. The toolkit's CallAfter may run it while the event loop is only just
 /// taking up the next event, which would not be done before the user has answered.
-void RunBehindEvent(wxEvtHandler& owner, std::function<void()> work);
+void RunBehindEvent(wxEvtHandler& owner, const std::function<void()>& work);
 
 /// The name by which a screen reader calls a control that shows no text of its own.
 void SetAccessibleName(wxWindow& window, const wxString& name);

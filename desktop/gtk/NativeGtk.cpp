@@ -256,8 +256,8 @@ void AnnounceNotice(wxWindow& notice) {
 }
 
 // NOLINTNEXTLINE(performance-unnecessary-value-param): the other system keeps it
-void RunBehindEvent(wxEvtHandler& owner, std::function<void()> work) {
-    owner.CallAfter(std::move(work)); // runs between two events
+void RunBehindEvent(wxEvtHandler& owner, const std::function<void()>& work) {
+    owner.CallAfter(work); // runs between two events
 }
 
 void FollowByEnter(wxHyperlinkCtrl& /*link*/, std::function<void()> /*follow*/) {

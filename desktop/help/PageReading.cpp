@@ -59,8 +59,7 @@ wxRect PageReading::PlaceOf(int part) const {
 void PageReading::Follow(int part) {
     if (KindOf(part) == Kind::Link) {
         // Behind the question: the page's parts go with it.
-        RunBehindEvent(page_,
-                       [this, link = *At(part).cells.first->GetLink()] { page_.OnLinkClicked(link); });
+        RunBehindEvent(page_, [this, link = *At(part).cells.first->GetLink()] { page_.OnLinkClicked(link); });
     }
 }
 

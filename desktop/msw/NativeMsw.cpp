@@ -212,10 +212,10 @@ void AnnounceNotice(wxWindow& notice) {
     wxAccessible::NotifyEvent(wxACC_EVENT_SYSTEM_ALERT, &notice, wxOBJID_CLIENT, wxACC_SELF);
 }
 
-void RunBehindEvent(wxEvtHandler& owner, std::function<void()> work) {
+void RunBehindEvent(wxEvtHandler& owner, const std::function<void()>& work) {
     // The toolkit runs pending work in a hook on each message that is taken from the queue. That message is
     // not done before the hook is, and in a box that the hook opens Wine would keep back all that is posted.
-    auto putOff = std::make_unique<PutOffWork>(PutOffWork{&owner, std::move(work)});
+    auto putOff = std::make_unique<PutOffWork>(PutOffWork{&owner, work});
     const HWND window =
         ::CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
     ::SetWindowLongPtrW(window, GWLP_WNDPROC, std::bit_cast<LONG_PTR>(&RunPutOffWork));

@@ -220,7 +220,7 @@ TEST_F(SaveFile, TakesNoRoomForTheGroupsOfKeys) {
     const auto room = TakeLargestArray();
     EXPECT_GE(room, text.Get().size());
     EXPECT_LT(room, 2'000'000U);
-    EXPECT_EQ(text.Get().size(), 3 + group.size() + 3 + 30'000 * 21);
+    EXPECT_EQ(text.Get().size(), 3 + group.size() + 3 + std::size_t{30'000} * 21);
 }
 
 } // namespace
