@@ -3,24 +3,6 @@
 #include <utility>
 
 namespace zy {
-namespace {
-
-void AddRows(const RowList& rows, int first, int count, RowTexts& copies) {
-    for (int row = first; row < first + count; ++row) {
-        for (int column = 0; column < rows.Columns(); ++column) {
-            copies.Add(rows.Text(row, column));
-        }
-    }
-}
-
-RowTexts CopyOf(const RowList& rows, int first, int count) {
-    RowTexts copies(rows.Columns());
-    AddRows(rows, first, count, copies);
-    return copies;
-}
-
-} // namespace
-
 Recorder::Recorder(const RowList& rows, Here here, Take take)
     : rows_(rows), here_(std::move(here)), take_(std::move(take)) {}
 
@@ -77,7 +59,7 @@ void Recorder::Extend(int first, int count) {
     }
     const int below = first + count - (change.first + rowsAfter_);
     if (below > 0) {
-        AddRows(rows_, change.first + rowsAfter_, below, change.before);
+        AddRowsOf(rows_, change.first + rowsAfter_, below, change.before);
         rowsAfter_ += below;
     }
 }

@@ -19,4 +19,8 @@ class RowList {
     virtual void ReplaceRows(int first, int count, const RowTexts& rows) = 0;
 };
 
+/// Appends copies of `count` rows from `first` on, which must be there.
+void AddRowsOf(const RowList& rows, int first, int count, RowTexts& copies);
+RowTexts CopyOf(const RowList& rows, int first, int count);
+
 } // namespace zy

@@ -11,9 +11,10 @@ namespace {
 
 constexpr int kMost = std::numeric_limits<int>::max();
 
+/// An editor may mean something of its own by -1.
 void Put(ByteWriter& bytes, const StepPlace& place) {
-    bytes.Number(static_cast<std::uint64_t>(std::max(place.row, 0)));
-    bytes.Number(static_cast<std::uint64_t>(std::max(place.column, 0)));
+    bytes.Number(static_cast<std::uint64_t>(std::max(place.row, -1) + 1));
+    bytes.Number(static_cast<std::uint64_t>(std::max(place.column, -1) + 1));
 }
 
 void Put(ByteWriter& bytes, const RowTexts& rows) {
@@ -40,8 +41,8 @@ void Put(ByteWriter& bytes, const Step& step) {
 }
 
 StepPlace TakePlace(ByteReader& bytes) {
-    const int row = bytes.Small(kMost).value_or(0);
-    return {row, bytes.Small(kMost).value_or(0)};
+    const int row = bytes.Small(kMost).value_or(0) - 1;
+    return {row, bytes.Small(kMost).value_or(0) - 1};
 }
 
 /// As many as are there: the reader knows whether that was all.
@@ -107,7 +108,7 @@ Step Reverse(const Step& step) {
 std::string StepNote::Bytes() const {
     ByteWriter bytes;
     bytes.Number(static_cast<std::uint64_t>(kind));
-    if (kind != Kind::Undo && kind != Kind::Redo) {
+    if (HasStep()) {
         Put(bytes, step);
     }
     return bytes.Take();
@@ -116,19 +117,40 @@ std::string StepNote::Bytes() const {
 std::optional<StepNote> StepNote::Of(std::string_view text) {
     ByteReader bytes(text);
     StepNote note;
-    const auto kind = bytes.Small(static_cast<int>(Kind::Redo));
+    const auto kind = bytes.Small(static_cast<int>(Kind::Undo));
     if (!kind) {
         return std::nullopt;
     }
     note.kind = static_cast<Kind>(*kind);
-    if (note.kind != Kind::Undo && note.kind != Kind::Redo) {
+    if (note.HasStep()) {
         note.step = TakeStep(bytes);
     }
     return bytes.AtEnd() ? std::optional(std::move(note)) : std::nullopt;
 }
 
+StepNote StepNote::OfList(const RowList& rows, int first) {
+    StepNote note{Kind::List, {}};
+    note.step.changes.push_back({first, {}, CopyOf(rows, first, rows.Rows() - first)});
+    return note;
+}
+
+bool StepNote::ReplayList(RowList& rows, History& history) const {
+    if (step.changes.size() != 1) {
+        return false;
+    }
+    Step whole = step;
+    auto& change = whole.changes.front();
+    if (change.first > rows.Rows()) {
+        return false;
+    }
+    change.before = CopyOf(rows, change.first, rows.Rows() - change.first);
+    return StepNote{Kind::Push, std::move(whole)}.Replay(rows, history);
+}
+
 bool StepNote::Replay(RowList& rows, History& history) const {
     switch (kind) {
+    case Kind::List:
+        return ReplayList(rows, history);
     case Kind::Undo:
         return history.ToUndo() != nullptr && (history.Undo(rows), true);
     case Kind::Redo:

@@ -12,10 +12,20 @@ namespace zy {
 
 /// What happened to a history, as it is noted down.
 struct StepNote {
-    enum class Kind : char { Push, Join, Append, Undo, Redo };
+    enum class Kind : char {
+        Push,
+        Join,
+        Append,
+        List, ///< the list as it stands then, in place of whatever it was
+        Redo, ///< of the step that the notes before lead to, as for Undo
+        Undo,
+    };
 
     Kind kind = Kind::Push;
-    Step step; ///< nothing for Undo and Redo, which mean the step that the notes before them lead to
+    Step step; ///< nothing for Redo and Undo
+
+    /// The rows of a list from one on.
+    static StepNote OfList(const RowList& rows, int first);
 
     /// Nothing when the bytes are no note.
     static std::optional<StepNote> Of(std::string_view bytes);
@@ -24,6 +34,10 @@ struct StepNote {
     /// Does it to a list and its history. False, and nothing is done, when they are not those that it was
     /// noted of.
     bool Replay(RowList& rows, History& history) const;
+
+  private:
+    bool HasStep() const { return kind != Kind::Undo && kind != Kind::Redo; }
+    bool ReplayList(RowList& rows, History& history) const;
 };
 
 /// Notes down what happens to a history from here on, so that it can be done again to a list that is as this

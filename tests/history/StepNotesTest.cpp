@@ -158,6 +158,27 @@ TEST(StepNotes, WhatIsAddedToTheLastStepLeavesWhatCanBeDoneAgain) {
     EXPECT_NE(noted.Replayed().history.ToRedo(), nullptr);
 }
 
+TEST(StepNotes, AWholeListTakesThePlaceOfWhateverTheOtherOneHolds) {
+    Noted noted;
+    const auto note = StepNote::Of(StepNote::OfList(noted.list, 1).Bytes());
+    ASSERT_TRUE(note);
+    Recorded other;
+    other.rows = {{"x", "X"}, {"y", "Y"}};
+    EXPECT_TRUE(note->Replay(other, other.history));
+    EXPECT_THAT(other.Lines(), ElementsAre("x|X", "b|B", "c|C"));
+    other.Undo();
+    EXPECT_THAT(other.Lines(), ElementsAre("x|X", "y|Y"));
+    Recorded empty;
+    EXPECT_FALSE(note->Replay(empty, empty.history));
+}
+
+TEST(StepNotes, APlaceBesideTheListIsKept) {
+    Noted noted;
+    noted.list.here = {-1, -1};
+    noted.list.Do("Edit", [&] { noted.list.Set(0, 0, "new"); });
+    EXPECT_EQ(noted.Replayed().history.ToUndo()->before, (StepPlace{-1, -1}));
+}
+
 TEST(StepNotes, ANoteOfAListWithFewerRowsIsNotDone) {
     Noted noted;
     noted.list.Do("Edit", [&] { noted.list.Set(2, 0, "new"); });
@@ -184,7 +205,7 @@ TEST(StepNotes, BytesThatAreCutOrTooManyAreNoNote) {
         EXPECT_FALSE(StepNote::Of(std::string_view(bytes).substr(0, size))) << size;
     }
     EXPECT_FALSE(StepNote::Of(bytes + '\0'));
-    EXPECT_FALSE(StepNote::Of("\x05"));
+    EXPECT_FALSE(StepNote::Of("\x06"));
 }
 
 TEST(StepNotes, AnyByteChangedIsNoNoteOrOneThatDoesNoHarm) {
