@@ -46,6 +46,10 @@ void MainWindowView::Open() {
     menuBar_->AddContextMenu(menu.mnuGridPopMenu);
     menuBar_->AddContextMenu(menu.mnuSecuritypopMenu);
     desktop_.Window().Attach(binding_->Frame());
+    binding_->Frame().Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
+        event.Skip();
+        desktop_.Gate().Answer([this] { window_.idle.Raise(); });
+    });
     binding_->Open();
 }
 

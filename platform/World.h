@@ -4,6 +4,7 @@
 #include "platform/Dialogs.h"
 #include "platform/FileSystem.h"
 #include "platform/HelpSystem.h"
+#include "platform/Journals.h"
 #include "platform/NativeWindow.h"
 #include "platform/RecycleBin.h"
 #include "platform/Registry.h"
@@ -28,6 +29,7 @@ struct World {
     RecycleBin& recycleBin;
     Registry& registry;
     ShellLinks& links;
+    Journals& journals;
     Dialogs& dialogs;
     HelpSystem& help;
     NativeWindow& window;
@@ -44,6 +46,7 @@ World WorldOf(System& system, const ScreenWorld& screen) {
             .recycleBin = system.recycleBin,
             .registry = system.registry,
             .links = system.links,
+            .journals = system.journals,
             .dialogs = screen.dialogs,
             .help = screen.help,
             .window = screen.window,

@@ -79,10 +79,13 @@ void RulesPage::Save() {
 }
 
 bool RulesPage::Write() {
+    steps_.BeginSave();
     const bool written = rules_.Write_Rules_File();
+    // What the form alone holds is not in the file, and stays to be saved.
+    const bool holdsAll = written && !rules_.LastSaveFailed() && !steps_.HasDraft();
+    steps_.EndSave(holdsAll ? SaveEnd::Whole : written ? SaveEnd::Failed : SaveEnd::Refused);
     if (written) {
-        // What the form alone holds is not in the file, and stays to be saved.
-        steps_.MarkSaved(!rules_.LastSaveFailed() && !steps_.HasDraft());
+        steps_.MarkSaved(holdsAll);
     }
     return written;
 }

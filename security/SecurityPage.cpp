@@ -167,7 +167,10 @@ bool SecurityPage::CheckAndWrite(std::string_view folderWithoutUsers) {
         return false;
     }
     users.Save_Security();
-    return users.WriteAll(folderWithoutUsers);
+    steps_.BeginSave();
+    const bool written = users.WriteAll(folderWithoutUsers); // whatever else fails is raised
+    steps_.EndSave(written ? SaveEnd::Whole : SaveEnd::Refused);
+    return written;
 }
 
 /// The checks fill in or empty fields by themselves.

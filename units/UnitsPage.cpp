@@ -169,7 +169,13 @@ void UnitsPage::ShowMoved(bool isSaved, const std::string& report) {
 }
 
 bool UnitsPage::SaveAtClosing() {
-    return units.ValidateUnits() && units.Write_Units();
+    if (!units.ValidateUnits()) {
+        return false;
+    }
+    steps_.BeginSave();
+    const bool written = units.Write_Units();
+    steps_.EndSave(!written ? SaveEnd::Refused : units.LastSaveFailed() ? SaveEnd::Failed : SaveEnd::Whole);
+    return written;
 }
 
 void UnitsPage::UpDownUnits_UpClick() {

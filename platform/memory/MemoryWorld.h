@@ -5,6 +5,7 @@
 #include "platform/World.h"
 #include "platform/memory/MemoryFileSystem.h"
 #include "platform/memory/MemoryHelpSystem.h"
+#include "platform/memory/MemoryJournals.h"
 #include "platform/memory/MemoryNativeWindow.h"
 #include "platform/memory/MemoryRecycleBin.h"
 #include "platform/memory/MemoryRegistry.h"
@@ -35,6 +36,7 @@ struct MemoryWorld {
                 .recycleBin = Chosen<RecycleBin>(recycleBin, parts...),
                 .registry = Chosen<Registry>(registry, parts...),
                 .links = Chosen<ShellLinks>(links, parts...),
+                .journals = Chosen<Journals>(journals, parts...),
                 .dialogs = Chosen<Dialogs>(dialogs, parts...),
                 .help = Chosen<HelpSystem>(help, parts...),
                 .window = Chosen<NativeWindow>(window, parts...),
@@ -48,6 +50,7 @@ struct MemoryWorld {
     MemoryRecycleBin recycleBin{files};
     MemoryRegistry registry{codePage};
     MemoryShellLinks links;
+    MemoryJournals journals;
     ScriptedDialogs dialogs;
     MemoryHelpSystem help;
     MemoryNativeWindow window;

@@ -1,5 +1,7 @@
 #include "shell/Program.h"
 
+#include "shell/StatusTexts.h"
+
 namespace zy {
 
 Program::Program(const World& outside)
@@ -13,8 +15,12 @@ Program::Program(const World& outside)
       subClasser(world.window, state), window({form, state, trace, world.dialogs, rulesPage, securityPage,
                                                unitsPage, registryEdit, subClasser}),
       editMenu(window, {&rulesPage, &securityPage, &unitsPage}, trace),
-      helpMenu(form.menu, trace, world.system, world.dialogs, world.help, world.links) {
+      helpMenu(form.menu, trace, world.system, world.dialogs, world.help, world.links),
+      recovery(world.files, world.journals, world.system, world.dialogs) {
     securityPage.users.loginCancelled.Connect([this] { window.Unload(); });
+    recovery.reported.Connect([this](const std::string& report) { AddHint(form.zyStatusBar, report); });
+    window.idle.Connect([this] { recovery.Idle(); });
+    window.unloaded.Connect([this] { recovery.End(); });
     helpMenu.ConnectButton(rulesPage.controls.cmdHelpRules);
     helpMenu.ConnectButton(securityPage.controls.cmdHelpSecurity);
     helpMenu.ConnectButton(unitsPage.controls.cmdHelpUnits);

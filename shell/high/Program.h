@@ -6,6 +6,7 @@
 #include "security/SecurityPage.h"
 #include "shell/EditMenu.h"
 #include "shell/HelpMenu.h"
+#include "shell/Recovery.h"
 #include "shell/SettingsForm.h"
 #include "shell/SubClasser.h"
 #include "shell/TraceChannel.h"
@@ -35,6 +36,7 @@ class Program {
     frmGlobalSettings window;
     EditMenu editMenu;
     HelpMenu helpMenu;
+    Recovery recovery;
 };
 
 } // namespace zy

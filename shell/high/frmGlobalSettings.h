@@ -69,6 +69,8 @@ class frmGlobalSettings {
     MainMenu& menu; ///< the form's
     /// The window is gone; the program ends.
     Event<> unloaded;
+    /// The user is not doing anything at the moment.
+    Event<> idle;
 
   private:
     /// An editor, the flag that puts it in charge, and its name in the traces.

@@ -44,6 +44,7 @@ StartUp StartRules(Program& program) {
     program.state.gbChanged = false;
     program.rulesPage.ResizeRuleTab();
     program.window.Show();
+    program.recovery.Begin({"rules", program.state.gsRulesFile}, program.rulesPage.Steps());
     return StartUp::WindowShown;
 }
 
@@ -58,6 +59,8 @@ StartUp StartSecurity(Program& program) {
     program.state.gbUnitsMode = false;
     program.securityPage.ResizeSecurity();
     program.window.Show();
+    program.recovery.Begin({"users", program.state.gsSecurityFile, Secrecy::Passwords},
+                           program.securityPage.Steps());
     return StartUp::WindowShown;
 }
 
@@ -69,6 +72,7 @@ StartUp StartUnits(Program& program) {
     program.state.gbUnitsMode = true;
     program.unitsPage.ResizeUnits();
     program.window.Show();
+    program.recovery.Begin({"units", program.state.gsUnitsFile}, program.unitsPage.Steps());
     return StartUp::WindowShown;
 }
 

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "shell/StatusTexts.h"
+
 namespace zy {
 namespace {
 
@@ -64,6 +66,22 @@ void EditSteps::Redo() {
     } else if (CanRedo()) {
         Move(&History::Redo, "Redone: " + RedoName());
     }
+}
+
+std::size_t EditSteps::Replay(std::span<const StepNote> notes) {
+    LeaveTyping();
+    recorder_.Stop();
+    std::size_t done = 0;
+    while (done < notes.size() && notes[done].Replay(*this, history_)) {
+        ++done;
+    }
+    if (const Step* last = history_.ToUndo()) {
+        Show(last->after);
+    }
+    recorder_.Start();
+    moved.Raise(history_.IsSaved(), "Restored: " + Counted(done, "change"));
+    changed.Raise();
+    return done;
 }
 
 void EditSteps::Move(StepPlace (History::*move)(RowList&), const std::string& report) {

@@ -1,13 +1,19 @@
 #pragma once
 
+#include <cstddef>
+#include <span>
 #include <string>
 
 #include "controls/Event.h"
 #include "history/History.h"
 #include "history/Recorder.h"
 #include "history/RowList.h"
+#include "history/StepNotes.h"
 
 namespace zy {
+
+/// How a save ended: the file holds all that the editor does, or something else, or was not touched.
+enum class SaveEnd : char { Whole, Failed, Refused };
 
 /// The steps of one editor: what was done to its list can be taken back, and done again. What is typed and
 /// not part of the list yet comes first.
@@ -23,6 +29,9 @@ class EditSteps : protected RowList {
     void Start();
     /// Leaves out what happens until the next Start, such as loading.
     void Stop() { recorder_.Stop(); }
+    /// A save of the list begins, or has ended.
+    void BeginSave() { saving.Raise(); }
+    void EndSave(SaveEnd end) { saved.Raise(end); }
     /// A save is done; without success no earlier state counts as saved any more either.
     void MarkSaved(bool success);
 
@@ -35,6 +44,16 @@ class EditSteps : protected RowList {
     void Undo();
     void Redo();
 
+    /// Has a log learn of all steps from here on. It must outlive this.
+    void SetLog(StepLog& log) { history_.SetLog(&log); }
+    /// The list as it stands.
+    StepNote NoteList() const { return StepNote::OfList(*this, FirstRow()); }
+    /// Does again what another session noted of the list as it is now, as steps that can be taken back.
+    /// Returns how many of the notes it did: from the first on, up to one that does not belong to this list.
+    std::size_t Replay(std::span<const StepNote> notes);
+
+    Event<> saving;
+    Event<SaveEnd> saved;
     /// What can be taken back or done again is something else.
     Event<> changed;
     /// A step was taken back or done again, as a text for the status bar tells. Whether the list stands now
@@ -44,6 +63,8 @@ class EditSteps : protected RowList {
   protected:
     EditSteps();
 
+    /// The first row that is part of the list.
+    virtual int FirstRow() const { return 0; }
     /// Where somebody works now.
     virtual StepPlace Here() const = 0;
     /// Names a step that has no name yet, and puts its places right.

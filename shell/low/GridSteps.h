@@ -22,6 +22,7 @@ class GridSteps : public EditSteps {
     void ReplaceRows(int first, int count, const RowTexts& rows) override;
 
     // EditSteps
+    int FirstRow() const override { return 1; }
     StepPlace Here() const override;
     void Describe(Step& step) const override;
     void Show(const StepPlace& place) override;

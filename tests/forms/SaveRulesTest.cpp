@@ -56,6 +56,7 @@ TEST_F(SaveRules, FromTheMenuChecksStoresAndWritesInThisOrder) {
 
 TEST_F(SaveRules, FromTheMenuWritesNothingWhenTheFormFails) {
     page().txtDescription.Enter("");
+    world.files.Plan({});
     world.dialogs.ExpectMessage("Rule Description cannot be Blank", "Invalid Rule Description");
     ChooseSave();
     EXPECT_TRUE(DiskUntouched());

@@ -3,6 +3,7 @@
 
 #include "GridModeForm.h"
 #include "rules/RulesFileText.h"
+#include "support/CrashedSession.h"
 #include "support/UndoWalk.h"
 
 namespace zy::test {
@@ -367,6 +368,15 @@ class RandomUndoRules : public UndoRules {
         return RulesFileText(all);
     }
 
+    /// The same but for the two blanks that loading leaves behind a description.
+    std::string BytesWithoutBlanks() {
+        auto bytes = Bytes();
+        for (auto at = bytes.find("  \r"); at != std::string::npos; at = bytes.find("  \r")) {
+            bytes.erase(at, 2);
+        }
+        return bytes;
+    }
+
     std::mt19937 random{22};
 };
 
@@ -381,6 +391,30 @@ TEST_F(RandomUndoRules, StepsLeadBackAndForthToTheSameFile) {
         ASSERT_FALSE(HasFailure()) << "round " << round;
     }
     EXPECT_GT(walk.StepsWalked(), 10000U);
+}
+
+TEST_F(RandomUndoRules, WhateverWasDoneComesBackAfterTheProgramBrokeOff) {
+    for (int round = 0; round < 60; ++round) {
+        for (int i = Below(40); i >= 0; --i) {
+            const int what = Below(6);
+            if (what == 0) {
+                Undo();
+            } else if (what == 1) {
+                Redo();
+            } else {
+                Act();
+            }
+        }
+        const auto before = BytesWithoutBlanks();
+        AskedToRestore asked;
+        const auto lost = world.journals.Entries().size();
+        if (lost > 0) {
+            ExpectRecovery(world, asked, &frmRecovery::cmdRestore);
+        }
+        ASSERT_EQ(StartAfterBreak("@RULES"), StartUp::WindowShown);
+        ASSERT_EQ(BytesWithoutBlanks(), before) << "round " << round;
+        ASSERT_EQ(asked.times, static_cast<int>(lost));
+    }
 }
 
 } // namespace

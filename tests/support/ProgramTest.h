@@ -18,8 +18,16 @@ class ProgramTest : public WorldTest {
   protected:
     ProgramTest() { world.traceServers.SetRunning(true); }
 
-    /// Builds the program and runs its start-up with this command line.
+    /// Builds the program and runs its start-up with this command line. One that ran before has ended, and
+    /// nobody misses what it did not save.
     StartUp Start(std::string_view commandLine) {
+        program_.reset();
+        world.journals.Entries().clear();
+        return StartAfterBreak(commandLine);
+    }
+    /// The same where one that ran before broke off from one moment to the next.
+    StartUp StartAfterBreak(std::string_view commandLine) {
+        program_.reset();
         world.system.SetCommandLine(commandLine);
         program_ = std::make_unique<Program>(Outside());
         program().window.unloaded.Connect([this] { ++unloaded; });
