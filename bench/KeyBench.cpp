@@ -50,6 +50,7 @@ class EditorWindow {
         folder_.Put(editor.file.name, editor.file.text(kMaxItems));
         ::setenv("ZYSETUP_SYSTEM_DIR", folder_.Path().c_str(), 1);
         ::setenv("XDG_CONFIG_HOME", folder_.Path().c_str(), 1);
+        ::setenv("XDG_STATE_HOME", folder_.Path().c_str(), 1);
         program_.emplace(screen_, std::vector<std::string>{ZY_GLOBAL, editor.mode});
         program_->SecondsToIdle();
     }

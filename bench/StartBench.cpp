@@ -121,6 +121,7 @@ void Measure(Screen& screen, const Editor& editor, double emptyInstructions) {
     const TemporaryFolder folder;
     ::setenv("ZYSETUP_SYSTEM_DIR", folder.Path().c_str(), 1);
     ::setenv("XDG_CONFIG_HOME", folder.Path().c_str(), 1);
+    ::setenv("XDG_STATE_HOME", folder.Path().c_str(), 1);
     folder.Put(editor.file.name, editor.file.text(kFew));
     StartOver(screen, editor, kFew, kGoalWithFew, emptyInstructions);
 

@@ -104,6 +104,11 @@ bool Scene::WaitForWindow(const std::string& title) const {
            !program_->Status();
 }
 
+void Scene::KillProgram() {
+    CheckPrinted();
+    program_.reset();
+}
+
 void Scene::Close() {
     PressKeys("alt+F4");
     EXPECT_EQ(Program().WaitForEnd(), 0);

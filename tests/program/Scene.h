@@ -47,6 +47,8 @@ class Scene : public ::testing::Test {
     Child& Program() { return *program_; }
     /// Waits until a window of that title has the keyboard. False when the program ended or none came.
     bool WaitForWindow(const std::string& title) const;
+    /// Ends it from one moment to the next.
+    void KillProgram();
     /// Closes the window that has the keyboard and waits for the program's orderly end.
     void Close();
     /// Presses keys and waits until the viewer has got this record. A button that is pressed by the keyboard

@@ -15,6 +15,7 @@ Surroundings::Surroundings() : native_(std::make_unique<Native>()) {
                        {"XDG_RUNTIME_DIR", folder_.Path().string()},
                        {"XDG_DATA_HOME", folder_.Path("data")},
                        {"XDG_CONFIG_HOME", folder_.Path("config")},
+                       {"XDG_STATE_HOME", folder_.Path("state")},
                        {"NO_AT_BRIDGE", "1"},
                        {"LC_ALL", "C.UTF-8"}};
     environment.unset = {"DBUS_SESSION_BUS_ADDRESS", "WAYLAND_DISPLAY"};

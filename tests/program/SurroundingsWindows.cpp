@@ -1,5 +1,6 @@
 #include <windows.h>
 // After windows.h, which it leans on.
+#include <shlobj.h>
 #include <shlwapi.h>
 
 #include <algorithm>
@@ -56,6 +57,25 @@ void MoveKey(HKEY fromRoot, const char* from, HKEY toRoot, const char* to) {
     ::SHDeleteKeyA(fromRoot, from);
 }
 
+/// Where the program keeps what it notes for its next session.
+fs::path Journals() {
+    std::array<char, MAX_PATH> folder{};
+    ::SHGetFolderPathA(nullptr, CSIDL_LOCAL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, folder.data());
+    return fs::path(folder.data()) / "zysetup";
+}
+
+fs::path JournalsAside() {
+    return Journals().replace_extension(".aside");
+}
+
+/// Replaces a folder; one that is not there makes none of the other.
+void MoveFolder(const fs::path& from, const fs::path& to) {
+    if (fs::exists(from)) {
+        fs::remove_all(to);
+        fs::rename(from, to);
+    }
+}
+
 /// A key's value of that number, as "name=value"; nothing when there are not so many.
 std::optional<std::string> ValueOf(HKEY key, DWORD number) {
     std::array<char, 64> name{};
@@ -86,6 +106,7 @@ Surroundings::Surroundings() : native_(std::make_unique<Native>()) {
     }
     native_->before = NamesIn(native_->system);
     MoveKey(HKEY_LOCAL_MACHINE, kMaker, HKEY_CURRENT_USER, kAside);
+    MoveFolder(Journals(), JournalsAside());
 }
 
 Surroundings::~Surroundings() {
@@ -95,6 +116,8 @@ Surroundings::~Surroundings() {
     }
     ::SHDeleteKeyA(HKEY_LOCAL_MACHINE, kMaker);
     MoveKey(HKEY_CURRENT_USER, kAside, HKEY_LOCAL_MACHINE, kMaker);
+    fs::remove_all(Journals());
+    MoveFolder(JournalsAside(), Journals());
 }
 
 fs::path Surroundings::Settings() const {

@@ -38,7 +38,8 @@ class ScreenReader(unittest.TestCase):
     def start(self, argument, title):
         """Starts the program and returns its window, once that has the keyboard."""
         environment = dict(os.environ, ZYSETUP_SYSTEM_DIR=self.folder, XDG_DATA_HOME=self.folder + "/data",
-                           XDG_CONFIG_HOME=self.folder + "/config", LC_ALL="C.UTF-8")
+                           XDG_CONFIG_HOME=self.folder + "/config", XDG_STATE_HOME=self.folder + "/state",
+                           LC_ALL="C.UTF-8")
         environment.pop("NO_AT_BRIDGE", None)
         printed = tempfile.TemporaryFile("w+", dir=self.folder)
         child = subprocess.Popen([PROGRAM, argument], env=environment, stdout=printed, stderr=printed)
