@@ -1,6 +1,5 @@
 #include "shell/Recovery.h"
 
-#include <array>
 #include <cstdint>
 #include <utility>
 
@@ -15,21 +14,16 @@ std::string TwoDigits(std::int64_t number) {
     return (number < 10 ? "0" : "") + std::to_string(number);
 }
 
-/// Such as "14:07", or of another day "3 May 2026, 14:07".
+/// Such as "14:07", or of another day "2026-05-03, 14:07".
 std::string TimeText(std::chrono::local_seconds time, std::chrono::year_month_day today) {
-    static constexpr std::array kMonths{"January",   "February", "March",    "April",
-                                        "May",       "June",     "July",     "August",
-                                        "September", "October",  "November", "December"};
     const auto day = std::chrono::floor<std::chrono::days>(time);
     const std::chrono::hh_mm_ss clock(time - day);
     const auto text = TwoDigits(clock.hours().count()) + ":" + TwoDigits(clock.minutes().count());
     const std::chrono::year_month_day date(day);
-    if (date == today) {
-        return text;
-    }
-    return std::to_string(static_cast<unsigned>(date.day())) + " " +
-           kMonths.at(static_cast<unsigned>(date.month()) - 1) + " " +
-           std::to_string(static_cast<int>(date.year())) + ", " + text;
+    return date == today ? text
+                         : std::to_string(static_cast<int>(date.year())) + "-" +
+                               TwoDigits(static_cast<unsigned>(date.month())) + "-" +
+                               TwoDigits(static_cast<unsigned>(date.day())) + ", " + text;
 }
 
 } // namespace

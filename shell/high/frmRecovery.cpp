@@ -6,8 +6,8 @@ namespace zy {
 
 frmRecovery::frmRecovery(const std::string& heading, const std::string& text, bool canRestore)
     : Form("frmRecovery"), lblHeading(this, "lblHeading", TextLabel::Style::Heading),
-      lblText(this, "lblText"), cmdRestore(this, "cmdRestore", "&Restore", 'R'),
-      cmdDiscard(this, "cmdDiscard", "&Discard", 'D'), cmdNotNow(this, "cmdNotNow", "&Not Now", 'N') {
+      lblText(this, "lblText"), cmdRestore(this, "cmdRestore", "Restore", 'R'),
+      cmdDiscard(this, "cmdDiscard", "Discard", 'D'), cmdNotNow(this, "cmdNotNow", "Not Now", 'N') {
     SetCaption("ZY Setup - Unsaved Changes");
     lblHeading.SetCaption(heading);
     lblText.SetCaption(text);

@@ -79,7 +79,7 @@ TEST_F(UnitsRecovery, ChangesOfAnotherDayAreAskedAboutWithTheirDate) {
     world.journals.SetTime(kToday - std::chrono::hours(2) + std::chrono::minutes(5));
     Edit(1, "new");
     StartAgain();
-    EXPECT_EQ(asked.heading, "Changes of 19 November 2026, 22:05 were not saved");
+    EXPECT_EQ(asked.heading, "Changes of 2026-11-19, 22:05 were not saved");
 }
 
 TEST_F(UnitsRecovery, RestoreBringsBackEachStepAsAStep) {
