@@ -1,0 +1,88 @@
+#include "UnitsWindow.h"
+#include "shell/mMain.h"
+#include "units/UnitsFileText.h"
+
+namespace zy::test {
+namespace {
+
+using ::testing::IsEmpty;
+
+constexpr auto kDialog = "frmRecovery";
+
+/// The question after what an earlier session of the units editor could not save.
+class RecoveryWindow : public UnitsWindow {
+  protected:
+    RecoveryWindow() {
+        PutUnits({"Kilograms,kg"});
+        Program broken(world.Get());
+        mMain(broken);
+        auto& grid = broken.unitsPage.controls.grdUnits;
+        grid.Pick(1, kUnit);
+        grid.TypeOver("t");
+        grid.editor.Commit();
+    }
+    std::string Unit() {
+        return InWindow([&] { return std::string(grid().cells.Text(1, kUnit)); });
+    }
+};
+
+TEST_F(RecoveryWindow, HasRoomForEveryPart) {
+    PlayFromTheStart([&] {
+        WaitForDialog(kDialog);
+        ExpectRoomForEveryPart(kDialog);
+        Press(WXK_ESCAPE);
+        WaitForWindow();
+    });
+}
+
+TEST_F(RecoveryWindow, EnterRestoresAndCtrlZTakesItBack) {
+    PlayFromTheStart([&] {
+        WaitForDialog(kDialog);
+        Press(WXK_RETURN);
+        WaitForWindow();
+        WaitForFocus(grid());
+        EXPECT_EQ(Unit(), "t");
+        Press('Z', wxMOD_CONTROL);
+        WaitUntil("the unit is as it was", [&] { return grid().cells.Text(1, kUnit) == "kg"; });
+    });
+}
+
+TEST_F(RecoveryWindow, EscapeLeavesTheQuestionForTheNextTime) {
+    PlayFromTheStart([&] {
+        WaitForDialog(kDialog);
+        Press(WXK_ESCAPE);
+        WaitForWindow();
+        EXPECT_EQ(Unit(), "kg");
+    });
+    EXPECT_EQ(world.journals.Entries().size(), 1U);
+}
+
+TEST_F(RecoveryWindow, TheAccessKeyDiscards) {
+    PlayFromTheStart([&] {
+        WaitForDialog(kDialog);
+        Press('D', wxMOD_ALT);
+        WaitForWindow();
+        EXPECT_EQ(Unit(), "kg");
+    });
+    EXPECT_THAT(world.journals.Entries(), IsEmpty());
+}
+
+TEST_F(RecoveryWindow, ANoteReachesTheDiskWhenTheKeyboardRests) {
+    PlayFromTheStart([&] {
+        WaitForDialog(kDialog);
+        Press(WXK_RETURN);
+        WaitForWindow();
+        WaitUntil("the notes are on the disk", [&] {
+            const auto& notes = world.journals.Entries().front();
+            return notes.synced == notes.bytes.size();
+        });
+        Press(WXK_DELETE);
+        WaitUntil("the new one is, too", [&] {
+            const auto& notes = world.journals.Entries().front();
+            return grid().cells.Text(1, kUnit).empty() && notes.synced == notes.bytes.size();
+        });
+    });
+}
+
+} // namespace
+} // namespace zy::test
