@@ -13,8 +13,8 @@ constexpr int kMost = std::numeric_limits<int>::max();
 
 /// An editor may mean something of its own by -1.
 void Put(ByteWriter& bytes, const StepPlace& place) {
-    bytes.Number(static_cast<std::uint64_t>(std::max(place.row, -1) + 1));
-    bytes.Number(static_cast<std::uint64_t>(std::max(place.column, -1) + 1));
+    bytes.Number(static_cast<std::uint64_t>(std::max(place.row, -1)) + 1);
+    bytes.Number(static_cast<std::uint64_t>(std::max(place.column, -1)) + 1);
 }
 
 void Put(ByteWriter& bytes, const RowTexts& rows) {

@@ -110,7 +110,7 @@ void CloseDropDown(const wxChoice& choice);
 void CloseDropDownThatFailed(const wxChoice& choice);
 
 /// Lets a link that has the keyboard be followed by Enter, too.
-void FollowByEnter(wxHyperlinkCtrl& link, std::function<void()> follow);
+void FollowByEnter(wxHyperlinkCtrl& link, const std::function<void()>& follow);
 
 /// Lets the mouse wheel over a list that is not dropped down leave the chosen item alone.
 void IgnoreWheelWhileClosed(wxChoice& choice);

@@ -260,7 +260,7 @@ void RunBehindEvent(wxEvtHandler& owner, const std::function<void()>& work) {
     owner.CallAfter(work); // runs between two events
 }
 
-void FollowByEnter(wxHyperlinkCtrl& /*link*/, std::function<void()> /*follow*/) {
+void FollowByEnter(wxHyperlinkCtrl& /*link*/, const std::function<void()>& /*follow*/) {
     // A link is a button to GTK, which Enter presses.
 }
 

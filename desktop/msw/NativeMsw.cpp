@@ -224,8 +224,8 @@ void RunBehindEvent(wxEvtHandler& owner, const std::function<void()>& work) {
     }
 }
 
-void FollowByEnter(wxHyperlinkCtrl& link, std::function<void()> follow) {
-    link.Bind(wxEVT_CHAR_HOOK, [&link, follow = std::move(follow)](wxKeyEvent& event) {
+void FollowByEnter(wxHyperlinkCtrl& link, const std::function<void()>& follow) {
+    link.Bind(wxEVT_CHAR_HOOK, [&link, follow](wxKeyEvent& event) {
         const bool enters = event.GetKeyCode() == WXK_RETURN || event.GetKeyCode() == WXK_NUMPAD_ENTER;
         if (!enters || event.HasAnyModifiers()) {
             event.Skip();

@@ -114,10 +114,11 @@ bool EarlierSession::Take(std::string_view piece) {
     const auto kind = bytes.Number();
     if (kind == kNote) {
         auto note = StepNote::Of(bytes.Text().value_or(""));
-        if (note) {
-            notes_.push_back(*std::move(note));
+        if (!note) {
+            return false;
         }
-        return note.has_value();
+        notes_.push_back(*std::move(note));
+        return true;
     }
     if (kind != kHeader || bytes.Number() != kVersion) {
         return false;
