@@ -17,6 +17,7 @@ constexpr std::uint64_t kNote = 2;
 /// Of what follows in a header. Another version of the program that writes something else counts on.
 constexpr std::uint64_t kVersion = 1;
 
+/// What nobody could look at is the same as nothing else, not even as itself.
 constexpr std::string_view kUnreadable = "?";
 
 bool IsList(const StepNote& note) {
@@ -34,7 +35,8 @@ std::string FingerprintOf(FileSystem& files, const Journals& journals, std::stri
         return std::string(kUnreadable);
     }
     const auto size = static_cast<std::uint32_t>(opened.handle->Size());
-    return std::to_string(size) + ":" + journals.Fingerprint(ReadFileText(*opened.handle, size));
+    const auto fingerprint = journals.Fingerprint(ReadFileText(*opened.handle, size));
+    return fingerprint.empty() ? std::string(kUnreadable) : std::to_string(size) + ":" + fingerprint;
 }
 
 SessionJournal::SessionJournal(FileSystem& files, Journals& journals, JournalSubject subject)
@@ -114,7 +116,7 @@ bool EarlierSession::Take(std::string_view piece) {
     const auto kind = bytes.Number();
     if (kind == kNote) {
         auto note = StepNote::Of(bytes.Text().value_or(""));
-        if (!note) {
+        if (!note || sights_.empty()) {
             return false;
         }
         notes_.push_back(*std::move(note));
@@ -135,8 +137,9 @@ std::string EarlierSession::LastStep() const {
 }
 
 EarlierSession::Notes EarlierSession::NotesFor(std::string_view fingerprint) const {
-    const auto seen = std::find_if(sights_.rbegin(), sights_.rend(),
-                                   [&](const Sight& sight) { return sight.fingerprint == fingerprint; });
+    const auto seen = std::find_if(sights_.rbegin(), sights_.rend(), [&](const Sight& sight) {
+        return sight.fingerprint == fingerprint && fingerprint != kUnreadable;
+    });
     if (seen == sights_.rend()) {
         // A list that nothing follows was noted when a save began.
         const bool wasSaving =

@@ -20,7 +20,8 @@ struct JournalSubject {
     Secrecy secrecy = Secrecy::None;
 };
 
-/// What a file holds, as a short text that is the same only for the same bytes; empty where there is no file.
+/// What a file holds, as a short text that is the same only for the same bytes; empty where there is no file,
+/// "?" where nobody can tell.
 std::string FingerprintOf(FileSystem& files, const Journals& journals, std::string_view path);
 
 /// The journal of this session: the steps since the list was loaded or saved last. There is none on the disk

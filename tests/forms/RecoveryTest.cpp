@@ -253,6 +253,17 @@ TEST_F(UnitsRecovery, AFileThatWasChangedSinceIsLeftAloneAndTheChangesAreKept) {
     EXPECT_THAT(Journals(), IsEmpty());
 }
 
+TEST_F(UnitsRecovery, ToAFileThatCannotBeReadNothingIsDone) {
+    world.files.SetHeldOpen(kUnitsFile);
+    StartUnits();
+    program().unitsPage.controls.cmdAddUNit.Click();
+    StartAgain();
+    EXPECT_FALSE(asked.canRestore);
+    world.files.SetHeldOpen(kUnitsFile, false);
+    StartAgain();
+    EXPECT_FALSE(asked.canRestore) << "the list was begun without what the file holds";
+}
+
 TEST_F(UnitsRecovery, NothingTakesThePlaceOfWhatSomebodyElseWasJustSaving) {
     Edit(1, "new");
     world.files.SetFolderLocked(R"(C:\SYS)", true);
