@@ -30,12 +30,20 @@ int Desktop::Run(const std::function<int()>& program) {
 int Desktop::RunUntilClosed() {
     // The error is reported here, while the window that it came from is still there.
     const int status = Run([this] {
-        toolkit_->RunLoop();
+        // The window can be closed already, behind a question that the program asked before.
+        if (!isClosed_) {
+            toolkit_->RunLoop();
+        }
         gate_.Rethrow();
         return 0;
     });
     help_.Close();
     return status;
+}
+
+void Desktop::Close() {
+    isClosed_ = true;
+    toolkit_->EndLoop();
 }
 
 int Desktop::Report(const std::exception_ptr& error) {

@@ -27,9 +27,9 @@ class Desktop {
     /// Runs the program and returns the exit status: what the program returns, or 1 when an error that
     /// nothing inside has caught was shown.
     int Run(const std::function<int()>& program);
-    /// Runs the event loop until Close. Returns the exit status as Run does.
+    /// Runs the event loop until Close, and not at all after it. Returns the exit status as Run does.
     int RunUntilClosed();
-    void Close() { toolkit_->EndLoop(); }
+    void Close();
 
     /// Throws NoDisplay when there is none.
     void StartToolkit();
@@ -47,6 +47,7 @@ class Desktop {
     DesktopDialogs dialogs_;
     DesktopHelp help_;
     std::unique_ptr<DesktopWindow> window_;
+    bool isClosed_ = false;
 };
 
 } // namespace zy

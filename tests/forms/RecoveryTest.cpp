@@ -325,6 +325,7 @@ TEST_F(UnitsRecovery, NotesThatAreCutOrChangedAnywhereNeverGiveAWrongList) {
     program().unitsPage.controls.cmdAddUNit.Click();
     const auto whole = Journals().front();
     const auto tryWith = [&](std::string bytes) {
+        Break();
         Journals() = {whole};
         Journals().front().isHeld = false;
         Journals().front().bytes = std::move(bytes);
@@ -345,7 +346,6 @@ TEST_F(UnitsRecovery, NotesThatAreCutOrChangedAnywhereNeverGiveAWrongList) {
         bytes[at] ^= 0x10;
         tryWith(std::move(bytes));
     }
-    Journals().clear();
 }
 
 TEST_F(UnitsRecovery, AFullDiskIsReportedOnceAndHindersNobody) {

@@ -21,13 +21,15 @@ class ProgramTest : public WorldTest {
     /// Builds the program and runs its start-up with this command line. One that ran before has ended, and
     /// nobody misses what it did not save.
     StartUp Start(std::string_view commandLine) {
-        program_.reset();
+        Break();
         world.journals.Entries().clear();
         return StartAfterBreak(commandLine);
     }
-    /// The same where one that ran before broke off from one moment to the next.
+    /// The program is gone from one moment to the next.
+    void Break() { program_.reset(); }
+    /// Starts it again after that.
     StartUp StartAfterBreak(std::string_view commandLine) {
-        program_.reset();
+        Break();
         world.system.SetCommandLine(commandLine);
         program_ = std::make_unique<Program>(Outside());
         program().window.unloaded.Connect([this] { ++unloaded; });
