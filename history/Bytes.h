@@ -22,9 +22,11 @@ class ByteWriter {
 };
 
 /// Takes them out again. What is not there, or runs beyond the end, is nothing, and so is all behind it.
+/// The bytes must live as long as the reader and what it gives.
 class ByteReader {
   public:
     explicit ByteReader(std::string_view bytes) : bytes_(bytes) {}
+    explicit ByteReader(std::string&& bytes) = delete;
 
     std::optional<std::uint64_t> Number();
     /// One that is no more than `most`.

@@ -119,7 +119,8 @@ TEST(Bytes, WhatRunsBeyondTheEndIsNothingAndSoIsAllBehindIt) {
     EXPECT_TRUE(text.HasFailed());
     ByteReader number("\xFF\xFF");
     EXPECT_EQ(number.Number(), std::nullopt);
-    ByteReader endless(std::string(11, '\xFF') + '\x01');
+    const auto beyondTheLongest = std::string(11, '\xFF') + '\x01';
+    ByteReader endless(beyondTheLongest);
     EXPECT_EQ(endless.Number(), std::nullopt);
 }
 
