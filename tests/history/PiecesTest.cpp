@@ -9,6 +9,7 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using namespace std::string_view_literals;
 
 const std::vector<std::string> kPieces{"one", "", std::string("\0\xFF|", 3), std::string(300, 'x')};
 
@@ -112,12 +113,12 @@ TEST(Bytes, ASmallNumberTakesOneOfThem) {
 
 TEST(Bytes, WhatRunsBeyondTheEndIsNothingAndSoIsAllBehindIt) {
     ByteReader text("\x05"
-                    "1234");
+                    "1234"sv);
     EXPECT_EQ(text.Text(), std::nullopt);
     EXPECT_EQ(text.Number(), std::nullopt);
     EXPECT_FALSE(text.AtEnd());
     EXPECT_TRUE(text.HasFailed());
-    ByteReader number("\xFF\xFF");
+    ByteReader number("\xFF\xFF"sv);
     EXPECT_EQ(number.Number(), std::nullopt);
     const auto beyondTheLongest = std::string(11, '\xFF') + '\x01';
     ByteReader endless(beyondTheLongest);
@@ -125,7 +126,7 @@ TEST(Bytes, WhatRunsBeyondTheEndIsNothingAndSoIsAllBehindIt) {
 }
 
 TEST(Bytes, ANumberBeyondItsLimitIsNothing) {
-    ByteReader reader("\x03\x03");
+    ByteReader reader("\x03\x03"sv);
     EXPECT_EQ(reader.Small(3), 3);
     EXPECT_EQ(reader.Small(2), std::nullopt);
     EXPECT_TRUE(reader.HasFailed());
