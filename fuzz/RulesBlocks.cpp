@@ -3,7 +3,7 @@
 #include <string>
 
 #include "Targets.h"
-#include "platform/memory/BytesFile.h"
+#include "platform/BytesFile.h"
 #include "rules/RulesReader.h"
 
 namespace zy::fuzz {

@@ -4,7 +4,7 @@
 
 #include "Targets.h"
 #include "basics/Text.h"
-#include "platform/memory/BytesFile.h"
+#include "platform/BytesFile.h"
 #include "rules/RuleList.h"
 #include "rules/RulesFileText.h"
 #include "rules/RulesReader.h"

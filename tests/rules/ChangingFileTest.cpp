@@ -1,7 +1,7 @@
 #include <deque>
 #include <string>
 
-#include "platform/memory/BytesFile.h"
+#include "platform/BytesFile.h"
 #include "rules/RulesReader.h"
 
 #include <gtest/gtest.h>

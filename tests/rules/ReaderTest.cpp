@@ -1,6 +1,6 @@
 #include "ReaderTest.h"
 
-#include "platform/memory/BytesFile.h"
+#include "platform/BytesFile.h"
 
 namespace zy::test {
 namespace {
