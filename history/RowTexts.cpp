@@ -25,4 +25,12 @@ std::size_t RowTexts::Bytes() const {
     return texts_.capacity() + ends_.capacity() * sizeof(std::size_t);
 }
 
+bool HaveSameTexts(const RowTexts& rows, int row, const RowTexts& others, int other) {
+    int column = 0;
+    while (column < rows.Columns() && rows.Text(row, column) == others.Text(other, column)) {
+        ++column;
+    }
+    return column == rows.Columns();
+}
+
 } // namespace zy

@@ -40,4 +40,7 @@ class RowTexts {
     std::vector<std::size_t> ends_; ///< where each cell's text ends
 };
 
+/// Whether a row of one list has the texts of a row of another that has as many columns.
+bool HaveSameTexts(const RowTexts& rows, int row, const RowTexts& others, int other);
+
 } // namespace zy
