@@ -1,0 +1,28 @@
+#pragma once
+
+#include <vector>
+
+#include "history/RowPairs.h"
+#include "history/RowTexts.h"
+
+namespace zy {
+
+/// A row that is not in both of two lists as it is.
+struct RowDifference {
+    enum class Kind { Added, Removed, Changed, Moved };
+
+    Kind kind;
+    bool isMoved =
+        false; ///< the row stands elsewhere among those of both lists: always so of one that only moved
+    int before = kNoRow; ///< none of an added row
+    int after = kNoRow;  ///< none of a removed one
+
+    friend bool operator==(const RowDifference&, const RowDifference&) = default;
+};
+
+/// What makes one list of the other, which has as many columns: in the order of the rows after, a removed row
+/// behind the last one before it that stayed where it was. Of the rows that can be said to have moved it is
+/// as few as possible that have. Nothing for equal lists.
+std::vector<RowDifference> CompareRows(const RowTexts& before, const RowTexts& after, const RowKey& key);
+
+} // namespace zy
