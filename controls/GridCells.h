@@ -3,6 +3,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "basics/RuntimeError.h"
 #include "controls/CellTexts.h"
@@ -56,6 +57,11 @@ class GridCells {
     /// The texts of a row, column by column. To be used before anything in the grid changes.
     std::span<const std::string_view> RowTexts(int row) const {
         return cells_.Some(Index(row, 0), FirstCellOf(1));
+    }
+    /// Copies of the texts of the header, which must be there.
+    std::vector<std::string> Headers() const {
+        const auto headers = RowTexts(0);
+        return {headers.begin(), headers.end()};
     }
     /// Raises `cellChanged` when the text differs from the one held.
     void SetText(int row, int column, std::string_view text);

@@ -104,10 +104,44 @@ class Comparison {
     std::vector<RowDifference> differences_;
 };
 
+/// The row of the list after behind which the row before stands again: kNoRow for the front. One that only
+/// changed stays where it is.
+int PlaceBehind(const RowPairs& pairs, const RowDifference& difference) {
+    if (difference.kind == RowDifference::Kind::Changed && !difference.isMoved) {
+        return difference.after;
+    }
+    for (int row = difference.before - 1; row >= 0; --row) {
+        const int place = pairs.AfterOf(row);
+        if (place != kNoRow && place != difference.after) {
+            return place;
+        }
+    }
+    return kNoRow;
+}
+
 } // namespace
 
 std::vector<RowDifference> CompareRows(const RowTexts& before, const RowTexts& after, const RowKey& key) {
     return Comparison(before, after, key).Differences();
+}
+
+RowTexts RevertDifference(const RowTexts& before, const RowTexts& after, const RowPairs& pairs,
+                          const RowDifference& difference) {
+    const int behind = PlaceBehind(pairs, difference);
+    const bool comes = difference.kind != RowDifference::Kind::Added;
+    const bool onlyMoves = difference.kind == RowDifference::Kind::Moved;
+    const auto& source = onlyMoves ? after : before;
+    const int row = onlyMoves ? difference.after : difference.before;
+    RowTexts reverted(after.Columns());
+    for (int place = kNoRow; place < after.Rows(); ++place) {
+        if (place != kNoRow && place != difference.after) {
+            reverted.AddRows(after, place, 1);
+        }
+        if (comes && place == behind) {
+            reverted.AddRows(source, row, 1);
+        }
+    }
+    return reverted;
 }
 
 } // namespace zy

@@ -25,4 +25,10 @@ struct RowDifference {
 /// as few as possible that have. Nothing for equal lists.
 std::vector<RowDifference> CompareRows(const RowTexts& before, const RowTexts& after, const RowKey& key);
 
+/// The list after with one of the differences taken back: the rows of both may have more than what was
+/// compared, but their number and their pairs are the same. A row that comes back, or goes back to its place,
+/// stands behind the nearest of those before it that is still there.
+RowTexts RevertDifference(const RowTexts& before, const RowTexts& after, const RowPairs& pairs,
+                          const RowDifference& difference);
+
 } // namespace zy

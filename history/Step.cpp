@@ -40,6 +40,23 @@ bool Join(RowChange& change, const RowChange& next) {
 
 } // namespace
 
+RowChange ChangeBetween(int first, const RowTexts& before, const RowTexts& after) {
+    const int most = std::min(before.Rows(), after.Rows());
+    int front = 0;
+    while (front < most && HaveSameTexts(before, front, after, front)) {
+        ++front;
+    }
+    int back = 0;
+    while (back < most - front &&
+           HaveSameTexts(before, before.Rows() - 1 - back, after, after.Rows() - 1 - back)) {
+        ++back;
+    }
+    RowChange change{first + front, RowTexts(before.Columns()), RowTexts(before.Columns())};
+    change.before.AddRows(before, front, before.Rows() - front - back);
+    change.after.AddRows(after, front, after.Rows() - front - back);
+    return change;
+}
+
 bool Step::ChangesNothing() const {
     return std::all_of(changes.begin(), changes.end(),
                        [](const RowChange& change) { return change.ChangesNothing(); });

@@ -26,6 +26,10 @@ struct RowChange {
     bool ChangesNothing() const { return before == after; }
 };
 
+/// The fewest rows side by side whose change makes a list of the other one. Both begin at `first`, and have as
+/// many columns.
+RowChange ChangeBetween(int first, const RowTexts& before, const RowTexts& after);
+
 /// One thing that somebody did to a list.
 struct Step {
     std::string name; ///< as the menu has it behind "Undo": "Delete Rule 2U"

@@ -20,15 +20,10 @@ constexpr int kInList = -1;
 /// The key of steps that edit a field.
 constexpr std::string_view kEdit = "edit";
 
-/// A rule's texts: the fields in the order of their columns, and what else it holds.
-constexpr std::array<std::string RunRule::*, kRuleColumns + 2> kProperties{
-    &RunRule::Code, &RunRule::Min,         &RunRule::Max,   &RunRule::Cond,
-    &RunRule::Zone, &RunRule::Description, &RunRule::Desc2, &RunRule::Desc3};
-
 RunRule RuleOf(const RowTexts& rows, int row) {
     RunRule rule;
-    for (std::size_t column = 0; column < kProperties.size(); ++column) {
-        rule.*kProperties[column] = rows.Text(row, static_cast<int>(column));
+    for (std::size_t column = 0; column < kRuleTexts.size(); ++column) {
+        rule.*kRuleTexts[column] = rows.Text(row, static_cast<int>(column));
     }
     return rule;
 }
@@ -82,13 +77,13 @@ void RuleSteps::ConnectDetails() {
 }
 
 int RuleSteps::Columns() const {
-    return static_cast<int>(kProperties.size());
+    return static_cast<int>(kRuleTexts.size());
 }
 
 std::string_view RuleSteps::Text(int row, int column) const {
     const auto index = static_cast<std::size_t>(column);
     if (row != kDraftRow) {
-        return rules_.gaRules(row).*kProperties.at(index);
+        return rules_.gaRules(row).*kRuleTexts.at(index);
     }
     if (!HasDraft() || column > kDraftRule) {
         return {};
@@ -196,6 +191,31 @@ void RuleSteps::ReplaceRows(int first, int count, const RowTexts& rows) {
     if (count > row || !others.empty()) {
         rules_.ReplaceRules(first + row, count - row, others);
         listChanged_ = true;
+    }
+}
+
+void RuleSteps::AddTyping(RowTexts& rows) const {
+    if (!HasDraft()) {
+        return;
+    }
+    const int edited = std::stoi(form_.rule) - 1;
+    RowTexts with(rows.Columns());
+    with.AddRows(rows, 0, edited);
+    for (int column = 0; column < rows.Columns(); ++column) {
+        with.Add(column < kRuleColumns ? form_.texts.at(static_cast<std::size_t>(column))
+                                       : rows.Text(edited, column));
+    }
+    with.AddRows(rows, edited + 1, rows.Rows() - edited - 1);
+    rows = std::move(with);
+}
+
+void RuleSteps::DropTyping(Step& step) const {
+    RowChange drop{kDraftRow, CopyOf(*this, kDraftRow, 1), RowTexts(Columns())};
+    for (int column = 0; column < Columns(); ++column) {
+        drop.after.Add({});
+    }
+    if (!drop.ChangesNothing()) {
+        step.changes.push_back(std::move(drop));
     }
 }
 

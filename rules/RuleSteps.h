@@ -44,6 +44,8 @@ class RuleSteps : public EditSteps {
     void Describe(Step& step) const override;
     void Take(Step step) override;
     void Show(const StepPlace& place) override;
+    void AddTyping(RowTexts& rows) const override;
+    void DropTyping(Step& step) const override;
 
     void ConnectList();
     void ConnectDetails();

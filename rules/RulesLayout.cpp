@@ -12,7 +12,6 @@ constexpr int kColumnGap = 240; // between two fields of a row
 constexpr int kButtonHeight = 375;
 constexpr int kFieldHeight = 315;
 constexpr int kShortField = 900; // a code or a count
-constexpr int kListBorder = 360; // the list's scroll bar and frame
 constexpr int kLeastDescription = 1500;
 constexpr int kLeastListWidth = 4500;
 
@@ -93,15 +92,6 @@ void PlaceButtons(RulesControls& c, int left, int top) {
 }
 
 /// Gives the last column what the others leave of the list's width.
-void FillWithLastColumn(ListView& list) {
-    const std::size_t last = list.Columns().size() - 1;
-    int left = list.Bounds().width - kListBorder;
-    for (std::size_t column = 0; column < last; ++column) {
-        left -= list.Columns()[column].width;
-    }
-    list.SetColumnWidth(last, std::max(left, kLeastDescription));
-}
-
 } // namespace
 
 Size LeastRulesPage(const RulesControls& c) {
@@ -131,7 +121,7 @@ void LayOutRuleList(RulesControls& c) {
     PlaceButtons(c, buttonsLeft, top);
     c.lstRulesList.SetBounds(
         {kGap, top, std::max(buttonsLeft - kColumnGap - kGap, 0), std::max(frame.height - top - kGap, 0)});
-    FillWithLastColumn(c.lstRulesList);
+    FillWithLastColumn(c.lstRulesList, kLeastDescription);
 }
 
 void LayOutRuleDetails(RulesControls& c) {

@@ -20,7 +20,7 @@ RulesPage::RulesPage(mRules& rules, RuleChecks& ruleChecks, SettingsForm& form, 
       details(rules, detailChecks, controls, status, form, state, trace, codePage),
       listMode(rules, details, controls, status, form, state, trace, dialogs),
       gridMode(rules, ruleChecks, controls, status, form, state, trace), rules_(rules), form_(form),
-      trace_(trace), steps_(rules, details, controls) {
+      trace_(trace), steps_(rules, details, controls), records_(codePage) {
     controls.cmdSaveRules.click.Connect([this] { cmdSaveRules_Click(); });
     steps_.moved.Connect([this](bool isSaved, const std::string& report) { ShowMoved(isSaved, report); });
     steps_.dropped.Connect([this](const std::string& code) {
@@ -79,6 +79,9 @@ void RulesPage::Save() {
 }
 
 bool RulesPage::Write() {
+    if (!steps_.MayBeSaved()) {
+        return false;
+    }
     steps_.BeginSave();
     const bool written = rules_.Write_Rules_File();
     // What the form alone holds is not in the file, and stays to be saved.

@@ -5,6 +5,7 @@
 #include "rules/RuleChecks.h"
 #include "rules/RuleDetailChecks.h"
 #include "rules/RuleDetails.h"
+#include "rules/RuleRecords.h"
 #include "rules/RuleSteps.h"
 #include "rules/RulesControls.h"
 #include "rules/RulesGridMode.h"
@@ -53,6 +54,8 @@ class RulesPage : public Editor {
     void Save() override;
     bool SaveAtClosing() override;
     EditSteps& Steps() override { return steps_; }
+    const ListRecords& Records() const override { return records_; }
+    SaveHooks& Hooks() override { return rules_.saveHooks; }
 
     RulesControls controls;
     RulesStatus status;
@@ -71,6 +74,7 @@ class RulesPage : public Editor {
     SettingsForm& form_;
     TraceChannel& trace_;
     RuleSteps steps_;
+    RuleRecords records_;
 };
 
 } // namespace zy

@@ -214,4 +214,14 @@ RulesReadReport ReadRules(FileHandle& file, std::deque<RunRule>& rules) {
     return {lines.BytesRead() >= size, parser.Skipped()};
 }
 
+std::string JoinedDescription(const RunRule& rule) {
+    const auto first = Trim(rule.Description);
+    const auto second = Trim(rule.Desc2);
+    const auto third = Trim(rule.Desc3);
+    std::string joined;
+    joined.reserve(first.size() + second.size() + third.size() + 2);
+    joined.append(first).append(1, ' ').append(second).append(1, ' ').append(third);
+    return joined;
+}
+
 } // namespace zy

@@ -4,6 +4,10 @@
 
 namespace zy {
 
+std::string DescribeSkipped(std::size_t lines) {
+    return lines == 0 ? std::string() : Counted(lines, "line") + " of the file not understood, saving drops them";
+}
+
 RulesStatus::RulesStatus(mRules& rules, const RulesControls& controls, SettingsForm& form)
     : rules_(rules), controls_(controls), form_(form) {
     rules.reported.Connect([this](const std::string& report) { ShowSave(report); });
@@ -42,9 +46,7 @@ void RulesStatus::Show(std::string_view text) {
 
 std::string RulesStatus::CountText() const {
     std::string text = Counted(static_cast<std::size_t>(rules_.gaRules.UBound()), "rule");
-    if (const auto skipped = rules_.SkippedLines(); skipped != 0) {
-        text += "; " + Counted(skipped, "line") + " of the file not understood, saving drops them";
-    }
+    Join(text, "; ", DescribeSkipped(rules_.SkippedLines()));
     Join(text, "; ", rules_.Dangers());
     return text;
 }

@@ -9,6 +9,9 @@
 
 namespace zy {
 
+/// Lines of a rules file that are no part of a rule, for the status bar; empty when there are none.
+std::string DescribeSkipped(std::size_t lines);
+
 /// What the status bar says while the rules page is shown: the number of rules or how a save ended, and
 /// behind it what becomes of an edit in the detail form.
 class RulesStatus {

@@ -50,6 +50,11 @@ inline constexpr std::array<RuleField, kRuleColumns> kRuleFields{
      {&RunRule::Zone, "Zone", 900, "Zone"},
      {&RunRule::Description, "Description", 4000, "Description"}}};
 
+/// A rule's texts: the fields in the order of their columns, and what else it holds.
+inline constexpr std::array<std::string RunRule::*, kRuleColumns + 2> kRuleTexts{
+    &RunRule::Code, &RunRule::Min,         &RunRule::Max,   &RunRule::Cond,
+    &RunRule::Zone, &RunRule::Description, &RunRule::Desc2, &RunRule::Desc3};
+
 /// The property that stands in a column, counted from 0.
 constexpr std::string RunRule::*PropertyIn(int column) {
     return kRuleFields.at(static_cast<std::size_t>(column)).property;

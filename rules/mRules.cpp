@@ -8,21 +8,6 @@
 #include "shell/mZYGlobal.h"
 
 namespace zy {
-namespace {
-
-/// The three pieces joined by single blanks. Empty pieces leave their blanks at the end: files that were
-/// saved before hold them, and a save that dropped them would change every rule's line.
-std::string JoinedDescription(const RunRule& rule) {
-    const auto first = Trim(rule.Description);
-    const auto second = Trim(rule.Desc2);
-    const auto third = Trim(rule.Desc3);
-    std::string joined;
-    joined.reserve(first.size() + second.size() + third.size() + 2);
-    joined.append(first).append(1, ' ').append(second).append(1, ' ').append(third);
-    return joined;
-}
-
-} // namespace
 
 mRules::mRules(FileSystem& files, SystemInfo& system, TraceChannel& trace)
     : files_(files), system_(system), trace_(trace) {}
@@ -143,11 +128,14 @@ std::string mRules::WhyNotToSaveRules(const SaveTurn& turn) {
 
 bool mRules::Write_Rules_File() {
     const SaveTurn turn(files_, Settings().RulesFile());
-    if (const auto refusal = WhyNotToSaveRules(turn); !refusal.empty()) {
+    auto refusal = WhyNotToSaveRules(turn);
+    refusal = refusal.empty() ? WhyNotToBegin(saveHooks) : refusal;
+    if (!refusal.empty()) {
         reported.Raise(refusal);
         return false;
     }
     ReplaceFile();
+    saveHooks.ended.Raise();
     return true;
 }
 

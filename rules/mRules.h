@@ -69,6 +69,7 @@ class mRules {
 
     /// How a save ended, as a short text for the status bar.
     Event<const std::string&> reported;
+    SaveHooks saveHooks;
 
   private:
     SettingsLibrary& Settings();

@@ -21,7 +21,8 @@ SecurityPage::SecurityPage(SettingsForm& form, SharedState& state, TraceChannel&
       writer_(database_, files, recycleBin), checks_(controls.grdSecurity.cells, dialogs, codePage),
       login_(form, trace, dialogs, codePage),
       users(controls.grdSecurity, reader_, writer_, checks_, login_, trace), form_(form), state_(state),
-      trace_(trace), system_(system), dialogs_(dialogs), steps_("User", controls.grdSecurity) {
+      trace_(trace), system_(system), dialogs_(dialogs), steps_("User", controls.grdSecurity),
+      records_(controls.grdSecurity.cells, codePage) {
     Connect();
 }
 
@@ -163,7 +164,7 @@ bool SecurityPage::SaveAtClosing() {
 }
 
 bool SecurityPage::CheckAndWrite(std::string_view folderWithoutUsers) {
-    if (!AreUsersValid()) {
+    if (!steps_.MayBeSaved() || !AreUsersValid()) {
         return false;
     }
     users.Save_Security();

@@ -7,6 +7,7 @@
 #include "platform/SystemInfo.h"
 #include "security/SecurityControls.h"
 #include "security/UserChecks.h"
+#include "security/UserRecords.h"
 #include "security/UsersDatabase.h"
 #include "security/UsersReader.h"
 #include "security/UsersWriter.h"
@@ -62,6 +63,8 @@ class SecurityPage : public Editor {
     void Save() override;
     bool SaveAtClosing() override;
     EditSteps& Steps() override { return steps_; }
+    const ListRecords& Records() const override { return records_; }
+    SaveHooks& Hooks() override { return users.saveHooks; }
 
     SecurityControls controls;
 
@@ -110,6 +113,7 @@ class SecurityPage : public Editor {
     SystemInfo& system_;
     Dialogs& dialogs_;
     GridSteps steps_;
+    UserRecords records_;
 };
 
 } // namespace zy

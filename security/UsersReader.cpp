@@ -74,27 +74,28 @@ bool UsersReader::FindsTable() {
 LoadedUsers UsersReader::Read() {
     auto& database = database_.Open();
     const auto records = database.OpenRecordset(database_.TableName(), dbase::RecordsetType::Dynaset);
-    LoadedUsers loaded;
-    records->MoveFirst();
-    if (!records->Eof()) {
-        RequireFields(records->Fields(), files_.DisplayPath(database_.GivenPath()));
-    }
-    ReadUsers(*records, loaded);
-    loaded.losses = TableLosses(records->Table());
+    auto loaded = UsersOf(*records, files_.DisplayPath(database_.GivenPath()), codePage_);
     records->Close();
     return loaded;
 }
 
-void UsersReader::ReadUsers(dbase::Recordset& records, LoadedUsers& loaded) {
+LoadedUsers UsersOf(dbase::Recordset& records, const std::string& table, const CodePage& codePage) {
+    LoadedUsers loaded;
+    records.MoveFirst();
+    if (!records.Eof()) {
+        RequireFields(records.Fields(), table);
+    }
     for (int i = 0; !records.Eof(); i = ToInt16(i + 1)) {
         loaded.users.resize(static_cast<std::size_t>(i) + 1);
         auto& user = loaded.users.back();
         user = UserIn(records.Fields());
-        if (codePage_.UCase(Trim(user.USERID)) == "ADMIN") {
-            loaded.adminPassword = codePage_.UCase(user.PASSWORD);
+        if (codePage.UCase(Trim(user.USERID)) == "ADMIN") {
+            loaded.adminPassword = codePage.UCase(user.PASSWORD);
         }
         records.MoveNext();
     }
+    loaded.losses = TableLosses(records.Table());
+    return loaded;
 }
 
 } // namespace zy

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "dbase/Recordset.h"
 #include "platform/CodePage.h"
 #include "platform/FileSystem.h"
 #include "security/UserRecord.h"
@@ -22,6 +23,10 @@ struct LoadedUsers {
     std::string losses;
 };
 
+/// Takes the users from the records of a table. Without enough columns error 3265 of the table engine, which
+/// names the table so; more than 32,767 users are run-time error 6.
+LoadedUsers UsersOf(dbase::Recordset& records, const std::string& table, const CodePage& codePage);
+
 /// Reads the users' table.
 class UsersReader {
   public:
@@ -37,8 +42,6 @@ class UsersReader {
     LoadedUsers Read();
 
   private:
-    void ReadUsers(dbase::Recordset& records, LoadedUsers& loaded);
-
     UsersDatabase& database_;
     FileSystem& files_;
     const CodePage& codePage_;

@@ -62,8 +62,9 @@ void mSecurity::Save_Security() {
 bool mSecurity::WriteAll(std::string_view folderWithoutUsers) {
     const std::string folder = HasUsers() ? SecurityFolder() : std::string(folderWithoutUsers);
     const auto turn = writer_.TakeTurn(folder);
-    if (!turn.IsMine()) {
-        reported.Raise(std::string(SaveTurn::kRefusal));
+    const auto refusal = turn.IsMine() ? WhyNotToBegin(saveHooks) : std::string(SaveTurn::kRefusal);
+    if (!refusal.empty()) {
+        reported.Raise(refusal);
         return false;
     }
     if (HasUsers()) {
@@ -73,6 +74,7 @@ bool mSecurity::WriteAll(std::string_view folderWithoutUsers) {
         writer_.Recycle(folder);
     }
     dangers_.clear();
+    saveHooks.ended.Raise();
     return true;
 }
 

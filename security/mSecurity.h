@@ -77,6 +77,7 @@ class mSecurity {
     Event<> loginCancelled;
     /// Short texts for the status bar: why a save was refused.
     Event<const std::string&> reported;
+    SaveHooks saveHooks;
 
     std::vector<UserRecord> zySecure; ///< counted from 0; never empty once it was loaded
     Bool16 newSecurityFile;           ///< there was no table to load

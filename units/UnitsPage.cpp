@@ -29,7 +29,8 @@ std::string_view SpecialCharacter(Key key) {
 UnitsPage::UnitsPage(SettingsForm& form, SharedState& state, TraceChannel& trace, FileSystem& files,
                      Dialogs& dialogs)
     : controls(form.FraUnits), units(controls.grdUnits, state, trace, files, dialogs), form_(form),
-      trace_(trace), dialogs_(dialogs), steps_("Unit", controls.grdUnits) {
+      trace_(trace), dialogs_(dialogs), steps_("Unit", controls.grdUnits),
+      records_(controls.grdUnits.cells) {
     Connect();
 }
 
@@ -169,7 +170,7 @@ void UnitsPage::ShowMoved(bool isSaved, const std::string& report) {
 }
 
 bool UnitsPage::SaveAtClosing() {
-    if (!units.ValidateUnits()) {
+    if (!steps_.MayBeSaved() || !units.ValidateUnits()) {
         return false;
     }
     steps_.BeginSave();

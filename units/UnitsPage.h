@@ -5,6 +5,7 @@
 #include "shell/Editor.h"
 #include "shell/GridSteps.h"
 #include "shell/SettingsForm.h"
+#include "units/UnitRecords.h"
 #include "units/UnitsControls.h"
 #include "units/mUnits.h"
 
@@ -51,6 +52,8 @@ class UnitsPage : public Editor {
     void Save() override;
     bool SaveAtClosing() override;
     EditSteps& Steps() override { return steps_; }
+    const ListRecords& Records() const override { return records_; }
+    SaveHooks& Hooks() override { return units.saveHooks; }
 
     UnitsControls controls;
     mUnits units;
@@ -76,6 +79,7 @@ class UnitsPage : public Editor {
     TraceChannel& trace_;
     Dialogs& dialogs_;
     GridSteps steps_;
+    UnitRecords records_;
     bool hasFile_ = true; ///< a list that has none can be saved as it is
 };
 

@@ -85,11 +85,14 @@ FileError mUnits::ObstacleToSave() {
 
 bool mUnits::Write_Units() {
     const SaveTurn turn(files_, state_.gsUnitsFile);
-    if (const auto refusal = WhyNotToSave(files_, state_.gsUnitsFile, turn); !refusal.empty()) {
+    auto refusal = WhyNotToSave(files_, state_.gsUnitsFile, turn);
+    refusal = refusal.empty() ? WhyNotToBegin(saveHooks) : refusal;
+    if (!refusal.empty()) {
         reported.Raise(refusal);
         return false;
     }
     ReplaceFile();
+    saveHooks.ended.Raise();
     return true;
 }
 

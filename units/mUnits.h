@@ -7,6 +7,7 @@
 #include "controls/Grid.h"
 #include "platform/Dialogs.h"
 #include "platform/FileSystem.h"
+#include "shell/SaveTurn.h"
 #include "shell/TraceChannel.h"
 #include "shell/mZYGlobal.h"
 
@@ -60,6 +61,7 @@ class mUnits {
     Event<bool> loaded;
     /// Short texts for the status bar: how a save ended.
     Event<const std::string&> reported;
+    SaveHooks saveHooks;
 
   private:
     void ResetGrid();

@@ -7,6 +7,9 @@
 namespace zy {
 namespace {
 
+/// Behind the header, or what stands in its place.
+constexpr int kFirstRecord = 1;
+
 /// A text that is typed into a cell or field.
 constexpr auto kTyping = "Typing";
 
@@ -66,6 +69,44 @@ void EditSteps::Redo() {
     } else if (CanRedo()) {
         Move(&History::Redo, "Redone: " + RedoName());
     }
+}
+
+bool EditSteps::MayBeSaved() {
+    bool may = true;
+    asking.Raise(may);
+    return may;
+}
+
+RowTexts EditSteps::Copy() const {
+    auto rows = CopyOf(*this, kFirstRecord, Rows() - kFirstRecord);
+    AddTyping(rows);
+    return rows;
+}
+
+void EditSteps::ReplaceList(const std::string& name, const RowTexts& rows) {
+    LeaveTyping();
+    Step step{.name = name, .key = {}, .before = Here(), .after = Here(), .changes = {}};
+    DropTyping(step);
+    step.changes.push_back(
+        ChangeBetween(kFirstRecord, CopyOf(*this, kFirstRecord, Rows() - kFirstRecord), rows));
+    if (step.ChangesNothing()) {
+        return;
+    }
+    Describe(step);
+    recorder_.Stop();
+    step.Redo(*this);
+    const StepPlace place = step.after;
+    history_.Record(std::move(step));
+    Show(place);
+    recorder_.Start();
+    moved.Raise(history_.IsSaved(), name);
+    changed.Raise();
+}
+
+void EditSteps::TakeAsSaved() {
+    MarkSaved(true);
+    EndSave(SaveEnd::Whole);
+    moved.Raise(true, {});
 }
 
 std::size_t EditSteps::Replay(std::span<const StepNote> notes) {

@@ -29,6 +29,8 @@ class EditSteps : protected RowList {
     void Start();
     /// Leaves out what happens until the next Start, such as loading.
     void Stop() { recorder_.Stop(); }
+    /// Asks whoever watches over the list's file whether a save may go on, before anything of it is done.
+    bool MayBeSaved();
     /// A save of the list begins, or has ended.
     void BeginSave() { saving.Raise(); }
     void EndSave(SaveEnd end) { saved.Raise(end); }
@@ -48,10 +50,21 @@ class EditSteps : protected RowList {
     void SetLog(StepLog& log) { history_.SetLog(&log); }
     /// The list as it stands.
     StepNote NoteList() const { return StepNote::OfList(*this, FirstRow()); }
+    /// Copies of the rows of the list, with what is typed and not stored in them yet.
+    RowTexts Copy() const;
+    /// Puts other rows in place of all of them, as a step of this name; what was typed and not stored is part
+    /// of that.
+    void ReplaceList(const std::string& name, const RowTexts& rows);
+    /// Gives the keyboard to the place where somebody works.
+    void ShowHere() { Show(Here()); }
+    /// The list is what its file holds, though no save made it so.
+    void TakeAsSaved();
     /// Does again what another session noted of the list as it is now, as steps that can be taken back.
     /// Returns how many of the notes it did: from the first on, up to one that does not belong to this list.
     std::size_t Replay(std::span<const StepNote> notes);
 
+    /// False, once it is put in, keeps the list from being saved.
+    Event<bool&> asking;
     Event<> saving;
     Event<SaveEnd> saved;
     /// What can be taken back or done again is something else.
@@ -80,6 +93,10 @@ class EditSteps : protected RowList {
     virtual void RedoTyping() {}
     /// Lets go of what would be in the way of a step, without taking it over.
     virtual void LeaveTyping() {}
+    /// Stores what is typed and not stored yet in copies of the rows.
+    virtual void AddTyping(RowTexts& /*rows*/) const {}
+    /// Makes it part of a step that it goes.
+    virtual void DropTyping(Step& /*step*/) const {}
 
     Recorder& ToRecord() { return recorder_; }
     History& Steps() { return history_; }

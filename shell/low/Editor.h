@@ -2,6 +2,8 @@
 
 #include "controls/Geometry.h"
 #include "shell/EditSteps.h"
+#include "shell/ListRecords.h"
+#include "shell/SaveTurn.h"
 
 namespace zy {
 
@@ -29,6 +31,10 @@ class Editor {
     virtual bool SaveAtClosing() = 0;
     /// What can be taken back and done again.
     virtual EditSteps& Steps() = 0;
+    /// The records of the list.
+    virtual const ListRecords& Records() const = 0;
+    /// What else is to be done when the list is saved.
+    virtual SaveHooks& Hooks() = 0;
 };
 
 } // namespace zy

@@ -51,6 +51,16 @@ int ContentTop(const Frame& frame) {
     return std::max(frame.Preferred().height, kGap) + kGap;
 }
 
+void FillWithLastColumn(ListView& list, int least) {
+    constexpr int kBorder = 360; // the list's scroll bar and frame
+    const std::size_t last = list.Columns().size() - 1;
+    int left = list.Bounds().width - kBorder;
+    for (std::size_t column = 0; column < last; ++column) {
+        left -= list.Columns()[column].width;
+    }
+    list.SetColumnWidth(last, std::max(left, least));
+}
+
 Size ButtonStrip::LeastFrame(std::span<CommandButton* const> buttons, const Size& above) {
     const int count = static_cast<int>(buttons.size());
     const Size button = ButtonSize(buttons, 0);

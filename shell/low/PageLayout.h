@@ -3,6 +3,7 @@
 #include <span>
 
 #include "controls/CommandButton.h"
+#include "controls/ListView.h"
 #include "shell/SettingsForm.h"
 
 namespace zy {
@@ -22,6 +23,9 @@ Size LeastInnerSize(const Size& frame, const SettingsForm& form);
 
 /// Where the content of a frame begins, below its caption.
 int ContentTop(const Frame& frame);
+
+/// Gives the last column of a list the width that the others leave, but no less than this.
+void FillWithLastColumn(ListView& list, int least);
 
 /// A row of buttons of one size at the foot of a page's frame. A text that needs more room than the designed
 /// sizes give gets it.

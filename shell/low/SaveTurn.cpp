@@ -47,4 +47,10 @@ std::string WhyNotToSave(FileSystem& files, std::string_view path, const SaveTur
     return uncertainty.empty() ? uncertainty : "Not saved, " + uncertainty;
 }
 
+std::string WhyNotToBegin(SaveHooks& hooks) {
+    std::string reason;
+    hooks.beginning.Raise(reason);
+    return reason;
+}
+
 } // namespace zy

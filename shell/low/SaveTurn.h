@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "controls/Event.h"
 #include "platform/FileSystem.h"
 
 namespace zy {
@@ -27,6 +28,14 @@ class SaveTurn {
     bool isMine_;
 };
 
+/// What else is to be done in the turn of a save.
+struct SaveHooks {
+    /// Right before the first step. A reason that is put in refuses the save.
+    Event<std::string&> beginning;
+    /// Behind the last step, however they went.
+    Event<> ended;
+};
+
 /// Says that it is not certain which of several files a path means, and why; empty when it is certain.
 std::string Uncertainty(FileSystem& files, std::string_view path);
 /// The same as run-time error 75, where another file than the product's own could be read or replaced. The
@@ -39,5 +48,7 @@ std::string Obstacle(std::string_view path, FileError error);
 
 /// Why the file of this path must not be saved now, for the status bar; empty when it may.
 std::string WhyNotToSave(FileSystem& files, std::string_view path, const SaveTurn& turn);
+/// Why the save that is about to begin is refused, as the hooks say; empty when it may begin.
+std::string WhyNotToBegin(SaveHooks& hooks);
 
 } // namespace zy
