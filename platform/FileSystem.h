@@ -2,9 +2,11 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/FileError.h"
 
@@ -52,6 +54,12 @@ struct LockedFolder {
     FileError error = FileError::None;
 };
 
+/// A file that stands in a folder.
+struct FoundFile {
+    std::string name;
+    std::uint64_t size = 0;
+};
+
 /// The files of the computer. Paths are absolute, in the ANSI code page, with "\" between their parts; names
 /// are found without regard to case.
 class FileSystem {
@@ -76,12 +84,18 @@ class FileSystem {
     virtual FileError MayReplace(std::string_view path) = 0;
     /// The same for one that is emptied and written where it stands, and created where there is none.
     virtual FileError MayOverwrite(std::string_view path) = 0;
+    /// How many bytes could still be written in the folder of this path; nothing where the system cannot
+    /// tell.
+    virtual std::optional<std::uint64_t> FreeBytes(std::string_view path) = 0;
 
     /// A directory search for a normal file of exactly that name; a folder of the name is not found.
     virtual bool Exists(std::string_view path) = 0;
     /// Whether anything is there by that path, as the desktop's shell tests it: hidden files and folders are
     /// found too. Whatever goes wrong counts as nothing there.
     virtual bool PathExists(std::string_view path) = 0;
+    /// The regular files that stand in a folder, in no order. Folders and symbolic links are left out, and so
+    /// are names that the code page lacks. Empty also where the folder cannot be read.
+    virtual std::vector<FoundFile> FilesIn(std::string_view folder) = 0;
     /// Opens an existing file for reading from its beginning to its end, shared for reading and writing.
     virtual OpenedFile OpenForReading(std::string_view path) = 0;
     /// The same for a file that was found just before: one that has gone since then is created, and empty.
@@ -91,6 +105,10 @@ class FileSystem {
     /// Creates a new file for writing that its owner alone may read and write, whatever is usual for new
     /// files. One of that name makes it fail, and stays as it is.
     virtual OpenedFile CreatePrivate(std::string_view path) = 0;
+    /// Makes a folder that the user alone may enter, and the folders above it that are missing. One that is
+    /// there already is kept to the user; AccessDenied where it is somebody else's or a symbolic link. Exists
+    /// where a file is in its place or in that of a folder above it.
+    virtual FileError MakePrivateFolder(std::string_view path) = 0;
     /// Deletes a file, be it hidden or not. A folder is not deleted (IsFolder).
     virtual FileError Delete(std::string_view path) = 0;
     /// Gives a file another name in its folder. Never replaces a file: one of the new name makes it fail.

@@ -173,6 +173,11 @@ FileError MemoryFileSystem::MayOverwrite(std::string_view path) {
     return error == FileError::AccessDenied ? FileError::None : error;
 }
 
+std::optional<std::uint64_t> MemoryFileSystem::FreeBytes(std::string_view path) {
+    const auto folder = FolderPart(Key(path));
+    return folder && IsFolder(*folder) ? std::optional(Room()) : std::nullopt;
+}
+
 void MemoryFileSystem::SetUncertain(std::string_view path, FileError error) {
     if (error == FileError::None) {
         uncertain_.erase(Key(path));
@@ -199,6 +204,21 @@ bool MemoryFileSystem::PathExists(std::string_view path) {
     bool found = false;
     operations_.Perform(Line("PathExists", path), [&] {
         found = files_.contains(Key(path)) || (!path.empty() && IsFolder(Key(path)));
+        return FileError::None;
+    });
+    return found;
+}
+
+std::vector<FoundFile> MemoryFileSystem::FilesIn(std::string_view folder) {
+    std::vector<FoundFile> found;
+    operations_.Perform(Line("FilesIn", folder), [&] {
+        const auto key = Key(folder);
+        const bool isListed = !folder.empty() && Locate(folder) != FileError::AccessDenied;
+        for (const auto& [path, file] : files_) {
+            if (isListed && FolderPart(path) == key) {
+                found.push_back({.name = file->name, .size = file->bytes.size()});
+            }
+        }
         return FileError::None;
     });
     return found;
@@ -234,6 +254,10 @@ OpenedFile MemoryFileSystem::CreatePrivate(std::string_view path) {
     return opened;
 }
 
+FileError MemoryFileSystem::MakePrivateFolder(std::string_view path) {
+    return operations_.Perform(Line("MakePrivateFolder", path), [&] { return MakeFolderForUser(path); });
+}
+
 FileError MemoryFileSystem::Delete(std::string_view path) {
     return operations_.Perform(Line("Delete", path), [&] { return DeleteFound(Key(path)); });
 }
@@ -249,7 +273,7 @@ FileError MemoryFileSystem::CopyPermissions(std::string_view from, std::string_v
 
 void MemoryFileSystem::AddFolder(std::string_view path) {
     for (std::optional<std::string> folder = Key(path); folder; folder = FolderPart(*folder)) {
-        folders_.insert(*folder);
+        folders_.try_emplace(*folder, kNewFolderPermissions);
     }
 }
 
@@ -286,12 +310,20 @@ std::vector<std::string> MemoryFileSystem::Names(std::string_view folder) const 
 }
 
 std::optional<unsigned> MemoryFileSystem::Permissions(std::string_view path) const {
-    const auto found = files_.find(Key(path));
+    const auto key = Key(path);
+    if (const auto folder = folders_.find(key); folder != folders_.end()) {
+        return folder->second;
+    }
+    const auto found = files_.find(key);
     return found == files_.end() ? std::nullopt : std::optional(found->second->permissions);
 }
 
 void MemoryFileSystem::SetPermissions(std::string_view path, unsigned permissions) {
-    if (const auto found = files_.find(Key(path)); found != files_.end()) {
+    const auto key = Key(path);
+    if (const auto folder = folders_.find(key); folder != folders_.end()) {
+        folder->second = permissions;
+    }
+    if (const auto found = files_.find(key); found != files_.end()) {
         found->second->permissions = permissions;
     }
 }
@@ -378,6 +410,34 @@ FileError MemoryFileSystem::CreateForOwner(std::string_view path, OpenedFile& op
     return error;
 }
 
+FileError MemoryFileSystem::MakeFolder(const std::string& key) {
+    if (IsFolder(key)) {
+        return FileError::None;
+    }
+    if (files_.contains(key)) {
+        return FileError::Exists;
+    }
+    const auto above = FolderPart(key);
+    auto error = above ? MakeFolder(*above) : FileError::NotFound;
+    if (error == FileError::None) {
+        error = EntryLock(key);
+    }
+    if (error == FileError::None) {
+        folders_[key] = kPrivateFolderPermissions;
+    }
+    return error;
+}
+
+FileError MemoryFileSystem::MakeFolderForUser(std::string_view path) {
+    const auto key = Key(path);
+    const bool isPath = !key.empty() && path.find('\0') == std::string_view::npos;
+    const auto error = isPath ? MakeFolder(key) : FileError::NotFound;
+    if (error == FileError::None) {
+        folders_[key] = kPrivateFolderPermissions;
+    }
+    return error;
+}
+
 FileError MemoryFileSystem::DeleteFound(const std::string& key) {
     if (!files_.contains(key)) {
         return NoFileReason(key);
@@ -424,12 +484,12 @@ FileError MemoryFileSystem::CopyPermissionsFound(const std::string& from, const 
 
 FileError MemoryFileSystem::WriteWhatFits(File& file, std::size_t position, std::string_view text) const {
     const auto overwritten = file.bytes.size() - std::min(position, file.bytes.size());
-    const auto fits = text.substr(0, std::min<std::uint64_t>(text.size(), overwritten + FreeBytes()));
+    const auto fits = text.substr(0, std::min<std::uint64_t>(text.size(), overwritten + Room()));
     file.bytes.replace(std::min(position, file.bytes.size()), fits.size(), fits);
     return fits.size() == text.size() ? FileError::None : FileError::DiskFull;
 }
 
-std::uint64_t MemoryFileSystem::FreeBytes() const {
+std::uint64_t MemoryFileSystem::Room() const {
     if (!capacity_) {
         return std::numeric_limits<std::uint64_t>::max() / 2;
     }

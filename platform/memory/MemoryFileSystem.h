@@ -21,9 +21,10 @@ namespace zy {
 /// with. "/" counts as "\", several in a row as one. A file can be created only in a folder that exists.
 ///
 /// Each operation of FileSystem and of its handles is counted, recorded and subject to the fault plan, but
-/// for Size and what only asks or holds (DisplayPath, Locate, LockFolderOf, MayReplace, MayOverwrite): a
-/// failing Exists or PathExists says false, a failing Read reads nothing, all others return the plan's error
-/// and change nothing, but that a Write may be cut short and a Close closes all the same. Destroying a handle
+/// for Size and what only asks or holds (DisplayPath, Locate, LockFolderOf, MayReplace, MayOverwrite,
+/// FreeBytes): a failing Exists or PathExists says false, a failing FilesIn finds none, a failing Read reads
+/// nothing, all others return the plan's error and change nothing, but that a Write may be cut short and a
+/// Close closes all the same. Destroying a handle
 /// is no operation, and neither are the verbs for tests below.
 ///
 /// Handles must not outlive the file system. One whose file is deleted keeps its bytes for itself.
@@ -31,6 +32,8 @@ class MemoryFileSystem final : public FileSystem {
   public:
     static constexpr unsigned kNewFilePermissions = 0644;
     static constexpr unsigned kPrivatePermissions = 0600;
+    static constexpr unsigned kNewFolderPermissions = 0755;
+    static constexpr unsigned kPrivateFolderPermissions = 0700;
 
     explicit MemoryFileSystem(const CodePage& codePage) : codePage_(codePage) {}
 
@@ -39,12 +42,16 @@ class MemoryFileSystem final : public FileSystem {
     LockedFolder LockFolderOf(std::string_view path) override;
     FileError MayReplace(std::string_view path) override;
     FileError MayOverwrite(std::string_view path) override;
+    /// The capacity that is left, or far more than anybody needs where there is no limit.
+    std::optional<std::uint64_t> FreeBytes(std::string_view path) override;
     bool Exists(std::string_view path) override;
     bool PathExists(std::string_view path) override;
+    std::vector<FoundFile> FilesIn(std::string_view folder) override;
     OpenedFile OpenForReading(std::string_view path) override;
     OpenedFile OpenAlwaysForReading(std::string_view path) override;
     OpenedFile Create(std::string_view path) override;
     OpenedFile CreatePrivate(std::string_view path) override;
+    FileError MakePrivateFolder(std::string_view path) override;
     FileError Delete(std::string_view path) override;
     FileError Rename(std::string_view from, std::string_view to) override;
     FileError CopyPermissions(std::string_view from, std::string_view to) override;
@@ -61,9 +68,9 @@ class MemoryFileSystem final : public FileSystem {
     /// The names of the files of a folder as they were created, in the order of their capitals.
     std::vector<std::string> Names(std::string_view folder) const;
 
-    /// The permissions of a file; nothing when there is none.
+    /// The permissions of a file or folder; nothing when there is none.
     std::optional<unsigned> Permissions(std::string_view path) const;
-    /// Does nothing when there is no such file.
+    /// Does nothing when there is none.
     void SetPermissions(std::string_view path, unsigned permissions);
 
     /// Hides a file: Exists does not find it, and it cannot be created anew over (AccessDenied). Does nothing
@@ -124,16 +131,18 @@ class MemoryFileSystem final : public FileSystem {
     FileError OpenFound(std::string_view path, OpenedFile& opened);
     FileError CreateOrEmpty(std::string_view path, OpenedFile& opened);
     FileError CreateForOwner(std::string_view path, OpenedFile& opened);
+    FileError MakeFolder(const std::string& key);
+    FileError MakeFolderForUser(std::string_view path);
     FileError DeleteFound(const std::string& key);
     FileError RenameFound(const std::string& from, std::string_view toPath);
     FileError CopyPermissionsFound(const std::string& from, const std::string& to);
     /// Appends as much of the text as the disk has room for.
     FileError WriteWhatFits(File& file, std::size_t position, std::string_view text) const;
-    std::uint64_t FreeBytes() const;
+    std::uint64_t Room() const;
 
     const CodePage& codePage_;
     Files files_;
-    std::set<std::string> folders_;
+    std::map<std::string, unsigned> folders_; ///< with their permissions
     std::set<std::string> readOnlyFolders_;
     std::set<std::string> held_;
     std::set<std::string> unreadable_;

@@ -2,12 +2,17 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
+#include "basics/Text.h"
 #include "platform/posix/ErrorNumber.h"
+#include "platform/posix/FolderEntries.h"
 #include "platform/posix/Moving.h"
 #include "platform/posix/PosixFile.h"
 #include "platform/posix/PosixFolderLock.h"
+#include "platform/posix/PrivateFolder.h"
+#include "platform/posix/StickyFolder.h"
 
 namespace zy {
 namespace {
@@ -19,6 +24,18 @@ bool IsFolder(const std::string& path) {
 
 FileError Access(const std::string& path, int rights) {
     return ToFileError(::faccessat(AT_FDCWD, path.c_str(), rights, AT_EACCESS) == 0 ? 0 : errno);
+}
+
+std::optional<std::uint64_t> SizeOfRegularFile(const std::filesystem::directory_entry& entry) {
+    std::error_code error;
+    const bool isRegular = entry.symlink_status(error).type() == std::filesystem::file_type::regular;
+    const auto size = isRegular ? entry.file_size(error) : 0;
+    return isRegular && !error ? std::optional<std::uint64_t>(size) : std::nullopt;
+}
+
+FileError MayReplaceResolved(const std::string& path) {
+    const auto error = Access(FolderOfPath(path), W_OK | X_OK);
+    return error == FileError::None ? StickyBitError(path) : error;
 }
 
 FileError RenameResolved(const std::string& from, const std::string& to) {
@@ -50,13 +67,21 @@ FileError PosixFileSystem::MayReplace(std::string_view path) {
     if (place.error != FileError::None) {
         return place.error;
     }
-    return IsFolder(place.path) ? FileError::IsFolder : Access(FolderOfPath(place.path), W_OK | X_OK);
+    return IsFolder(place.path) ? FileError::IsFolder : MayReplaceResolved(place.path);
 }
 
 FileError PosixFileSystem::MayOverwrite(std::string_view path) {
     const auto place = paths_.ResolveLinks(path);
     const bool exists = place.error == FileError::None && Access(place.path, F_OK) == FileError::None;
     return exists && !IsFolder(place.path) ? Access(place.path, W_OK) : MayReplace(path);
+}
+
+std::optional<std::uint64_t> PosixFileSystem::FreeBytes(std::string_view path) {
+    const auto place = paths_.ResolveLinks(path);
+    struct statvfs disk {};
+    const bool isKnown =
+        place.error == FileError::None && ::statvfs(FolderOfPath(place.path).c_str(), &disk) == 0;
+    return isKnown ? std::optional<std::uint64_t>(disk.f_bavail * disk.f_frsize) : std::nullopt;
 }
 
 bool PosixFileSystem::Exists(std::string_view path) {
@@ -69,6 +94,18 @@ bool PosixFileSystem::PathExists(std::string_view path) {
     const auto resolved = paths_.Resolve(path);
     struct stat status {};
     return resolved && ::stat(resolved->c_str(), &status) == 0;
+}
+
+std::vector<FoundFile> PosixFileSystem::FilesIn(std::string_view folder) {
+    std::vector<FoundFile> files;
+    for (const auto& entry : EntriesIn(paths_.Resolve(folder).value_or(""))) {
+        const auto name = text_.NameToInside(entry.path().filename().string());
+        const auto size = SizeOfRegularFile(entry);
+        if (size && !Contains(name, PathText::kEscape)) {
+            files.push_back({.name = name, .size = *size});
+        }
+    }
+    return files;
 }
 
 OpenedFile PosixFileSystem::OpenForReading(std::string_view path) {
@@ -99,6 +136,11 @@ OpenedFile PosixFileSystem::CreatePrivate(std::string_view path) {
         created.error = FileError::IsFolder;
     }
     return created;
+}
+
+FileError PosixFileSystem::MakePrivateFolder(std::string_view path) {
+    const auto resolved = paths_.Resolve(path);
+    return resolved ? zy::MakePrivateFolder(*resolved) : FileError::NotFound;
 }
 
 FileError PosixFileSystem::Delete(std::string_view path) {

@@ -24,12 +24,16 @@ class PosixFileSystem final : public FileSystem {
     LockedFolder LockFolderOf(std::string_view path) override;
     FileError MayReplace(std::string_view path) override;
     FileError MayOverwrite(std::string_view path) override;
+    /// Behind links, as for a lock.
+    std::optional<std::uint64_t> FreeBytes(std::string_view path) override;
     bool Exists(std::string_view path) override;
     bool PathExists(std::string_view path) override;
+    std::vector<FoundFile> FilesIn(std::string_view folder) override;
     OpenedFile OpenForReading(std::string_view path) override;
     OpenedFile OpenAlwaysForReading(std::string_view path) override;
     OpenedFile Create(std::string_view path) override;
     OpenedFile CreatePrivate(std::string_view path) override;
+    FileError MakePrivateFolder(std::string_view path) override;
     FileError Delete(std::string_view path) override;
     /// The new name stands on the disk when this returns. Where a link leads to another disk, the file moves
     /// there as a copy, which gets its name when it is whole.

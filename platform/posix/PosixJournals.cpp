@@ -4,25 +4,18 @@
 #include <sys/stat.h>
 
 #include <algorithm>
-#include <ctime>
-#include <filesystem>
 
 #include "platform/JournalFile.h"
 #include "platform/posix/ErrorNumber.h"
+#include "platform/posix/FolderEntries.h"
 #include "platform/posix/GlibPointer.h"
+#include "platform/posix/LocalTime.h"
 #include "platform/posix/PosixFile.h"
 #include "platform/posix/PrivateFolder.h"
 #include "platform/posix/UserFolders.h"
 
 namespace zy {
 namespace {
-
-std::chrono::local_seconds LocalTime(std::time_t time) {
-    std::tm local{};
-    ::localtime_r(&time, &local);
-    // Counted as if the user's clock showed UTC.
-    return std::chrono::local_seconds(std::chrono::seconds(::timegm(&local)));
-}
 
 /// A name in an open folder, which the journals of that folder share.
 struct Entry {
@@ -75,7 +68,7 @@ class PosixJournal final : public Journal {
     std::chrono::local_seconds LastChange() override {
         struct stat status {};
         ::fstat(file_.Descriptor().Number(), &status);
-        return LocalTime(status.st_mtime);
+        return ToSeconds(LocalTime(status.st_mtime));
     }
 
   private:
@@ -128,18 +121,15 @@ OpenedJournal CreateNew(const Entry& entry) {
 
 std::vector<std::string> NamesIn(const std::string& folder) {
     std::vector<std::string> names;
-    std::error_code error;
-    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error)) {
-        names.push_back(entry->path().filename().string());
+    for (const auto& entry : EntriesIn(folder)) {
+        names.push_back(entry.path().filename().string());
     }
     return names;
 }
 
 /// Empty where the system has none.
 std::string FolderFor(Secrecy secrecy) {
-    const auto folder = secrecy == Secrecy::Passwords ? UserRuntimeFolder() : UserStateFolder();
-    return folder.empty() ? "" : folder + "/zysetup";
+    return OwnFolderIn(secrecy == Secrecy::Passwords ? UserRuntimeFolder() : UserStateFolder());
 }
 
 } // namespace

@@ -8,6 +8,9 @@
 #include <memory>
 #include <type_traits>
 
+#include "basics/Text.h"
+#include "platform/TimeDigits.h"
+#include "platform/posix/LocalTime.h"
 #include "platform/posix/UserFolders.h"
 
 namespace zy {
@@ -45,6 +48,15 @@ std::string SystemFolder() {
     return data.empty() ? "" : data + "/zysetup/system";
 }
 
+/// Date and time as the user's locale writes them; empty where that is not installed.
+std::string InUsersLocale(const std::tm& local) {
+    constexpr std::size_t kLongest = 256;
+    const Locale locale(::newlocale(LC_TIME_MASK, "", nullptr));
+    std::string text(kLongest, '\0');
+    text.resize(locale ? ::strftime_l(text.data(), text.size(), "%x %X", &local, locale.get()) : 0);
+    return text;
+}
+
 } // namespace
 
 PosixSystemInfo::PosixSystemInfo(int argumentCount, const char* const* arguments, const CodePage& codePage)
@@ -60,13 +72,18 @@ std::string PosixSystemInfo::SystemDirectory() {
     return text_.PathToInside(folder);
 }
 
+std::string PosixSystemInfo::StateFolder() {
+    auto folder = text_.PathToInside(OwnFolderIn(UserStateFolder()));
+    return Contains(folder, PathText::kEscape) ? "" : folder;
+}
+
 std::string PosixSystemInfo::ExecutableFolder() const {
     return text_.PathToInside(executableFolder_);
 }
 
 std::vector<KnownFolder> PosixSystemInfo::KnownFolders() const {
     std::vector<KnownFolder> folders;
-    for (const auto& folder : {SystemFolder(), executableFolder_}) {
+    for (const auto& folder : {SystemFolder(), OwnFolderIn(UserStateFolder()), executableFolder_}) {
         if (folder.starts_with('/')) {
             folders.push_back({.inside = text_.PathToInside(folder), .outside = folder});
         }
@@ -90,13 +107,21 @@ char PosixSystemInfo::DecimalSeparator() const {
 }
 
 std::chrono::year_month_day PosixSystemInfo::Today() const {
-    const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    ::localtime_r(&now, &local);
+    const auto local = LocalTime(std::time(nullptr));
     constexpr int kFirstYear = 1900;
     return {std::chrono::year(local.tm_year + kFirstYear),
             std::chrono::month(static_cast<unsigned>(local.tm_mon) + 1),
             std::chrono::day(static_cast<unsigned>(local.tm_mday))};
+}
+
+std::chrono::sys_seconds PosixSystemInfo::Now() {
+    return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+}
+
+std::string PosixSystemInfo::TimeText(std::chrono::sys_seconds time) {
+    const auto local = LocalTime(std::chrono::system_clock::to_time_t(time));
+    const auto text = codePage_.FromUtf8(InUsersLocale(local));
+    return text && !text->empty() ? *text : PlainTime(ToSeconds(local));
 }
 
 } // namespace zy

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 
 #include "platform/posix/ErrorNumber.h"
+#include "platform/posix/UserFolders.h"
 
 namespace zy {
 namespace {
@@ -35,6 +36,12 @@ PrivateFolder OpenPrivateFolder(const std::string& path) {
     const int opening = errno == ELOOP ? EACCES : errno;
     const int error = folder.IsOpen() ? KeepToTheUser(folder) : opening;
     return {.folder = std::move(folder), .error = ToFileError(error)};
+}
+
+FileError MakePrivateFolder(const std::string& path) {
+    const auto made = MakeFolders(path);
+    const auto opened = OpenPrivateFolder(path).error;
+    return opened == FileError::NotFound && made != FileError::None ? made : opened;
 }
 
 } // namespace zy

@@ -17,4 +17,7 @@ struct PrivateFolder {
 /// else's, or a symbolic link.
 PrivateFolder OpenPrivateFolder(const std::string& path);
 
+/// Makes a folder that nobody but the user can enter, as FileSystem::MakePrivateFolder says.
+FileError MakePrivateFolder(const std::string& path);
+
 } // namespace zy

@@ -39,7 +39,7 @@ GlibPointer<GKeyFile> RegistryFile::Read() const {
 }
 
 bool RegistryFile::MakeFolder() const {
-    return !folder_.empty() && MakeFolders(folder_);
+    return !folder_.empty() && MakeFolders(folder_) == FileError::None;
 }
 
 std::optional<FileDescriptor> RegistryFile::Lock() const {

@@ -15,8 +15,8 @@ std::string Numbered(const std::filesystem::path& name, int number) {
 } // namespace
 
 FileError TrashFolder::Add(const std::string& path) const {
-    if (!MakeFolders(folder_)) {
-        return FileError::NotFound;
+    if (const auto error = MakeFolders(folder_); error != FileError::None) {
+        return error;
     }
     const auto name = std::filesystem::path(path).filename();
     auto error = MoveWithoutReplacing(path, folder_ + '/' + name.string());

@@ -7,7 +7,10 @@
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <cstdlib>
+
+#include "platform/posix/ErrorNumber.h"
 
 namespace zy {
 namespace {
@@ -45,6 +48,13 @@ bool IsFolder(const std::string& path) {
     return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
+FileError MakeFolder(const std::string& path) {
+    constexpr mode_t kForTheUserAlone = 0700;
+    const int error = ::mkdir(path.c_str(), kForTheUserAlone) == 0 ? 0 : errno;
+    // Most are there already, which mkdir calls an error.
+    return error == 0 || IsFolder(path) ? FileError::None : ToFileError(error);
+}
+
 bool IsForTheUserAlone(const std::string& folder) {
     constexpr mode_t kForOthers = S_IRWXG | S_IRWXO;
     struct stat status {};
@@ -76,19 +86,22 @@ std::string UserStateFolder() {
     return UserFolder("XDG_STATE_HOME", "/.local/state");
 }
 
+std::string OwnFolderIn(const std::string& folder) {
+    return folder.empty() ? "" : folder + "/zysetup";
+}
+
 std::string UserRuntimeFolder() {
     auto named = Environment("XDG_RUNTIME_DIR");
     return IsAbsolute(named) && IsForTheUserAlone(named) && LiesInMemory(named) ? named : "";
 }
 
-bool MakeFolders(const std::string& path) {
-    constexpr mode_t kForTheUserAlone = 0700;
-    // Most of them are there already, which mkdir calls an error; in the end it counts that the last one is.
+FileError MakeFolders(const std::string& path) {
     for (auto end = path.find('/', 1); end != std::string::npos; end = path.find('/', end + 1)) {
-        static_cast<void>(::mkdir(path.substr(0, end).c_str(), kForTheUserAlone));
+        if (const auto error = MakeFolder(path.substr(0, end)); error != FileError::None) {
+            return error;
+        }
     }
-    static_cast<void>(::mkdir(path.c_str(), kForTheUserAlone));
-    return IsFolder(path);
+    return MakeFolder(path);
 }
 
 } // namespace zy

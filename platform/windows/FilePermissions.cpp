@@ -27,7 +27,16 @@ std::vector<std::byte> Filled(Call call) {
     return size > 0 && call(bytes.data(), size, &size) != FALSE ? bytes : std::vector<std::byte>();
 }
 
-/// Who runs this process, as text such as "S-1-5-21-...".
+/// As text such as "S-1-5-21-...".
+std::optional<std::string> SidText(PSID sid) {
+    char* text = nullptr;
+    if (::ConvertSidToStringSidA(sid, &text) == FALSE) {
+        return std::nullopt;
+    }
+    return std::unique_ptr<char, FreeLocal>(text).get();
+}
+
+/// Who runs this process.
 std::optional<std::string> UserOfThisProcess() {
     HANDLE opened = nullptr;
     if (::OpenProcessToken(::GetCurrentProcess(), TOKEN_QUERY, &opened) == FALSE) {
@@ -37,18 +46,20 @@ std::optional<std::string> UserOfThisProcess() {
     auto user = Filled([&](void* bytes, DWORD size, DWORD* needed) {
         return ::GetTokenInformation(token.Get(), TokenUser, bytes, size, needed);
     });
-    char* text = nullptr;
-    if (user.empty() ||
-        ::ConvertSidToStringSidA(reinterpret_cast<TOKEN_USER*>(user.data())->User.Sid, &text) == FALSE) {
-        return std::nullopt;
-    }
-    return std::unique_ptr<char, FreeLocal>(text).get();
+    return user.empty() ? std::nullopt : SidText(reinterpret_cast<TOKEN_USER*>(user.data())->User.Sid);
 }
 
-SystemHandle OpenForRights(const std::string& path, DWORD rights) {
+SystemHandle OpenForRights(const std::string& path, DWORD rights, DWORD flags = 0) {
     return SystemHandle(::CreateFileA(path.c_str(), rights,
                                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                      OPEN_EXISTING, 0, nullptr));
+                                      OPEN_EXISTING, flags, nullptr));
+}
+
+bool IsFolderItself(const SystemHandle& opened) {
+    BY_HANDLE_FILE_INFORMATION status{};
+    return ::GetFileInformationByHandle(opened.Get(), &status) != FALSE &&
+           (status.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 &&
+           (status.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0;
 }
 
 bool DiskKeepsPermissions(const SystemHandle& file) {
@@ -63,6 +74,15 @@ std::vector<std::byte> Descriptor(const SystemHandle& file, SECURITY_INFORMATION
     return Filled([&](void* bytes, DWORD size, DWORD* needed) {
         return ::GetKernelObjectSecurity(file.Get(), part, bytes, size, needed);
     });
+}
+
+bool BelongsToTheUser(const SystemHandle& file) {
+    auto descriptor = Descriptor(file, OWNER_SECURITY_INFORMATION);
+    PSID owner = nullptr;
+    BOOL isDefault = FALSE;
+    return !descriptor.empty() &&
+           ::GetSecurityDescriptorOwner(descriptor.data(), &owner, &isDefault) != FALSE &&
+           SidText(owner) == UserOfThisProcess();
 }
 
 /// Whether the access list stays as it is when that of the folder changes.
@@ -121,6 +141,26 @@ FileError CopyWindowsPermissions(const std::string& from, const std::string& to)
     }
     CopyOwner(source, to);
     return CopyAccessList(source, target);
+}
+
+FileError KeepFolderToTheUser(const std::string& path) {
+    const auto folder = OpenForRights(path, READ_CONTROL | WRITE_DAC,
+                                      FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT);
+    if (!folder) {
+        return ToFileError(::GetLastError());
+    }
+    if (!IsFolderItself(folder)) {
+        return FileError::AccessDenied;
+    }
+    if (!DiskKeepsPermissions(folder)) {
+        return FileError::None;
+    }
+    const PermissionsForTheUserAlone permissions;
+    const bool isKept = BelongsToTheUser(folder) && permissions.Get() != nullptr &&
+                        ::SetKernelObjectSecurity(
+                            folder.Get(), DACL_SECURITY_INFORMATION | PROTECTED_DACL_SECURITY_INFORMATION,
+                            permissions.Get()) != FALSE;
+    return isKept ? FileError::None : FileError::AccessDenied;
 }
 
 bool IsWriteProtected(const std::string& path) {

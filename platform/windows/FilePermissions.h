@@ -26,6 +26,10 @@ class PermissionsForTheUserAlone {
 /// disk that keeps none, such as a memory stick's, there is nothing to do.
 FileError CopyWindowsPermissions(const std::string& from, const std::string& to);
 
+/// Takes from all but the user of this process what they may do with a folder, as far as its disk keeps
+/// permissions. AccessDenied where it is somebody else's or a symbolic link.
+FileError KeepFolderToTheUser(const std::string& path);
+
 /// Whether the file bears the attribute that keeps it from being changed.
 bool IsWriteProtected(const std::string& path);
 

@@ -3,18 +3,6 @@
 #include <windows.h>
 
 namespace zy {
-namespace {
-
-std::wstring Wide(std::string_view text) {
-    const auto length = static_cast<int>(text.size());
-    std::wstring wide(text.size(), L'\0');
-    wide.resize(
-        static_cast<std::size_t>(::MultiByteToWideChar(CP_ACP, 0, text.data(), length, wide.data(), length)));
-    return wide;
-}
-
-} // namespace
-
 std::string InsidePath(const std::wstring& path) {
     constexpr std::size_t kMostBytes = 2; // of a character
     const auto length = static_cast<int>(path.size());
@@ -25,12 +13,24 @@ std::string InsidePath(const std::wstring& path) {
     return inside;
 }
 
+bool IsInCodePage(const std::wstring& path) {
+    return InsidePath(path).find('?') == std::string::npos;
+}
+
+std::wstring OutsidePath(std::string_view path) {
+    const auto length = static_cast<int>(path.size());
+    std::wstring outside(path.size(), L'\0');
+    outside.resize(static_cast<std::size_t>(
+        ::MultiByteToWideChar(CP_ACP, 0, path.data(), length, outside.data(), length)));
+    return outside;
+}
+
 std::optional<std::wstring> ProgramFolder::Find(std::string_view file) const {
     const auto folder = InsidePath(path) + '\\';
     if (path.empty() || !file.starts_with(folder)) {
         return std::nullopt;
     }
-    return path + L'\\' + Wide(file.substr(folder.size()));
+    return path + L'\\' + OutsidePath(file.substr(folder.size()));
 }
 
 } // namespace zy

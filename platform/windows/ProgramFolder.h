@@ -9,6 +9,10 @@ namespace zy {
 /// A path of the system in the ANSI code page, with "?", which no path holds, for each letter that the page
 /// lacks.
 std::string InsidePath(const std::wstring& path);
+/// Whether the code page has all letters of a path.
+bool IsInCodePage(const std::wstring& path);
+/// The path of the system that a path in the code page means.
+std::wstring OutsidePath(std::string_view path);
 
 /// A folder of files that are opened although its path may hold letters that the code page lacks.
 struct ProgramFolder {

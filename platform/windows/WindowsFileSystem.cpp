@@ -6,6 +6,9 @@
 
 #include "platform/windows/ErrorCode.h"
 #include "platform/windows/FilePermissions.h"
+#include "platform/windows/FolderEntries.h"
+#include "platform/windows/PrivateFolder.h"
+#include "platform/windows/ProgramFolder.h"
 #include "platform/windows/RootedPath.h"
 #include "platform/windows/SystemHandle.h"
 #include "platform/windows/WindowsFile.h"
@@ -47,6 +50,10 @@ FileError Uncertainty(const std::string& path) {
     WIN32_FIND_DATAA found{};
     const auto error = ToFileError(Find(path, found));
     return error == FileError::NotFound ? FileError::None : error;
+}
+
+std::uint64_t SizeOf(const WIN32_FIND_DATAW& found) {
+    return (std::uint64_t{found.nFileSizeHigh} << 32U) | found.nFileSizeLow;
 }
 
 /// With its separator at the end.
@@ -121,6 +128,14 @@ FileError WindowsFileSystem::MayOverwrite(std::string_view path) {
     return rooted ? MayOverwriteRooted(*rooted) : FileError::NotFound;
 }
 
+std::optional<std::uint64_t> WindowsFileSystem::FreeBytes(std::string_view path) {
+    const auto rooted = RootedPath(path);
+    ULARGE_INTEGER available{};
+    const bool isKnown =
+        rooted && ::GetDiskFreeSpaceExA(FolderPart(*rooted).c_str(), &available, nullptr, nullptr) != FALSE;
+    return isKnown ? std::optional<std::uint64_t>(available.QuadPart) : std::nullopt;
+}
+
 bool WindowsFileSystem::Exists(std::string_view path) {
     const auto rooted = RootedPath(path);
     return rooted && !HasWildcard(*rooted) && FindsNormalFile(*rooted);
@@ -129,6 +144,20 @@ bool WindowsFileSystem::Exists(std::string_view path) {
 bool WindowsFileSystem::PathExists(std::string_view path) {
     const auto rooted = RootedPath(path);
     return rooted && ::PathFileExistsA(rooted->c_str()) == TRUE;
+}
+
+std::vector<FoundFile> WindowsFileSystem::FilesIn(std::string_view folder) {
+    std::vector<FoundFile> files;
+    const auto rooted = RootedPath(folder);
+    if (!rooted || HasWildcard(*rooted)) {
+        return files;
+    }
+    ForEachEntry(OutsidePath(*rooted), [&](const WIN32_FIND_DATAW& found) {
+        if ((found.dwFileAttributes & kNotRegular) == 0 && IsInCodePage(found.cFileName)) {
+            files.push_back({.name = InsidePath(found.cFileName), .size = SizeOf(found)});
+        }
+    });
+    return files;
 }
 
 OpenedFile WindowsFileSystem::OpenForReading(std::string_view path) {
@@ -146,6 +175,11 @@ OpenedFile WindowsFileSystem::Create(std::string_view path) {
 
 OpenedFile WindowsFileSystem::CreatePrivate(std::string_view path) {
     return OpenBy(CreatePrivateWindowsFile, path);
+}
+
+FileError WindowsFileSystem::MakePrivateFolder(std::string_view path) {
+    const auto rooted = RootedPath(path);
+    return rooted ? MakePrivateWindowsFolder(*rooted) : FileError::NotFound;
 }
 
 FileError WindowsFileSystem::Delete(std::string_view path) {

@@ -18,13 +18,16 @@ class WindowsFileSystem final : public FileSystem {
     LockedFolder LockFolderOf(std::string_view path) override;
     FileError MayReplace(std::string_view path) override;
     FileError MayOverwrite(std::string_view path) override;
+    std::optional<std::uint64_t> FreeBytes(std::string_view path) override;
     /// A file that is hidden or the system's is no normal one.
     bool Exists(std::string_view path) override;
     bool PathExists(std::string_view path) override;
+    std::vector<FoundFile> FilesIn(std::string_view folder) override;
     OpenedFile OpenForReading(std::string_view path) override;
     OpenedFile OpenAlwaysForReading(std::string_view path) override;
     OpenedFile Create(std::string_view path) override;
     OpenedFile CreatePrivate(std::string_view path) override;
+    FileError MakePrivateFolder(std::string_view path) override;
     FileError Delete(std::string_view path) override;
     /// The new name stands on the disk when this returns.
     FileError Rename(std::string_view from, std::string_view to) override;

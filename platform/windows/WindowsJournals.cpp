@@ -1,33 +1,23 @@
 #include "platform/windows/WindowsJournals.h"
 
 #include <windows.h>
-// After windows.h, which they lean on.
+// After windows.h, which it leans on.
 #include <bcrypt.h>
-#include <shlobj.h>
 
 #include <algorithm>
 #include <array>
-#include <type_traits>
 
 #include "platform/JournalFile.h"
+#include "platform/windows/FolderEntries.h"
 #include "platform/windows/HandleFile.h"
+#include "platform/windows/LocalTime.h"
 #include "platform/windows/ProtectedJournal.h"
+#include "platform/windows/StateFolder.h"
 
 namespace zy {
 namespace {
 
 // The file
-
-std::chrono::local_seconds LocalTime(const FILETIME& time) {
-    SYSTEMTIME utc{};
-    SYSTEMTIME local{};
-    ::FileTimeToSystemTime(&time, &utc);
-    ::SystemTimeToTzSpecificLocalTime(nullptr, &utc, &local);
-    const std::chrono::year_month_day day{std::chrono::year(local.wYear), std::chrono::month(local.wMonth),
-                                          std::chrono::day(local.wDay)};
-    return std::chrono::local_days(day) + std::chrono::hours(local.wHour) +
-           std::chrono::minutes(local.wMinute) + std::chrono::seconds(local.wSecond);
-}
 
 class WindowsJournal final : public Journal {
   public:
@@ -56,7 +46,7 @@ class WindowsJournal final : public Journal {
     std::chrono::local_seconds LastChange() override {
         FILETIME written{};
         ::GetFileTime(file_.Handle().Get(), nullptr, nullptr, &written);
-        return LocalTime(written);
+        return ToSeconds(LocalTime(written));
     }
 
   private:
@@ -68,8 +58,6 @@ class WindowsJournal final : public Journal {
 };
 
 bool IsRegularFile(const SystemHandle& file) {
-    constexpr DWORD kNotRegular =
-        FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT | FILE_ATTRIBUTE_DEVICE;
     BY_HANDLE_FILE_INFORMATION status{};
     return ::GetFileInformationByHandle(file.Get(), &status) != FALSE &&
            (status.dwFileAttributes & kNotRegular) == 0;
@@ -102,18 +90,6 @@ OpenedJournal CreateNew(const std::wstring& path, SECURITY_ATTRIBUTES* attribute
 
 // The folder
 
-struct FreeTaskMemory {
-    void operator()(wchar_t* text) const { ::CoTaskMemFree(text); }
-};
-
-/// Empty where the system has none.
-std::wstring UsersLocalFolder() {
-    wchar_t* path = nullptr;
-    const bool isFound = SUCCEEDED(::SHGetKnownFolderPath(FOLDERID_LocalAppData, 0, nullptr, &path));
-    const std::unique_ptr<wchar_t, FreeTaskMemory> owned(path);
-    return isFound ? owned.get() : L"";
-}
-
 /// Journals' names are ASCII.
 std::wstring Joined(const std::wstring& folder, const std::string& name) {
     return folder + L'\\' + std::wstring(name.begin(), name.end());
@@ -128,21 +104,9 @@ std::string AsciiName(std::wstring_view name) {
     return ascii;
 }
 
-struct CloseSearch {
-    void operator()(HANDLE search) const { ::FindClose(search); }
-};
-
 std::vector<std::string> NamesIn(const std::wstring& folder) {
     std::vector<std::string> names;
-    WIN32_FIND_DATAW found{};
-    const HANDLE search = ::FindFirstFileW(Joined(folder, "*").c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) {
-        return names;
-    }
-    const std::unique_ptr<std::remove_pointer_t<HANDLE>, CloseSearch> owned(search);
-    do {
-        names.push_back(AsciiName(found.cFileName));
-    } while (::FindNextFileW(search, &found) != FALSE);
+    ForEachEntry(folder, [&](const WIN32_FIND_DATAW& found) { names.push_back(AsciiName(found.cFileName)); });
     return names;
 }
 
@@ -185,8 +149,7 @@ std::string Hexadecimal(const Sha256Value& value) {
 
 WindowsJournals::WindowsJournals() : WindowsJournals(UsersLocalFolder()) {}
 
-WindowsJournals::WindowsJournals(const std::wstring& below)
-    : folder_(below.empty() ? L"" : below + L"\\zysetup") {}
+WindowsJournals::WindowsJournals(const std::wstring& below) : folder_(OwnFolderIn(below)) {}
 
 OpenedJournal WindowsJournals::Create(std::string_view kind, Secrecy secrecy) {
     AttributesForTheUserAlone attributes;

@@ -17,6 +17,8 @@ class WindowsSystemInfo final : public SystemInfo {
 
     /// The system directory of Windows.
     std::string SystemDirectory() override;
+    /// "zysetup" in the user's folder for data that stays on this computer.
+    std::string StateFolder() override;
     std::string CommandLine() const override;
     std::string ExecutableName() const override;
     /// With "?" for each letter that the code page lacks.
@@ -24,6 +26,9 @@ class WindowsSystemInfo final : public SystemInfo {
     /// "." when the locale's is more than one character.
     char DecimalSeparator() const override;
     std::chrono::year_month_day Today() const override;
+    std::chrono::sys_seconds Now() override;
+    /// As in "2026-11-22 14:07:05" where the locale writes what the code page lacks.
+    std::string TimeText(std::chrono::sys_seconds time) override;
 
     /// The folder of the running program as the system names it.
     ProgramFolder Folder() const;

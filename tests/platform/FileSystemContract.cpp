@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <map>
 #include <string>
 
 #include "Disk.h"
@@ -12,8 +14,10 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::EndsWith;
+using ::testing::Gt;
 using ::testing::IsEmpty;
 using ::testing::Optional;
+using ::testing::Pair;
 using namespace std::string_literals;
 
 constexpr auto kBound = "Permissions do not bind the user of this test.";
@@ -44,6 +48,20 @@ class FileSystemContract : public ::testing::TestWithParam<DiskKind> {
         std::string bytes(count, '\0');
         bytes.resize(file.Read(bytes));
         return bytes;
+    }
+
+    std::map<std::string, std::uint64_t> SizesIn(const std::string& folder) {
+        std::map<std::string, std::uint64_t> sizes;
+        for (const auto& file : Files().FilesIn(folder)) {
+            sizes[file.name] = file.size;
+        }
+        return sizes;
+    }
+
+    /// What others than the user may do with a file or folder; nothing when there is none.
+    std::optional<unsigned> LeftToOthers(const std::string& name) {
+        const auto permissions = disk->Permissions(name);
+        return permissions ? std::optional(*permissions & 0077U) : std::nullopt;
     }
 
     std::unique_ptr<FileHandle> Created(const std::string& name) {
@@ -156,6 +174,44 @@ TEST_P(FileSystemContract, ShowsAPathByWhichTheFileIsFound) {
     EXPECT_TRUE(Files().Exists(disk->Path(R"(folder\new.sys)")));
     EXPECT_THAT(Files().DisplayPath(disk->Path("missing.sys")), EndsWith("missing.sys"));
     EXPECT_EQ(Files().DisplayPath("a.sys"), "a.sys");
+}
+
+TEST_P(FileSystemContract, ListsTheFilesOfAFolderWithTheirSizes) {
+    disk->AddFolder("folder");
+    Files().Create(disk->Path(R"(folder\deep.sys)"));
+    disk->Put("a.sys", "12345");
+    disk->Put("\xDC\x80.sys", "");
+    EXPECT_THAT(SizesIn(disk->Folder()), ElementsAre(Pair("a.sys", 5U), Pair("\xDC\x80.sys", 0U)));
+}
+
+TEST_P(FileSystemContract, ListsAFolderWithoutRegardToCase) {
+    disk->AddFolder("Folder");
+    Files().Create(disk->Path(R"(Folder\A.sys)"));
+    EXPECT_THAT(SizesIn(disk->Path("FOLDER")), ElementsAre(Pair("A.sys", 0U)));
+}
+
+TEST_P(FileSystemContract, ListsAHiddenFileToo) {
+    disk->Put("a.sys", "12345");
+    if (!disk->Hide("a.sys")) {
+        GTEST_SKIP() << "This system hides files by their names alone.";
+    }
+    EXPECT_THAT(SizesIn(disk->Folder()), ElementsAre(Pair("a.sys", 5U)));
+}
+
+TEST_P(FileSystemContract, ListsNothingWhereThereIsNoFolder) {
+    disk->Put("a.sys", "");
+    for (const auto& path :
+         {disk->Path("missing"), disk->Path("a.sys"), ""s, "a"s, disk->Path("\0"s), disk->Path("*")}) {
+        EXPECT_THAT(SizesIn(path), IsEmpty()) << path;
+    }
+}
+
+TEST_P(FileSystemContract, ListsNothingOfAFolderThatHidesItsNames) {
+    disk->Put("a.sys", "");
+    if (!disk->HideNames()) {
+        GTEST_SKIP() << kBound;
+    }
+    EXPECT_THAT(SizesIn(disk->Folder()), IsEmpty());
 }
 
 TEST_P(FileSystemContract, TakesASlashForABackslash) {
@@ -386,6 +442,47 @@ TEST_P(FileSystemContract, SaysWhyAFileCannotBeCreatedForItsOwner) {
     EXPECT_EQ(Files().CreatePrivate("a.sys").error, FileError::NotFound);
 }
 
+// Folders for the user alone
+
+TEST_P(FileSystemContract, MakesAFolderForTheUserAloneAndThoseAboveItThatAreMissing) {
+    EXPECT_EQ(Files().MakePrivateFolder(disk->Path(R"(New\deep\deeper)")), FileError::None);
+    EXPECT_THAT(LeftToOthers("New"), Optional(0U));
+    EXPECT_TRUE(Files().CreatePrivate(disk->Path(R"(new\DEEP\deeper\a.sys)")).handle);
+}
+
+TEST_P(FileSystemContract, KeepsAFolderThatIsThereToTheUserAndLeavesWhatItHolds) {
+    disk->AddFolder("Folder");
+    ASSERT_TRUE(Files().Create(disk->Path(R"(Folder\a.sys)")).handle);
+    disk->SetPermissions("Folder", 0707);
+    ASSERT_NE(LeftToOthers("Folder"), 0U);
+    for (int times = 0; times < 2; ++times) {
+        EXPECT_EQ(Files().MakePrivateFolder(disk->Path("FOLDER")), FileError::None);
+        EXPECT_THAT(LeftToOthers("Folder"), Optional(0U));
+    }
+    EXPECT_TRUE(Files().Exists(disk->Path(R"(Folder\a.sys)")));
+}
+
+TEST_P(FileSystemContract, LeavesAFileThatIsInTheWayOfAFolder) {
+    disk->Put("a.sys", "12345");
+    EXPECT_EQ(Files().MakePrivateFolder(disk->Path("A.SYS")), FileError::Exists);
+    EXPECT_EQ(Files().MakePrivateFolder(disk->Path(R"(A.SYS\b\c)")), FileError::Exists);
+    EXPECT_THAT(disk->Get("a.sys"), Optional("12345"s));
+}
+
+TEST_P(FileSystemContract, MakesNoFolderByAPathThatIsNone) {
+    for (const auto& path : {""s, "folder"s, disk->Path("a\0b"s)}) {
+        EXPECT_EQ(Files().MakePrivateFolder(path), FileError::NotFound) << path;
+    }
+}
+
+TEST_P(FileSystemContract, MakesNoFolderInOneThatTheUserMayNotChange) {
+    if (!disk->ForbidChanges()) {
+        GTEST_SKIP() << kBound;
+    }
+    EXPECT_EQ(Files().MakePrivateFolder(disk->Path(R"(new\deep)")), FileError::AccessDenied);
+    EXPECT_FALSE(Files().PathExists(disk->Path("new")));
+}
+
 // Deleting
 
 TEST_P(FileSystemContract, DeletesAFileWithoutRegardToCase) {
@@ -525,6 +622,18 @@ TEST_P(FileSystemContract, SaysThatAFolderThatTheUserMayNotChangeKeepsItsFilesFr
     EXPECT_EQ(Files().MayReplace(disk->Path("new.sys")), FileError::AccessDenied);
     EXPECT_EQ(Files().MayOverwrite(disk->Path("old.sys")), FileError::None);
     EXPECT_EQ(Files().MayOverwrite(disk->Path("new.sys")), FileError::AccessDenied);
+}
+
+TEST_P(FileSystemContract, TellsHowMuchCouldStillBeWrittenInAFolder) {
+    disk->Put("old.sys", "old");
+    EXPECT_THAT(Files().FreeBytes(disk->Path("OLD.SYS")), Optional(Gt(0U)));
+    EXPECT_THAT(Files().FreeBytes(disk->Path("new.sys")), Optional(Gt(0U)));
+}
+
+TEST_P(FileSystemContract, CannotTellHowMuchCouldBeWrittenWhereThereIsNoFolder) {
+    for (const auto& path : {disk->Path(R"(missing\a.sys)"), "a.sys"s, ""s}) {
+        EXPECT_EQ(Files().FreeBytes(path), std::nullopt) << path;
+    }
 }
 
 // Certainty about a path

@@ -39,6 +39,8 @@ class MemoryFaults : public ::testing::Test {
         results.push_back(disk.CopyPermissions(R"(\SYS\a.sys)", R"(\SYS\b.sys)"));
         results.push_back(disk.Delete(R"(\SYS\a.sys)"));
         results.push_back(disk.Rename(R"(\SYS\b.sys)", R"(\SYS\c.sys)"));
+        results.push_back(disk.MakePrivateFolder(R"(\SYS\deep)"));
+        results.push_back(disk.FilesIn(R"(\SYS)").empty() ? FileError::Other : FileError::None);
         return results;
     }
 
@@ -50,7 +52,7 @@ class MemoryFaults : public ::testing::Test {
     MemoryFileSystem disk{Windows1252()};
 };
 
-constexpr std::size_t kOperations = 11;
+constexpr std::size_t kOperations = 13;
 
 TEST_F(MemoryFaults, DoNotComeWithoutAPlan) {
     EXPECT_THAT(DoEverything(), ::testing::Each(FileError::None));
@@ -71,7 +73,8 @@ TEST_F(MemoryFaults, LeaveARecordOfEveryOperationInItsOrder) {
                             R"(Close \SYS\a.sys)", R"(Create \SYS\new.tmp)", R"(Write \SYS\new.tmp)",
                             R"(Flush \SYS\new.tmp)", R"(Close \SYS\new.tmp)",
                             R"(CopyPermissions \SYS\a.sys -> \SYS\b.sys)", R"(Delete \SYS\a.sys)",
-                            R"(Rename \SYS\b.sys -> \SYS\c.sys)"));
+                            R"(Rename \SYS\b.sys -> \SYS\c.sys)", R"(MakePrivateFolder \SYS\deep)",
+                            R"(FilesIn \SYS)"));
 }
 
 TEST_F(MemoryFaults, StrikeEachKindOfOperation) {
@@ -123,12 +126,14 @@ TEST_F(MemoryFaults, CarryTheErrorOfThePlan) {
 TEST_F(MemoryFaults, ChangeNothing) {
     for (const auto& operation :
          {+[](MemoryFileSystem& d) { return d.Delete(R"(\SYS\a.sys)"); },
+          +[](MemoryFileSystem& d) { return d.MakePrivateFolder(R"(\SYS\deep)"); },
           +[](MemoryFileSystem& d) { return d.Rename(R"(\SYS\a.sys)", R"(\SYS\c.sys)"); },
           +[](MemoryFileSystem& d) { return d.Create(R"(\SYS\a.sys)").error; }}) {
         disk.Plan({.operation = 1});
         EXPECT_EQ(operation(disk), FileError::Other);
         EXPECT_THAT(disk.Get(R"(\SYS\a.sys)"), Optional("12345678"s));
         EXPECT_THAT(disk.Names(R"(\SYS)"), ElementsAre("a.sys", "b.sys"));
+        EXPECT_FALSE(disk.PathExists(R"(\SYS\deep)"));
     }
 }
 

@@ -66,6 +66,22 @@ TEST_F(MemoryFileSystemTest, GivesNewFilesTheUsualPermissions) {
     EXPECT_EQ(disk.Permissions(R"(\c.sys)"), std::nullopt);
 }
 
+TEST_F(MemoryFileSystemTest, GivesFoldersPermissionsToo) {
+    disk.AddFolder(R"(\SYS)");
+    EXPECT_THAT(disk.Permissions(R"(\sys)"), Optional(0755U));
+    EXPECT_EQ(disk.MakePrivateFolder(R"(\SYS\deep)"), FileError::None);
+    EXPECT_THAT(disk.Permissions(R"(\SYS\DEEP)"), Optional(0700U));
+    EXPECT_THAT(disk.Permissions(R"(\SYS)"), Optional(0755U));
+}
+
+TEST_F(MemoryFileSystemTest, HasAsMuchRoomAsItsCapacityLeaves) {
+    disk.Put(R"(\SYS\a.sys)", "12345");
+    disk.SetCapacity(12);
+    EXPECT_THAT(disk.FreeBytes(R"(\SYS\b.sys)"), Optional(7U));
+    disk.SetCapacity(4);
+    EXPECT_THAT(disk.FreeBytes(R"(\SYS\a.sys)"), Optional(0U));
+}
+
 TEST_F(MemoryFileSystemTest, HasPermissionsForFilesThatExistOnly) {
     disk.SetPermissions(R"(\a.sys)", 0600);
     disk.Put(R"(\a.sys)", "");

@@ -103,6 +103,7 @@ class PosixStart final : public Start {
 
     TemporaryFolder folder_;
     EnvironmentVariable directory_{"ZYSETUP_SYSTEM_DIR", folder_.Path().string()};
+    EnvironmentVariable state_{"XDG_STATE_HOME", folder_.Path("state")};
     EnvironmentVariable locale_{"LC_ALL", "C"};
     PosixWorld world_{2, kArguments};
 };

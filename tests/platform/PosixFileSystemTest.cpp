@@ -72,6 +72,20 @@ class PosixFileSystemTest : public ::testing::Test {
         return status.st_mode & 07777U;
     }
 
+    static uid_t OwnerOf(const std::string& path) {
+        struct stat status {};
+        EXPECT_EQ(::stat(path.c_str(), &status), 0);
+        return status.st_uid;
+    }
+
+    std::vector<std::string> NamesIn(const std::string& path) {
+        std::vector<std::string> names;
+        for (const auto& file : files.FilesIn(path)) {
+            names.push_back(file.name);
+        }
+        return names;
+    }
+
     /// The numbers of the descriptors of this process that are open on a file.
     std::vector<int> DescriptorsOf(std::string_view name) {
         std::vector<int> numbers;
@@ -228,6 +242,18 @@ TEST_F(PosixFileSystemTest, SaysThatAFileMayNotBeWrittenThatMayBeReplaced) {
     EXPECT_EQ(files.MayReplace(Path("a.sys")), FileError::None);
 }
 
+TEST_F(PosixFileSystemTest, SaysThatSomebodyElsesFileMayNotBeReplacedInAFolderForEverybodysFiles) {
+    const TemporaryFolder everybodys;
+    everybodys.Put("a.sys", "somebody else's");
+    fs::permissions(everybodys.Path(), fs::perms(01777));
+    const OrdinaryUser user(folder.Path());
+    if (OwnerOf(everybodys.Path("a.sys")) == ::geteuid()) {
+        GTEST_SKIP() << "The user of this test cannot make somebody else's file.";
+    }
+    EXPECT_EQ(files.MayReplace(everybodys.InsidePath("a.sys")), FileError::AccessDenied);
+    EXPECT_EQ(files.MayReplace(everybodys.InsidePath("new.sys")), FileError::None);
+}
+
 TEST_F(PosixFileSystemTest, RenamesTheFileThatALinkLeadsTo) {
     folder.Put("target.sys", "bytes");
     fs::create_symlink("target.sys", folder.Path("link.sys"));
@@ -291,6 +317,55 @@ TEST_F(PosixFileSystemTest, CreatesANameThatTheCodePageCannotExpress) {
 TEST_F(PosixFileSystemTest, WritesNamesInUtf8) {
     files.Create(Path("\x80\xE4.sys"));
     EXPECT_THAT(folder.Names(), ElementsAre("€ä.sys"));
+}
+
+TEST_F(PosixFileSystemTest, ListsRegularFilesWhoseNamesTheCodePageHasAndNothingElse) {
+    for (const char* name : {"€ä.sys", "Ω.sys", "a\\b.sys", "\xFF.sys"}) {
+        folder.Put(name, "");
+    }
+    folder.AddFolder("folder");
+    AddPipe("pipe");
+    fs::create_symlink("€ä.sys", folder.Path("link.sys"));
+    fs::create_symlink("nowhere", folder.Path("nowhere.sys"));
+    EXPECT_THAT(NamesIn(folder.InsidePath()), ElementsAre("\x80\xE4.sys"));
+}
+
+TEST_F(PosixFileSystemTest, MakesFoldersForTheUserAloneWhateverTheCreationMask) {
+    const CreationMask mask(0000);
+    EXPECT_EQ(files.MakePrivateFolder(Path(R"(new\deep)")), FileError::None);
+    EXPECT_EQ(Mode("new"), 0700U);
+    EXPECT_EQ(Mode("new/deep"), 0700U);
+}
+
+TEST_F(PosixFileSystemTest, TakesNoLinkForAFolderOfTheUsersOwn) {
+    folder.AddFolder("target");
+    folder.Put("target.sys", "");
+    fs::permissions(folder.Path("target"), fs::perms{0755});
+    for (const char* target : {"target", "target.sys", "nowhere"}) {
+        fs::create_symlink(target, folder.Path("link"));
+        EXPECT_EQ(files.MakePrivateFolder(Path("LINK")), FileError::AccessDenied) << target;
+        fs::remove(folder.Path("link"));
+    }
+    EXPECT_EQ(Mode("target"), 0755U);
+    EXPECT_FALSE(fs::exists(folder.Path("nowhere")));
+}
+
+TEST_F(PosixFileSystemTest, TakesNoFolderOfSomebodyElseForTheUsersOwn) {
+    folder.AddFolder("theirs");
+    fs::permissions(folder.Path("theirs"), fs::perms{0777});
+    if (::chown(folder.Path("theirs").c_str(), ::geteuid() + 1, ::getegid()) != 0) {
+        GTEST_SKIP() << "The user of this test may not give a folder away.";
+    }
+    EXPECT_EQ(files.MakePrivateFolder(Path("theirs")), FileError::AccessDenied);
+    EXPECT_EQ(Mode("theirs"), 0777U);
+}
+
+TEST_F(PosixFileSystemTest, LetsTheFolderThatALinkLeadsIntoSayHowMuchCouldBeWritten) {
+    folder.AddFolder("shared");
+    fs::create_symlink("shared/target.sys", folder.Path("link.sys"));
+    EXPECT_NE(files.FreeBytes(Path("link.sys")), std::nullopt);
+    fs::remove(folder.Path("shared"));
+    EXPECT_EQ(files.FreeBytes(Path("link.sys")), std::nullopt);
 }
 
 TEST_F(PosixFileSystemTest, ReportsANameThatIsTooLong) {

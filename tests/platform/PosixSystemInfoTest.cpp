@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <langinfo.h>
 #include <sys/stat.h>
 
 #include <chrono>
@@ -9,6 +10,8 @@
 #include <cstdint>
 #include <ctime>
 #include <filesystem>
+#include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -79,6 +82,26 @@ TEST(SystemDirectory, IsMadeAmongTheUsersDataWhenTheEnvironmentNamesNone) {
     }
 }
 
+// The state folder
+
+TEST(StateFolder, IsTheProgramsOwnAmongTheStateOfPrograms) {
+    const EnvironmentVariable state("XDG_STATE_HOME", "/home/u/My State/");
+    EXPECT_EQ(Started().StateFolder(), R"(\home\u\My State\zysetup)");
+}
+
+TEST(StateFolder, IsInTheHomeFolderWhereTheEnvironmentNamesNone) {
+    const EnvironmentVariable home("HOME", "/home/Gr\u00F6\u00DFe");
+    const EnvironmentVariable state("XDG_STATE_HOME", std::nullopt);
+    EXPECT_EQ(Started().StateFolder(), "\\home\\Gr\xF6\xDF\x65\\.local\\state\\zysetup");
+}
+
+TEST(StateFolder, IsNoneWhereTheCodePageLacksALetterOfIt) {
+    for (const char* name : {"/home/\u03A9", "/home/\xFF", "/home/a\\b"}) {
+        const EnvironmentVariable state("XDG_STATE_HOME", name);
+        EXPECT_EQ(Started().StateFolder(), "") << name;
+    }
+}
+
 // The command line
 
 TEST(CommandLine, IsEmptyWithoutArguments) {
@@ -116,45 +139,80 @@ void AppendNumber(std::string& bytes, std::uint32_t number) {
     bytes.append(reinterpret_cast<const char*>(&number), sizeof number);
 }
 
-/// An installed locale of the test's own: the file in which the C library looks up how numbers are written.
-class NumberLocale {
+/// A category of a locale: the file in which the C library looks up how numbers, or times, are written.
+struct LocaleCategory {
+    int number;
+    const char* name;
+    nl_item end; ///< behind its last item
+};
+
+/// An installed locale of the test's own, of that category alone. The items that are not given are empty.
+class OwnLocale {
   public:
-    explicit NumberLocale(const std::string& separator) {
+    OwnLocale(const LocaleCategory& category, const std::map<nl_item, std::string>& items)
+        : category_(category.name, "test_LOCALE") {
         folder_.AddFolder("test_LOCALE");
-        folder_.Put("test_LOCALE/LC_NUMERIC", File(separator));
+        folder_.Put(std::string("test_LOCALE/") + category.name, File(category, items));
     }
 
   private:
-    /// A mark, the number of entries, where each one starts, and then the entries: decimal separator,
-    /// thousands separator, grouping, both separators as wide characters, and the character set.
-    static std::string File(const std::string& separator) {
-        constexpr std::uint32_t kMark = 0x20031114;
-        constexpr std::uint32_t kEntries = 6;
-        constexpr std::uint32_t kHeader = (2 + kEntries) * sizeof(std::uint32_t);
-        constexpr std::uint32_t kSlot = 8;
-        std::string entries;
-        const auto add = [&entries](const std::string& entry) {
-            entries += entry + std::string(kSlot - entry.size(), '\0');
-        };
-        add(separator);
-        add("");
-        add("\x7F");
-        add("");
-        add("");
-        add("UTF-8");
-        std::string file;
-        AppendNumber(file, kMark);
-        AppendNumber(file, kEntries);
-        for (std::uint32_t entry = 0; entry < kEntries; ++entry) {
-            AppendNumber(file, kHeader + entry * kSlot);
+    /// A mark, the number of items, where each one starts, and then the items.
+    static std::string File(const LocaleCategory& category, const std::map<nl_item, std::string>& items) {
+        constexpr std::uint32_t kMark = 0x20031115;
+        constexpr std::uint32_t kSlot = 16;
+        const auto count = NumberOf(category.end);
+        std::string slots(std::size_t{count} * kSlot, '\0');
+        for (const auto& [item, text] : items) {
+            slots.replace(std::size_t{NumberOf(item)} * kSlot, text.size(), text);
         }
-        return file + entries;
+        std::string file;
+        AppendNumber(file, kMark ^ static_cast<std::uint32_t>(category.number));
+        AppendNumber(file, count);
+        const auto header = (2 + count) * static_cast<std::uint32_t>(sizeof(std::uint32_t));
+        for (std::uint32_t item = 0; item < count; ++item) {
+            AppendNumber(file, header + item * kSlot);
+        }
+        return file + slots;
     }
+
+    /// The number of an item in its category.
+    static std::uint32_t NumberOf(nl_item item) { return static_cast<std::uint32_t>(item) & 0xFFFFU; }
 
     TemporaryFolder folder_;
     EnvironmentVariable path_{"LOCPATH", folder_.Path().string()};
     EnvironmentVariable all_{"LC_ALL", std::nullopt};
-    EnvironmentVariable numeric_{"LC_NUMERIC", "test_LOCALE"};
+    EnvironmentVariable category_;
+};
+
+class NumberLocale : public OwnLocale {
+  public:
+    explicit NumberLocale(const std::string& separator)
+        : OwnLocale({LC_NUMERIC, "LC_NUMERIC", _NL_NUM_LC_NUMERIC}, {{RADIXCHAR, separator}}) {}
+};
+
+/// Where the user is.
+class TimeZone {
+  public:
+    explicit TimeZone(const char* zone) : variable_(std::in_place, "TZ", zone) { ::tzset(); }
+    TimeZone(const TimeZone&) = delete;
+    TimeZone& operator=(const TimeZone&) = delete;
+    ~TimeZone() {
+        variable_.reset();
+        ::tzset();
+    }
+
+  private:
+    std::optional<EnvironmentVariable> variable_;
+};
+
+/// Where the user is and how times are written there.
+class TimeLocale : public OwnLocale {
+  public:
+    TimeLocale(const std::string& date, const std::string& clock)
+        : OwnLocale({LC_TIME, "LC_TIME", _NL_NUM_LC_TIME}, {{D_FMT, date}, {T_FMT, clock}}) {}
+
+  private:
+    TimeZone zone_{"UTC-2"};
 };
 
 TEST(DecimalSeparator, IsThatOfTheUsersLocale) {
@@ -186,14 +244,51 @@ TEST(DecimalSeparator, LeavesTheLocaleOfTheProgramAlone) {
 
 TEST(Today, IsTheDateWhereTheUserIs) {
     const auto dateIn = [](const char* zone) {
-        const EnvironmentVariable variable("TZ", zone);
-        ::tzset();
+        const TimeZone user(zone);
         return std::chrono::sys_days(Started().Today());
     };
     const auto now = std::chrono::floor<std::chrono::days>(std::chrono::system_clock::now());
     EXPECT_LE(std::chrono::abs(dateIn("UTC") - now), std::chrono::days(1))
         << "midnight may have come in between";
     EXPECT_GE(dateIn("UTC-26") - dateIn("UTC+24"), std::chrono::days(2)) << "fifty hours apart";
+}
+
+// Times
+
+constexpr auto kTime = std::chrono::sys_days(std::chrono::year(2026) / 11 / 22) + std::chrono::hours(12) +
+                       std::chrono::minutes(7) + std::chrono::seconds(5);
+
+TEST(TimeText, IsWrittenAsTheUsersLocaleWritesItWhereTheUserIs) {
+    const TimeLocale locale("%d.%m.%Y", "%H:%M:%S");
+    EXPECT_EQ(Started().TimeText(kTime), "22.11.2026 14:07:05");
+}
+
+TEST(TimeText, IsTakenThroughTheCodePage) {
+    const TimeLocale locale("%d\u00BA%m", "%Hh");
+    EXPECT_EQ(Started().TimeText(kTime), "22\xBA\x31\x31 14h");
+}
+
+TEST(TimeText, IsPlainWhereTheCodePageLacksWhatTheLocaleWrites) {
+    for (const char* date : {"%Y\u5E74%m", "%Y\xFF"}) {
+        const TimeLocale locale(date, "%H:%M:%S");
+        EXPECT_EQ(Started().TimeText(kTime), "2026-11-22 14:07:05");
+    }
+}
+
+TEST(TimeText, IsPlainWhereTheLocaleIsNotInstalled) {
+    const TimeZone zone("UTC-2");
+    const EnvironmentVariable all("LC_ALL", "xx_XX.UTF-8");
+    EXPECT_EQ(Started().TimeText(kTime), "2026-11-22 14:07:05");
+}
+
+TEST(Now, IsWhatTheClockShows) {
+    const auto clock = [] {
+        return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+    };
+    const auto before = clock();
+    const auto now = Started().Now();
+    EXPECT_LE(before, now);
+    EXPECT_LE(now, clock());
 }
 
 } // namespace

@@ -104,8 +104,25 @@ TEST(PosixWorldTest, MakesNoFolderBeforeItIsAskedForOne) {
     const TemporaryFolder folder;
     const EnvironmentVariable none("ZYSETUP_SYSTEM_DIR", std::nullopt);
     const EnvironmentVariable data("XDG_DATA_HOME", folder.Path("data"));
-    const PosixWorld world(2, kArguments);
+    const EnvironmentVariable state("XDG_STATE_HOME", folder.Path("state"));
+    PosixWorld world(2, kArguments);
     EXPECT_FALSE(std::filesystem::exists(folder.Path("data")));
+    EXPECT_NE(world.system.StateFolder(), "");
+    EXPECT_FALSE(std::filesystem::exists(folder.Path("state")));
+}
+
+TEST(PosixWorldTest, ReachesItsStateFolderHoweverThatIsCalledAndWhateverStandsBesideIt) {
+    for (const char* name : {"state", "My State", "Gr\u00F6\u00DFe", "./state/../x/", "a//b"}) {
+        const TemporaryFolder folder;
+        folder.AddFolder("STATE/ZYSETUP");
+        folder.AddFolder("x/ZYSETUP");
+        const EnvironmentVariable state("XDG_STATE_HOME", folder.Path().string() + '/' + name);
+        std::filesystem::create_directories(folder.Path(name));
+        PosixWorld world(2, kArguments);
+        const auto kept = world.codePage.UCase(world.system.StateFolder()) + R"(\BACKUPS)";
+        EXPECT_EQ(world.files.MakePrivateFolder(kept), FileError::None);
+        EXPECT_TRUE(std::filesystem::is_directory(folder.Path(name) + "/zysetup/BACKUPS")) << name;
+    }
 }
 
 TEST(PosixWorldTest, RecyclesTheTableThatItReads) {

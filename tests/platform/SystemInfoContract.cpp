@@ -89,5 +89,28 @@ TEST_P(SystemInfoContract, GivesADateOfTheCalendar) {
     EXPECT_TRUE(start->System().Today().ok());
 }
 
+TEST_P(SystemInfoContract, GivesAStateFolderWithoutABackslashAtItsEnd) {
+    const auto folder = start->System().StateFolder();
+    EXPECT_NE(folder, "");
+    EXPECT_THAT(folder, Not(EndsWith("\\")));
+    EXPECT_EQ(start->System().StateFolder(), folder);
+}
+
+TEST_P(SystemInfoContract, GivesATimeThatDoesNotGoBack) {
+    const auto first = start->System().Now();
+    EXPECT_GE(start->System().Now(), first);
+}
+
+TEST_P(SystemInfoContract, GivesTheTextOfATimeToTheSecond) {
+    using namespace std::chrono_literals;
+    const auto time = std::chrono::sys_days(2026y / 11 / 22) + 14h + 7min + 5s;
+    const auto text = start->System().TimeText(time);
+    EXPECT_EQ(start->System().TimeText(time), text);
+    EXPECT_THAT(text, HasSubstr("26"));
+    for (const auto other : {time + 1s, time + 1min, time + 1h, time + 24h}) {
+        EXPECT_NE(start->System().TimeText(other), text);
+    }
+}
+
 } // namespace
 } // namespace zy::test

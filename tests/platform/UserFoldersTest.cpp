@@ -10,6 +10,7 @@
 
 #include "support/AnotherDisk.h"
 #include "support/EnvironmentVariable.h"
+#include "support/OrdinaryUser.h"
 #include "support/TemporaryFolder.h"
 
 namespace zy::test {
@@ -67,6 +68,11 @@ TEST(UserStateFolderTest, IsTheOneThatTheEnvironmentNamesElseInTheHomeFolder) {
     EXPECT_EQ(UserStateFolder(), "/home/u/.local/state");
     const EnvironmentVariable unset("XDG_STATE_HOME", std::nullopt);
     EXPECT_EQ(UserStateFolder(), "/home/u/.local/state");
+}
+
+TEST(OwnFolderInTest, IsCalledAsTheProductAndIsNoneInNone) {
+    EXPECT_EQ(OwnFolderIn("/home/u/.local/state"), "/home/u/.local/state/zysetup");
+    EXPECT_EQ(OwnFolderIn(""), "");
 }
 
 /// The folder for what must reach no disk, when the environment names this one.
@@ -134,7 +140,7 @@ TEST(UserDataFolderTest, IsFoundThroughTheUserDatabaseWithoutAHomeInTheEnvironme
 
 TEST(MakeFoldersTest, MakesEveryFolderThatIsMissingForTheUserAlone) {
     const TemporaryFolder folder;
-    EXPECT_TRUE(MakeFolders(folder.Path("a/b/c")));
+    EXPECT_EQ(MakeFolders(folder.Path("a/b/c")), FileError::None);
     EXPECT_EQ(Mode(folder.Path("a")), 0700U);
     EXPECT_EQ(Mode(folder.Path("a/b")), 0700U);
     EXPECT_EQ(Mode(folder.Path("a/b/c")), 0700U);
@@ -144,15 +150,26 @@ TEST(MakeFoldersTest, LeavesFoldersThatExistAsTheyAre) {
     const TemporaryFolder folder;
     folder.AddFolder("a");
     std::filesystem::permissions(folder.Path("a"), std::filesystem::perms{0755});
-    EXPECT_TRUE(MakeFolders(folder.Path("a")));
+    EXPECT_EQ(MakeFolders(folder.Path("a")), FileError::None);
     EXPECT_EQ(Mode(folder.Path("a")), 0755U);
 }
 
-TEST(MakeFoldersTest, FailsWhereAFileIsInTheWay) {
+TEST(MakeFoldersTest, SaysThatAFileIsInTheWay) {
     const TemporaryFolder folder;
     folder.Put("a", "");
-    EXPECT_FALSE(MakeFolders(folder.Path("a")));
-    EXPECT_FALSE(MakeFolders(folder.Path("a/b")));
+    EXPECT_EQ(MakeFolders(folder.Path("a")), FileError::Exists);
+    EXPECT_EQ(MakeFolders(folder.Path("a/b/c")), FileError::Exists);
+}
+
+TEST(MakeFoldersTest, SaysThatTheUserMayMakeNoneThere) {
+    const TemporaryFolder folder;
+    const OrdinaryUser user(folder.Path());
+    std::filesystem::permissions(folder.Path(), std::filesystem::perms{0500});
+    EXPECT_EQ(MakeFolders(folder.Path("a/b")), FileError::AccessDenied);
+}
+
+TEST(MakeFoldersTest, SaysThatThereIsNoPathToMake) {
+    EXPECT_EQ(MakeFolders(""), FileError::NotFound);
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include <windows.h>
 
 #include <array>
+#include <fstream>
 #include <string>
 
 #include "WindowsPermissions.h"
@@ -187,6 +188,40 @@ TEST_F(WindowsFileSystemTest, CopiesPermissionsToAFileThatIsOpenElsewhere) {
     const auto open = OpenAside("b.sys", GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE);
     EXPECT_EQ(files.CopyPermissions(Path("a.sys"), Path("b.sys")), FileError::None);
     EXPECT_THAT(AccessFigures(Path("b.sys")), Optional(0604U));
+}
+
+// Folders for the user alone
+
+TEST_F(WindowsFileSystemTest, GivesAFolderToTheUserAndNobodyElse) {
+    constexpr unsigned kReadWriteForOwner = 0600;
+    EXPECT_EQ(files.MakePrivateFolder(Path(R"(new\deep)")), FileError::None);
+    EXPECT_EQ(AccessFigures(Path("new")), kReadWriteForOwner);
+    EXPECT_EQ(AccessFigures(Path(R"(new\deep)")), kReadWriteForOwner);
+    folder.AddFolder("old");
+    ASSERT_TRUE(SetAccess(Path("old"), "FRFWFX", "FRFX"));
+    EXPECT_EQ(files.MakePrivateFolder(Path("old")), FileError::None);
+    EXPECT_EQ(AccessFigures(Path("old")), kReadWriteForOwner);
+}
+
+TEST_F(WindowsFileSystemTest, TakesNoLinkForAFolderOfTheUsersOwn) {
+    folder.AddFolder("target");
+    const auto link = folder.Path() / "link";
+    if (::CreateSymbolicLinkW(link.c_str(), (folder.Path() / "target").c_str(),
+                              SYMBOLIC_LINK_FLAG_DIRECTORY) == FALSE) {
+        GTEST_SKIP() << "The user of this test may make no links.";
+    }
+    EXPECT_EQ(files.MakePrivateFolder(Path("link")), FileError::AccessDenied);
+}
+
+TEST_F(WindowsFileSystemTest, ListsNoFileWhoseNameTheCodePageLacks) {
+    folder.Put("a.sys", "12345");
+    for (const wchar_t* name : {L"\u0416.sys", L"\u0100.sys"}) { // the second has a letter much like it
+        std::ofstream(folder.Path() / name) << "x";
+    }
+    const auto found = files.FilesIn(folder.InsidePath());
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found.front().name, "a.sys");
+    EXPECT_EQ(found.front().size, 5U);
 }
 
 // Large and long

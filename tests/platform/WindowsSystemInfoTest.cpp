@@ -9,26 +9,38 @@
 #include <ctime>
 #include <string>
 
+#include "platform/windows/StateFolder.h"
 #include "platform/windows/WindowsFileSystem.h"
 
 namespace zy::test {
 namespace {
 
-/// The user's decimal separator, for as long as this lives.
-class UsersDecimalSeparator {
+/// A setting of the user's locale, for as long as this lives.
+class UsersSetting {
   public:
-    explicit UsersDecimalSeparator(const char* separator) {
-        ::GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, before_.data(),
-                         static_cast<int>(before_.size()));
-        ::SetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, separator);
+    UsersSetting(LCTYPE setting, const wchar_t* value) : setting_(setting) {
+        ::GetLocaleInfoW(LOCALE_USER_DEFAULT, setting_, before_.data(), static_cast<int>(before_.size()));
+        ::SetLocaleInfoW(LOCALE_USER_DEFAULT, setting_, value);
     }
-    UsersDecimalSeparator(const UsersDecimalSeparator&) = delete;
-    UsersDecimalSeparator& operator=(const UsersDecimalSeparator&) = delete;
-    ~UsersDecimalSeparator() { ::SetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, before_.data()); }
+    UsersSetting(const UsersSetting&) = delete;
+    UsersSetting& operator=(const UsersSetting&) = delete;
+    ~UsersSetting() { ::SetLocaleInfoW(LOCALE_USER_DEFAULT, setting_, before_.data()); }
 
   private:
-    std::array<char, 8> before_{};
+    LCTYPE setting_;
+    std::array<wchar_t, 80> before_{};
 };
+
+constexpr auto kTime = std::chrono::sys_days(std::chrono::year(2026) / 11 / 22) + std::chrono::hours(12) +
+                       std::chrono::minutes(7) + std::chrono::seconds(5);
+
+/// That time where the user is.
+std::string LocalText(const char* form) {
+    const std::time_t time = std::chrono::system_clock::to_time_t(kTime);
+    std::array<char, 80> text{};
+    std::strftime(text.data(), text.size(), form, std::localtime(&time));
+    return text.data();
+}
 
 TEST(WindowsSystemInfoTest, NamesTheRunningProgramWhateverItsCommandLineSays) {
     for (const auto& system : {WindowsSystemInfo(), WindowsSystemInfo("else.exe @RULES")}) {
@@ -49,14 +61,14 @@ TEST(WindowsSystemInfoTest, GivesTheSystemDirectoryOfWindows) {
 }
 
 TEST(WindowsSystemInfoTest, GivesTheDecimalSeparatorThatTheUserHasSet) {
-    for (const char* separator : {",", ".", "'"}) {
-        const UsersDecimalSeparator set(separator);
-        EXPECT_EQ(WindowsSystemInfo().DecimalSeparator(), *separator);
+    for (const wchar_t* separator : {L",", L".", L"'"}) {
+        const UsersSetting set(LOCALE_SDECIMAL, separator);
+        EXPECT_EQ(WindowsSystemInfo().DecimalSeparator(), static_cast<char>(*separator));
     }
 }
 
 TEST(WindowsSystemInfoTest, GivesAPointWhereTheDecimalSeparatorIsMoreThanOneCharacter) {
-    const UsersDecimalSeparator set("..");
+    const UsersSetting set(LOCALE_SDECIMAL, L"..");
     EXPECT_EQ(WindowsSystemInfo().DecimalSeparator(), '.');
 }
 
@@ -71,6 +83,21 @@ TEST(WindowsSystemInfoTest, GivesTheDateWhereTheUserIs) {
     const auto before = today();
     const auto given = WindowsSystemInfo().Today();
     EXPECT_TRUE(given == before || given == today()) << "midnight may have come in between";
+}
+
+TEST(WindowsSystemInfoTest, GivesAStateFolderThatStaysOnThisComputer) {
+    EXPECT_EQ(WindowsSystemInfo().StateFolder(), InsideOwnFolderIn(UsersLocalFolder()));
+}
+
+TEST(WindowsSystemInfoTest, WritesTimesAsTheUserHasSet) {
+    const UsersSetting date(LOCALE_SSHORTDATE, L"dd.MM.yyyy");
+    const UsersSetting clock(LOCALE_STIMEFORMAT, L"HH:mm:ss");
+    EXPECT_EQ(WindowsSystemInfo().TimeText(kTime), LocalText("%d.%m.%Y %H:%M:%S"));
+}
+
+TEST(WindowsSystemInfoTest, WritesTimesPlainlyWhereTheCodePageLacksWhatTheUserHasSet) {
+    const UsersSetting date(LOCALE_SSHORTDATE, L"yyyy'\u0416'MM");
+    EXPECT_EQ(WindowsSystemInfo().TimeText(kTime), LocalText("%Y-%m-%d %H:%M:%S"));
 }
 
 } // namespace

@@ -21,12 +21,15 @@ class FilesThatLock : public FileSystem {
     MOCK_METHOD(LockedFolder, LockFolderOf, (std::string_view), (override));
     MOCK_METHOD(FileError, MayReplace, (std::string_view), (override));
     MOCK_METHOD(FileError, MayOverwrite, (std::string_view), (override));
+    MOCK_METHOD(std::optional<std::uint64_t>, FreeBytes, (std::string_view), (override));
     MOCK_METHOD(bool, Exists, (std::string_view), (override));
     MOCK_METHOD(bool, PathExists, (std::string_view), (override));
+    MOCK_METHOD(std::vector<FoundFile>, FilesIn, (std::string_view), (override));
     MOCK_METHOD(OpenedFile, OpenForReading, (std::string_view), (override));
     MOCK_METHOD(OpenedFile, OpenAlwaysForReading, (std::string_view), (override));
     MOCK_METHOD(OpenedFile, Create, (std::string_view), (override));
     MOCK_METHOD(OpenedFile, CreatePrivate, (std::string_view), (override));
+    MOCK_METHOD(FileError, MakePrivateFolder, (std::string_view), (override));
     MOCK_METHOD(FileError, Delete, (std::string_view), (override));
     MOCK_METHOD(FileError, Rename, (std::string_view, std::string_view), (override));
     MOCK_METHOD(FileError, CopyPermissions, (std::string_view, std::string_view), (override));
