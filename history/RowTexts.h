@@ -6,8 +6,9 @@
 #include <vector>
 
 // history: what was done to a list can be taken back and done again. A list is rows of texts to it (RowList);
-// the Recorder makes steps of what happens to one, the History keeps them. It knows no editor and no control,
-// and calls the standard library alone.
+// the Recorder makes steps of what happens to one, the History keeps them. CompareRows tells how two lists
+// differ, RowMerge makes one of two that were changed apart. It knows no editor and no control, and calls the
+// standard library alone.
 
 namespace zy {
 

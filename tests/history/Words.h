@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <iterator>
 #include <random>
 #include <sstream>
 #include <string>
@@ -14,14 +15,18 @@ namespace zy::test {
 // Short lists to compare, each row a word: "a1 b2" is a row of the key "a" with the text "1", and one of the
 // key "b" with the text "2".
 
-inline RowTexts List(const std::string& words) {
+inline RowTexts List(const std::vector<std::string>& words) {
     RowTexts rows(2);
-    std::istringstream stream(words);
-    for (std::string word; stream >> word;) {
+    for (const auto& word : words) {
         rows.Add(std::string_view(word).substr(0, 1));
         rows.Add(std::string_view(word).substr(1));
     }
     return rows;
+}
+
+inline RowTexts List(const std::string& words) {
+    std::istringstream stream(words);
+    return List(std::vector<std::string>(std::istream_iterator<std::string>(stream), {}));
 }
 
 inline std::string Key(const RowTexts& rows, int row) {
@@ -60,7 +65,7 @@ class RandomLists {
         for (int count = Below(7); count > 0; --count) {
             words.push_back(AnyWord());
         }
-        return List(Joined(words));
+        return List(words);
     }
 
     /// What somebody makes of a list, who does a few things to it.
@@ -69,7 +74,7 @@ class RandomLists {
         for (int count = Below(4); count > 0; --count) {
             Edit(words);
         }
-        return List(Joined(words));
+        return List(words);
     }
 
   private:
