@@ -12,10 +12,9 @@ struct RowDifference {
     enum class Kind { Added, Removed, Changed, Moved };
 
     Kind kind;
-    bool isMoved =
-        false; ///< the row stands elsewhere among those of both lists: always so of one that only moved
-    int before = kNoRow; ///< none of an added row
-    int after = kNoRow;  ///< none of a removed one
+    bool isMoved = false; ///< it stands elsewhere among the rows of both lists; always so of the kind Moved
+    int before = kNoRow;  ///< none of an added row
+    int after = kNoRow;   ///< none of a removed one
 
     friend bool operator==(const RowDifference&, const RowDifference&) = default;
 };

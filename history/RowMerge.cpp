@@ -90,6 +90,15 @@ std::vector<int> Woven(const std::vector<int>& order, const std::vector<int>& ot
     return woven;
 }
 
+/// The same, each in front of the one that follows it.
+std::vector<int> WovenInFront(std::vector<int> order, std::vector<int> others, std::size_t end) {
+    std::reverse(order.begin(), order.end());
+    std::reverse(others.begin(), others.end());
+    auto woven = Woven(order, others, end);
+    std::reverse(woven.begin(), woven.end());
+    return woven;
+}
+
 } // namespace
 
 RowMerge::RowMerge(const RowTexts& base, const RowTexts& mine, const RowTexts& theirs, const RowKey& key)
@@ -124,17 +133,25 @@ bool RowMerge::IsDecided() const {
            });
 }
 
-RowTexts RowMerge::Result() const {
-    const auto isTaken = [](const Row& row) { return row.Taken() != kNoRow; };
-    const auto mine = Those(mineOrder_, isTaken);
-    const auto theirs = Those(theirsOrder_, isTaken);
-    const auto order = order_.choice == Choice::Theirs ? Woven(theirs, mine, rows_.size())
-                                                       : Woven(mine, theirs, rows_.size());
-    RowTexts result(mine_.Columns());
-    for (const int row : order) {
-        result.AddRows(At(row).choice == Choice::Theirs ? theirs_ : mine_, At(row).Taken(), 1);
+RowTexts RowMerge::Result(const RowTexts& mineWhole, const RowTexts& theirsWhole) const {
+    RowTexts result(mineWhole.Columns());
+    for (const int row : OrderOfResult()) {
+        result.AddRows(At(row).choice == Choice::Theirs ? theirsWhole : mineWhole, At(row).Taken(), 1);
     }
     return result;
+}
+
+RowMerge::Order RowMerge::OrderOfResult() const {
+    const auto isTaken = [](const Row& row) { return row.Taken() != kNoRow; };
+    if (order_.change == Change::None && KeepsOrderOfBase(mineOrder_) && KeepsOrderOfBase(theirsOrder_)) {
+        // With the rows that are gone, each where it was: what was put in its place follows it.
+        const auto whole = WovenInFront(mineOrder_, OrderOf(base_, &Row::base), rows_.size());
+        return Those(Woven(whole, theirsOrder_, rows_.size()), isTaken);
+    }
+    const auto mine = Those(mineOrder_, isTaken);
+    const auto theirs = Those(theirsOrder_, isTaken);
+    return order_.choice == Choice::Theirs ? Woven(theirs, mine, rows_.size())
+                                           : Woven(mine, theirs, rows_.size());
 }
 
 void RowMerge::AddRowsOfBase(const RowPairs& mine, const RowPairs& theirs) {

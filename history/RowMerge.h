@@ -54,8 +54,11 @@ class RowMerge {
 
     /// The list that comes of it, with mine where nothing is decided yet. Its rows stand in the order of the
     /// side whose order is taken; those that this side does not have stand directly behind the row that they
-    /// follow on the other side, or the nearest one in front of that which the result still has.
-    RowTexts Result() const;
+    /// follow on the other side, or the nearest one in front of that which the result still has. Where nobody
+    /// changed the order, the order of each side is kept, and what one put in place of a row stands there.
+    RowTexts Result() const { return Result(mine_, theirs_); }
+    /// The same of the whole rows, where the lists that were compared have a part of their texts alone.
+    RowTexts Result(const RowTexts& mineWhole, const RowTexts& theirsWhole) const;
 
   private:
     /// Rows by their places in rows_.
@@ -66,6 +69,7 @@ class RowMerge {
     };
 
     const Row& At(int row) const { return rows_[static_cast<std::size_t>(row)]; }
+    Order OrderOfResult() const;
     void AddRowsOfBase(const RowPairs& mine, const RowPairs& theirs);
     void AddNewRows(const std::vector<int>& mine, const std::vector<int>& theirs, const RowKey& key);
     void DecideRows();

@@ -12,7 +12,7 @@ namespace zy {
 /// the row alone. Rows of one key can stand several times in a list.
 using RowKey = std::function<std::string(const RowTexts&, int row)>;
 
-constexpr int kNoRow = -1;
+inline constexpr int kNoRow = -1;
 
 /// Which rows of two lists are the same row.
 class RowPairs {

@@ -26,8 +26,8 @@ struct RowChange {
     bool ChangesNothing() const { return before == after; }
 };
 
-/// The fewest rows side by side whose change makes a list of the other one. Both begin at `first`, and have as
-/// many columns.
+/// The fewest rows side by side whose change makes a list of the other one. Both begin at `first`, and have
+/// as many columns.
 RowChange ChangeBetween(int first, const RowTexts& before, const RowTexts& after);
 
 /// One thing that somebody did to a list.
