@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -84,6 +85,8 @@ class FileSystem {
     virtual FileError MayReplace(std::string_view path) = 0;
     /// The same for one that is emptied and written where it stands, and created where there is none.
     virtual FileError MayOverwrite(std::string_view path) = 0;
+    /// When a file was written last, in the user's own time; nothing where there is none, or nobody can tell.
+    virtual std::optional<std::chrono::local_seconds> LastChange(std::string_view path) = 0;
     /// How many bytes could still be written in the folder of this path; nothing where the system cannot
     /// tell.
     virtual std::optional<std::uint64_t> FreeBytes(std::string_view path) = 0;

@@ -173,6 +173,11 @@ FileError MemoryFileSystem::MayOverwrite(std::string_view path) {
     return error == FileError::AccessDenied ? FileError::None : error;
 }
 
+std::optional<std::chrono::local_seconds> MemoryFileSystem::LastChange(std::string_view path) {
+    const auto found = lastChanges_.find(Key(path));
+    return found == lastChanges_.end() ? std::nullopt : std::optional(found->second);
+}
+
 std::optional<std::uint64_t> MemoryFileSystem::FreeBytes(std::string_view path) {
     const auto folder = FolderPart(Key(path));
     return folder && IsFolder(*folder) ? std::optional(Room()) : std::nullopt;
@@ -326,6 +331,18 @@ void MemoryFileSystem::SetPermissions(std::string_view path, unsigned permission
     if (const auto found = files_.find(key); found != files_.end()) {
         found->second->permissions = permissions;
     }
+}
+
+void MemoryFileSystem::SetLastChange(std::string_view path, std::chrono::local_seconds time) {
+    lastChanges_[Key(path)] = time;
+}
+
+std::vector<std::string> MemoryFileSystem::Paths() const {
+    std::vector<std::string> paths;
+    for (const auto& [path, file] : files_) {
+        paths.push_back(FolderPart(path).value_or("") + "\\" + file->name);
+    }
+    return paths;
 }
 
 void MemoryFileSystem::SetHidden(std::string_view path) {

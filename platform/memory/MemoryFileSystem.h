@@ -21,7 +21,7 @@ namespace zy {
 /// with. "/" counts as "\", several in a row as one. A file can be created only in a folder that exists.
 ///
 /// Each operation of FileSystem and of its handles is counted, recorded and subject to the fault plan, but
-/// for Size and what only asks or holds (DisplayPath, Locate, LockFolderOf, MayReplace, MayOverwrite,
+/// for Size and what only asks or holds (DisplayPath, Locate, LockFolderOf, LastChange, MayReplace, MayOverwrite,
 /// FreeBytes): a failing Exists or PathExists says false, a failing FilesIn finds none, a failing Read reads
 /// nothing, all others return the plan's error and change nothing, but that a Write may be cut short and a
 /// Close closes all the same. Destroying a handle
@@ -43,6 +43,7 @@ class MemoryFileSystem final : public FileSystem {
     FileError MayReplace(std::string_view path) override;
     FileError MayOverwrite(std::string_view path) override;
     /// The capacity that is left, or far more than anybody needs where there is no limit.
+    std::optional<std::chrono::local_seconds> LastChange(std::string_view path) override;
     std::optional<std::uint64_t> FreeBytes(std::string_view path) override;
     bool Exists(std::string_view path) override;
     bool PathExists(std::string_view path) override;
@@ -72,6 +73,11 @@ class MemoryFileSystem final : public FileSystem {
     std::optional<unsigned> Permissions(std::string_view path) const;
     /// Does nothing when there is none.
     void SetPermissions(std::string_view path, unsigned permissions);
+
+    /// From now on LastChange gives this time for the path.
+    void SetLastChange(std::string_view path, std::chrono::local_seconds time);
+    /// The paths of all files, in the order of their capitals.
+    std::vector<std::string> Paths() const;
 
     /// Hides a file: Exists does not find it, and it cannot be created anew over (AccessDenied). Does nothing
     /// when there is no such file.
@@ -146,6 +152,7 @@ class MemoryFileSystem final : public FileSystem {
     std::set<std::string> readOnlyFolders_;
     std::set<std::string> held_;
     std::set<std::string> unreadable_;
+    std::map<std::string, std::chrono::local_seconds> lastChanges_;
     std::map<std::string, FileError> uncertain_;
     std::string displayedFolder_;
     std::string displayed_;

@@ -8,6 +8,7 @@
 #include "basics/Text.h"
 #include "platform/posix/ErrorNumber.h"
 #include "platform/posix/FolderEntries.h"
+#include "platform/posix/LocalTime.h"
 #include "platform/posix/Moving.h"
 #include "platform/posix/PosixFile.h"
 #include "platform/posix/PosixFolderLock.h"
@@ -74,6 +75,13 @@ FileError PosixFileSystem::MayOverwrite(std::string_view path) {
     const auto place = paths_.ResolveLinks(path);
     const bool exists = place.error == FileError::None && Access(place.path, F_OK) == FileError::None;
     return exists && !IsFolder(place.path) ? Access(place.path, W_OK) : MayReplace(path);
+}
+
+std::optional<std::chrono::local_seconds> PosixFileSystem::LastChange(std::string_view path) {
+    const auto resolved = paths_.Resolve(path);
+    struct stat status {};
+    const bool isKnown = resolved && ::stat(resolved->c_str(), &status) == 0;
+    return isKnown ? std::optional(ToSeconds(LocalTime(status.st_mtime))) : std::nullopt;
 }
 
 std::optional<std::uint64_t> PosixFileSystem::FreeBytes(std::string_view path) {

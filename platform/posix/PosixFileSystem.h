@@ -25,6 +25,7 @@ class PosixFileSystem final : public FileSystem {
     FileError MayReplace(std::string_view path) override;
     FileError MayOverwrite(std::string_view path) override;
     /// Behind links, as for a lock.
+    std::optional<std::chrono::local_seconds> LastChange(std::string_view path) override;
     std::optional<std::uint64_t> FreeBytes(std::string_view path) override;
     bool Exists(std::string_view path) override;
     bool PathExists(std::string_view path) override;

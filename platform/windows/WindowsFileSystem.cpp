@@ -7,6 +7,7 @@
 #include "platform/windows/ErrorCode.h"
 #include "platform/windows/FilePermissions.h"
 #include "platform/windows/FolderEntries.h"
+#include "platform/windows/LocalTime.h"
 #include "platform/windows/PrivateFolder.h"
 #include "platform/windows/ProgramFolder.h"
 #include "platform/windows/RootedPath.h"
@@ -126,6 +127,14 @@ FileError WindowsFileSystem::MayReplace(std::string_view path) {
 FileError WindowsFileSystem::MayOverwrite(std::string_view path) {
     const auto rooted = RootedPath(path);
     return rooted ? MayOverwriteRooted(*rooted) : FileError::NotFound;
+}
+
+std::optional<std::chrono::local_seconds> WindowsFileSystem::LastChange(std::string_view path) {
+    const auto rooted = RootedPath(path);
+    WIN32_FILE_ATTRIBUTE_DATA found{};
+    const bool isKnown =
+        rooted && ::GetFileAttributesExA(rooted->c_str(), GetFileExInfoStandard, &found) != FALSE;
+    return isKnown ? std::optional(ToSeconds(LocalTime(found.ftLastWriteTime))) : std::nullopt;
 }
 
 std::optional<std::uint64_t> WindowsFileSystem::FreeBytes(std::string_view path) {

@@ -18,6 +18,7 @@ class WindowsFileSystem final : public FileSystem {
     LockedFolder LockFolderOf(std::string_view path) override;
     FileError MayReplace(std::string_view path) override;
     FileError MayOverwrite(std::string_view path) override;
+    std::optional<std::chrono::local_seconds> LastChange(std::string_view path) override;
     std::optional<std::uint64_t> FreeBytes(std::string_view path) override;
     /// A file that is hidden or the system's is no normal one.
     bool Exists(std::string_view path) override;

@@ -24,6 +24,7 @@ class FilesThatLock : public FileSystem {
     MOCK_METHOD(std::optional<std::uint64_t>, FreeBytes, (std::string_view), (override));
     MOCK_METHOD(bool, Exists, (std::string_view), (override));
     MOCK_METHOD(bool, PathExists, (std::string_view), (override));
+    MOCK_METHOD(std::optional<std::chrono::local_seconds>, LastChange, (std::string_view), (override));
     MOCK_METHOD(std::vector<FoundFile>, FilesIn, (std::string_view), (override));
     MOCK_METHOD(OpenedFile, OpenForReading, (std::string_view), (override));
     MOCK_METHOD(OpenedFile, OpenAlwaysForReading, (std::string_view), (override));
