@@ -6,10 +6,10 @@
 
 namespace zy {
 
-/// The line of short texts at the window's foot.
-class StatusBar : public Control {
+/// The line of short texts at the window's foot. What it contains stands at its right end.
+class StatusBar : public Container {
   public:
-    using Control::Control;
+    using Container::Container;
 
     const std::string& Text() const { return text_; }
     /// Raises `change` when the text differs from the one held.

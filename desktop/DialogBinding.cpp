@@ -35,7 +35,8 @@ bool TakesEnter(const wxWindow* focused) {
 DialogBinding::DialogBinding(const CodePage& codePage, EventGate& gate, Form& form, wxWindow* parent)
     : gate_(gate), form_(form),
       dialog_(parent, wxID_ANY, ToShown(codePage, form.Caption()), wxDefaultPosition, wxDefaultSize,
-              wxCAPTION | wxCLOSE_BOX | wxSYSTEM_MENU),
+              wxCAPTION | wxCLOSE_BOX | wxSYSTEM_MENU |
+                  (form.leastInnerSize ? wxRESIZE_BORDER | wxMAXIMIZE_BOX : 0)),
       context_{.codePage = codePage,
                .gate = gate,
                .controls = controls_,
@@ -56,6 +57,9 @@ DialogBinding::DialogBinding(const CodePage& codePage, EventGate& gate, Form& fo
     ObserveDotsPerInch(dialog_, [this] { Rescale(); });
     PlaceOn(parent);
     ConnectKeys();
+    if (form_.leastInnerSize) {
+        dialog_.Bind(wxEVT_SIZE, [this](wxSizeEvent&) { TellSize(); });
+    }
     dialog_.Bind(wxEVT_CLOSE_WINDOW,
                  [this](wxCloseEvent&) { gate_.Act([this] { form_.SetVisible(false); }); });
     dialog_.Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
@@ -73,6 +77,14 @@ void DialogBinding::TakeSize() {
     const wxSize size = context_.scale.ToPixels(form_.Bounds()).GetSize();
     dialog_.SetClientSize(size);
     inside_.window->SetSize(size);
+    if (form_.leastInnerSize) {
+        dialog_.SetMinClientSize(context_.scale.ToPixels(form_.LeastInnerSize()));
+    }
+}
+
+void DialogBinding::TellSize() {
+    inside_.window->SetSize(dialog_.GetClientSize());
+    gate_.Tell([this] { form_.SetInnerSize(context_.scale.ToTwips(dialog_.GetClientSize())); });
 }
 
 void DialogBinding::Rescale() {

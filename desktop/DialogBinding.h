@@ -29,6 +29,8 @@ class DialogBinding {
 
   private:
     void TakeSize();
+    /// Of a dialog that can be made larger.
+    void TellSize();
     void PlaceOn(wxWindow* parent);
     void Rescale();
     void ConnectKeys();

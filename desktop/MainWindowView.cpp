@@ -50,6 +50,15 @@ void MainWindowView::Open() {
         event.Skip();
         desktop_.Gate().Answer([this] { window_.idle.Raise(); });
     });
+    binding_->Frame().Bind(wxEVT_ACTIVATE, [this](wxActivateEvent& event) {
+        event.Skip();
+        if (event.GetActive()) {
+            desktop_.Gate().ActLater([this] {
+                window_.activated.Raise();
+                return true;
+            });
+        }
+    });
     binding_->Open();
 }
 

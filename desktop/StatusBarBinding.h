@@ -3,6 +3,7 @@
 #include <wx/statusbr.h>
 
 #include "controls/StatusBar.h"
+#include "desktop/Bindings.h"
 #include "desktop/ControlBinding.h"
 #include "desktop/Notice.h"
 
@@ -14,13 +15,18 @@ class StatusBarBinding : public ControlBinding {
     StatusBarBinding(const ViewContext& context, const Inside& inside, StatusBar& model);
 
     void ShowAppearance() override;
+    void Rescale() override;
 
   private:
     void ShowText();
+    /// Keeps the text out of the room of what stands in the bar, and says what that has to say.
+    void ShowContent();
 
     StatusBar& model_;
     wxStatusBar* bar_;
     Notice notice_;
+    Inside content_;
+    Bindings children_;
 };
 
 } // namespace zy

@@ -194,29 +194,21 @@ void RuleSteps::ReplaceRows(int first, int count, const RowTexts& rows) {
     }
 }
 
-void RuleSteps::AddTyping(RowTexts& rows) const {
-    if (!HasDraft()) {
-        return;
+void RuleSteps::AddTyping(RowTexts& copy) const {
+    const auto rule = RuleInForm(controls_, rules_.gaRules(std::stoi(form_.rule)));
+    for (const auto property : kRuleTexts) {
+        copy.Add(rule.*property);
     }
-    const int edited = std::stoi(form_.rule) - 1;
-    RowTexts with(rows.Columns());
-    with.AddRows(rows, 0, edited);
-    for (int column = 0; column < rows.Columns(); ++column) {
-        with.Add(column < kRuleColumns ? form_.texts.at(static_cast<std::size_t>(column))
-                                       : rows.Text(edited, column));
-    }
-    with.AddRows(rows, edited + 1, rows.Rows() - edited - 1);
-    rows = std::move(with);
 }
 
-void RuleSteps::DropTyping(Step& step) const {
-    RowChange drop{kDraftRow, CopyOf(*this, kDraftRow, 1), RowTexts(Columns())};
+void RuleSteps::MoveTyping(Step& step, int row) const {
+    RowChange move{kDraftRow, CopyOf(*this, kDraftRow, 1), RowTexts(Columns())};
     for (int column = 0; column < Columns(); ++column) {
-        drop.after.Add({});
+        const auto text =
+            column == kDraftRule ? std::to_string(row + 1) : std::string(Text(kDraftRow, column));
+        move.after.Add(row == kNoRow ? std::string() : text);
     }
-    if (!drop.ChangesNothing()) {
-        step.changes.push_back(std::move(drop));
-    }
+    step.changes.push_back(std::move(move));
 }
 
 void RuleSteps::ReplaceDraft(const RowTexts& rows) {

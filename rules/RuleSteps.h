@@ -44,8 +44,9 @@ class RuleSteps : public EditSteps {
     void Describe(Step& step) const override;
     void Take(Step step) override;
     void Show(const StepPlace& place) override;
-    void AddTyping(RowTexts& rows) const override;
-    void DropTyping(Step& step) const override;
+    int RowOfTyping() const override { return HasDraft() ? std::stoi(form_.rule) - 1 : kNoRow; }
+    void AddTyping(RowTexts& copy) const override;
+    void MoveTyping(Step& step, int row) const override;
 
     void ConnectList();
     void ConnectDetails();

@@ -22,9 +22,9 @@ struct RulesReadReport {
 /// comments among them. A CR or NUL inside a line is part of its value.
 RulesReadReport ReadRules(FileHandle& file, std::deque<RunRule>& rules);
 
-/// The description of a rule that was read: the three pieces joined by single blanks. Empty pieces leave their
-/// blanks at the end: files that were saved before hold them, and a save that dropped them would change every
-/// rule's line.
+/// The description of a rule that was read: the three pieces joined by single blanks. Empty pieces leave
+/// their blanks at the end: files that were saved before hold them, and a save that dropped them would change
+/// every rule's line.
 std::string JoinedDescription(const RunRule& rule);
 
 } // namespace zy

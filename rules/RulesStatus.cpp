@@ -5,7 +5,8 @@
 namespace zy {
 
 std::string DescribeSkipped(std::size_t lines) {
-    return lines == 0 ? std::string() : Counted(lines, "line") + " of the file not understood, saving drops them";
+    return lines == 0 ? std::string()
+                      : Counted(lines, "line") + " of the file not understood, saving drops them";
 }
 
 RulesStatus::RulesStatus(mRules& rules, const RulesControls& controls, SettingsForm& form)

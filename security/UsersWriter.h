@@ -20,6 +20,8 @@ class UsersWriter {
   public:
     UsersWriter(UsersDatabase& database, FileSystem& files, RecycleBin& recycleBin);
 
+    /// The full path of the table that is loaded.
+    std::string TablePath() const { return database_.TablePath(); }
     /// The folder of the table, with its closing "\".
     std::string Folder() const { return database_.Folder(); }
     /// The right to write the table of a folder, which ends with "\", or to take it away.

@@ -59,6 +59,8 @@ class mSecurity {
 
     /// Whether the grid holds a user.
     bool HasUsers() const { return grdSecurity_.cells.Rows() >= 2; }
+    /// The full path of the table that is loaded.
+    std::string TablePath() const { return writer_.TablePath(); }
     /// The folder of the table, with its closing "\".
     std::string SecurityFolder() const { return writer_.Folder(); }
 

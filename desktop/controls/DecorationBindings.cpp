@@ -35,9 +35,23 @@ wxStaticText* MakeText(wxWindow* parent, const wxString& text, TextLabel::Style 
 
 TextLabelBinding::TextLabelBinding(const ViewContext& context, const Inside& inside, TextLabel& model)
     : ControlBinding(context, inside, model) {
-    wxString text = WithMnemonic(context.codePage, model.Caption(), '\0');
+    shownCaption_ = model.Caption();
+    Attach(MakeText(Parent(), Text(), model.TextStyle()));
+}
+
+wxString TextLabelBinding::Text() const {
+    wxString text = WithMnemonic(Context().codePage, shownCaption_, '\0');
     text.Replace("\r\n", "\n");
-    Attach(MakeText(Parent(), text, model.TextStyle()));
+    return text;
+}
+
+void TextLabelBinding::ShowAppearance() {
+    if (shownCaption_ != Model().Caption()) {
+        shownCaption_ = Model().Caption();
+        static_cast<wxStaticText&>(Window()).SetLabel(Text());
+        Measure();
+    }
+    ControlBinding::ShowAppearance();
 }
 
 void TextLabelBinding::Measure() {

@@ -12,8 +12,15 @@ class TextLabelBinding : public ControlBinding {
   public:
     TextLabelBinding(const ViewContext& context, const Inside& inside, TextLabel& model);
 
+    void ShowAppearance() override;
+
   protected:
     void Measure() override;
+
+  private:
+    wxString Text() const;
+
+    std::string shownCaption_;
 };
 
 /// A thin line.

@@ -25,6 +25,9 @@ EditMenu::EditMenu(frmGlobalSettings& window, const std::vector<Editor*>& editor
     : window_(window), trace_(trace) {
     window_.menu.mnuUndo.click.Connect([this] { mnuUndo_Click(); });
     window_.menu.mnuRedo.click.Connect([this] { mnuRedo_Click(); });
+    window_.menu.mnuChanges.click.Connect([this] { mnuChanges_Click(); });
+    window_.menu.mnuOthers.click.Connect([this] { mnuOthers_Click(); });
+    window_.menu.mnuVersions.click.Connect([this] { mnuVersions_Click(); });
     for (auto* editor : editors) {
         editor->Steps().changed.Connect([this] { Show(); });
     }
@@ -46,6 +49,14 @@ void EditMenu::mnuRedo_Click() {
     Trace("mnuRedo_Click");
     if (Editor* editor = window_.EditorInCharge()) {
         editor->Steps().Redo();
+    }
+}
+
+void EditMenu::ShowOfList(std::string_view procedure, void (ListSession::*show)()) {
+    Trace(procedure);
+    if (list_ != nullptr) {
+        window_.EditorInCharge()->CommitOpenCell();
+        (list_->*show)();
     }
 }
 

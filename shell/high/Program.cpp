@@ -26,4 +26,12 @@ Program::Program(const World& outside)
     helpMenu.ConnectButton(unitsPage.controls.cmdHelpUnits);
 }
 
+void Program::Open(const std::string& path, Editor& editor, VersionKeeper::Keeps keeps) {
+    list.emplace(world, form, path, editor, keeps);
+    list->rebased.Connect([this] { recovery.GoOnFromFile(); });
+    window.activated.Connect([this] { list->Activated(); });
+    window.idle.Connect([this] { list->Idle(); });
+    editMenu.SetList(*list);
+}
+
 } // namespace zy

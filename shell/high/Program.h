@@ -1,11 +1,15 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "platform/World.h"
 #include "rules/RulesPage.h"
 #include "rules/mRules.h"
 #include "security/SecurityPage.h"
 #include "shell/EditMenu.h"
 #include "shell/HelpMenu.h"
+#include "shell/ListSession.h"
 #include "shell/Recovery.h"
 #include "shell/SettingsForm.h"
 #include "shell/SubClasser.h"
@@ -22,6 +26,9 @@ class Program {
   public:
     explicit Program(const World& outside);
 
+    /// An editor is about to load its list from this file.
+    void Open(const std::string& path, Editor& editor, VersionKeeper::Keeps keeps);
+
     World world;
     SharedState state;
     TraceChannel trace;
@@ -37,6 +44,7 @@ class Program {
     EditMenu editMenu;
     HelpMenu helpMenu;
     Recovery recovery;
+    std::optional<ListSession> list;
 };
 
 } // namespace zy

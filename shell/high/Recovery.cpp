@@ -1,6 +1,5 @@
 #include "shell/Recovery.h"
 
-#include <cstdint>
 #include <utility>
 
 #include "basics/Text.h"
@@ -8,26 +7,6 @@
 #include "shell/mZYGlobal.h"
 
 namespace zy {
-namespace {
-
-std::string TwoDigits(std::int64_t number) {
-    return (number < 10 ? "0" : "") + std::to_string(number);
-}
-
-/// Such as "14:07", or of another day "2026-05-03, 14:07".
-std::string TimeText(std::chrono::local_seconds time, std::chrono::year_month_day today) {
-    const auto day = std::chrono::floor<std::chrono::days>(time);
-    const std::chrono::hh_mm_ss clock(time - day);
-    const auto text = TwoDigits(clock.hours().count()) + ":" + TwoDigits(clock.minutes().count());
-    const std::chrono::year_month_day date(day);
-    return date == today ? text
-                         : std::to_string(static_cast<int>(date.year())) + "-" +
-                               TwoDigits(static_cast<unsigned>(date.month())) + "-" +
-                               TwoDigits(static_cast<unsigned>(date.day())) + ", " + text;
-}
-
-} // namespace
-
 Recovery::Recovery(FileSystem& files, Journals& journals, SystemInfo& system, Dialogs& dialogs)
     : files_(files), journals_(journals), system_(system), dialogs_(dialogs) {}
 
@@ -80,6 +59,13 @@ void Recovery::Report(FileError error) {
 void Recovery::BeginSave() {
     log_.StartAnew();
     Note(steps_->NoteList());
+}
+
+void Recovery::GoOnFromFile() {
+    BeginSave();
+    if (journal_->IsWhole()) {
+        Report(journal_->NoteFile());
+    }
 }
 
 void Recovery::EndSave(SaveEnd end) {

@@ -26,6 +26,8 @@ class Recovery {
     /// The editor has just loaded its list. Asks what is to become of what an earlier session has left, and
     /// notes down from here on. The steps must outlive what is done in the editor.
     void Begin(const JournalSubject& subject, EditSteps& steps);
+    /// The list goes on from what its file holds now, and differs from that.
+    void GoOnFromFile();
     /// There is nothing else to do at the moment.
     void Idle();
     /// The window was closed in good order: what is noted is not needed, unless the last save failed.

@@ -71,6 +71,8 @@ class frmGlobalSettings {
     Event<> unloaded;
     /// The user is not doing anything at the moment.
     Event<> idle;
+    /// The user has come to the window, maybe from another program.
+    Event<> activated;
 
   private:
     /// An editor, the flag that puts it in charge, and its name in the traces.

@@ -28,6 +28,7 @@ void ComputePaths(Program& program) {
 /// In the turn to save, so that what another program is just saving is read whole.
 void LoadRules(Program& program) {
     const SaveTurn turn(program.world.files, program.state.gsRulesFile);
+    program.Open(program.state.gsRulesFile, program.rulesPage, VersionKeeper::Keeps::Versions);
     program.rules.Build_Rules_Array();
     if (turn.IsMine()) {
         program.rules.LookForDangers();
@@ -49,6 +50,7 @@ StartUp StartRules(Program& program) {
 }
 
 StartUp StartSecurity(Program& program) {
+    program.Open(program.securityPage.users.TablePath(), program.securityPage, VersionKeeper::Keeps::Nothing);
     if (!program.securityPage.users.LoadSecurityData()) {
         return StartUp::Ended;
     }
@@ -66,6 +68,7 @@ StartUp StartSecurity(Program& program) {
 
 StartUp StartUnits(Program& program) {
     program.trace.DebugTrace(kModule, kProcedure, "Units Mode Started");
+    program.Open(program.state.gsUnitsFile, program.unitsPage, VersionKeeper::Keeps::Versions);
     program.window.ShowUnits();
     program.state.gbRulesMode = false;
     program.state.gbSecurityMode = false;

@@ -78,17 +78,40 @@ bool EditSteps::MayBeSaved() {
 }
 
 RowTexts EditSteps::Copy() const {
-    auto rows = CopyOf(*this, kFirstRecord, Rows() - kFirstRecord);
+    return CopyOf(*this, kFirstRecord, Rows() - kFirstRecord);
+}
+
+RowTexts EditSteps::CopyWithTyping() const {
+    const int typed = RowOfTyping();
+    const auto held = Copy();
+    if (typed == kNoRow) {
+        return held;
+    }
+    RowTexts rows(held.Columns());
+    rows.AddRows(held, 0, typed);
     AddTyping(rows);
+    rows.AddRows(held, typed + 1, held.Rows() - typed - 1);
     return rows;
 }
 
-void EditSteps::ReplaceList(const std::string& name, const RowTexts& rows) {
+/// The row that is the same as the one in which it would be stored now.
+int EditSteps::NewRowOfTyping(const RowTexts& rows) const {
+    const int typed = RowOfTyping();
+    const auto held = Copy();
+    int row = typed == kNoRow ? rows.Rows() : 0;
+    while (row < rows.Rows() && !HaveSameTexts(rows, row, held, typed)) {
+        ++row;
+    }
+    return row == rows.Rows() ? kNoRow : row;
+}
+
+void EditSteps::ReplaceList(const std::string& name, const RowTexts& rows, Typing typing) {
     LeaveTyping();
     Step step{.name = name, .key = {}, .before = Here(), .after = Here(), .changes = {}};
-    DropTyping(step);
-    step.changes.push_back(
-        ChangeBetween(kFirstRecord, CopyOf(*this, kFirstRecord, Rows() - kFirstRecord), rows));
+    if (RowOfTyping() != kNoRow) {
+        MoveTyping(step, typing == Typing::Stays ? NewRowOfTyping(rows) : kNoRow);
+    }
+    step.changes.push_back(ChangeBetween(kFirstRecord, Copy(), rows));
     if (step.ChangesNothing()) {
         return;
     }

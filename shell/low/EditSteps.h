@@ -8,6 +8,7 @@
 #include "history/History.h"
 #include "history/Recorder.h"
 #include "history/RowList.h"
+#include "history/RowPairs.h"
 #include "history/StepNotes.h"
 
 namespace zy {
@@ -50,11 +51,18 @@ class EditSteps : protected RowList {
     void SetLog(StepLog& log) { history_.SetLog(&log); }
     /// The list as it stands.
     StepNote NoteList() const { return StepNote::OfList(*this, FirstRow()); }
-    /// Copies of the rows of the list, with what is typed and not stored in them yet.
+    /// Copies of the rows of the list.
     RowTexts Copy() const;
-    /// Puts other rows in place of all of them, as a step of this name; what was typed and not stored is part
-    /// of that.
-    void ReplaceList(const std::string& name, const RowTexts& rows);
+    /// The same with what is typed and not stored in its row yet.
+    RowTexts CopyWithTyping() const;
+    /// The row, counted from 0, in which that would be stored; kNoRow for none.
+    virtual int RowOfTyping() const { return kNoRow; }
+
+    /// What becomes of what is typed and not stored, where the rows are replaced: it stays with its row as
+    /// long as that is there, or goes.
+    enum class Typing { Stays, Goes };
+    /// Puts other rows in place of all of them, as a step of this name.
+    void ReplaceList(const std::string& name, const RowTexts& rows, Typing typing);
     /// Gives the keyboard to the place where somebody works.
     void ShowHere() { Show(Here()); }
     /// The list is what its file holds, though no save made it so.
@@ -93,15 +101,17 @@ class EditSteps : protected RowList {
     virtual void RedoTyping() {}
     /// Lets go of what would be in the way of a step, without taking it over.
     virtual void LeaveTyping() {}
-    /// Stores what is typed and not stored yet in copies of the rows.
-    virtual void AddTyping(RowTexts& /*rows*/) const {}
-    /// Makes it part of a step that it goes.
-    virtual void DropTyping(Step& /*step*/) const {}
+    /// Stores what is typed and not stored yet in a copy of its row.
+    virtual void AddTyping(RowTexts& /*copy*/) const {}
+    /// Makes it part of a step that what is typed and not stored belongs to another row now, counted from 0,
+    /// or goes, for kNoRow.
+    virtual void MoveTyping(Step& /*step*/, int /*row*/) const {}
 
     Recorder& ToRecord() { return recorder_; }
     History& Steps() { return history_; }
 
   private:
+    int NewRowOfTyping(const RowTexts& rows) const;
     void Move(StepPlace (History::*move)(RowList&), const std::string& report);
 
     History history_;

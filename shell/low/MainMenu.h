@@ -21,6 +21,10 @@ struct MainMenu {
     MenuItem mnuPaste;
     MenuItem mnuSeparatorSelect;
     MenuItem mnuSelectAll;
+    MenuItem mnuSeparatorVersions;
+    MenuItem mnuChanges;
+    MenuItem mnuOthers;
+    MenuItem mnuVersions;
 
     MenuItem mnuHelp;
     MenuItem mnuContents;

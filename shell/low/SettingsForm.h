@@ -3,7 +3,9 @@
 #include <cstdint>
 
 #include "basics/Bool16.h"
+#include "controls/Decoration.h"
 #include "controls/Form.h"
+#include "controls/LinkLabel.h"
 #include "controls/StatusBar.h"
 #include "shell/MainMenu.h"
 
@@ -14,6 +16,11 @@ namespace zy {
 class SettingsForm : public Form {
   public:
     SettingsForm();
+
+    /// Shows the notice with a text, in the status bar, so that nothing that is laid out has to move.
+    void ShowNotice(const std::string& text);
+    /// True when it had the keyboard, which now nothing has.
+    bool HideNotice();
 
     /// Unsaved changes on the rules or the units page.
     Bool16 ChangeFlag;
@@ -26,7 +33,16 @@ class SettingsForm : public Form {
     Frame fraSecurity;
     Frame FraUnits;
     StatusBar zyStatusBar;
+    /// What happened outside of the window, with what can be done about it.
+    Frame fraNotice;
+    TextLabel lblNotice;
+    LinkLabel lblShow;
+    LinkLabel lblLoad;
+    LinkLabel lblIgnore;
     MainMenu menu;
+
+  private:
+    void LayOutNotice();
 };
 
 } // namespace zy

@@ -1,5 +1,7 @@
 #include "shell/StatusTexts.h"
 
+#include "platform/TimeDigits.h"
+
 namespace zy {
 namespace {
 
@@ -27,6 +29,15 @@ std::string DescribeRefused(const PasteReport& paste, const GridCells& grid) {
 
 std::string Failure(std::string_view what, FileError error) {
     return std::string(what).append(": ").append(Describe(error));
+}
+
+std::string TimeText(std::chrono::local_seconds time, std::chrono::year_month_day today) {
+    constexpr std::size_t kClock = 5; // without the seconds
+    const auto text = PlainTime(time);
+    const auto blank = text.find(' ');
+    const auto clock = text.substr(blank + 1, kClock);
+    const std::chrono::year_month_day date(std::chrono::floor<std::chrono::days>(time));
+    return date == today ? clock : text.substr(0, blank) + ", " + clock;
 }
 
 std::string Counted(std::size_t count, std::string_view noun) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -29,6 +30,9 @@ inline constexpr std::string_view kListSaved = "Saved";
 
 /// What went wrong, with the reason that the file system gave.
 std::string Failure(std::string_view what, FileError error);
+
+/// A time where the user is, without seconds: "14:07", or of another day "2026-05-03, 14:07".
+std::string TimeText(std::chrono::local_seconds time, std::chrono::year_month_day today);
 
 /// A number with what it counts: "1 rule", "2 rules".
 std::string Counted(std::size_t count, std::string_view noun);

@@ -48,6 +48,8 @@ TEST_F(GridOutOfReach, IsNotShownByAnyEntryButtonOrKeyOfAWholeSession) {
     page().cmdHelpRules.Click();
     world.dialogs.ExpectForm([](Form& /*about*/) {});
     ChooseEveryEntryOf(menu().mnuHelp);
+    world.dialogs.ExpectForm([](Form& /*changes*/) {});
+    world.dialogs.ExpectForm([](Form& /*versions*/) {});
     ChooseEveryEntryOf(menu().mnuEdit);
     ChooseEveryEntryOf(menu().mnuFile);
     EXPECT_EQ(unloaded, 1);

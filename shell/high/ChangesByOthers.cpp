@@ -1,0 +1,157 @@
+#include "shell/ChangesByOthers.h"
+
+#include <utility>
+
+#include "history/RowMerge.h"
+#include "shell/RecordChanges.h"
+#include "shell/SaveTurn.h"
+#include "shell/StatusTexts.h"
+
+namespace zy {
+
+ChangesByOthers::ChangesByOthers(ListFile& file, Editor& editor, SettingsForm& form, FileSystem& files,
+                                 SystemInfo& system, Dialogs& dialogs)
+    : file_(file), editor_(editor), form_(form), files_(files), system_(system), dialogs_(dialogs) {
+    Connect();
+}
+
+void ChangesByOthers::Connect() {
+    editor_.Steps().asking.Connect([this](bool& may) { AskBeforeSave(may); });
+    editor_.Hooks().beginning.Connect([this](std::string& reason) { RefuseSave(reason); });
+    editor_.Hooks().ended.Connect([this] { TakeUpSaved(); });
+    form_.lblShow.click.Connect([this] { lblShow_Click(); });
+    form_.lblLoad.click.Connect([this] { lblLoad_Click(); });
+    form_.lblIgnore.click.Connect([this] { lblIgnore_Click(); });
+}
+
+void ChangesByOthers::Look() {
+    if (!file_.IsChange(file_.Read())) {
+        HideNotice();
+        return;
+    }
+    const auto now = ReadForSave();
+    if (file_.IsChange(now) && now != ignored_) {
+        form_.ShowNotice(Notice());
+    }
+}
+
+std::string ChangesByOthers::Notice() const {
+    const auto time = files_.LastChange(file_.Path());
+    return std::string(file_.Name()) + " was changed by another program" +
+           (time ? " at " + TimeText(*time, system_.Today()) : "") + ".";
+}
+
+void ChangesByOthers::HideNotice() {
+    ignored_.reset();
+    if (form_.HideNotice()) {
+        editor_.Steps().ShowHere();
+    }
+}
+
+void ChangesByOthers::lblShow_Click() {
+    editor_.CommitOpenCell();
+    const auto now = file_.Read();
+    if (file_.IsChange(now)) {
+        static_cast<void>(Settle(*now, frmMerge::Purpose::Look));
+    } else {
+        HideNotice();
+    }
+}
+
+void ChangesByOthers::lblLoad_Click() {
+    editor_.CommitOpenCell();
+    auto now = file_.Read();
+    const auto read = file_.IsChange(now) ? editor_.Records().Read(*now) : std::nullopt;
+    if (!read) {
+        AddHint(form_.zyStatusBar, "Not loaded: " + std::string(file_.Name()) + " cannot be read as a list");
+        return;
+    }
+    file_.TakeUp(std::move(now));
+    HideNotice();
+    editor_.Steps().ReplaceList("Load " + std::string(file_.Name()), read->rows, EditSteps::Typing::Goes);
+    editor_.Steps().TakeAsSaved();
+    AddHint(form_.zyStatusBar, "Loaded; Edit > Undo brings back what was there");
+}
+
+void ChangesByOthers::lblIgnore_Click() {
+    auto now = file_.Read();
+    HideNotice();
+    ignored_ = std::move(now);
+}
+
+void ChangesByOthers::AskBeforeSave(bool& may) {
+    const auto now = ReadForSave();
+    may = may && (!file_.IsChange(now) || Settle(*now, frmMerge::Purpose::Save));
+}
+
+/// In the turn to save, so that what another program is just saving is read whole. Nothing where the save
+/// will be refused anyway.
+ListFile::Bytes ChangesByOthers::ReadForSave() {
+    const SaveTurn turn(files_, file_.Path());
+    return WhyNotToSave(files_, file_.Path(), turn).empty() ? file_.Read() : std::nullopt;
+}
+
+void ChangesByOthers::RefuseSave(std::string& reason) const {
+    if (reason.empty() && file_.IsChange(file_.Read())) {
+        reason = "Not saved: " + std::string(file_.Name()) +
+                 " was changed by another program at this moment; save again";
+    }
+}
+
+void ChangesByOthers::TakeUpSaved() {
+    file_.TakeUp(file_.Read());
+    HideNotice();
+}
+
+bool ChangesByOthers::Settle(const std::string& theirs, frmMerge::Purpose purpose) {
+    const auto& records = editor_.Records();
+    const auto read = records.Read(theirs);
+    if (!read) {
+        return SettleUnreadable(theirs, purpose);
+    }
+    const auto known = records.Read(file_.Known().value_or(""));
+    const auto mine = editor_.Steps().Copy();
+    const auto base = records.Comparable(known ? known->rows : RowTexts(mine.Columns()));
+    const auto ours = records.Comparable(mine);
+    const auto others = records.Comparable(read->rows);
+    if (others == ours || (others == base && purpose == frmMerge::Purpose::Save)) {
+        GoOnFrom(theirs);
+        return true;
+    }
+    RowMerge merge(base, ours, others, KeyOf(records));
+    const auto answer = Ask({base, ours, others}, &merge, purpose);
+    if (answer == frmMerge::Answer::Merge) {
+        editor_.Steps().ReplaceList("Merge Changes of " + std::string(file_.Name()),
+                                    merge.Result(mine, read->rows), EditSteps::Typing::Stays);
+    }
+    if (answer != frmMerge::Answer::Cancel) {
+        GoOnFrom(theirs);
+    }
+    return answer != frmMerge::Answer::Cancel;
+}
+
+bool ChangesByOthers::SettleUnreadable(const std::string& theirs, frmMerge::Purpose purpose) {
+    const RowTexts none(static_cast<int>(editor_.Records().Columns().size()));
+    const bool overwrites = Ask({none, none, none}, nullptr, purpose) == frmMerge::Answer::Overwrite;
+    if (overwrites) {
+        GoOnFrom(theirs);
+    }
+    return overwrites;
+}
+
+frmMerge::Answer ChangesByOthers::Ask(const frmMerge::Lists& lists, RowMerge* merge,
+                                      frmMerge::Purpose purpose) {
+    frmMerge question(editor_.Records(), Notice(), lists, merge, purpose);
+    question.SetVisible(true);
+    dialogs_.ShowForm(question);
+    return question.Chosen();
+}
+
+void ChangesByOthers::GoOnFrom(const std::string& theirs) {
+    file_.TakeUp(theirs);
+    editor_.Steps().MarkSaved(false);
+    rebased.Raise();
+    HideNotice();
+}
+
+} // namespace zy

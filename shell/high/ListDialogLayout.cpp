@@ -1,0 +1,63 @@
+#include "shell/ListDialogLayout.h"
+
+#include <algorithm>
+
+#include "shell/PageLayout.h"
+
+namespace zy {
+namespace {
+
+constexpr int kMargin = 240;
+constexpr int kBetween = 120;
+
+} // namespace
+
+ListDialogLayout::ListDialogLayout(Form& form) : size_(form.InnerSize()), top_(kMargin) {
+    constexpr Size kUsual{10500, 7200};
+    if (size_.width == 0) {
+        size_ = kUsual;
+        form.SetBounds({0, 0, size_.width, size_.height});
+    }
+    bottom_ = size_.height - kMargin;
+}
+
+void ListDialogLayout::Add(TextLabel& label) {
+    const int height = label.Caption().empty() ? 0 : label.Preferred().height;
+    label.SetBounds({kMargin, top_, size_.width - 2 * kMargin, height});
+    top_ += height == 0 ? 0 : height + kBetween;
+}
+
+void ListDialogLayout::Add(std::initializer_list<CommandButton*> buttons) {
+    int width = CommandButton::kUsualWidth;
+    int height = 0;
+    for (const auto* button : buttons) {
+        width = std::max(width, button->Preferred().width);
+        height = std::max(height, button->Preferred().height);
+    }
+    bottom_ -= height;
+    int left = size_.width - kMargin - static_cast<int>(buttons.size()) * (width + kBetween) + kBetween;
+    for (auto* button : buttons) {
+        button->SetBounds({left, bottom_, width, height});
+        left += width + kBetween;
+    }
+    bottom_ -= kBetween;
+}
+
+std::vector<Rect> ListDialogLayout::Rooms(int count) const {
+    const int height = std::max((bottom_ - top_ - (count - 1) * kBetween) / count, 0);
+    std::vector<Rect> rooms;
+    for (int i = 0; i < count; ++i) {
+        rooms.push_back({kMargin, top_ + i * (height + kBetween), size_.width - 2 * kMargin, height});
+    }
+    return rooms;
+}
+
+void PlaceList(Frame& frame, ListView& list, const Rect& room) {
+    constexpr int kLeastColumn = 1500;
+    frame.SetBounds(room);
+    const int top = ContentTop(frame);
+    list.SetBounds({kGap, top, room.width - 2 * kGap, std::max(room.height - top - kGap, 0)});
+    FillWithLastColumn(list, kLeastColumn);
+}
+
+} // namespace zy
