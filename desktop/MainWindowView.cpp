@@ -50,6 +50,13 @@ void MainWindowView::Open() {
         event.Skip();
         desktop_.Gate().Answer([this] { window_.idle.Raise(); });
     });
+    binding_->Frame().Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
+        if (event.GetKeyCode() == WXK_F6 && !event.HasAnyModifiers()) {
+            desktop_.Gate().Act([this] { window_.otherPart.Raise(); });
+        } else {
+            event.Skip();
+        }
+    });
     binding_->Frame().Bind(wxEVT_ACTIVATE, [this](wxActivateEvent& event) {
         event.Skip();
         if (event.GetActive()) {

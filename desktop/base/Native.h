@@ -93,8 +93,9 @@ void HandOnAccessKey(wxWindow& window, wxKeyEvent& event);
 /// The style of a line of text that gets Tab and Enter itself, in place of the window around it.
 long EveryKeyStyle();
 
-/// Gives a link the colour that the system has for links, where that can be read.
-void ColourLink(wxHyperlinkCtrl& link);
+/// Gives a link the colour that the system has for links, where that can be read, and no more room than its
+/// text takes.
+void DressLink(wxHyperlinkCtrl& link);
 
 /// Lets a line of text take the whole of what is pasted, on one line.
 void TakeLineEnds(wxTextCtrl& box);

@@ -12,7 +12,7 @@ LinkLabelBinding::LinkLabelBinding(const ViewContext& context, const Inside& ins
     auto* link = new wxHyperlinkCtrl(Parent(), wxID_ANY, text, text, wxDefaultPosition, wxDefaultSize,
                                      wxHL_ALIGN_LEFT | wxBORDER_NONE);
     const auto follow = [this, &model] { Gate().Act([&] { model.Click(); }); };
-    ColourLink(*link);
+    DressLink(*link);
     // Handled here for good: the toolkit would open the text by itself.
     link->Bind(wxEVT_HYPERLINK, [follow](wxHyperlinkEvent&) { follow(); });
     FollowByEnter(*link, follow);

@@ -71,6 +71,7 @@ GList* gtk_menu_get_for_attach_widget(GtkWidget* widget);
 void gtk_scrolled_window_set_overlay_scrolling(_GtkScrolledWindow* window, int overlay);
 void gtk_style_context_add_provider_for_screen(_GdkScreen* screen, _GtkStyleProvider* provider,
                                                guint priority);
+void gtk_style_context_add_provider(_GtkStyleContext* style, _GtkStyleProvider* provider, unsigned priority);
 void gtk_style_context_get_color(_GtkStyleContext* style, unsigned state, GtkColour* colour);
 unsigned gtk_style_context_get_state(_GtkStyleContext* style);
 void gtk_tooltip_set_text(_GtkTooltip* tip, const char* text);

@@ -3,6 +3,7 @@
 #include <wx/choice.h>
 #include <wx/dataview.h>
 #include <wx/frame.h>
+#include <wx/hyperlink.h>
 #include <wx/notebook.h>
 #include <wx/statbox.h>
 #include <wx/textctrl.h>
@@ -11,6 +12,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <functional>
 #include <iterator>
 #include <memory>
 #include <string>
@@ -164,6 +166,15 @@ bool CanAskForBorders() {
                                                gdk_atom_intern("_NET_REQUEST_FRAME_EXTENTS", 0)) != 0;
 }
 
+constexpr unsigned kAboveTheThemes = 600;
+
+void AddStyle(const std::string& style, const std::function<void(_GtkStyleProvider*)>& add) {
+    auto* provider = gtk_css_provider_new();
+    gtk_css_provider_load_from_data(provider, style.c_str(), std::ssize(style), nullptr);
+    add(reinterpret_cast<_GtkStyleProvider*>(provider));
+    g_object_unref(provider);
+}
+
 /// The toolkit puts that off until there is nothing else to do, and a label leads to its control only then:
 /// an access key that is pressed sooner would be lost.
 void SettleTabOrder(wxWindow& window) {
@@ -215,12 +226,9 @@ void StrengthenFaintColours() {
                               "treeview.view header button { color: @theme_text_color; }"
                               "treeview.view:selected { background-color: " +
                               SelectionGround().GetAsString(wxC2S_HTML_SYNTAX).ToStdString() + "; }";
-    constexpr unsigned kAboveTheThemes = 600;
-    auto* provider = gtk_css_provider_new();
-    gtk_css_provider_load_from_data(provider, style.c_str(), std::ssize(style), nullptr);
-    gtk_style_context_add_provider_for_screen(
-        gdk_screen_get_default(), reinterpret_cast<_GtkStyleProvider*>(provider), kAboveTheThemes);
-    g_object_unref(provider);
+    AddStyle(style, [](_GtkStyleProvider* provider) {
+        gtk_style_context_add_provider_for_screen(gdk_screen_get_default(), provider, kAboveTheThemes);
+    });
 }
 
 void SetAccessibleName(wxWindow& window, const wxString& name) {
@@ -356,8 +364,13 @@ long EveryKeyStyle() {
     return 0; // it gets every key anyhow
 }
 
-void ColourLink(wxHyperlinkCtrl& /*link*/) {
-    // It has that one.
+void DressLink(wxHyperlinkCtrl& link) {
+    // It has that colour, and the room round it of a button.
+    AddStyle("* { padding: 0; min-height: 0; min-width: 0; }", [&link](_GtkStyleProvider* provider) {
+        gtk_style_context_add_provider(gtk_widget_get_style_context(link.GetHandle()), provider,
+                                       kAboveTheThemes);
+    });
+    link.InvalidateBestSize();
 }
 
 void TakeLineEnds(wxTextCtrl& /*box*/) {

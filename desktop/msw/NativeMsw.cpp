@@ -315,7 +315,7 @@ long EveryKeyStyle() {
     return wxTE_PROCESS_TAB | wxTE_PROCESS_ENTER;
 }
 
-void ColourLink(wxHyperlinkCtrl& link) {
+void DressLink(wxHyperlinkCtrl& link) {
     const auto colour = ReadableLinkColour(link);
     link.SetNormalColour(colour);
     link.SetHoverColour(colour);

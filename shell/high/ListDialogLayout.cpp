@@ -13,7 +13,7 @@ constexpr int kBetween = 120;
 } // namespace
 
 ListDialogLayout::ListDialogLayout(Form& form) : size_(form.InnerSize()), top_(kMargin) {
-    constexpr Size kUsual{10500, 7200};
+    constexpr Size kUsual{11400, 7200};
     if (size_.width == 0) {
         size_ = kUsual;
         form.SetBounds({0, 0, size_.width, size_.height});

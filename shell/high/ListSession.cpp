@@ -55,6 +55,14 @@ void ListSession::ShowUnsavedChanges() {
     dialogs_.ShowForm(dialog);
 }
 
+void ListSession::GoToOtherPart() {
+    if (form_.HasNoticeFocus()) {
+        editor_.Steps().ShowHere();
+    } else if (form_.fraNotice.Visible()) {
+        form_.lblShow.TakeFocus();
+    }
+}
+
 void ListSession::ShowEarlierVersions() {
     versions_.Show();
 }

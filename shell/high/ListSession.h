@@ -26,6 +26,8 @@ class ListSession {
     void ShowChangesByOthers() { others_.lblShow_Click(); }
     /// The window has become active.
     void Activated() { others_.Look(); }
+    /// Takes the keyboard to the notice, if there is one, or back from there to the list.
+    void GoToOtherPart();
     /// There is nothing else to do at the moment.
     void Idle() { versions_.Idle(); }
 

@@ -30,6 +30,7 @@ void Program::Open(const std::string& path, Editor& editor, VersionKeeper::Keeps
     list.emplace(world, form, path, editor, keeps);
     list->rebased.Connect([this] { recovery.GoOnFromFile(); });
     window.activated.Connect([this] { list->Activated(); });
+    window.otherPart.Connect([this] { list->GoToOtherPart(); });
     window.idle.Connect([this] { list->Idle(); });
     editMenu.SetList(*list);
 }

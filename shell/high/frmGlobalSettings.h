@@ -73,6 +73,8 @@ class frmGlobalSettings {
     Event<> idle;
     /// The user has come to the window, maybe from another program.
     Event<> activated;
+    /// The user asks for the other part of the window, by the key that the desktops have for that.
+    Event<> otherPart;
 
   private:
     /// An editor, the flag that puts it in charge, and its name in the traces.

@@ -29,10 +29,14 @@ void SettingsForm::ShowNotice(const std::string& text) {
 }
 
 bool SettingsForm::HideNotice() {
-    const bool hadFocus = lblShow.HasFocus() || lblLoad.HasFocus() || lblIgnore.HasFocus();
+    const bool hadFocus = HasNoticeFocus();
     fraNotice.SetVisible(false);
     menu.mnuOthers.SetEnabled(false);
     return hadFocus;
+}
+
+bool SettingsForm::HasNoticeFocus() {
+    return lblShow.HasFocus() || lblLoad.HasFocus() || lblIgnore.HasFocus();
 }
 
 void SettingsForm::LayOutNotice() {

@@ -21,6 +21,7 @@ class SettingsForm : public Form {
     void ShowNotice(const std::string& text);
     /// True when it had the keyboard, which now nothing has.
     bool HideNotice();
+    bool HasNoticeFocus();
 
     /// Unsaved changes on the rules or the units page.
     Bool16 ChangeFlag;

@@ -123,6 +123,19 @@ TEST_F(ChangesByOthers, WhoLoadsHasTheKeyboardInTheListAgain) {
     EXPECT_TRUE(grid().HasFocus());
 }
 
+TEST_F(ChangesByOthers, F6GoesToTheNoticeAndBack) {
+    const auto goOn = [this] { window().otherPart.Raise(); };
+    grid().SetFocus();
+    goOn();
+    EXPECT_TRUE(grid().HasFocus()) << "there is no notice";
+    WriteFile(kTheirs);
+    ComeToTheWindow();
+    goOn();
+    EXPECT_TRUE(form().lblShow.HasFocus());
+    goOn();
+    EXPECT_TRUE(grid().HasFocus());
+}
+
 TEST_F(ChangesByOthers, ASaveThatNobodyDisturbsAsksNothing) {
     Edit(1, kUnit, "mine");
     Save();
