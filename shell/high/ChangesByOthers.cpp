@@ -115,7 +115,7 @@ bool ChangesByOthers::Settle(const std::string& theirs, frmMerge::Purpose purpos
     const auto ours = records.Comparable(mine);
     const auto others = records.Comparable(read->rows);
     if (others == ours || (others == base && purpose == frmMerge::Purpose::Save)) {
-        GoOnFrom(theirs);
+        GoOnFrom(theirs, others == ours);
         return true;
     }
     RowMerge merge(base, ours, others, KeyOf(records));
@@ -125,7 +125,7 @@ bool ChangesByOthers::Settle(const std::string& theirs, frmMerge::Purpose purpos
                                     merge.Result(mine, read->rows), EditSteps::Typing::Stays);
     }
     if (answer != frmMerge::Answer::Cancel) {
-        GoOnFrom(theirs);
+        GoOnFrom(theirs, false);
     }
     return answer != frmMerge::Answer::Cancel;
 }
@@ -134,7 +134,7 @@ bool ChangesByOthers::SettleUnreadable(const std::string& theirs, frmMerge::Purp
     const RowTexts none(static_cast<int>(editor_.Records().Columns().size()));
     const bool overwrites = Ask({none, none, none}, nullptr, purpose) == frmMerge::Answer::Overwrite;
     if (overwrites) {
-        GoOnFrom(theirs);
+        GoOnFrom(theirs, false);
     }
     return overwrites;
 }
@@ -147,10 +147,14 @@ frmMerge::Answer ChangesByOthers::Ask(const frmMerge::Lists& lists, RowMerge* me
     return question.Chosen();
 }
 
-void ChangesByOthers::GoOnFrom(const std::string& theirs) {
+void ChangesByOthers::GoOnFrom(const std::string& theirs, bool isTheList) {
     file_.TakeUp(theirs);
-    editor_.Steps().MarkSaved(false);
-    rebased.Raise();
+    if (isTheList) {
+        editor_.Steps().TakeAsSaved();
+    } else {
+        editor_.Steps().MarkSaved(false);
+        rebased.Raise();
+    }
     HideNotice();
 }
 

@@ -47,8 +47,8 @@ class ChangesByOthers {
     bool Settle(const std::string& theirs, frmMerge::Purpose purpose);
     bool SettleUnreadable(const std::string& theirs, frmMerge::Purpose purpose);
     frmMerge::Answer Ask(const frmMerge::Lists& lists, RowMerge* merge, frmMerge::Purpose purpose);
-    /// From here on the file is known to hold this, and the list goes on from it.
-    void GoOnFrom(const std::string& theirs);
+    /// From here on the file is known to hold this, and the list, which may be the same, goes on from it.
+    void GoOnFrom(const std::string& theirs, bool isTheList);
     std::string Notice() const;
     void HideNotice();
 

@@ -1,5 +1,7 @@
 #include "shell/ListSession.h"
 
+#include <utility>
+
 #include "shell/RecordChanges.h"
 #include "shell/StatusTexts.h"
 #include "shell/frmChanges.h"
@@ -29,13 +31,27 @@ void Revert(const ListFile& file, Editor& editor, const RowDifference& differenc
 
 ListSession::ListSession(const World& world, SettingsForm& form, const std::string& path, Editor& editor,
                          VersionKeeper::Keeps keeps)
-    : form_(form), dialogs_(world.dialogs), editor_(editor), file_(world.files, path),
+    : form_(form), files_(world.files), dialogs_(world.dialogs), editor_(editor), file_(world.files, path),
       store_(world.files, world.journals, world.system),
       others_(file_, editor, form, world.files, world.system, world.dialogs),
       versions_(file_, editor, store_, world.system, world.dialogs, keeps) {
     file_.TakeUp(file_.Read());
     others_.rebased.Connect([this] { rebased.Raise(); });
     versions_.reported.Connect([this](const std::string& report) { AddHint(form_.zyStatusBar, report); });
+}
+
+void ListSession::Idle() {
+    if (!std::exchange(hasLooked_, true)) {
+        LookForRoom();
+    }
+    versions_.Idle();
+}
+
+void ListSession::LookForRoom() {
+    const auto room = files_.FreeBytes(file_.Path());
+    if (room && file_.Known() && *room < file_.Known()->size()) {
+        AddHint(form_.zyStatusBar, Obstacle(file_.Path(), FileError::DiskFull));
+    }
 }
 
 void ListSession::ShowUnsavedChanges() {

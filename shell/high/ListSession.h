@@ -29,19 +29,24 @@ class ListSession {
     /// Takes the keyboard to the notice, if there is one, or back from there to the list.
     void GoToOtherPart();
     /// There is nothing else to do at the moment.
-    void Idle() { versions_.Idle(); }
+    void Idle();
 
     /// The file that the list goes on from is another one now, and the list differs from it.
     Event<> rebased;
 
   private:
+    /// Says where a save would find no room, before anybody edits.
+    void LookForRoom();
+
     SettingsForm& form_;
+    FileSystem& files_;
     Dialogs& dialogs_;
     Editor& editor_;
     ListFile file_;
     EarlierVersions store_;
     ChangesByOthers others_;
     VersionKeeper versions_;
+    bool hasLooked_ = false; ///< for room
 };
 
 } // namespace zy

@@ -14,6 +14,7 @@ VersionKeeper::VersionKeeper(ListFile& file, Editor& editor, EarlierVersions& ve
     : file_(file), editor_(editor), versions_(versions), system_(system), dialogs_(dialogs), keeps_(keeps) {
     if (keeps == Keeps::Versions) {
         editor_.Hooks().beginning.Connect([this](std::string& refusal) { Keep(refusal); });
+        editor_.Hooks().ended.Connect([this] { versions_.Prune(file_.Path()); });
         editor_.Steps().saved.Connect([this](SaveEnd end) { NoteEnd(end); });
     }
 }
@@ -33,9 +34,7 @@ void VersionKeeper::Keep(std::string& refusal) {
 }
 
 void VersionKeeper::NoteEnd(SaveEnd end) {
-    if (end == SaveEnd::Whole) {
-        versions_.Prune(file_.Path());
-    } else if (end == SaveEnd::Failed && isKept_) {
+    if (end == SaveEnd::Failed && isKept_) {
         report_ = "what the file held before stands under Edit > Earlier Versions";
     }
     isKept_ = false;

@@ -280,6 +280,16 @@ TEST_F(ChangesByOthers, ShowLetsMergeWithoutWriting) {
     EXPECT_EQ(File(), "A,mine\r\nB,b of theirs\r\nC,c\r\n");
 }
 
+TEST_F(ChangesByOthers, ShowOfWhatBothDidAlikeLeavesNothingToSave) {
+    Edit(1, kUnit, "same");
+    WriteFile("A,same\r\nB,b\r\nC,c\r\n");
+    ComeToTheWindow();
+    form().lblShow.Click();
+    EXPECT_FALSE(IsNoticeShown());
+    ExpectMarks(false, false);
+    EXPECT_TRUE(window().Unload()) << "nothing is asked";
+}
+
 TEST_F(ChangesByOthers, TheMenuShowsTheChangeToo) {
     WriteFile(kTheirs);
     ComeToTheWindow();
