@@ -63,14 +63,18 @@ void ChangesByOthers::lblLoad_Click() {
     auto now = file_.Read();
     const auto read = file_.IsChange(now) ? editor_.Records().Read(*now) : std::nullopt;
     if (!read) {
-        AddHint(form_.zyStatusBar, "Not loaded: " + std::string(file_.Name()) + " cannot be read as a list");
+        Tell("Not loaded: " + std::string(file_.Name()) + " cannot be read as a list");
         return;
     }
     file_.TakeUp(std::move(now));
     HideNotice();
     editor_.Steps().ReplaceList("Load " + std::string(file_.Name()), read->rows, EditSteps::Typing::Goes);
     editor_.Steps().TakeAsSaved();
-    AddHint(form_.zyStatusBar, "Loaded; Edit > Undo brings back what was there");
+    Tell("Loaded; Edit > Undo brings back what was there");
+}
+
+void ChangesByOthers::Tell(std::string_view hint) {
+    AddHint(form_.zyStatusBar, hint);
 }
 
 void ChangesByOthers::lblIgnore_Click() {

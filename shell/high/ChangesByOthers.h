@@ -51,6 +51,8 @@ class ChangesByOthers {
     void GoOnFrom(const std::string& theirs, bool isTheList);
     std::string Notice() const;
     void HideNotice();
+    /// In the status bar.
+    void Tell(std::string_view hint);
 
     ListFile& file_;
     Editor& editor_;

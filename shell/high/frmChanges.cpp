@@ -7,6 +7,17 @@
 #include "shell/StatusTexts.h"
 
 namespace zy {
+namespace {
+
+std::string Heading(const RecordChanges& changes) {
+    return "A save makes these changes: " + changes.Summary() + ".";
+}
+
+std::string Losses(const std::string& dropped) {
+    return dropped.empty() ? dropped : "What else it does to the file: " + dropped + ".";
+}
+
+} // namespace
 
 frmChanges::frmChanges(const ListRecords& records, const std::string& file)
     : Form("frmChanges"), lblHeading(this, "lblHeading"), lblDropped(this, "lblDropped"),
@@ -27,8 +38,8 @@ frmChanges::frmChanges(const ListRecords& records, const std::string& file)
 void frmChanges::Show(RecordChanges changes, const std::string& dropped) {
     const int selected = lstChanges.Selected();
     changes_ = std::move(changes);
-    lblHeading.SetCaption("A save makes these changes: " + changes_.Summary() + ".");
-    lblDropped.SetCaption(dropped.empty() ? "" : "What else it does to the file: " + dropped + ".");
+    lblHeading.SetCaption(Heading(changes_));
+    lblDropped.SetCaption(Losses(dropped));
     lstChanges.Refill(changes_.Count());
     lstChanges.Select(std::clamp(selected, std::min(changes_.Count(), 1), changes_.Count()));
     lstChanges_ItemClick();
