@@ -27,31 +27,46 @@ std::string PlaceOf(int row) {
     return "row " + std::to_string(row + 1);
 }
 
-/// The texts of a row that another row has not, behind the headers of their columns.
-std::string OwnTexts(const std::vector<std::string>& columns, const RowTexts& rows, int row,
-                     const RowTexts& others, int other) {
-    std::string text;
-    for (int column = 0; column < rows.Columns(); ++column) {
-        if (rows.Text(row, column) != others.Text(other, column)) {
-            Join(text, kBetween,
-                 columns[static_cast<std::size_t>(column)] + " " + Quoted(rows.Text(row, column)));
+bool DifferIn(int column, const std::vector<RowState>& states) {
+    const RowState* first = nullptr;
+    for (const auto& state : states) {
+        if (state.row == kNoRow) {
+            continue;
         }
+        if (first != nullptr &&
+            first->rows->Text(first->row, column) != state.rows->Text(state.row, column)) {
+            return true;
+        }
+        first = &state;
+    }
+    return false;
+}
+
+std::string TextsOf(const RowState& state, const std::vector<std::string>& columns,
+                    const std::vector<int>& shown) {
+    if (shown.empty()) {
+        return WholeRecord(*state.rows, state.row);
+    }
+    std::string text;
+    for (const int column : shown) {
+        Join(text, kBetween,
+             columns[static_cast<std::size_t>(column)] + " " + Quoted(state.rows->Text(state.row, column)));
     }
     return text;
 }
 
-/// How the record of a difference stands in one of the lists; `row` is kNoRow where it does not.
-std::string StateOf(const RowDifference& difference, const std::vector<std::string>& columns,
-                    const RowTexts& rows, int row, const RowTexts& others, int other) {
-    if (row == kNoRow) {
-        return {};
+/// How the record of a difference stands before and after.
+std::vector<std::string> StatesOf(const RowDifference& difference, const std::vector<std::string>& columns,
+                                  const RowTexts& was, const RowTexts& is) {
+    if (difference.kind == RowDifference::Kind::Moved) {
+        return {PlaceOf(difference.before), PlaceOf(difference.after)};
     }
-    if (other == kNoRow) {
-        return WholeRecord(rows, row);
+    auto states = DescribeStates(columns, {{&was, difference.before}, {&is, difference.after}});
+    if (difference.isMoved) {
+        Join(states.front(), kBetween, PlaceOf(difference.before));
+        Join(states.back(), kBetween, PlaceOf(difference.after));
     }
-    auto text = OwnTexts(columns, rows, row, others, other);
-    Join(text, kBetween, difference.isMoved ? PlaceOf(row) : "");
-    return text;
+    return states;
 }
 
 } // namespace
@@ -62,6 +77,22 @@ std::string WholeRecord(const RowTexts& rows, int row) {
         Join(text, kBetween, rows.Text(row, column));
     }
     return text;
+}
+
+std::vector<std::string> DescribeStates(const std::vector<std::string>& columns,
+                                        const std::vector<RowState>& states) {
+    std::vector<int> shown;
+    for (int column = 0; column < static_cast<int>(columns.size()); ++column) {
+        if (DifferIn(column, states)) {
+            shown.push_back(column);
+        }
+    }
+    std::vector<std::string> texts;
+    texts.reserve(states.size());
+    for (const auto& state : states) {
+        texts.push_back(state.row == kNoRow ? std::string() : TextsOf(state, columns, shown));
+    }
+    return texts;
 }
 
 RowKey KeyOf(const ListRecords& records) {
@@ -81,9 +112,8 @@ RecordChanges::RecordChanges(const ListRecords& records, const RowTexts& before,
     texts_.reserve(differences_.size());
     for (const auto& one : differences_) {
         const auto name = one.after == kNoRow ? was.Text(one.before, 0) : is.Text(one.after, 0);
-        texts_.push_back({KindOf(one), std::string(name),
-                          StateOf(one, columns, was, one.before, is, one.after),
-                          StateOf(one, columns, is, one.after, was, one.before)});
+        const auto states = StatesOf(one, columns, was, is);
+        texts_.push_back({KindOf(one), std::string(name), states.front(), states.back()});
     }
 }
 

@@ -45,6 +45,17 @@ class RecordChanges {
 /// The texts of a record behind one another.
 std::string WholeRecord(const RowTexts& rows, int row);
 
+/// A row of a list as it stands in several of them; kNoRow where it does not.
+struct RowState {
+    const RowTexts* rows;
+    int row;
+};
+
+/// The texts of a record in each of several states: only those in which the states differ, behind the headers
+/// of their columns, or the whole record where nothing differs. Empty for a state without the record.
+std::vector<std::string> DescribeStates(const std::vector<std::string>& columns,
+                                        const std::vector<RowState>& states);
+
 /// The key of a list's records, for a comparison of rows that `Comparable` gave.
 RowKey KeyOf(const ListRecords& records);
 

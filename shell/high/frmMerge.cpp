@@ -13,8 +13,8 @@ using Choice = RowMerge::Choice;
 constexpr auto kOpen = "? choose mine or theirs";
 constexpr auto kNone = "(none)";
 
-std::string TextOf(const RowTexts& rows, int row) {
-    return row == kNoRow ? kNone : WholeRecord(rows, row);
+std::string OrNone(const std::string& text) {
+    return text.empty() ? kNone : text;
 }
 
 std::string Explanation(bool canMerge) {
@@ -42,7 +42,7 @@ frmMerge::frmMerge(const ListRecords& records, const std::string& heading, const
       cmdMine(this, "cmdMine", "Take Mine", 'n'), cmdTheirs(this, "cmdTheirs", "Take Theirs", 'T'),
       cmdMerge(this, "cmdMerge", purpose == Purpose::Save ? "Merge and Save" : "Merge", 'M'),
       cmdOverwrite(this, "cmdOverwrite", "Overwrite", 'O'), cmdCancel(this, "cmdCancel", "Cancel"),
-      lists_(lists), merge_(merge) {
+      columns_(records.Columns()), lists_(lists), merge_(merge) {
     SetCaption("ZY Setup - Changed by Another Program");
     leastInnerSize = [] { return ListDialogLayout::Least(); };
     lblHeading.SetCaption(heading);
@@ -99,10 +99,11 @@ void frmMerge::ShowTexts(int item) {
 frmMerge::Texts frmMerge::TextsOf(const RowMerge::Row& row) const {
     const auto& named = row.mine != kNoRow ? lists_.mine : row.theirs != kNoRow ? lists_.theirs : lists_.base;
     const int place = row.mine != kNoRow ? row.mine : row.theirs != kNoRow ? row.theirs : row.base;
-    const auto& taken = row.choice == Choice::Theirs ? lists_.theirs : lists_.mine;
-    return {std::string(named.Text(place, 0)), TextOf(lists_.base, row.base),
-            TextOf(lists_.theirs, row.theirs), TextOf(lists_.mine, row.mine),
-            row.choice == Choice::Undecided ? kOpen : TextOf(taken, row.Taken())};
+    const auto states = DescribeStates(
+        columns_, {{&lists_.base, row.base}, {&lists_.theirs, row.theirs}, {&lists_.mine, row.mine}});
+    const auto& taken = states[row.choice == Choice::Theirs ? 1 : 2];
+    return {std::string(named.Text(place, 0)), OrNone(states[0]), OrNone(states[1]), OrNone(states[2]),
+            row.choice == Choice::Undecided ? kOpen : OrNone(taken)};
 }
 
 frmMerge::Texts frmMerge::OrderTexts() const {

@@ -64,6 +64,7 @@ class frmMerge : public Form {
     Texts OrderTexts() const;
     void End(Answer answer);
 
+    std::vector<std::string> columns_;
     Lists lists_;
     RowMerge* merge_;
     std::vector<Texts> texts_;
