@@ -19,6 +19,10 @@ class StatusBarBinding : public ControlBinding {
 
   private:
     void ShowText();
+    /// From one link to the next, and from the last one to the first.
+    void GoOn(bool backwards);
+    /// What stands in the bar and can be seen; null when nothing does.
+    const Container* ShownChild() const;
     /// Keeps the text out of the room of what stands in the bar, and says what that has to say.
     void ShowContent();
 

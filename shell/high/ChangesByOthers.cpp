@@ -16,12 +16,14 @@ ChangesByOthers::ChangesByOthers(ListFile& file, Editor& editor, SettingsForm& f
 }
 
 void ChangesByOthers::Connect() {
-    editor_.Steps().asking.Connect([this](bool& may) { AskBeforeSave(may); });
-    editor_.Hooks().beginning.Connect([this](std::string& reason) { RefuseSave(reason); });
-    editor_.Hooks().ended.Connect([this] { TakeUpSaved(); });
-    form_.lblShow.click.Connect([this] { lblShow_Click(); });
-    form_.lblLoad.click.Connect([this] { lblLoad_Click(); });
-    form_.lblIgnore.click.Connect([this] { lblIgnore_Click(); });
+    auto& hooks = editor_.Hooks();
+    auto& all = subscriptions_;
+    all.push_back(editor_.Steps().asking.Observe([this](bool& may) { AskBeforeSave(may); }));
+    all.push_back(hooks.beginning.Observe([this](std::string& reason) { RefuseSave(reason); }));
+    all.push_back(hooks.ended.Observe([this] { TakeUpSaved(); }));
+    all.push_back(form_.lblShow.click.Observe([this] { lblShow_Click(); }));
+    all.push_back(form_.lblLoad.click.Observe([this] { lblLoad_Click(); }));
+    all.push_back(form_.lblIgnore.click.Observe([this] { lblIgnore_Click(); }));
 }
 
 void ChangesByOthers::Look() {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "platform/Dialogs.h"
 #include "platform/FileSystem.h"
@@ -61,6 +63,7 @@ class ChangesByOthers {
     SystemInfo& system_;
     Dialogs& dialogs_;
     ListFile::Bytes ignored_;
+    std::vector<Subscription> subscriptions_;
 };
 
 } // namespace zy

@@ -21,8 +21,9 @@ void ShowStep(MenuItem& entry, const std::string& verb, bool can, const std::str
 
 } // namespace
 
-EditMenu::EditMenu(frmGlobalSettings& window, const std::vector<Editor*>& editors, TraceChannel& trace)
-    : window_(window), trace_(trace) {
+EditMenu::EditMenu(frmGlobalSettings& window, const std::vector<Editor*>& editors,
+                   std::optional<ListSession>& list, TraceChannel& trace)
+    : window_(window), trace_(trace), list_(list) {
     window_.menu.mnuUndo.click.Connect([this] { mnuUndo_Click(); });
     window_.menu.mnuRedo.click.Connect([this] { mnuRedo_Click(); });
     window_.menu.mnuChanges.click.Connect([this] { mnuChanges_Click(); });
@@ -54,9 +55,9 @@ void EditMenu::mnuRedo_Click() {
 
 void EditMenu::ShowOfList(std::string_view procedure, void (ListSession::*show)()) {
     Trace(procedure);
-    if (list_ != nullptr) {
+    if (list_) {
         window_.EditorInCharge()->CommitOpenCell();
-        (list_->*show)();
+        (*list_.*show)();
     }
 }
 

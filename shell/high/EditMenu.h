@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -15,10 +16,8 @@ namespace zy {
 class EditMenu {
   public:
     /// All of these must outlive it.
-    EditMenu(frmGlobalSettings& window, const std::vector<Editor*>& editors, TraceChannel& trace);
-
-    /// The list that the editor in charge works on. It must outlive the menu's use.
-    void SetList(ListSession& list) { list_ = &list; }
+    EditMenu(frmGlobalSettings& window, const std::vector<Editor*>& editors, std::optional<ListSession>& list,
+             TraceChannel& trace);
 
     void mnuUndo_Click();
     void mnuRedo_Click();
@@ -34,7 +33,7 @@ class EditMenu {
 
     frmGlobalSettings& window_;
     TraceChannel& trace_;
-    ListSession* list_ = nullptr;
+    std::optional<ListSession>& list_; ///< of the editor in charge
 };
 
 } // namespace zy

@@ -22,9 +22,10 @@ ListDialogLayout::ListDialogLayout(Form& form) : size_(form.InnerSize()), top_(k
 }
 
 void ListDialogLayout::Add(TextLabel& label) {
-    const int height = label.Caption().empty() ? 0 : label.Preferred().height;
-    label.SetBounds({kMargin, top_, size_.width - 2 * kMargin, height});
-    top_ += height == 0 ? 0 : height + kBetween;
+    if (label.Visible()) {
+        label.SetBounds({kMargin, top_, size_.width - 2 * kMargin, label.Preferred().height});
+        top_ += label.Preferred().height + kBetween;
+    }
 }
 
 void ListDialogLayout::Add(std::initializer_list<CommandButton*> buttons) {

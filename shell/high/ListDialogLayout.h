@@ -22,7 +22,7 @@ class ListDialogLayout {
     /// The size below which it cannot be made smaller.
     static Size Least() { return {kLeastWidth, kLeastHeight}; }
 
-    /// A text at the top, below those before. An empty one takes no room.
+    /// A text at the top, below those before. One that is hidden takes no room.
     void Add(TextLabel& label);
     /// At the foot, from the left to the right, above those before.
     void Add(std::initializer_list<CommandButton*> buttons);

@@ -14,12 +14,15 @@ Program::Program(const World& outside)
       unitsPage(form, state, trace, world.files, world.dialogs), registryEdit(world.registry, world.window),
       subClasser(world.window, state), window({form, state, trace, world.dialogs, rulesPage, securityPage,
                                                unitsPage, registryEdit, subClasser}),
-      editMenu(window, {&rulesPage, &securityPage, &unitsPage}, trace),
+      editMenu(window, {&rulesPage, &securityPage, &unitsPage}, list, trace),
       helpMenu(form.menu, trace, world.system, world.dialogs, world.help, world.links),
       recovery(world.files, world.journals, world.system, world.dialogs) {
     securityPage.users.loginCancelled.Connect([this] { window.Unload(); });
     recovery.reported.Connect([this](const std::string& report) { AddHint(form.zyStatusBar, report); });
     window.idle.Connect([this] { recovery.Idle(); });
+    window.idle.Connect([this] { WithList(&ListSession::Idle); });
+    window.activated.Connect([this] { WithList(&ListSession::Activated); });
+    window.otherPart.Connect([this] { WithList(&ListSession::GoToOtherPart); });
     window.unloaded.Connect([this] { recovery.End(); });
     helpMenu.ConnectButton(rulesPage.controls.cmdHelpRules);
     helpMenu.ConnectButton(securityPage.controls.cmdHelpSecurity);
@@ -29,10 +32,12 @@ Program::Program(const World& outside)
 void Program::Open(const std::string& path, Editor& editor, VersionKeeper::Keeps keeps) {
     list.emplace(world, form, path, editor, keeps);
     list->rebased.Connect([this] { recovery.GoOnFromFile(); });
-    window.activated.Connect([this] { list->Activated(); });
-    window.otherPart.Connect([this] { list->GoToOtherPart(); });
-    window.idle.Connect([this] { list->Idle(); });
-    editMenu.SetList(*list);
+}
+
+void Program::WithList(void (ListSession::*call)()) {
+    if (list) {
+        (*list.*call)();
+    }
 }
 
 } // namespace zy

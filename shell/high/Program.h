@@ -28,6 +28,8 @@ class Program {
 
     /// An editor is about to load its list from this file.
     void Open(const std::string& path, Editor& editor, VersionKeeper::Keeps keeps);
+    /// Calls what stands around the list of the editor that was started; nothing before one was.
+    void WithList(void (ListSession::*call)());
 
     World world;
     SharedState state;
@@ -41,10 +43,10 @@ class Program {
     mRegistryEdit registryEdit;
     SubClasser subClasser;
     frmGlobalSettings window;
+    std::optional<ListSession> list;
     EditMenu editMenu;
     HelpMenu helpMenu;
     Recovery recovery;
-    std::optional<ListSession> list;
 };
 
 } // namespace zy

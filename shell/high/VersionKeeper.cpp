@@ -13,9 +13,10 @@ VersionKeeper::VersionKeeper(ListFile& file, Editor& editor, EarlierVersions& ve
                              Dialogs& dialogs, Keeps keeps)
     : file_(file), editor_(editor), versions_(versions), system_(system), dialogs_(dialogs), keeps_(keeps) {
     if (keeps == Keeps::Versions) {
-        editor_.Hooks().beginning.Connect([this](std::string& refusal) { Keep(refusal); });
-        editor_.Hooks().ended.Connect([this] { versions_.Prune(file_.Path()); });
-        editor_.Steps().saved.Connect([this](SaveEnd end) { NoteEnd(end); });
+        auto& hooks = editor_.Hooks();
+        subscriptions_.push_back(hooks.beginning.Observe([this](std::string& refusal) { Keep(refusal); }));
+        subscriptions_.push_back(hooks.ended.Observe([this] { versions_.Prune(file_.Path()); }));
+        subscriptions_.push_back(editor_.Steps().saved.Observe([this](SaveEnd end) { NoteEnd(end); }));
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/Dialogs.h"
 #include "platform/SystemInfo.h"
@@ -44,6 +45,7 @@ class VersionKeeper {
     Keeps keeps_;
     bool isKept_ = false; ///< what the last save was to replace
     std::string report_;  ///< not shown yet
+    std::vector<Subscription> subscriptions_;
 };
 
 } // namespace zy

@@ -40,6 +40,7 @@ void frmChanges::Show(RecordChanges changes, const std::string& dropped) {
     changes_ = std::move(changes);
     lblHeading.SetCaption(Heading(changes_));
     lblDropped.SetCaption(Losses(dropped));
+    lblDropped.SetVisible(!dropped.empty());
     lstChanges.Refill(changes_.Count());
     lstChanges.Select(std::clamp(selected, std::min(changes_.Count(), 1), changes_.Count()));
     lstChanges_ItemClick();

@@ -14,7 +14,8 @@ std::string_view ListFile::Name() const {
 }
 
 ListFile::Bytes ListFile::Read() const {
-    const auto opened = files_.Exists(path_) ? files_.OpenForReading(path_) : OpenedFile{};
+    const bool isThere = files_.Locate(path_) == FileError::None && files_.Exists(path_);
+    const auto opened = isThere ? files_.OpenForReading(path_) : OpenedFile{};
     if (!opened.handle) {
         return std::nullopt;
     }

@@ -14,7 +14,8 @@ namespace zy {
 /// may be written anew with what it held.
 class ListFile {
   public:
-    /// What a file holds; nothing where there is none, or where it cannot be read.
+    /// What a file holds; nothing where there is none, where it cannot be read, and where it is not certain
+    /// which one it is.
     using Bytes = std::optional<std::string>;
 
     /// The file system must outlive it.

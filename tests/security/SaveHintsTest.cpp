@@ -16,6 +16,7 @@ class SaveHints : public UsersTest {
   protected:
     SaveHints() {
         StartOver({User("Ann")});
+        LeaveTableUnwatched();
         Edit(1, kPassword, "new");
     }
     /// Saves, with this operation failing once.
@@ -82,6 +83,7 @@ TEST_F(SaveHints, WithoutATableTheUsersOfATemporaryOneAreToBeBroughtBackAndOther
 TEST_F(SaveHints, ATableThatWasNotWrittenToItsEndSaysHowManyOfItsUsersItHolds) {
     world.files.Take(kUsersTable);
     StartOver(Users(10, User("Ann")));
+    LeaveTableUnwatched();
     for (int row = 1; row <= 10; ++row) {
         Edit(row, kUserName, "u" + std::to_string(row));
     }

@@ -50,6 +50,7 @@ class SaveSteps : public UsersTest {
             world.files.Take(path);
         }
         StartOver({User("Ann"), User("Bob")});
+        LeaveTableUnwatched();
         world.files.Put(kUsersIndex, "index of the old table");
         Edit(1, kPassword, "new");
     }

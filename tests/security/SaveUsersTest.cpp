@@ -153,6 +153,7 @@ TEST_F(SaveUsers, WithoutUsersTheButtonRecyclesInTheTablesFolderAndTheMenuInTheS
 
 TEST_F(SaveUsers, WithoutUsersEachOfTheTwoFilesGoesWhereItExists) {
     StartOver({User("Ann")});
+    LeaveTableUnwatched();
     world.files.Put(kUsersIndex, "index");
     grid().Pick(1, 0);
     Delete(Answer::Yes);

@@ -67,6 +67,7 @@ TEST_F(UncertainPlaces, OfTheLocationFileAreRefusedInThisEditorAlone) {
 
 TEST_F(UncertainPlaces, OfAnyFileOfASaveAreRefusedBeforeItsFirstStep) {
     StartOver({User("Ann")});
+    LeaveTableUnwatched();
     Edit(1, kPassword, "new");
     for (const auto path : {kUsersTable, kUsersTemporary, kUsersIndex}) {
         world.files.SetUncertain(path, FileError::Ambiguous);

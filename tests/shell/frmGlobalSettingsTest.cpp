@@ -105,7 +105,9 @@ TEST(MainMenuTest, HoldsTheEditMenu) {
     EXPECT_THAT(Lines(menu.mnuEdit),
                 ElementsAre("mnuEdit &Edit", "  mnuUndo &Undo", "  mnuRedo &Redo", "  mnuSeparatorCut -",
                             "  mnuCut Cu&t", "  mnuCopy &Copy", "  mnuPaste &Paste", "  mnuSeparatorSelect -",
-                            "  mnuSelectAll Select &All"));
+                            "  mnuSelectAll Select &All", "  mnuSeparatorVersions -",
+                            "  mnuChanges U&nsaved Changes...", "  mnuOthers Changes by &Others...",
+                            "  mnuVersions &Earlier Versions..."));
 }
 
 TEST(MainMenuTest, HoldsTheHelpMenu) {
