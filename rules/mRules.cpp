@@ -128,15 +128,7 @@ std::string mRules::WhyNotToSaveRules(const SaveTurn& turn) {
 
 bool mRules::Write_Rules_File() {
     const SaveTurn turn(files_, Settings().RulesFile());
-    auto refusal = WhyNotToSaveRules(turn);
-    refusal = refusal.empty() ? WhyNotToBegin(saveHooks) : refusal;
-    if (!refusal.empty()) {
-        reported.Raise(refusal);
-        return false;
-    }
-    ReplaceFile();
-    saveHooks.ended.Raise();
-    return true;
+    return SaveInTurn(WhyNotToSaveRules(turn), saveHooks, reported, [this] { ReplaceFile(); });
 }
 
 void mRules::ReplaceFile() {

@@ -62,11 +62,11 @@ void mSecurity::Save_Security() {
 bool mSecurity::WriteAll(std::string_view folderWithoutUsers) {
     const std::string folder = HasUsers() ? SecurityFolder() : std::string(folderWithoutUsers);
     const auto turn = writer_.TakeTurn(folder);
-    const auto refusal = turn.IsMine() ? WhyNotToBegin(saveHooks) : std::string(SaveTurn::kRefusal);
-    if (!refusal.empty()) {
-        reported.Raise(refusal);
-        return false;
-    }
+    const std::string refusal(turn.IsMine() ? "" : SaveTurn::kRefusal);
+    return SaveInTurn(refusal, saveHooks, reported, [&] { WriteInTurn(folder); });
+}
+
+void mSecurity::WriteInTurn(const std::string& folder) {
     if (HasUsers()) {
         Write_Security();
         WriteDBIndex();
@@ -74,8 +74,6 @@ bool mSecurity::WriteAll(std::string_view folderWithoutUsers) {
         writer_.Recycle(folder);
     }
     dangers_.clear();
-    saveHooks.ended.Raise();
-    return true;
 }
 
 void mSecurity::Write_Security() {

@@ -85,6 +85,8 @@ class mSecurity {
     Bool16 newSecurityFile;           ///< there was no table to load
 
   private:
+    /// Writes the table and its index, or takes them away from the folder where there are no users.
+    void WriteInTurn(const std::string& folder);
     void Start(std::string_view procedure);
     void Trace(std::string_view procedure, std::string_view message);
     Bool16 LogIn(std::string_view adminPassword);

@@ -7,7 +7,9 @@ namespace zy {
 
 std::string UnitRecords::Key(const RowTexts& comparable, int row) const {
     constexpr auto kBetween = "\r\n"; // which no file can hold inside a field
-    return std::string(comparable.Text(row, kUnit)).append(kBetween).append(comparable.Text(row, kUnitDescription));
+    return std::string(comparable.Text(row, kUnit))
+        .append(kBetween)
+        .append(comparable.Text(row, kUnitDescription));
 }
 
 std::optional<FileRecords> UnitRecords::Read(std::string_view bytes) const {

@@ -29,8 +29,7 @@ std::string_view SpecialCharacter(Key key) {
 UnitsPage::UnitsPage(SettingsForm& form, SharedState& state, TraceChannel& trace, FileSystem& files,
                      Dialogs& dialogs)
     : controls(form.FraUnits), units(controls.grdUnits, state, trace, files, dialogs), form_(form),
-      trace_(trace), dialogs_(dialogs), steps_("Unit", controls.grdUnits),
-      records_(controls.grdUnits.cells) {
+      trace_(trace), dialogs_(dialogs), steps_("Unit", controls.grdUnits), records_(controls.grdUnits.cells) {
     Connect();
 }
 

@@ -85,15 +85,8 @@ FileError mUnits::ObstacleToSave() {
 
 bool mUnits::Write_Units() {
     const SaveTurn turn(files_, state_.gsUnitsFile);
-    auto refusal = WhyNotToSave(files_, state_.gsUnitsFile, turn);
-    refusal = refusal.empty() ? WhyNotToBegin(saveHooks) : refusal;
-    if (!refusal.empty()) {
-        reported.Raise(refusal);
-        return false;
-    }
-    ReplaceFile();
-    saveHooks.ended.Raise();
-    return true;
+    return SaveInTurn(WhyNotToSave(files_, state_.gsUnitsFile, turn), saveHooks, reported,
+                      [this] { ReplaceFile(); });
 }
 
 void mUnits::ReplaceFile() {

@@ -21,11 +21,11 @@ namespace zy {
 /// with. "/" counts as "\", several in a row as one. A file can be created only in a folder that exists.
 ///
 /// Each operation of FileSystem and of its handles is counted, recorded and subject to the fault plan, but
-/// for Size and what only asks or holds (DisplayPath, Locate, LockFolderOf, LastChange, MayReplace, MayOverwrite,
-/// FreeBytes): a failing Exists or PathExists says false, a failing FilesIn finds none, a failing Read reads
-/// nothing, all others return the plan's error and change nothing, but that a Write may be cut short and a
-/// Close closes all the same. Destroying a handle
-/// is no operation, and neither are the verbs for tests below.
+/// for Size and what only asks or holds (DisplayPath, Locate, LockFolderOf, LastChange, MayReplace,
+/// MayOverwrite, FreeBytes): a failing Exists or PathExists says false, a failing FilesIn finds none, a
+/// failing Read reads nothing, all others return the plan's error and change nothing, but that a Write may be
+/// cut short and a Close closes all the same. Destroying a handle is no operation, and neither are the verbs
+/// for tests below.
 ///
 /// Handles must not outlive the file system. One whose file is deleted keeps its bytes for itself.
 class MemoryFileSystem final : public FileSystem {

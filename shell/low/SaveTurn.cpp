@@ -47,10 +47,18 @@ std::string WhyNotToSave(FileSystem& files, std::string_view path, const SaveTur
     return uncertainty.empty() ? uncertainty : "Not saved, " + uncertainty;
 }
 
-std::string WhyNotToBegin(SaveHooks& hooks) {
-    std::string reason;
-    hooks.beginning.Raise(reason);
-    return reason;
+bool SaveInTurn(std::string refusal, SaveHooks& hooks, Event<const std::string&>& reported,
+                const std::function<void()>& save) {
+    if (refusal.empty()) {
+        hooks.beginning.Raise(refusal);
+    }
+    if (!refusal.empty()) {
+        reported.Raise(refusal);
+        return false;
+    }
+    save();
+    hooks.ended.Raise();
+    return true;
 }
 
 } // namespace zy

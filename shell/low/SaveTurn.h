@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -48,7 +49,10 @@ std::string Obstacle(std::string_view path, FileError error);
 
 /// Why the file of this path must not be saved now, for the status bar; empty when it may.
 std::string WhyNotToSave(FileSystem& files, std::string_view path, const SaveTurn& turn);
-/// Why the save that is about to begin is refused, as the hooks say; empty when it may begin.
-std::string WhyNotToBegin(SaveHooks& hooks);
+
+/// Saves, with what else is to be done in the turn. False, and `reported` says why, when there is a reason
+/// not to, here or in what else is to be done.
+bool SaveInTurn(std::string refusal, SaveHooks& hooks, Event<const std::string&>& reported,
+                const std::function<void()>& save);
 
 } // namespace zy
