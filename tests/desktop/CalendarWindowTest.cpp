@@ -250,7 +250,7 @@ TEST_F(CalendarWindow, StandsJustBelowItsCell) {
 
 TEST_F(CalendarWindow, StandsJustBelowItsCellOnAPageThatIsScrolledToo) {
     Play([&] {
-        constexpr Size kLeast{13000, 11500};
+        static constexpr Size kLeast{13000, 11500};
         InWindow([&] {
             program->form.leastInnerSize = [] { return kLeast; };
             RealFrame().SetSize(RealFrame().GetSize() + wxSize(10, 10));

@@ -3,7 +3,7 @@
 #include "DesktopColours.h"
 #include "support/EnvironmentVariable.h"
 
-struct _GtkSettings;
+struct _GtkSettings; // NOLINT(bugprone-reserved-identifier): the name is GTK's own
 
 extern "C" _GtkSettings* gtk_settings_get_default();
 

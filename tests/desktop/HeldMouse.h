@@ -2,7 +2,7 @@
 
 #include <memory>
 
-struct _XDisplay;
+struct _XDisplay; // NOLINT(bugprone-reserved-identifier): the name is the window system's own
 
 namespace zy::test {
 
