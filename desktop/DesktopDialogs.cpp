@@ -28,7 +28,8 @@ bool DesktopDialogs::AskYesNo(std::string_view text, std::string_view title, Esc
 void DesktopDialogs::ShowForm(Form& form) {
     startToolkit_();
     gate_.PrepareForBox();
-    DialogBinding(codePage_, gate_, form, wxTheApp->GetTopWindow()).Run();
+    DialogBinding dialog(codePage_, gate_, form, wxTheApp->GetTopWindow());
+    gate_.RunDialog([&dialog] { dialog.Run(); });
     gate_.Rethrow();
 }
 

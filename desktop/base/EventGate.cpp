@@ -54,6 +54,12 @@ void EventGate::PrepareForBox() {
     boxOpening.Raise();
 }
 
+void EventGate::RunDialog(const std::function<void()>& run) {
+    const int outer = std::exchange(running_, 0);
+    run();
+    running_ = outer;
+}
+
 void EventGate::Rethrow() const {
     if (failure_) {
         std::rethrow_exception(failure_);

@@ -37,6 +37,8 @@ class EventGate {
 
     /// Brings the screen up to date before a message box opens.
     void PrepareForBox();
+    /// Runs a dialog of the program. What is put off in it does not wait for the action that has opened it.
+    void RunDialog(const std::function<void()>& run);
     /// Throws on the exception that was kept, if there is one.
     void Rethrow() const;
     bool HasFailed() const { return failure_ != nullptr; }
