@@ -47,6 +47,7 @@ void ListDialogLayout::Add(std::initializer_list<CommandButton*> buttons) {
 std::vector<Rect> ListDialogLayout::Rooms(int count) const {
     const int height = std::max((bottom_ - top_ - (count - 1) * kBetween) / count, 0);
     std::vector<Rect> rooms;
+    rooms.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
         rooms.push_back({kMargin, top_ + i * (height + kBetween), size_.width - 2 * kMargin, height});
     }

@@ -140,6 +140,21 @@ TEST_F(ChangesByOthersWindow, TheUnsavedChangesCanBeTakenBackByKeys) {
     });
 }
 
+TEST_F(ChangesByOthersWindow, TheRowThatIsPickedInABoxIsTheOneThatItsButtonTakes) {
+    Play([&] {
+        WaitForFocus(grid());
+        EditDescription(3, "Hours");
+        WaitUntil("the edit is done", [&] { return grid().cells.Text(3, kUnitDescription) == "Hours"; });
+        OpenFromEdit('N', kChanges);
+        WaitForFocusIn("lstChanges");
+        Press(WXK_DOWN); // from what was removed to what was added
+        Press('R', wxMOD_ALT);
+        WaitUntil("what was added is gone", [&] { return grid().cells.Rows() == 3; });
+        Press(WXK_ESCAPE);
+        WaitForWindow();
+    });
+}
+
 TEST_F(ChangesByOthersWindow, AnEarlierVersionComesBackByKeys) {
     Play([&] {
         WaitForFocus(grid());
