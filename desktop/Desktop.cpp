@@ -47,6 +47,7 @@ void Desktop::Close() {
 }
 
 int Desktop::Report(const std::exception_ptr& error) {
+    failing.Raise();
     try {
         std::rethrow_exception(error);
     } catch (const RuntimeError& runtimeError) {

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 
+#include "controls/Event.h"
 #include "desktop/DesktopDialogs.h"
 #include "desktop/DesktopHelp.h"
 #include "desktop/DesktopWindow.h"
@@ -36,6 +37,9 @@ class Desktop {
     EventGate& Gate() { return gate_; }
     DesktopWindow& Window() { return *window_; }
     const CodePage& TextCodePage() const { return codePage_; }
+
+    /// An error is about to be shown behind which the program ends.
+    Event<> failing;
 
   private:
     int Report(const std::exception_ptr& error);

@@ -2,6 +2,7 @@
 
 #include <wx/frame.h>
 
+#include "desktop/Ending.h"
 #include "desktop/Native.h"
 
 namespace zy {
@@ -18,7 +19,8 @@ std::vector<Shortcut> Shortcuts(const MainMenu& menu) {
 MainWindowView::MainWindowView(Desktop& desktop, frmGlobalSettings& window)
     : desktop_(desktop), window_(window),
       appearanceChanged_(window.Form().appearanceChanged.Observe([this] { ShowOrHide(); })),
-      unloaded_(window.unloaded.Observe([this] { desktop_.Close(); })) {}
+      unloaded_(window.unloaded.Observe([this] { desktop_.Close(); })),
+      failing_(desktop.failing.Observe([this] { window_.ending.Raise(); })) {}
 
 void MainWindowView::ShowOrHide() {
     if (window_.Form().Visible() && !binding_) {
@@ -46,6 +48,7 @@ void MainWindowView::Open() {
     menuBar_->AddContextMenu(menu.mnuGridPopMenu);
     menuBar_->AddContextMenu(menu.mnuSecuritypopMenu);
     desktop_.Window().Attach(binding_->Frame());
+    ObserveEnding(binding_->Frame(), [this] { desktop_.Gate().Answer([this] { window_.ending.Raise(); }); });
     binding_->Frame().Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
         event.Skip();
         desktop_.Gate().Answer([this] { window_.idle.Raise(); });

@@ -31,6 +31,7 @@ class MainWindowView {
     std::optional<ClipboardMenu> clipboard_;
     Subscription appearanceChanged_;
     Subscription unloaded_;
+    Subscription failing_;
 };
 
 } // namespace zy

@@ -23,6 +23,7 @@ Program::Program(const World& outside)
     window.idle.Connect([this] { WithList(&ListSession::Idle); });
     window.activated.Connect([this] { WithList(&ListSession::Activated); });
     window.otherPart.Connect([this] { WithList(&ListSession::GoToOtherPart); });
+    window.ending.Connect([this] { recovery.Sync(); });
     window.unloaded.Connect([this] { recovery.End(); });
     helpMenu.ConnectButton(rulesPage.controls.cmdHelpRules);
     helpMenu.ConnectButton(securityPage.controls.cmdHelpSecurity);

@@ -35,6 +35,12 @@ void Recovery::Idle() {
     }
 }
 
+void Recovery::Sync() {
+    if (journal_) {
+        static_cast<void>(journal_->Sync()); // nobody can do anything about it any more
+    }
+}
+
 void Recovery::End() {
     if (journal_ && !lastSaveFailed_) {
         Forget();

@@ -30,6 +30,8 @@ class Recovery {
     void GoOnFromFile();
     /// There is nothing else to do at the moment.
     void Idle();
+    /// The program is about to break off.
+    void Sync();
     /// The window was closed in good order: what is noted is not needed, unless the last save failed.
     void End();
 

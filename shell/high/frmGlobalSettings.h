@@ -69,6 +69,8 @@ class frmGlobalSettings {
     MainMenu& menu; ///< the form's
     /// The window is gone; the program ends.
     Event<> unloaded;
+    /// The program breaks off: the system ends it, or an error that it cannot go on from.
+    Event<> ending;
     /// The user is not doing anything at the moment.
     Event<> idle;
     /// The user has come to the window, maybe from another program.

@@ -8,9 +8,19 @@
 namespace zy::test {
 namespace {
 
+using ::testing::IsEmpty;
+using ::testing::Optional;
+
 constexpr auto kOverflow = "Run-time error '6':\n\nOverflow";
 
-class ErrorWindow : public RulesWindow {};
+class ErrorWindow : public RulesWindow {
+  protected:
+    /// Whether the program was told that it ends, and which boxes it had shown by then.
+    std::optional<std::vector<std::string>> boxesBeforeTheEnd;
+    void ListenForTheEnd() {
+        program->window.ending.Connect([this] { boxesBeforeTheEnd = boxes.Seen(); });
+    }
+};
 
 TEST_F(ErrorWindow, ARunTimeErrorAtStartUpIsShownAndEndsTheProgramWithStatusOne) {
     PutRules(ManyRules(32768));
@@ -31,6 +41,20 @@ TEST_F(ErrorWindow, ARunTimeErrorInAHandlerDoesTheSame) {
     });
     EXPECT_EQ(status, 1);
     EXPECT_EQ(File(), FileOf(ThreeRules()));
+}
+
+TEST_F(ErrorWindow, WhatBelongsOnTheDiskIsBroughtThereBeforeTheErrorIsShown) {
+    PutRules(ThreeRules());
+    Play([&] {
+        InWindow([&] {
+            ListenForTheEnd();
+            page().cmdAddList.click.Connect([] { RaiseOverflow(); });
+        });
+        Click(page().cmdAddList);
+        ExpectBox(kOverflow, "ZY Setup");
+        Press(WXK_RETURN);
+    });
+    EXPECT_THAT(boxesBeforeTheEnd, Optional(IsEmpty()));
 }
 
 TEST_F(ErrorWindow, AnyOtherErrorIsShownByItsMessage) {

@@ -410,6 +410,12 @@ TEST_F(UnitsRecovery, NotesReachTheDiskWhenThereIsNothingElseToDo) {
     EXPECT_EQ(Journals().front().synced, Journals().front().bytes.size());
 }
 
+TEST_F(UnitsRecovery, NotesReachTheDiskBeforeTheProgramBreaksOff) {
+    Edit(1, "new");
+    window().ending.Raise();
+    EXPECT_EQ(Journals().front().synced, Journals().front().bytes.size());
+}
+
 TEST_F(UnitsRecovery, ADiskThatFailsThenIsReported) {
     Edit(1, "new");
     FailJournals("Sync", FileError::Other);
@@ -542,6 +548,14 @@ TEST_F(RulesRecovery, WhatWasTypedAndNotStoredYetOutlivesASaveOfTheRest) {
     controls().cmdSaveRules.Click(); // which writes the list without what the form alone holds
     StartAgain(&frmRecovery::cmdRestore);
     EXPECT_EQ(controls().txtDescription.Text(), "new");
+}
+
+TEST_F(RulesRecovery, AnErrorInTheMidstOfAHandlerLosesNothing) {
+    controls().cmdUpDown.PressDown();
+    controls().cmdAddList.click.Connect([this] { static_cast<void>(program().rules.gaRules(99)); });
+    EXPECT_THROW(controls().cmdAddList.Click(), RuntimeError); // 9, the subscript is out of range
+    StartAgain(&frmRecovery::cmdRestore);
+    EXPECT_THAT(Codes(), ElementsAre("B", "A", "C", "NEW"));
 }
 
 TEST_F(RulesRecovery, NothingIsAskedAfterASave) {
