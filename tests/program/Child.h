@@ -37,6 +37,8 @@ class Child {
     std::optional<int> WaitForEnd();
     /// Asks a trace viewer to end in its orderly way, and waits for that. Returns its exit status.
     std::optional<int> Stop();
+    /// Sends it a signal, where the system has such.
+    void Signal(int signal);
 
   private:
     // Each system has one file of these.

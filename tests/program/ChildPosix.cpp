@@ -12,6 +12,7 @@ namespace {
 
 /// Becomes the command. Returns only when that fails.
 void Become(const std::vector<std::string>& command, const Environment& environment) {
+    signal(SIGHUP, SIG_DFL); // which somebody may want the tests to outlive
     for (const auto& name : environment.unset) {
         unsetenv(name.c_str());
     }
@@ -70,7 +71,11 @@ std::optional<int> Child::Ended() {
 }
 
 void Child::AskToEnd() {
-    kill(handles_->pid, SIGINT);
+    Signal(SIGINT);
+}
+
+void Child::Signal(int signal) {
+    kill(handles_->pid, signal);
 }
 
 } // namespace zy::test

@@ -4,8 +4,8 @@
 
 #include "Scene.h"
 #include "Screen.h"
+#include "UsersTable.h"
 #include "support/AnotherDisk.h"
-#include "support/TableBytes.h"
 
 namespace zy::test {
 namespace {
@@ -14,13 +14,6 @@ namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Optional;
-
-/// The bytes of a table of one user.
-std::string TableOf(const std::string& name) {
-    dbase::test::TableBytes table(
-        {{"USERID", 10}, {"PASSWORD", 20}, {"IDENTIFIER", 20}, {"EXPDATE", 8}, {"STATUS", 1}});
-    return table.Add(' ', {name, "secret", "id", "", "A"}).Bytes();
-}
 
 /// What only Linux has: a program without a display, the user's folders, a session bus that may be missing.
 class OnLinux : public Scene {

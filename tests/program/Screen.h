@@ -18,6 +18,9 @@ void TypeCharacters(const std::string& text);
 void MoveActiveWindow(int left, int top);
 void ResizeActiveWindow(int width, int height);
 
+/// Has the display cut off the program that the window belongs to, as at its own end.
+void CutOffActiveWindow();
+
 struct WindowSize {
     int width = 0;
     int height = 0;

@@ -22,6 +22,15 @@ std::string Do(const std::string& action) {
     return output;
 }
 
+/// For the shell.
+std::string InQuotes(const std::string& text) {
+    std::string quoted = "'";
+    for (const char character : text) {
+        quoted += character == '\'' ? R"('\'')" : std::string(1, character);
+    }
+    return quoted + "'";
+}
+
 } // namespace
 
 std::string ActiveWindowTitle() {
@@ -37,7 +46,7 @@ void PressKeys(const std::string& keys) {
 }
 
 void TypeCharacters(const std::string& text) {
-    Do("type --delay 40 '" + text + "'");
+    Do("type --delay 40 " + InQuotes(text));
 }
 
 void MoveActiveWindow(int left, int top) {
@@ -46,6 +55,10 @@ void MoveActiveWindow(int left, int top) {
 
 void ResizeActiveWindow(int width, int height) {
     Do("getactivewindow windowsize " + std::to_string(width) + " " + std::to_string(height));
+}
+
+void CutOffActiveWindow() {
+    Do("getactivewindow windowkill");
 }
 
 WindowSize ActiveWindowSize() {
