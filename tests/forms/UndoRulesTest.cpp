@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <random>
 
 #include "GridModeForm.h"
 #include "rules/RulesFileText.h"
@@ -293,12 +292,11 @@ TEST_F(UndoRules, WhatTheGridStoresIsOneStep) {
     EXPECT_THAT(HeldRules(), ElementsAre("A|1|2|>|UCL|text  ", "B|1|2|>|UCL|text  "));
 }
 
-/// Somebody who does whatever comes to his mind.
-class RandomUndoRules : public UndoRules {
+class RandomUndoRules : public UndoRules, public RandomUser {
   protected:
-    int Below(int end) { return std::uniform_int_distribution<>(0, end - 1)(random); }
-    std::string Text() { return {static_cast<char>('a' + Below(26)), static_cast<char>('a' + Below(26))}; }
-    void Act() {
+    void StartOver() override { StartWithCodes({"A", "B", "C"}); }
+    EditSteps& Steps() override { return handlers().Steps(); }
+    void Act() override {
         list().SetFocus(); // without the checks of a field that is left; it ends a run of moves
         switch (Below(12)) {
         case 0:
@@ -342,10 +340,10 @@ class RandomUndoRules : public UndoRules {
             page().txtMin.Enter(std::to_string(1 + Below(3)));
             break;
         case 2:
-            page().txtCode.Enter(Text());
+            page().txtCode.Enter(Letters());
             break;
         default:
-            page().txtDescription.Enter(Text());
+            page().txtDescription.Enter(Letters());
         }
     }
     /// What File > Save does, without its checks.
@@ -355,8 +353,7 @@ class RandomUndoRules : public UndoRules {
             page().cmdSaveRules.Click();
         }
     }
-    /// What File > Save would write.
-    std::string Bytes() {
+    std::string Bytes() override {
         RuleList all;
         std::vector<RunRule> copies;
         const int count = rules().gaRules.UBound();
@@ -376,21 +373,10 @@ class RandomUndoRules : public UndoRules {
         }
         return bytes;
     }
-
-    std::mt19937 random{22};
 };
 
 TEST_F(RandomUndoRules, StepsLeadBackAndForthToTheSameFile) {
-    UndoWalk walk(handlers().Steps(), [this] { return Bytes(); });
-    for (int round = 0; round < 150; ++round) {
-        for (int i = 0; i < 20; ++i) {
-            Act();
-            walk.NoteAction();
-        }
-        walk.Walk(static_cast<std::size_t>(Below(20)));
-        ASSERT_FALSE(HasFailure()) << "round " << round;
-    }
-    EXPECT_GT(walk.StepsWalked(), 10000U);
+    WalkAtRandom(*this);
 }
 
 TEST_F(RandomUndoRules, WhateverWasDoneComesBackAfterTheProgramBrokeOff) {

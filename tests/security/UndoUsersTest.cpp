@@ -1,4 +1,3 @@
-#include <random>
 
 #include "UsersTest.h"
 #include "support/UndoWalk.h"
@@ -120,11 +119,11 @@ TEST_F(UndoUsers, UndoneBackToASaveByTheButtonClosingAsksNothing) {
 }
 
 /// Somebody who does whatever comes to his mind.
-class RandomUndoUsers : public UndoUsers {
+class RandomUndoUsers : public UndoUsers, public RandomUser {
   protected:
-    int Below(int end) { return std::uniform_int_distribution<>(0, end - 1)(random); }
-    std::string Text() { return {static_cast<char>('a' + Below(26)), static_cast<char>('a' + Below(26))}; }
-    void Act() {
+    void StartOver() override { Start("@SECURITY"); }
+    EditSteps& Steps() override { return page().Steps(); }
+    void Act() override {
         const int users = grid().cells.Rows() - 1;
         if (users > 0) {
             grid().Pick(1 + Below(users), Below(kUsersColumns));
@@ -145,7 +144,7 @@ class RandomUndoUsers : public UndoUsers {
             deleteEntry().Click();
             break;
         case 4:
-            grid().Paste(Text() + "\t" + Text() + "\r\n" + Text() + "\t" + Text() + "\r\n");
+            grid().Paste(Letters() + "\t" + Letters() + "\r\n" + Letters() + "\t" + Letters() + "\r\n");
             break;
         case 5:
             if (users > 0) {
@@ -153,12 +152,12 @@ class RandomUndoUsers : public UndoUsers {
             }
             break;
         default:
-            grid().TypeOver(Text());
+            grid().TypeOver(Letters());
         }
         grid().editor.Commit();
     }
     /// All that a save would write, and whether it could.
-    std::string Bytes() {
+    std::string Bytes() override {
         EXPECT_EQ(page().users.zySecure.size(), std::max<std::size_t>(Rows().size(), 1U));
         std::string bytes;
         for (const auto& row : Rows()) {
@@ -166,21 +165,10 @@ class RandomUndoUsers : public UndoUsers {
         }
         return bytes;
     }
-
-    std::mt19937 random{21};
 };
 
 TEST_F(RandomUndoUsers, StepsLeadBackAndForthToTheSameUsers) {
-    UndoWalk walk(page().Steps(), [this] { return Bytes(); });
-    for (int round = 0; round < 50; ++round) {
-        for (int i = 0; i < 20; ++i) {
-            Act();
-            walk.NoteAction();
-        }
-        walk.Walk(static_cast<std::size_t>(Below(25)));
-        ASSERT_FALSE(HasFailure()) << "round " << round;
-    }
-    EXPECT_GT(walk.StepsWalked(), 5000U);
+    WalkAtRandom(*this);
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
-#include <random>
 
 #include "UnitsTest.h"
 #include "support/UndoWalk.h"
@@ -287,16 +286,17 @@ TEST_F(UndoUnits, UndoAndRedoAreTraced) {
 }
 
 /// Somebody who does whatever comes to his mind.
-class RandomUndoUnits : public UndoUnits {
+class RandomUndoUnits : public UndoUnits, public RandomUser {
   protected:
-    int Below(int end) { return std::uniform_int_distribution<>(0, end - 1)(random); }
-    std::string Text() { return {static_cast<char>('a' + Below(26)), static_cast<char>('a' + Below(26))}; }
+    void StartOver() override { OpenThreeUnits(); }
+    EditSteps& Steps() override { return page.Steps(); }
+    std::string Bytes() override { return std::string(UnitsFileText(grid.cells).Get()); }
     void PickAny() {
         if (grid.cells.Rows() > 1) {
             grid.Pick(1 + Below(grid.cells.Rows() - 1), Below(kUnitsColumns));
         }
     }
-    void Act() {
+    void Act() override {
         PickAny();
         const bool hasUnit = grid.selection.IsInData();
         switch (Below(9)) {
@@ -317,7 +317,7 @@ class RandomUndoUnits : public UndoUnits {
             MoveUp();
             break;
         case 4:
-            grid.Paste(Text() + "\t" + Text() + "\r\n" + Text() + "\r\n");
+            grid.Paste(Letters() + "\t" + Letters() + "\r\n" + Letters() + "\r\n");
             break;
         case 5:
             if (hasUnit) {
@@ -331,27 +331,15 @@ class RandomUndoUnits : public UndoUnits {
             }
             break;
         default:
-            grid.TypeOver(Text());
+            grid.TypeOver(Letters());
         }
         grid.editor.Commit();
         grid.SetFocus(); // ends a run of moves
     }
-
-    std::mt19937 random{20};
 };
 
 TEST_F(RandomUndoUnits, StepsLeadBackAndForthToTheSameFile) {
-    OpenThreeUnits();
-    UndoWalk walk(page.Steps(), [this] { return std::string(UnitsFileText(grid.cells).Get()); });
-    for (int round = 0; round < 150; ++round) {
-        for (int i = 0; i < 20; ++i) {
-            Act();
-            walk.NoteAction();
-        }
-        walk.Walk(static_cast<std::size_t>(Below(25)));
-        ASSERT_FALSE(HasFailure()) << "round " << round;
-    }
-    EXPECT_GT(walk.StepsWalked(), 10000U);
+    WalkAtRandom(*this);
 }
 
 } // namespace
