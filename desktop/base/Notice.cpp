@@ -14,11 +14,16 @@ void Notice::Say(const wxString& text) {
         notice_ = new wxStaticText(&window_, wxID_ANY, "", wxPoint(), kUnseen, wxST_NO_AUTORESIZE);
         SetAccessibleRole(*notice_, AccessibleRole::Notice);
     }
-    const bool isNew = std::exchange(text_, text) != text;
     SetAccessibleName(*notice_, text);
-    if (isNew && notice_->IsShownOnScreen()) {
-        AnnounceNotice(*notice_);
+    const bool isNew = std::exchange(text_, text) != text;
+    if (isNew && notice_->IsShownOnScreen() && !std::exchange(waits_, true)) {
+        RunBehindEvent(*notice_, [this] { Announce(); });
     }
+}
+
+void Notice::Announce() {
+    waits_ = false;
+    AnnounceNotice(*notice_);
 }
 
 } // namespace zy
