@@ -51,11 +51,12 @@ class UnsavedUnits : public Scene {
     }
 
   private:
-    /// The window has the keyboard before the changes are back in it: a save comes too early at first.
+    /// The window has the keyboard before the changes are back in it: a save comes too early at first. One
+    /// at a time: keys that come faster than they are worked off keep a Windows program from anything else.
     void SaveRestored() {
         EXPECT_TRUE(WaitUntil([this] {
             PressKeys("ctrl+s");
-            return Get(kFile) == kAfter;
+            return WaitUntil([this] { return Get(kFile) == kAfter; }, std::chrono::seconds(2));
         })) << Get(kFile);
     }
 };
