@@ -1,3 +1,4 @@
+#include "RulesForm.h"
 #include "UnitsOfTwoPrograms.h"
 #include "shell/frmMerge.h"
 #include "support/CrashedSession.h"
@@ -319,45 +320,25 @@ TEST_F(ChangesByOthers, AFileThatVanishedIsWrittenAnew) {
 
 // Rules: the code tells which is which, and the order counts.
 
-constexpr std::string_view kRules = R"(C:\SYS\ZYRules.sys)";
-
-RunRule Rule(const std::string& code, const std::string& min) {
-    RunRule rule;
-    rule.Code = code;
-    rule.Min = min;
-    rule.Max = "9";
-    rule.Cond = ">";
-    rule.Zone = "UCL";
-    rule.Description = "about " + code;
-    return rule;
-}
-
-std::string FileOf(const std::vector<RunRule>& rules) {
-    std::string text;
-    for (const auto& rule : rules) {
-        text += Section(rule);
-    }
-    return text;
-}
-
-class RulesOfTwoPrograms : public ProgramTest {
+class RulesOfTwoPrograms : public RulesForm {
   protected:
-    RulesOfTwoPrograms() {
-        world.files.Put(kRules, FileOf({Rule("A", "1"), Rule("B", "1"), Rule("C", "1")}));
-        Start("@RULES");
+    RulesOfTwoPrograms() { StartWith({Rule("A", "1"), Rule("B", "1"), Rule("C", "1")}); }
+    static RunRule Rule(const std::string& code, const std::string& min) {
+        auto rule = RuleOf(code);
+        rule.Min = min;
+        rule.Max = "9";
+        return rule;
     }
-    RulesControls& controls() { return program().rulesPage.controls; }
-    void PickRule(int rule) { controls().lstRulesList.Pick(rule); }
-    void TypeMin(std::string_view text) { controls().txtMin.Enter(text); }
-    std::string Codes() {
+    void PickRule(int rule) { list().Pick(rule); }
+    void TypeMin(std::string_view text) { page().txtMin.Enter(text); }
+    std::string CodesAndMins() {
         std::string codes;
-        for (int i = 1; i <= program().rules.gaRules.UBound(); ++i) {
-            codes += program().rules.gaRules(i).Code + program().rules.gaRules(i).Min + " ";
+        for (int i = 1; i <= rules().gaRules.UBound(); ++i) {
+            codes += rules().gaRules(i).Code + rules().gaRules(i).Min + " ";
         }
         return codes;
     }
-    void WriteFile(const std::vector<RunRule>& rules) { world.files.Put(kRules, FileOf(rules)); }
-    void Save() { window().menu.mnuSave.Click(); }
+    void WriteFile(const std::vector<RunRule>& rules) { world.files.Put(kRulesFile, Text(rules)); }
     void ExpectMerge(const std::function<void(frmMerge&)>& user) {
         world.dialogs.ExpectForm([user](Form& form) { user(dynamic_cast<frmMerge&>(form)); });
     }
@@ -381,16 +362,16 @@ TEST_F(RulesOfTwoPrograms, ARuleThatBothChangedHasToBeChosen) {
         question.cmdMine.Click();
         question.cmdMerge.Click();
     });
-    Save();
-    EXPECT_EQ(Codes(), "A2 B1 C4 ");
-    EXPECT_THAT(*world.files.Get(kRules), HasSubstr("MIN          = 2"));
-    EXPECT_THAT(*world.files.Get(kRules), HasSubstr("MIN          = 4"));
+    ChooseSave();
+    EXPECT_EQ(CodesAndMins(), "A2 B1 C4 ");
+    EXPECT_THAT(*File(), HasSubstr("MIN          = 2"));
+    EXPECT_THAT(*File(), HasSubstr("MIN          = 4"));
 }
 
 TEST_F(RulesOfTwoPrograms, AnOrderThatBothChangedHasToBeChosen) {
     PickRule(3);
-    controls().lstRulesList.Press({.key = Key::Up, .alt = true});
-    ASSERT_EQ(Codes(), "A1 C1 B1 ");
+    list().Press({.key = Key::Up, .alt = true});
+    ASSERT_EQ(CodesAndMins(), "A1 C1 B1 ");
     WriteFile({Rule("B", "1"), Rule("A", "1"), Rule("C", "1")});
     ExpectMerge([](frmMerge& question) {
         EXPECT_THAT(LinesOf(question.lstRows),
@@ -398,15 +379,15 @@ TEST_F(RulesOfTwoPrograms, AnOrderThatBothChangedHasToBeChosen) {
         question.cmdTheirs.Click();
         question.cmdMerge.Click();
     });
-    Save();
-    EXPECT_EQ(Codes(), "B1 A1 C1 ");
+    ChooseSave();
+    EXPECT_EQ(CodesAndMins(), "B1 A1 C1 ");
 }
 
 TEST_F(RulesOfTwoPrograms, ALineThatTheProgramDoesNotKnowMakesNoOtherList) {
     TypeMin("2");
-    world.files.Put(kRules, "; a remark\r\n" + FileOf({Rule("A", "1"), Rule("B", "1"), Rule("C", "1")}));
-    Save();
-    EXPECT_EQ(form().zyStatusBar.Text(), "Saved");
+    world.files.Put(kRulesFile, "; a remark\r\n" + Text({Rule("A", "1"), Rule("B", "1"), Rule("C", "1")}));
+    ChooseSave();
+    EXPECT_EQ(Status(), "Saved");
 }
 
 TEST_F(RulesOfTwoPrograms, WhatIsTypedAndNotStoredStaysWithItsRule) {
@@ -416,13 +397,13 @@ TEST_F(RulesOfTwoPrograms, WhatIsTypedAndNotStoredStaysWithItsRule) {
     window().activated.Raise();
     ExpectMerge([](frmMerge& question) { question.cmdMerge.Click(); });
     form().lblShow.Click();
-    EXPECT_EQ(Codes(), "N7 A1 B1 C5 ");
-    EXPECT_EQ(controls().txtCode.Text(), "B");
-    EXPECT_EQ(controls().txtMin.Text(), "2");
+    EXPECT_EQ(CodesAndMins(), "N7 A1 B1 C5 ");
+    EXPECT_EQ(page().txtCode.Text(), "B");
+    EXPECT_EQ(page().txtMin.Text(), "2");
     window().menu.mnuUndo.Click();
-    EXPECT_EQ(Codes(), "A1 B1 C1 ");
-    EXPECT_EQ(controls().txtCode.Text(), "B");
-    EXPECT_EQ(controls().txtMin.Text(), "2");
+    EXPECT_EQ(CodesAndMins(), "A1 B1 C1 ");
+    EXPECT_EQ(page().txtCode.Text(), "B");
+    EXPECT_EQ(page().txtMin.Text(), "2");
 }
 
 TEST_F(RulesOfTwoPrograms, WhatIsTypedAndNotStoredGoesWithARuleThatSomebodyElseChangedAndUndoBringsItBack) {
@@ -431,15 +412,15 @@ TEST_F(RulesOfTwoPrograms, WhatIsTypedAndNotStoredGoesWithARuleThatSomebodyElseC
     window().activated.Raise();
     ExpectMerge([](frmMerge& question) { question.cmdMerge.Click(); });
     form().lblShow.Click();
-    EXPECT_EQ(controls().txtMin.Text(), "3");
+    EXPECT_EQ(page().txtMin.Text(), "3");
     window().menu.mnuUndo.Click();
-    EXPECT_EQ(Codes(), "A1 B1 C1 ");
-    EXPECT_EQ(controls().txtMin.Text(), "2");
+    EXPECT_EQ(CodesAndMins(), "A1 B1 C1 ");
+    EXPECT_EQ(page().txtMin.Text(), "2");
 }
 
 TEST_F(RulesOfTwoPrograms, ASaveAtClosingMergesTheRulesAsTheyAreHeld) {
     PickRule(3);
-    controls().lstRulesList.Press({.key = Key::Up, .alt = true});
+    list().Press({.key = Key::Up, .alt = true});
     TypeMin("unchecked");
     WriteFile({Rule("A", "4"), Rule("B", "1"), Rule("C", "1")});
     ExpectWishToSave(Answer::Yes);
@@ -449,7 +430,7 @@ TEST_F(RulesOfTwoPrograms, ASaveAtClosingMergesTheRulesAsTheyAreHeld) {
     for (auto& rule : expected) {
         rule.Description += "  "; // as a file's description is loaded
     }
-    EXPECT_EQ(*world.files.Get(kRules), FileOf(expected));
+    EXPECT_EQ(*File(), Text(expected));
 }
 
 // Users: the name tells which is which.

@@ -1,3 +1,4 @@
+#include "RulesForm.h"
 #include "UnitsOfTwoPrograms.h"
 #include "shell/frmVersions.h"
 #include "support/FailingOperations.h"
@@ -162,61 +163,43 @@ TEST_F(EarlierVersionsOfUnits, OfAFileThatASaveLostComeBack) {
     EXPECT_THAT(Units(), ElementsAre("A,a", "B,b", "C,c"));
 }
 
-TEST(EarlierVersionsOfUsers, AreInTheRecycleBinAlone) {
-    struct Users : ProgramTest {
-        void TestBody() override {}
-        void Play() {
-            PutUsersTable(world, {User("ann", "marked")});
-            Start("@SECURITY");
-            auto& grid = program().securityPage.controls.grdSecurity;
-            grid.Pick(1, kPassword);
-            grid.TypeOver("other");
-            window().menu.mnuSave.Click();
-            world.dialogs.ExpectForm([](Form& form) {
-                auto& dialog = dynamic_cast<frmVersions&>(form);
-                EXPECT_THAT(LinesOf(dialog.lstVersions), IsEmpty());
-                EXPECT_EQ(
-                    dialog.lblText.Caption(),
-                    "Passwords are kept nowhere else. The table that a save replaces goes to the recycle "
-                    "bin:\r\ntake ZYSECURE.DBF back from there.");
-            });
-            window().menu.mnuVersions.Click();
-            for (const auto& path : world.files.Paths()) {
-                EXPECT_FALSE(path.starts_with(kState)) << path;
-            }
-            ExpectScriptPlayed(world.dialogs);
-        }
-    };
-    Users().Play();
+using EarlierVersionsOfUsers = ProgramTest;
+
+TEST_F(EarlierVersionsOfUsers, AreInTheRecycleBinAlone) {
+    PutUsersTable(world, {User("ann", "marked")});
+    Start("@SECURITY");
+    auto& grid = program().securityPage.controls.grdSecurity;
+    grid.Pick(1, kPassword);
+    grid.TypeOver("other");
+    window().menu.mnuSave.Click();
+    world.dialogs.ExpectForm([](Form& form) {
+        auto& dialog = dynamic_cast<frmVersions&>(form);
+        EXPECT_THAT(LinesOf(dialog.lstVersions), IsEmpty());
+        EXPECT_EQ(dialog.lblText.Caption(),
+                  "Passwords are kept nowhere else. The table that a save replaces goes to the recycle "
+                  "bin:\r\ntake ZYSECURE.DBF back from there.");
+    });
+    window().menu.mnuVersions.Click();
+    for (const auto& path : world.files.Paths()) {
+        EXPECT_FALSE(path.starts_with(kState)) << path;
+    }
 }
 
-TEST(EarlierVersionsOfRules, AreKeptAndComeBack) {
-    struct Rules : ProgramTest {
-        void TestBody() override {}
-        void Play() {
-            RunRule rule;
-            rule.Code = "1";
-            rule.Min = rule.Max = "2";
-            rule.Cond = ">";
-            rule.Zone = "UCL";
-            rule.Description = "d";
-            world.files.Put(kRulesFile, Section(rule));
-            Start("@RULES");
-            program().rulesPage.controls.txtMax.Enter("3");
-            window().menu.mnuSave.Click();
-            world.dialogs.ExpectForm([](Form& form) {
-                auto& dialog = dynamic_cast<frmVersions&>(form);
-                EXPECT_THAT(LinesOf(dialog.lstChanges), ElementsAre("Changed|1|Max \"3\"|Max \"2\""));
-                dialog.cmdRestore.Click();
-            });
-            window().menu.mnuVersions.Click();
-            EXPECT_EQ(program().rulesPage.controls.txtMax.Text(), "2");
-            window().menu.mnuSave.Click();
-            EXPECT_THAT(*world.files.Get(kRulesFile), HasSubstr("MAX          = 2"));
-            ExpectScriptPlayed(world.dialogs);
-        }
-    };
-    Rules().Play();
+using EarlierVersionsOfRules = RulesForm;
+
+TEST_F(EarlierVersionsOfRules, AreKeptAndComeBack) {
+    StartWithCodes({"1"});
+    page().txtMax.Enter("3");
+    ChooseSave();
+    world.dialogs.ExpectForm([](Form& form) {
+        auto& dialog = dynamic_cast<frmVersions&>(form);
+        EXPECT_THAT(LinesOf(dialog.lstChanges), ElementsAre("Changed|1|Max \"3\"|Max \"2\""));
+        dialog.cmdRestore.Click();
+    });
+    window().menu.mnuVersions.Click();
+    EXPECT_EQ(page().txtMax.Text(), "2");
+    ChooseSave();
+    EXPECT_THAT(*File(), HasSubstr("MAX          = 2"));
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "RulesForm.h"
+#include "UnitsForm.h"
 
 namespace zy::test {
 namespace {
@@ -58,26 +59,21 @@ TEST_F(Obstacles, ToASaveAreToldWithWhatToDoUntilOneGoesWell) {
     EXPECT_EQ(Status(), "2 rules");
 }
 
-TEST(ObstacleOfRoom, IsToldOnceBeforeAnybodyEdits) {
-    struct Units : ProgramTest {
-        void TestBody() override {}
-        void Play() {
-            constexpr std::string_view kUnits = "A,a\r\nB,b\r\n";
-            world.files.Put(R"(C:\SYS\ZYUNITS.SYS)", kUnits);
-            world.files.SetCapacity(2 * kUnits.size() - 1);
-            Start("@UNITS");
-            window().idle.Raise();
-            window().idle.Raise();
-            EXPECT_EQ(form().zyStatusBar.Text(),
-                      "2 units   -   ZYUNITS.SYS cannot be written now: the disk is "
-                      "full; put that right before editing");
-            world.files.SetCapacity(2 * kUnits.size());
-            Start("@UNITS");
-            window().idle.Raise();
-            EXPECT_EQ(form().zyStatusBar.Text(), "2 units");
-        }
-    };
-    Units().Play();
+using ObstacleOfRoom = UnitsForm;
+
+TEST_F(ObstacleOfRoom, IsToldOnceBeforeAnybodyEdits) {
+    constexpr std::string_view kUnits = "A,a\r\nB,b\r\n";
+    world.files.Put(kUnitsFile, kUnits);
+    world.files.SetCapacity(2 * kUnits.size() - 1);
+    Start("@UNITS");
+    window().idle.Raise();
+    window().idle.Raise();
+    EXPECT_EQ(Status(), "2 units   -   ZYUNITS.SYS cannot be written now: the disk is "
+                        "full; put that right before editing");
+    world.files.SetCapacity(2 * kUnits.size());
+    Start("@UNITS");
+    window().idle.Raise();
+    EXPECT_EQ(Status(), "2 units");
 }
 
 } // namespace

@@ -1,8 +1,8 @@
+#include "RulesForm.h"
+#include "UnitsForm.h"
 #include "basics/RuntimeError.h"
 #include "support/CrashedSession.h"
-#include "support/EditorsTest.h"
 #include "support/UsersOnDisk.h"
-#include "units/UnitsFileText.h"
 
 namespace zy::test {
 namespace {
@@ -15,12 +15,11 @@ using ::testing::IsEmpty;
 using ::testing::Not;
 using ::testing::SizeIs;
 
-constexpr auto kUnitsFile = R"(C:\SYS\ZYUNITS.SYS)";
 constexpr auto kBefore = "A,a\r\nB,b\r\n";
 constexpr std::chrono::local_days kToday{std::chrono::year(2026) / 11 / 20};
 
 /// The units editor, and what its next session finds after it was ended by force.
-class UnitsRecovery : public ProgramTest {
+class UnitsRecovery : public UnitsForm {
   protected:
     UnitsRecovery() {
         world.files.Put(kUnitsFile, kBefore);
@@ -34,22 +33,7 @@ class UnitsRecovery : public ProgramTest {
         ExpectRecovery(world, asked, answer);
         StartUnits();
     }
-    void Edit(int row, std::string_view unit) {
-        grid().Pick(row, kUnit);
-        grid().TypeOver(unit);
-        grid().editor.Commit();
-    }
-    void Save() { program().unitsPage.controls.cmdSaveUnits.Click(); }
-    void Undo() { window().menu.mnuUndo.Click(); }
-    std::vector<std::string> Units() {
-        std::vector<std::string> units;
-        for (int row = 1; row < grid().cells.Rows(); ++row) {
-            units.push_back(std::string(grid().cells.Text(row, kUnitDescription)) + "," +
-                            std::string(grid().cells.Text(row, kUnit)));
-        }
-        return units;
-    }
-    std::string Status() { return form().zyStatusBar.Text(); }
+    void Edit(int row, std::string_view unit) { UnitsForm::Edit(row, kUnit, unit); }
     std::list<MemoryJournals::Entry>& Journals() { return world.journals.Entries(); }
     void FailJournals(std::string_view operation, FileError error) {
         world.journals.fault = [=](std::string_view wanted) {
@@ -57,7 +41,6 @@ class UnitsRecovery : public ProgramTest {
         };
     }
 
-    Grid& grid() { return program().unitsPage.controls.grdUnits; }
     AskedToRestore asked;
 };
 
@@ -485,82 +468,59 @@ TEST_F(UsersRecovery, AsksOnlyWhoHasLoggedIn) {
 }
 
 /// The rules editor.
-class RulesRecovery : public ProgramTest {
+class RulesRecovery : public RulesForm {
   protected:
-    RulesRecovery() {
-        world.files.Put(kRulesFile, Section(Rule("A")) + Section(Rule("B")) + Section(Rule("C")));
-        Start("@RULES");
-    }
-    static RunRule Rule(const std::string& code) {
-        return {.Code = code,
-                .Min = "1",
-                .Max = "2",
-                .Cond = ">",
-                .Zone = "UCL",
-                .Description = "text",
-                .Desc2 = {},
-                .Desc3 = {}};
-    }
+    RulesRecovery() { StartWithCodes({"A", "B", "C"}); }
     void StartAgain(CommandButton frmRecovery::*answer) {
         ExpectRecovery(world, asked, answer);
         ASSERT_EQ(StartAfterBreak("@RULES"), StartUp::WindowShown);
     }
-    std::vector<std::string> Codes() {
-        std::vector<std::string> codes;
-        auto& rules = program().rules.gaRules;
-        for (int i = 1; i <= rules.UBound(); ++i) {
-            codes.push_back(rules(i).Code);
-        }
-        return codes;
-    }
-    RulesControls& controls() { return program().rulesPage.controls; }
-
     AskedToRestore asked;
 };
 
 TEST_F(RulesRecovery, AddedAndMovedRulesComeBack) {
-    controls().cmdAddList.Click();
-    controls().cmdUpDown.PressUp();
+    page().cmdAddList.Click();
+    page().cmdUpDown.PressUp();
     StartAgain(&frmRecovery::cmdRestore);
     EXPECT_THAT(Codes(), ElementsAre("A", "B", "NEW", "C"));
     ExpectMarks(true, false);
-    EXPECT_EQ(controls().lstRulesList.Count(), 4);
+    EXPECT_EQ(list().Count(), 4);
     window().menu.mnuUndo.Click();
     EXPECT_THAT(Codes(), ElementsAre("A", "B", "C", "NEW"));
 }
 
 TEST_F(RulesRecovery, WhatWasTypedAndNotStoredYetComesBackIntoTheForm) {
-    controls().lstRulesList.Pick(2);
-    controls().txtDescription.Enter("n");
-    controls().txtDescription.Enter("new");
+    list().Pick(2);
+    page().txtDescription.Enter("n");
+    page().txtDescription.Enter("new");
     StartAgain(&frmRecovery::cmdRestore);
-    EXPECT_EQ(controls().lstRulesList.Selected(), 2);
-    EXPECT_EQ(controls().txtDescription.Text(), "new");
-    EXPECT_EQ(program().rules.gaRules(2).Description, "text  ");
+    EXPECT_EQ(list().Selected(), 2);
+    EXPECT_EQ(page().txtDescription.Text(), "new");
+    EXPECT_EQ(rules().gaRules(2).Description, "text  ");
     window().menu.mnuUndo.Click();
-    EXPECT_EQ(controls().txtDescription.Text(), "text  ");
+    EXPECT_EQ(page().txtDescription.Text(), "text  ");
     EXPECT_FALSE(window().menu.mnuUndo.Enabled());
 }
 
 TEST_F(RulesRecovery, WhatWasTypedAndNotStoredYetOutlivesASaveOfTheRest) {
-    controls().lstRulesList.Pick(2);
-    controls().txtDescription.Enter("new");
-    controls().cmdSaveRules.Click(); // which writes the list without what the form alone holds
+    list().Pick(2);
+    page().txtDescription.Enter("new");
+    page().cmdSaveRules.Click(); // which writes the list without what the form alone holds
     StartAgain(&frmRecovery::cmdRestore);
-    EXPECT_EQ(controls().txtDescription.Text(), "new");
+    EXPECT_EQ(page().txtDescription.Text(), "new");
 }
 
 TEST_F(RulesRecovery, AnErrorInTheMidstOfAHandlerLosesNothing) {
-    controls().cmdUpDown.PressDown();
-    controls().cmdAddList.click.Connect([this] { static_cast<void>(program().rules.gaRules(99)); });
-    EXPECT_THROW(controls().cmdAddList.Click(), RuntimeError); // 9, the subscript is out of range
+    page().cmdUpDown.PressDown();
+    page().cmdAddList.click.Connect([this] { static_cast<void>(rules().gaRules(99)); });
+    EXPECT_THROW(page().cmdAddList.Click(), RuntimeError); // 9, the subscript is out of range
     StartAgain(&frmRecovery::cmdRestore);
     EXPECT_THAT(Codes(), ElementsAre("B", "A", "C", "NEW"));
 }
 
 TEST_F(RulesRecovery, NothingIsAskedAfterASave) {
-    controls().cmdAddList.Click();
-    controls().cmdSaveRules.Click();
+    page().cmdAddList.Click();
+    page().cmdSaveRules.Click();
     EXPECT_THAT(world.journals.Entries(), IsEmpty());
 }
 

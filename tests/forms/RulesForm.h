@@ -2,6 +2,7 @@
 
 #include <initializer_list>
 
+#include "ListLines.h"
 #include "support/ProgramTest.h"
 
 namespace zy::test {
@@ -53,18 +54,7 @@ class RulesForm : public ProgramTest {
                                   Escape::AnswersNo);
     }
 
-    /// The list's rows, each with its cells joined by "|".
-    std::vector<std::string> Rows() {
-        std::vector<std::string> rows;
-        for (int item = 1; item <= list().Count(); ++item) {
-            std::string row(list().CellText(item, 0));
-            for (int column = 1; column < 6; ++column) {
-                row += "|" + std::string(list().CellText(item, column));
-            }
-            rows.push_back(row);
-        }
-        return rows;
-    }
+    std::vector<std::string> Rows() { return LinesOf(list()); }
     /// The first column of the list alone.
     std::vector<std::string> Codes() {
         std::vector<std::string> codes;

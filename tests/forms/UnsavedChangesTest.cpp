@@ -1,3 +1,4 @@
+#include "RulesForm.h"
 #include "UnitsOfTwoPrograms.h"
 #include "shell/frmChanges.h"
 #include "support/UsersOnDisk.h"
@@ -137,18 +138,9 @@ TEST_F(UnsavedChanges, AreToldOfAFileThatIsNotThereYet) {
     EXPECT_THAT(Lines(), ElementsAre("Added|d||d"));
 }
 
-class UnsavedRules : public ProgramTest {
+class UnsavedRules : public RulesForm {
   protected:
-    UnsavedRules() {
-        RunRule rule;
-        rule.Code = "1";
-        rule.Min = rule.Max = "2";
-        rule.Cond = ">";
-        rule.Zone = "UCL";
-        rule.Description = "d";
-        world.files.Put(kRulesFile, Section(rule));
-        Start("@RULES");
-    }
+    UnsavedRules() { StartWithCodes({"1"}); }
     std::vector<std::string> Lines() {
         std::vector<std::string> lines;
         world.dialogs.ExpectForm(
@@ -159,46 +151,41 @@ class UnsavedRules : public ProgramTest {
 };
 
 TEST_F(UnsavedRules, NameTheFieldsThatAreOthers) {
-    program().rulesPage.controls.txtMax.Enter("3");
+    page().txtMax.Enter("3");
     EXPECT_THAT(Lines(), ElementsAre("Changed|1|Max \"2\"|Max \"3\""));
 }
 
 TEST_F(UnsavedRules, AreNoneForTheBlanksThatASaveLeavesBehindADescription) {
-    program().rulesPage.controls.txtDescription.Enter("e");
-    window().menu.mnuSave.Click();
+    page().txtDescription.Enter("e");
+    ChooseSave();
     EXPECT_THAT(Lines(), IsEmpty());
-    program().rulesPage.controls.txtMax.Enter("3");
+    page().txtMax.Enter("3");
     window().menu.mnuUndo.Click();
     EXPECT_THAT(Lines(), IsEmpty());
 }
 
 TEST_F(UnsavedRules, OfWhatIsTypedAndNotStoredAreTakenBackToo) {
-    program().rulesPage.controls.txtMax.Enter("3");
+    page().txtMax.Enter("3");
     world.dialogs.ExpectForm([](Form& form) { dynamic_cast<frmChanges&>(form).cmdRevert.Click(); });
     window().menu.mnuChanges.Click();
-    EXPECT_EQ(program().rulesPage.controls.txtMax.Text(), "2");
+    EXPECT_EQ(page().txtMax.Text(), "2");
     window().menu.mnuUndo.Click();
-    EXPECT_EQ(program().rulesPage.controls.txtMax.Text(), "3");
+    EXPECT_EQ(page().txtMax.Text(), "3");
 }
 
-TEST(UnsavedUsers, ShowPasswordsAsTheGridDoes) {
-    struct Users : ProgramTest {
-        void TestBody() override {}
-        void Play() {
-            PutUsersTable(world, {User("ann")});
-            Start("@SECURITY");
-            auto& grid = program().securityPage.controls.grdSecurity;
-            grid.Pick(1, kPassword);
-            grid.TypeOver("other");
-            world.dialogs.ExpectForm([](Form& form) {
-                EXPECT_THAT(LinesOf(dynamic_cast<frmChanges&>(form).lstChanges),
-                            ElementsAre("Changed|ann|Password \"secret\"|Password \"other\""));
-            });
-            window().menu.mnuChanges.Click();
-            ExpectScriptPlayed(world.dialogs);
-        }
-    };
-    Users().Play();
+using UnsavedUsers = ProgramTest;
+
+TEST_F(UnsavedUsers, ShowPasswordsAsTheGridDoes) {
+    PutUsersTable(world, {User("ann")});
+    Start("@SECURITY");
+    auto& grid = program().securityPage.controls.grdSecurity;
+    grid.Pick(1, kPassword);
+    grid.TypeOver("other");
+    world.dialogs.ExpectForm([](Form& form) {
+        EXPECT_THAT(LinesOf(dynamic_cast<frmChanges&>(form).lstChanges),
+                    ElementsAre("Changed|ann|Password \"secret\"|Password \"other\""));
+    });
+    window().menu.mnuChanges.Click();
 }
 
 } // namespace
