@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "history/Bytes.h"
-#include "shell/mZYGlobal.h"
+#include "shell/ListFile.h"
 
 namespace zy {
 namespace {
@@ -30,13 +30,9 @@ std::string FingerprintOf(FileSystem& files, const Journals& journals, std::stri
     if (!files.Exists(path)) {
         return {};
     }
-    const auto opened = files.OpenForReading(path);
-    if (!opened.handle) {
-        return std::string(kUnreadable);
-    }
-    const auto size = static_cast<std::uint32_t>(opened.handle->Size());
-    const auto fingerprint = journals.Fingerprint(ReadFileText(*opened.handle, size));
-    return fingerprint.empty() ? std::string(kUnreadable) : std::to_string(size) + ":" + fingerprint;
+    const auto bytes = ListFile(files, std::string(path)).Read();
+    const auto fingerprint = bytes ? journals.Fingerprint(*bytes) : std::string();
+    return fingerprint.empty() ? std::string(kUnreadable) : std::to_string(bytes->size()) + ":" + fingerprint;
 }
 
 SessionJournal::SessionJournal(FileSystem& files, Journals& journals, JournalSubject subject)
