@@ -21,7 +21,8 @@ namespace zy::bench {
 namespace {
 
 constexpr int kPresses = 200;
-constexpr double kMedianGoal = 16;
+/// One frame of a screen that shows sixty a second: before that nobody sees anything.
+constexpr double kMedianGoal = 16.7;
 constexpr double kWorstGoal = 33;
 
 /// A key, and one that is held down meanwhile.
@@ -49,8 +50,8 @@ class EditorWindow {
     explicit EditorWindow(const Editor& editor) : editor_(editor) {
         folder_.Put(editor.file.name, editor.file.text(kMaxItems));
         ::setenv("ZYSETUP_SYSTEM_DIR", folder_.Path().c_str(), 1);
-        ::setenv("XDG_CONFIG_HOME", folder_.Path().c_str(), 1);
         ::setenv("XDG_STATE_HOME", folder_.Path().c_str(), 1);
+        RequireCalmDesktop();
         program_.emplace(screen_, std::vector<std::string>{ZY_GLOBAL, editor.mode});
         program_->SecondsToIdle();
     }

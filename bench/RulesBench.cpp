@@ -20,10 +20,9 @@ void AddLoads(RulesPlace& many, const std::string& keyFile) {
 }
 
 void AddSmallLoad(RulesPlace& few) {
-    Add(Against(OpenReadClose(few.File()), {.work = "load " + few.Records() + " (99 lines)",
-                                            .goal = std::nullopt,
-                                            .rounds = 2001,
-                                            .ours = few.Load()}));
+    Add(Against(
+        OpenReadClose(few.File()),
+        {.work = "load " + few.Records() + " (99 lines)", .goal = 2.5, .rounds = 2001, .ours = few.Load()}));
 }
 
 int Run(int argumentCount, char** arguments) {

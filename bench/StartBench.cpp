@@ -20,21 +20,25 @@ using test::TemporaryFolder;
 
 constexpr int kFew = 10;
 constexpr int kRounds = 15;
-constexpr double kGoalWithFew = 1.15;
-constexpr double kMemoryGoal = 3;
+/// Of the instructions. How long they take is another matter: it has goals of its own for each editor.
+constexpr double kInstructionsGoal = 1.15;
+constexpr double kInstructionsGoalWithMany = 1.5;
 /// Under valgrind everything takes some fifty times as long.
 constexpr std::chrono::seconds kQuietWhenCounted{3};
 
 struct Editor {
     const char* mode;
     BigFile file;
+    double goal; ///< of the time on the wall's clock, and of the processor's
     double goalWithMany;
+    double memoryGoal; ///< beyond the empty window, as a multiple of the data
 };
 
 /// A list that a screen reader can read costs a little for every row; a grid's rows cost nothing.
-constexpr std::array<Editor, 3> kEditors{{{.mode = "@RULES", .file = kRulesFile, .goalWithMany = 1.7},
-                                          {.mode = "@UNITS", .file = kUnitsFile, .goalWithMany = 1.4},
-                                          {.mode = "@SECURITY", .file = kUsersTable, .goalWithMany = 1.4}}};
+constexpr std::array<Editor, 3> kEditors{
+    {{.mode = "@RULES", .file = kRulesFile, .goal = 1.15, .goalWithMany = 1.4, .memoryGoal = 2},
+     {.mode = "@UNITS", .file = kUnitsFile, .goal = 1, .goalWithMany = 1.15, .memoryGoal = 3},
+     {.mode = "@SECURITY", .file = kUsersTable, .goal = 1.1, .goalWithMany = 1.3, .memoryGoal = 3}}};
 
 /// What was seen of a program that was started over and over.
 struct Starts {
@@ -70,21 +74,20 @@ Comparison Compare(Screen& screen, const char* mode) {
 }
 
 void PrintTimes(const std::string& work, const Comparison& comparison, double goal) {
-    const auto print = [&](const std::string& what, std::vector<double> Starts::*times,
-                           std::optional<double> limit) {
+    const auto print = [&](const std::string& what, std::vector<double> Starts::*times) {
         const auto& ours = comparison.ours.*times;
         const auto& empty = comparison.empty.*times;
         PrintRow(work + what, Milliseconds(Median(ours)), Milliseconds(Median(empty)),
-                 MedianRatio(ours, empty), limit);
+                 MedianRatio(ours, empty), goal);
     };
-    print(" : empty window", &Starts::seconds, goal);
-    print(", processor time : empty window", &Starts::processorSeconds, std::nullopt);
+    print(" : empty window", &Starts::seconds);
+    print(", processor time : empty window", &Starts::processorSeconds);
 }
 
-void PrintMemory(const std::string& work, const Comparison& comparison, std::size_t dataSize) {
+void PrintMemory(const std::string& work, const Comparison& comparison, std::size_t dataSize, double goal) {
     const double more = comparison.ours.residentBytes - comparison.empty.residentBytes;
     PrintRow(work + " : empty window, + times the data", Mebibytes(comparison.ours.residentBytes),
-             Mebibytes(comparison.empty.residentBytes), more / static_cast<double>(dataSize), kMemoryGoal);
+             Mebibytes(comparison.empty.residentBytes), more / static_cast<double>(dataSize), goal);
 }
 
 /// The instructions of a program from its start until it has nothing left to do.
@@ -106,29 +109,40 @@ double Instructions(Screen& screen, const std::vector<std::string>& command) {
     return instructions;
 }
 
+/// The most that a start may take, each as a multiple of the empty window's.
+struct StartGoals {
+    double time;
+    double instructions;
+};
+
 /// Measures the start of an editor over a file, which stands in the system directory. Returns what was seen.
-Comparison StartOver(Screen& screen, const Editor& editor, int count, double goal, double emptyInstructions) {
+Comparison StartOver(Screen& screen, const Editor& editor, int count, const StartGoals& goals,
+                     double emptyInstructions) {
     const auto work = "start with " + CountOf(count, editor.file.records);
     auto comparison = Compare(screen, editor.mode);
-    PrintTimes(work, comparison, goal);
+    PrintTimes(work, comparison, goals.time);
     const double ours = Instructions(screen, {ZY_GLOBAL, editor.mode});
     PrintRow(work + ", instructions : empty window", Millions(ours), Millions(emptyInstructions),
-             ours / emptyInstructions, goal);
+             ours / emptyInstructions, goals.instructions);
     return comparison;
 }
 
 void Measure(Screen& screen, const Editor& editor, double emptyInstructions) {
     const TemporaryFolder folder;
     ::setenv("ZYSETUP_SYSTEM_DIR", folder.Path().c_str(), 1);
-    ::setenv("XDG_CONFIG_HOME", folder.Path().c_str(), 1);
     ::setenv("XDG_STATE_HOME", folder.Path().c_str(), 1);
+    RequireCalmDesktop();
     folder.Put(editor.file.name, editor.file.text(kFew));
-    StartOver(screen, editor, kFew, kGoalWithFew, emptyInstructions);
+    StartOver(screen, editor, kFew, {.time = editor.goal, .instructions = kInstructionsGoal},
+              emptyInstructions);
 
     const auto bytes = editor.file.text(kMaxItems);
     folder.Put(editor.file.name, bytes);
-    const auto comparison = StartOver(screen, editor, kMaxItems, editor.goalWithMany, emptyInstructions);
-    PrintMemory("memory with " + CountOf(kMaxItems, editor.file.records), comparison, bytes.size());
+    const auto comparison = StartOver(
+        screen, editor, kMaxItems, {.time = editor.goalWithMany, .instructions = kInstructionsGoalWithMany},
+        emptyInstructions);
+    PrintMemory("memory with " + CountOf(kMaxItems, editor.file.records), comparison, bytes.size(),
+                editor.memoryGoal);
 }
 
 void Run() {

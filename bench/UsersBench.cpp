@@ -24,7 +24,7 @@ void AddCheck(UsersPlace& many, UsersPlace& tenth) {
         return Working([users = place.Loaded()] { return users->page.users.Validate_Security(); });
     };
     Add(Against({"check " + tenth.Records(), check(tenth)},
-                {.work = "check " + many.Records(), .goal = 12, .rounds = 101, .ours = check(many)}));
+                {.work = "check " + many.Records(), .goal = 10.5, .rounds = 101, .ours = check(many)}));
 }
 
 int Run(int argumentCount, char** arguments) {

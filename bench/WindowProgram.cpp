@@ -11,6 +11,8 @@
 #include <stdexcept>
 #include <system_error>
 
+#include "support/ChildProcess.h"
+
 namespace zy::bench {
 namespace {
 
@@ -42,6 +44,21 @@ pid_t Start(const std::vector<std::string>& command) {
 }
 
 } // namespace
+
+void RequireCalmDesktop() {
+    test::ChildProcess motion({ZY_DESKTOP_MOTION});
+    std::string moving;
+    while (const auto line = motion.Output().Next()) {
+        moving += (moving.empty() ? "" : " and ") + *line;
+    }
+    if (motion.Wait() != 0) {
+        throw std::runtime_error("the toolkit does not tell what moves on this desktop");
+    }
+    if (!moving.empty()) {
+        throw std::runtime_error("windows have " + moving +
+                                 " on this desktop: start it by bench/calm-desktop");
+    }
+}
 
 WindowProgram::WindowProgram(Screen& screen, const std::vector<std::string>& command,
                              std::chrono::milliseconds quiet)

@@ -10,6 +10,10 @@
 
 namespace zy::bench {
 
+/// Throws std::runtime_error where windows have animations or a blinking cursor, as the toolkit itself tells
+/// a program that is started from here: they would be measured instead of the program.
+void RequireCalmDesktop();
+
 /// A program with a window, watched from outside. It is started by the constructor and ended by the
 /// destructor.
 class WindowProgram {
