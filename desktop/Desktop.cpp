@@ -32,6 +32,8 @@ int Desktop::RunUntilClosed() {
     const int status = Run([this] {
         // The window can be closed already, behind a question that the program asked before.
         if (!isClosed_) {
+            // What was done behind the window's opening, such as restoring, was no action of the user's.
+            gate_.updateViews.Raise();
             toolkit_->RunLoop();
         }
         gate_.Rethrow();

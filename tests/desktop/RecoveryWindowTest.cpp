@@ -8,21 +8,22 @@ namespace {
 using ::testing::IsEmpty;
 
 constexpr auto kDialog = "frmRecovery";
+constexpr int kRow = 2; ///< of the unit that was changed
 
 /// The question after what an earlier session of the units editor could not save.
 class RecoveryWindow : public UnitsWindow {
   protected:
     RecoveryWindow() {
-        PutUnits({"Kilograms,kg"});
+        PutUnits({"Metres,m", "Kilograms,kg"});
         Program broken(world.Get());
         mMain(broken);
         auto& grid = broken.unitsPage.controls.grdUnits;
-        grid.Pick(1, kUnit);
+        grid.Pick(kRow, kUnit);
         grid.TypeOver("t");
         grid.editor.Commit();
     }
     std::string Unit() {
-        return InWindow([&] { return std::string(grid().cells.Text(1, kUnit)); });
+        return InWindow([&] { return std::string(grid().cells.Text(kRow, kUnit)); });
     }
 };
 
@@ -40,10 +41,19 @@ TEST_F(RecoveryWindow, EnterRestoresAndCtrlZTakesItBack) {
         WaitForDialog(kDialog);
         Press(WXK_RETURN);
         WaitForWindow();
-        WaitUntil("the change is there again", [&] { return grid().cells.Text(1, kUnit) == "t"; });
+        WaitUntil("the change is there again", [&] { return grid().cells.Text(kRow, kUnit) == "t"; });
         WaitForFocus(grid());
         Press('Z', wxMOD_CONTROL);
-        WaitUntil("the unit is as it was", [&] { return grid().cells.Text(1, kUnit) == "kg"; });
+        WaitUntil("the unit is as it was", [&] { return grid().cells.Text(kRow, kUnit) == "kg"; });
+    });
+}
+
+TEST_F(RecoveryWindow, WhatIsRestoredIsShownAtOnce) {
+    PlayFromTheStart([&] {
+        WaitForDialog(kDialog);
+        Press(WXK_RETURN);
+        WaitForWindow();
+        WaitForCell(kRow, kUnit);
     });
 }
 
@@ -79,7 +89,7 @@ TEST_F(RecoveryWindow, ANoteReachesTheDiskWhenTheKeyboardRests) {
         Press(WXK_DELETE);
         WaitUntil("the new one is, too", [&] {
             const auto& notes = world.journals.Entries().front();
-            return grid().cells.Text(1, kUnit).empty() && notes.synced == notes.bytes.size();
+            return grid().cells.Text(kRow, kUnit).empty() && notes.synced == notes.bytes.size();
         });
     });
 }
