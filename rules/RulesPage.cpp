@@ -84,13 +84,19 @@ bool RulesPage::Write() {
     }
     steps_.BeginSave();
     const bool written = rules_.Write_Rules_File();
-    // What the form alone holds is not in the file, and stays to be saved.
-    const bool holdsAll = written && !rules_.LastSaveFailed() && !steps_.HasDraft();
-    steps_.EndSave(holdsAll ? SaveEnd::Whole : written ? SaveEnd::Failed : SaveEnd::Refused);
+    const auto end = written ? EndOfSave() : SaveEnd::Refused;
+    steps_.EndSave(end);
     if (written) {
-        steps_.MarkSaved(holdsAll);
+        steps_.MarkSaved(end == SaveEnd::Whole);
     }
     return written;
+}
+
+/// What the form alone holds is not in the file, and stays to be saved.
+SaveEnd RulesPage::EndOfSave() const {
+    return rules_.LastSaveFailed() ? SaveEnd::Failed
+           : steps_.HasDraft()     ? SaveEnd::ListAlone
+                                   : SaveEnd::Whole;
 }
 
 bool RulesPage::SaveAtClosing() {

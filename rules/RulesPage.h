@@ -67,6 +67,7 @@ class RulesPage : public Editor {
   private:
     /// Writes the rules; the marks go when that was not refused.
     bool Write();
+    SaveEnd EndOfSave() const;
     /// Sets the mark after a step was taken back or done again, and shows what that was.
     void ShowMoved(bool isSaved, const std::string& report);
 

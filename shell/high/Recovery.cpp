@@ -80,7 +80,7 @@ void Recovery::EndSave(SaveEnd end) {
         log_.StartAnew();
         Forget();
     } else if (journal_->IsWhole()) {
-        Report(end == SaveEnd::Failed ? journal_->NoteFile() : journal_->NoteNoSave());
+        Report(end == SaveEnd::Refused ? journal_->NoteNoSave() : journal_->NoteFile());
     }
 }
 

@@ -13,8 +13,9 @@
 
 namespace zy {
 
-/// How a save ended: the file holds all that the editor does, or something else, or was not touched.
-enum class SaveEnd : char { Whole, Failed, Refused };
+/// How a save ended: the file holds all that the editor does, or the list without what is typed and not part
+/// of it yet, or nobody knows what, or was not touched.
+enum class SaveEnd : char { Whole, ListAlone, Failed, Refused };
 
 /// The steps of one editor: what was done to its list can be taken back, and done again. What is typed and
 /// not part of the list yet comes first.

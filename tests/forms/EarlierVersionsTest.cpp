@@ -202,5 +202,15 @@ TEST_F(EarlierVersionsOfRules, AreKeptAndComeBack) {
     EXPECT_THAT(*File(), HasSubstr("MAX          = 2"));
 }
 
+TEST_F(EarlierVersionsOfRules, AreNotPointedToAfterASaveThatLeftOutWhatTheFormAloneHolds) {
+    StartWithCodes({"1"});
+    page().txtMax.Enter("3");
+    page().cmdSaveRules.Click();
+    const auto status = Status();
+    window().idle.Raise();
+    EXPECT_EQ(Status(), status);
+    EXPECT_THAT(status, HasSubstr("differs from its fields"));
+}
+
 } // namespace
 } // namespace zy::test
