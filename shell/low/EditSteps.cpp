@@ -83,7 +83,7 @@ RowTexts EditSteps::Copy() const {
 
 RowTexts EditSteps::CopyWithTyping() const {
     const int typed = RowOfTyping();
-    const auto held = Copy();
+    auto held = Copy();
     if (typed == kNoRow) {
         return held;
     }
