@@ -1,6 +1,12 @@
-#include <gtk/gtk.h>
+#include <glib-object.h>
 
 #include <iostream>
+
+// The toolkit comes without headers.
+extern "C" {
+gboolean gtk_init_check(int* argumentCount, char*** arguments);
+GObject* gtk_settings_get_default(void);
+}
 
 // desktop_motion: what moves by itself in every window of this desktop, a line each, as the toolkit itself
 // tells a program that is started here. Its status is 2 where there is no display.
