@@ -1,4 +1,3 @@
-
 #include "UsersTest.h"
 #include "support/UndoWalk.h"
 
