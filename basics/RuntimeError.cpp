@@ -19,6 +19,10 @@ void RaiseOverflow() {
     throw RuntimeError(kOverflow, "Overflow");
 }
 
+void RaiseOutOfMemory() {
+    throw RuntimeError(kOutOfMemory, "Out of memory");
+}
+
 void RaiseSubscriptOutOfRange() {
     throw RuntimeError(kSubscriptOutOfRange, "Subscript out of range");
 }

@@ -10,6 +10,7 @@ namespace zy {
 enum RuntimeErrorNumber {
     kInvalidArgument = 5,
     kOverflow = 6,
+    kOutOfMemory = 7,
     kSubscriptOutOfRange = 9,
     kTypeMismatch = 13,
     kDeviceFailed = 57,
@@ -40,6 +41,8 @@ class RuntimeError : public std::exception {
 [[noreturn]] void RaiseInvalidArgument();
 /// Error 6: a value does not fit its 16-bit variable.
 [[noreturn]] void RaiseOverflow();
+/// Error 7: there is no more room.
+[[noreturn]] void RaiseOutOfMemory();
 /// Error 9: an index outside the bounds of its array.
 [[noreturn]] void RaiseSubscriptOutOfRange();
 /// Error 13: a text that should be a number is none.

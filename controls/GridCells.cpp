@@ -9,6 +9,14 @@ GridCells::GridCells(int columns) : columns_(columns) {
     cells_.Resize(FirstCellOf(rows_));
 }
 
+std::vector<std::string> GridCells::Headers() const {
+    std::vector<std::string> headers;
+    for (int column = 0; column < columns_; ++column) {
+        headers.emplace_back(Text(0, column));
+    }
+    return headers;
+}
+
 void GridCells::SetRows(int rows) {
     resizing.Raise();
     const int kept = std::min(rows, rows_);
@@ -32,7 +40,7 @@ void GridCells::AddItem(std::string_view tabJoinedCells) {
     changed.Raise();
 }
 
-void GridCells::AddRowsOf(std::string text, const CellTexts::Split& split) {
+void GridCells::AddRowsOf(SharedText text, const CellTexts::Split& split) {
     cells_.AppendPartsOf(std::move(text), split);
     const int rows = static_cast<int>(cells_.Count()) / columns_;
     changing.Raise(rows_, 0, rows - rows_);

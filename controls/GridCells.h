@@ -1,11 +1,11 @@
 #pragma once
 
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "basics/RuntimeError.h"
+#include "basics/SharedText.h"
 #include "controls/CellTexts.h"
 #include "controls/Event.h"
 
@@ -37,12 +37,14 @@ class GridCells {
 
     /// Adds empty rows at the end or cuts rows off it; 0 cuts off the header too.
     void SetRows(int rows);
+    /// Makes room for so many rows. For filling a grid row by row.
+    void Reserve(int rows) { cells_.Reserve(FirstCellOf(rows)); }
     /// Appends a row whose cells are joined by TAB. Cells that the text lacks are empty, more of them than
     /// there are columns are left out.
     void AddItem(std::string_view tabJoinedCells);
-    /// Appends many rows whose cells are parts of one text. The grid takes the text over, so that nothing is
+    /// Appends many rows whose cells are parts of one text. The grid holds on to the text, so that nothing is
     /// copied; `split` finds the parts and appends them, whole rows. When it throws, nothing is appended.
-    void AddRowsOf(std::string text, const CellTexts::Split& split);
+    void AddRowsOf(SharedText text, const CellTexts::Split& split);
     /// Removes a row; those below it move up.
     void RemoveItem(int row);
     /// Puts `others` rows in place of `count` rows from `first` on, with the texts that `textOf` gives for
@@ -54,15 +56,8 @@ class GridCells {
 
     /// Stays what it was until rows are set, removed or pasted, also when the cell's text is changed.
     std::string_view Text(int row, int column) const { return cells_[Index(row, column)]; }
-    /// The texts of a row, column by column. To be used before anything in the grid changes.
-    std::span<const std::string_view> RowTexts(int row) const {
-        return cells_.Some(Index(row, 0), FirstCellOf(1));
-    }
     /// Copies of the texts of the header, which must be there.
-    std::vector<std::string> Headers() const {
-        const auto headers = RowTexts(0);
-        return {headers.begin(), headers.end()};
-    }
+    std::vector<std::string> Headers() const;
     /// Raises `cellChanged` when the text differs from the one held.
     void SetText(int row, int column, std::string_view text);
 

@@ -24,8 +24,9 @@ struct Sheet {
     std::vector<std::string> Cells() const {
         std::vector<std::string> cells;
         for (int row = 1; row < grid.cells.Rows(); ++row) {
-            const auto texts = grid.cells.RowTexts(row);
-            cells.insert(cells.end(), texts.begin(), texts.end());
+            for (int column = 0; column < kColumns; ++column) {
+                cells.emplace_back(grid.cells.Text(row, column));
+            }
         }
         return cells;
     }
@@ -37,12 +38,11 @@ struct Sheet {
 
 void RequirePlainCells(const Grid& grid) {
     for (int row = 1; row < grid.cells.Rows(); ++row) {
-        const auto texts = grid.cells.RowTexts(row);
-        Require(
-            std::none_of(texts.begin(), texts.end(),
-                         [](auto text) { return text.find_first_of("\t\n\r") != std::string_view::npos; }),
-            "a cell is one line without TAB");
-        const auto choice = texts[kListColumn];
+        for (int column = 0; column < kColumns; ++column) {
+            Require(grid.cells.Text(row, column).find_first_of("\t\n\r") == std::string_view::npos,
+                    "a cell is one line without TAB");
+        }
+        const auto choice = grid.cells.Text(row, kListColumn);
         Require(choice.empty() || choice == "A" || choice == "I", "a list's cell holds an item or nothing");
     }
 }

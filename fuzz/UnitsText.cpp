@@ -56,7 +56,7 @@ PlainReading ReadPlainly(std::string_view text) {
 /// Run-time error 9 must be raised, and name this line.
 void RequireRefusal(std::string_view input, std::size_t line) {
     try {
-        Cells cells;
+        TextParts cells(input);
         AppendUnitCells(input, "ZYUNITS.SYS", cells);
     } catch (const RuntimeError& error) {
         const auto place = "ZYUNITS.SYS, line " + std::to_string(line) + ":";
@@ -87,7 +87,7 @@ void UnitsText(std::string_view input) {
     Form form("frmUnits");
     Grid grid(&form, "grdUnits", kUnitsColumns);
     UnitsLeftOut leftOut;
-    grid.cells.AddRowsOf(std::string(input), [&](std::string_view text, Cells& cells) {
+    grid.cells.AddRowsOf(Share(std::string(input)), [&](std::string_view text, TextParts& cells) {
         leftOut = AppendUnitCells(text, "ZYUNITS.SYS", cells);
         Require(leftOut.tail == expected.tail, "what stands behind the last line end is left out");
     });

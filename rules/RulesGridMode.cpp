@@ -56,11 +56,11 @@ void RulesGridMode::AddRows() {
             text += rules(i).*field.property;
         }
     }
-    grid_.cells.AddRowsOf(std::move(text), [&](std::string_view all, std::vector<std::string_view>& cells) {
+    grid_.cells.AddRowsOf(Share(std::move(text)), [&](std::string_view all, TextParts& cells) {
         for (int i = 1; i <= rules.UBound(); ++i) {
             for (const auto& field : kRuleFields) {
                 const auto length = (rules(i).*field.property).size();
-                cells.push_back(all.substr(0, length));
+                cells.Append(all.substr(0, length));
                 all.remove_prefix(length);
             }
         }

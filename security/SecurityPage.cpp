@@ -55,6 +55,7 @@ void SecurityPage::LoadSecurity() {
     steps_.Stop();
     grid.cells.SetRedraw(false);
     grid.cells.SetRows(1);
+    grid.cells.Reserve(static_cast<int>(users.zySecure.size()) + 1);
     for (const auto& user : users.zySecure) {
         grid.cells.AddItem(GridRow(user));
     }

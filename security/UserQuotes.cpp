@@ -57,8 +57,11 @@ std::string_view Describe(QuotesEffect effect) {
 }
 
 bool HasQuotes(const GridCells& grid, int row) {
-    const auto texts = grid.RowTexts(row);
-    return std::any_of(texts.begin(), texts.end(), [](auto text) { return Contains(text, '\''); });
+    int column = 0;
+    while (column < grid.Columns() && !Contains(grid.Text(row, column), '\'')) {
+        ++column;
+    }
+    return column < grid.Columns();
 }
 
 /// The first row with single quotes; the number of rows when there is none.

@@ -13,15 +13,15 @@ std::string UnitRecords::Key(const RowTexts& comparable, int row) const {
 }
 
 std::optional<FileRecords> UnitRecords::Read(std::string_view bytes) const {
-    std::vector<std::string_view> cells;
+    TextParts cells(bytes);
     FileRecords records{RowTexts(kUnitsColumns), {}};
     try {
         records.dropped = Describe(AppendUnitCells(bytes, {}, cells));
     } catch (const RuntimeError&) {
         return std::nullopt;
     }
-    for (const auto cell : cells) {
-        records.rows.Add(cell);
+    for (std::size_t cell = 0; cell < cells.Count(); ++cell) {
+        records.rows.Add(cells[cell]);
     }
     return records;
 }

@@ -26,10 +26,10 @@ inline const char* FindLineFeed(const char* begin, const char* end, Marks& lineF
 }
 
 /// Makes room for what a text of ordinary lines holds, so that the cells need not move.
-void ReserveFor(std::string_view text, std::vector<std::string_view>& cells) {
+void ReserveFor(std::string_view text, TextParts& cells) {
     constexpr std::size_t kOrdinaryLine = 16;
     constexpr std::size_t kMostLines = kMaxItems;
-    cells.reserve(cells.size() + 2 * std::min(text.size() / kOrdinaryLine, kMostLines));
+    cells.Reserve(2 * std::min(text.size() / kOrdinaryLine, kMostLines));
 }
 
 /// Ends the program; its error names the place, so that the file can be repaired.
@@ -80,8 +80,7 @@ std::string InLines(std::string_view what, int lines, std::string_view then) {
 
 } // namespace
 
-UnitsLeftOut AppendUnitCells(std::string_view text, std::string_view path,
-                             std::vector<std::string_view>& cells) {
+UnitsLeftOut AppendUnitCells(std::string_view text, std::string_view path, TextParts& cells) {
     UnitsLeftOut leftOut;
     ReserveFor(text, cells);
     const char* begin = text.data();
@@ -104,8 +103,8 @@ UnitsLeftOut AppendUnitCells(std::string_view text, std::string_view path,
             RaiseUnitMissing(path, lines + 1);
         }
         const auto unit = fields.Next();
-        cells.push_back(unit);
-        cells.push_back(description);
+        cells.Append(unit);
+        cells.Append(description);
         if (!fields.AtEnd() && IsText(fields.Rest())) {
             ++leftOut.linesCut;
         }
@@ -125,11 +124,12 @@ std::string Describe(const UnitsLeftOut& leftOut) {
 }
 
 std::string DescribeMisreading(const GridCells& grid, int row) {
-    const auto cells = grid.RowTexts(row);
-    if (!HasComma(cells[kUnitDescription], cells[kUnit])) {
+    const auto description = grid.Text(row, kUnitDescription);
+    const auto unit = grid.Text(row, kUnit);
+    if (!HasComma(description, unit)) {
         return {};
     }
-    const std::string line = std::string(cells[kUnitDescription]) + ',' + std::string(cells[kUnit]);
+    const std::string line = std::string(description) + ',' + std::string(unit);
     const auto fields = SplitFields(line);
     return "row " + std::to_string(row) + ": its comma makes it unit " + Quoted(fields.Text(2)) + ", " +
            Quoted(fields.Text(1)) + " at the next start";
@@ -138,16 +138,14 @@ std::string DescribeMisreading(const GridCells& grid, int row) {
 UnitsFileText::UnitsFileText(const GridCells& grid) {
     const int last = ToInt16(grid.Rows() - 1);
     for (int row = 1; row <= last; ++row) {
-        const auto cells = grid.RowTexts(row);
-        size_ += cells[kUnitDescription].size() + cells[kUnit].size() + kSeparators;
+        size_ += grid.Text(row, kUnitDescription).size() + grid.Text(row, kUnit).size() + kSeparators;
     }
     text_ = std::make_unique_for_overwrite<char[]>(size_);
     char* at = text_.get();
     for (int row = 1; row <= last; ++row) {
-        const auto cells = grid.RowTexts(row);
-        at = Put(cells[kUnitDescription], at);
+        at = Put(grid.Text(row, kUnitDescription), at);
         *at++ = ',';
-        at = Put(cells[kUnit], at);
+        at = Put(grid.Text(row, kUnit), at);
         *at++ = '\r';
         *at++ = '\n';
     }

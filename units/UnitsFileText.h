@@ -4,7 +4,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "controls/GridCells.h"
 
@@ -22,12 +21,11 @@ struct UnitsLeftOut {
 };
 
 /// Appends the cells of a units file's text: the unit and the description of each line. They are parts of the
-/// text. What stands behind the last CR LF is left out.
+/// text, as `cells` is to know. What stands behind the last CR LF is left out.
 ///
 /// A line's fields are the first two that SplitFields gives. A line without a second field is run-time error
 /// 9, whose description names `path` and the line. A line beyond the 32,767th is run-time error 6.
-UnitsLeftOut AppendUnitCells(std::string_view text, std::string_view path,
-                             std::vector<std::string_view>& cells);
+UnitsLeftOut AppendUnitCells(std::string_view text, std::string_view path, TextParts& cells);
 
 /// Says for the status bar what a save would drop or change; empty when nothing.
 std::string Describe(const UnitsLeftOut& leftOut);

@@ -60,16 +60,17 @@ void mUnits::ReadUnits() {
         return;
     }
     const auto size = static_cast<std::uint32_t>(opened.handle->Size());
-    auto text = ReadFileText(*opened.handle, size);
+    const auto text = Share(ReadFileText(*opened.handle, size));
     static_cast<void>(opened.handle->Close()); // nothing was written that it could lose
-    const bool whole = text.size() == size;
+    const bool whole = text->size() == size;
     const auto path = files_.DisplayPath(state_.gsUnitsFile);
-    grdUnits_.cells.AddRowsOf(std::move(text), [&](auto lines, auto& cells) {
-        dangers_ = Describe(AppendUnitCells(lines, path, cells));
-    });
+    grdUnits_.cells.AddRowsOf(
+        text, [&](auto lines, auto& cells) { dangers_ = Describe(AppendUnitCells(lines, path, cells)); });
     if (!whole) {
         dangers_ = FileName() + " could not be read to its end: " + std::string(Describe(FileError::Other)) +
                    "; saving drops the rest";
+    } else {
+        taken.Raise(text);
     }
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "basics/SharedText.h"
 #include "controls/Event.h"
 #include "controls/Grid.h"
 #include "platform/Dialogs.h"
@@ -59,6 +60,8 @@ class mUnits {
 
     /// LoadUnitsData is done: whether there was a file.
     Event<bool> loaded;
+    /// The whole text of the file, which the grid holds on to.
+    Event<const SharedText&> taken;
     /// Short texts for the status bar: how a save ended.
     Event<const std::string&> reported;
     SaveHooks saveHooks;

@@ -12,6 +12,7 @@ TEST(RuntimeError, BoxTextHoldsNumberEmptyLineAndDescription) {
 
 TEST(RuntimeError, EachKindHasItsNumberAndDescription) {
     EXPECT_EQ(RaisedBy(RaiseOverflow).BoxText(), "Run-time error '6':\n\nOverflow");
+    EXPECT_EQ(RaisedBy(RaiseOutOfMemory).BoxText(), "Run-time error '7':\n\nOut of memory");
     EXPECT_EQ(RaisedBy(RaiseSubscriptOutOfRange).BoxText(), "Run-time error '9':\n\nSubscript out of range");
     EXPECT_EQ(RaisedBy(RaiseTypeMismatch).BoxText(), "Run-time error '13':\n\nType mismatch");
     EXPECT_EQ(RaisedBy(RaiseInvalidArgument).BoxText(),

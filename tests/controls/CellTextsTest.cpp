@@ -6,14 +6,19 @@
 #include <random>
 #include <stdexcept>
 
+#include "support/RaisedError.h"
+
 namespace zy::test {
 namespace {
 
 using ::testing::ElementsAre;
 
 std::vector<std::string> All(const CellTexts& texts) {
-    const auto some = texts.Some(0, texts.Count());
-    return {some.begin(), some.end()};
+    std::vector<std::string> all;
+    for (std::size_t cell = 0; cell < texts.Count(); ++cell) {
+        all.emplace_back(texts[cell]);
+    }
+    return all;
 }
 
 TEST(CellTexts, AreEmptyAtFirst) {
@@ -56,30 +61,31 @@ TEST(CellTexts, MayBeSetFromEachOther) {
 
 TEST(CellTexts, MayBePartsOfAShortText) {
     CellTexts texts;
-    texts.AppendPartsOf("ab", [](std::string_view text, std::vector<std::string_view>& parts) {
-        parts.push_back(text.substr(1));
-        parts.push_back(text);
+    texts.AppendPartsOf(Share("ab"), [](std::string_view text, TextParts& parts) {
+        parts.Append(text.substr(1));
+        parts.Append(text);
+        parts.Append("");
     });
     texts.Append("c");
-    EXPECT_THAT(All(texts), ElementsAre("b", "ab", "c"));
+    EXPECT_THAT(All(texts), ElementsAre("b", "ab", "", "c"));
 }
 
 TEST(CellTexts, StayAsTheyAreWhenATextCannotBeTakenApart) {
     CellTexts texts;
     texts.Append("a");
-    const auto fail = [](std::string_view text, std::vector<std::string_view>& parts) {
-        parts.push_back(text);
+    const auto fail = [](std::string_view text, TextParts& parts) {
+        parts.Append(text);
         throw std::runtime_error("no part");
     };
-    EXPECT_THROW(texts.AppendPartsOf("b", fail), std::runtime_error);
+    EXPECT_THROW(texts.AppendPartsOf(Share("b"), fail), std::runtime_error);
     EXPECT_THAT(All(texts), ElementsAre("a"));
 }
 
 TEST(CellTexts, TakenOverWholeAreNotCopiedWhenACellGoes) {
     CellTexts texts;
-    texts.AppendPartsOf(std::string(300000, 'x'), [](std::string_view text, auto& parts) {
+    texts.AppendPartsOf(Share(std::string(300000, 'x')), [](std::string_view text, TextParts& parts) {
         for (std::size_t part = 0; part < 3; ++part) {
-            parts.push_back(text.substr(part * 100000, 100000));
+            parts.Append(text.substr(part * 100000, 100000));
         }
     });
     const auto* const place = texts[0].data();
@@ -98,6 +104,20 @@ TEST(CellTexts, ThatNoCellHoldsAnyMoreAreDroppedWhenACellGoes) {
     texts.Erase(1, 1);
     EXPECT_NE(texts[0].data(), place) << "nothing was cleared away";
     EXPECT_EQ(texts[0], std::string(100000, 'j'));
+}
+
+TEST(CellTexts, DoNotOutgrowTheirRoomAndStayAsTheyAre) {
+    CellTexts texts(199999);
+    const std::string text(100000, 'x');
+    texts.Append(text);
+    const auto second = [&] { texts.Append(text); };
+    EXPECT_EQ(ErrorNumber(second), 7);
+    EXPECT_EQ(ErrorNumber([&] { texts.Set(0, std::string(150000, 'y')); }), 7);
+    EXPECT_EQ(ErrorNumber([&] { texts.AppendPartsOf(Share(std::string(150000, 'z')), [](auto, auto&) {}); }),
+              7);
+    EXPECT_THAT(All(texts), ElementsAre(text));
+    texts.Append("small");
+    EXPECT_THAT(All(texts), ElementsAre(text, "small"));
 }
 
 TEST(CellTexts, AreThoseOfAPlainListAfterManyChanges) {

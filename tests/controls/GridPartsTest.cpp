@@ -68,8 +68,9 @@ TEST_F(GridParts, AnnounceResizingAlsoWhileTheRowsAreNotShown) {
 
 TEST_F(GridParts, AnnounceAppendedRowsAsShownAlone) {
     cells.AddItem("e");
-    cells.AddRowsOf("fg", [](std::string_view text, std::vector<std::string_view>& parts) {
-        parts.insert(parts.end(), {text.substr(0, 1), text.substr(1)});
+    cells.AddRowsOf(Share("fg"), [](std::string_view text, TextParts& parts) {
+        parts.Append(text.substr(0, 1));
+        parts.Append(text.substr(1));
     });
     EXPECT_THAT(notes, ElementsAre("rows", "rows"));
 }

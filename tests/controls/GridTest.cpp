@@ -81,11 +81,13 @@ TEST_F(GridTest, LeavesCellsOutThatARowHasTooMany) {
 }
 
 TEST_F(GridTest, AddsRowsThatArePartsOfOneTextWithoutCopyingThem) {
-    std::string text = "a long text of many parts; its parts are not copied";
-    const char* const place = text.data();
-    grid.cells.AddRowsOf(std::move(text), [](std::string_view whole, std::vector<std::string_view>& parts) {
-        parts.insert(parts.end(), {whole.substr(0, 1), whole.substr(2, 4), whole.substr(7, 4)});
-        parts.insert(parts.end(), {"", whole.substr(15, 4), whole.substr(20, 5)});
+    const auto text = Share("a long text of many parts; its parts are not copied");
+    const char* const place = text->data();
+    grid.cells.AddRowsOf(text, [](std::string_view whole, TextParts& parts) {
+        for (const auto part : {whole.substr(0, 1), whole.substr(2, 4), whole.substr(7, 4),
+                                std::string_view(), whole.substr(15, 4), whole.substr(20, 5)}) {
+            parts.Append(part);
+        }
     });
     EXPECT_EQ(grid.cells.Rows(), 5);
     EXPECT_THAT(Row(3), ElementsAre("a", "long", "text"));
@@ -95,11 +97,10 @@ TEST_F(GridTest, AddsRowsThatArePartsOfOneTextWithoutCopyingThem) {
 
 TEST_F(GridTest, KeepsTheRowsItHadWhenATextCannotBeTakenApart) {
     EXPECT_EQ(ErrorNumber([&] {
-                  grid.cells.AddRowsOf("text",
-                                       [](std::string_view text, std::vector<std::string_view>& parts) {
-                                           parts.push_back(text);
-                                           RaiseOverflow();
-                                       });
+                  grid.cells.AddRowsOf(Share("text"), [](std::string_view text, TextParts& parts) {
+                      parts.Append(text);
+                      RaiseOverflow();
+                  });
               }),
               6);
     grid.cells.AddItem("g\th\ti");
@@ -120,7 +121,7 @@ TEST_F(GridTest, TellsThatRowsChangedOnceTheyAreShownAgain) {
     grid.cells.rowsChanged.Connect([&] { ++told; });
     grid.cells.SetRedraw(false);
     grid.cells.AddItem("1");
-    grid.cells.AddRowsOf("", [](std::string_view, std::vector<std::string_view>&) {});
+    grid.cells.AddRowsOf(Share(""), [](std::string_view, TextParts&) {});
     grid.cells.SetRows(2);
     grid.cells.RemoveItem(1);
     EXPECT_EQ(told, 0);

@@ -34,8 +34,11 @@ class GridTest : public ::testing::Test {
     }
 
     std::vector<std::string> Row(int row) const {
-        const auto texts = grid.cells.RowTexts(row);
-        return {texts.begin(), texts.end()};
+        std::vector<std::string> texts;
+        for (int column = 0; column < grid.cells.Columns(); ++column) {
+            texts.emplace_back(grid.cells.Text(row, column));
+        }
+        return texts;
     }
     void TypeInEditor(const std::string& text) { grid.editor.Enter(text, text.size(), 0); }
     void Edit(int row, int column, const std::string& text) {

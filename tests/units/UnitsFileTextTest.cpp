@@ -12,9 +12,13 @@ namespace zy::test {
 namespace {
 
 std::vector<std::string> CellsOf(std::string_view text) {
-    std::vector<std::string_view> cells;
+    TextParts cells(text);
     AppendUnitCells(text, "path", cells);
-    return {cells.begin(), cells.end()};
+    std::vector<std::string> texts;
+    for (std::size_t cell = 0; cell < cells.Count(); ++cell) {
+        texts.emplace_back(cells[cell]);
+    }
+    return texts;
 }
 
 TEST(UnitsFileText, GivesTheFirstTwoFieldsThatSplitFieldsGivesForEachLine) {
@@ -43,9 +47,14 @@ TEST(UnitsFileText, GivesTheFirstTwoFieldsThatSplitFieldsGivesForEachLine) {
 }
 
 TEST(UnitsFileText, AppendsToTheCellsThatAreThere) {
-    std::vector<std::string_view> cells{"before"};
-    AppendUnitCells("A,a\r\n", "path", cells);
-    EXPECT_THAT(cells, ::testing::ElementsAre("before", "a", "A"));
+    constexpr std::string_view kText = "A,a\r\n";
+    TextParts cells(kText);
+    cells.Append(kText.substr(1, 1));
+    AppendUnitCells(kText, "path", cells);
+    ASSERT_EQ(cells.Count(), 3U);
+    EXPECT_EQ(cells[0], ",");
+    EXPECT_EQ(cells[1], "a");
+    EXPECT_EQ(cells[2], "A");
 }
 
 } // namespace
