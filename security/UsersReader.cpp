@@ -85,6 +85,7 @@ LoadedUsers UsersOf(dbase::Recordset& records, const std::string& table, const C
     if (!records.Eof()) {
         RequireFields(records.Fields(), table);
     }
+    loaded.users.reserve(std::min<std::size_t>(records.Table().Records(), kMaxItems));
     for (int i = 0; !records.Eof(); i = ToInt16(i + 1)) {
         loaded.users.resize(static_cast<std::size_t>(i) + 1);
         auto& user = loaded.users.back();

@@ -81,8 +81,11 @@ class mSecurity {
     Event<const std::string&> reported;
     SaveHooks saveHooks;
 
-    std::vector<UserRecord> zySecure; ///< counted from 0; never empty once it was loaded
-    Bool16 newSecurityFile;           ///< there was no table to load
+    /// Counted from 0; never empty once it was loaded. It is a copy of what the grid shows, which costs 160
+    /// bytes a user and what does not fit into them: what is typed belongs to the list only once it is saved,
+    /// and a save whose checks fail leaves the list as it was.
+    std::vector<UserRecord> zySecure;
+    Bool16 newSecurityFile; ///< there was no table to load
 
   private:
     /// Writes the table and its index, or takes them away from the folder where there are no users.

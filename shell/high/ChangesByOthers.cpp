@@ -27,12 +27,12 @@ void ChangesByOthers::Connect() {
 }
 
 void ChangesByOthers::Look() {
-    if (!file_.IsChange(file_.Read())) {
+    if (!file_.IsChanged()) {
         HideNotice();
         return;
     }
     const auto now = ReadForSave();
-    if (file_.IsChange(now) && now != ignored_) {
+    if (file_.IsChange(now) && (!ignored_ || *now != *ignored_)) {
         form_.ShowNotice(Notice());
     }
 }
@@ -54,7 +54,7 @@ void ChangesByOthers::lblShow_Click() {
     editor_.CommitOpenCell();
     const auto now = file_.Read();
     if (file_.IsChange(now)) {
-        static_cast<void>(Settle(*now, frmMerge::Purpose::Look));
+        static_cast<void>(Settle(now, frmMerge::Purpose::Look));
     } else {
         HideNotice();
     }
@@ -87,18 +87,18 @@ void ChangesByOthers::lblIgnore_Click() {
 
 void ChangesByOthers::AskBeforeSave(bool& may) {
     const auto now = ReadForSave();
-    may = may && (!file_.IsChange(now) || Settle(*now, frmMerge::Purpose::Save));
+    may = may && (!file_.IsChange(now) || Settle(now, frmMerge::Purpose::Save));
 }
 
 /// In the turn to save, so that what another program is just saving is read whole. Nothing where the save
 /// will be refused anyway.
-ListFile::Bytes ChangesByOthers::ReadForSave() {
+SharedText ChangesByOthers::ReadForSave() {
     const SaveTurn turn(files_, file_.Path());
-    return WhyNotToSave(files_, file_.Path(), turn).empty() ? file_.Read() : std::nullopt;
+    return WhyNotToSave(files_, file_.Path(), turn).empty() ? file_.Read() : nullptr;
 }
 
 void ChangesByOthers::RefuseSave(std::string& reason) const {
-    if (reason.empty() && file_.IsChange(file_.Read())) {
+    if (reason.empty() && file_.IsChanged()) {
         reason = "Not saved: " + std::string(file_.Name()) +
                  " was changed by another program at this moment; save again";
     }
@@ -109,13 +109,13 @@ void ChangesByOthers::TakeUpSaved() {
     HideNotice();
 }
 
-bool ChangesByOthers::Settle(const std::string& theirs, frmMerge::Purpose purpose) {
+bool ChangesByOthers::Settle(const SharedText& theirs, frmMerge::Purpose purpose) {
     const auto& records = editor_.Records();
-    const auto read = records.Read(theirs);
+    const auto read = records.Read(*theirs);
     if (!read) {
         return SettleUnreadable(theirs, purpose);
     }
-    const auto known = records.Read(file_.Known().value_or(""));
+    const auto known = records.Read(file_.KnownText());
     const auto mine = editor_.Steps().Copy();
     const auto base = records.Comparable(known ? known->rows : RowTexts(mine.Columns()));
     const auto ours = records.Comparable(mine);
@@ -136,7 +136,7 @@ bool ChangesByOthers::Settle(const std::string& theirs, frmMerge::Purpose purpos
     return answer != frmMerge::Answer::Cancel;
 }
 
-bool ChangesByOthers::SettleUnreadable(const std::string& theirs, frmMerge::Purpose purpose) {
+bool ChangesByOthers::SettleUnreadable(const SharedText& theirs, frmMerge::Purpose purpose) {
     const RowTexts none(static_cast<int>(editor_.Records().Columns().size()));
     const bool overwrites = Ask({none, none, none}, nullptr, purpose) == frmMerge::Answer::Overwrite;
     if (overwrites) {
@@ -153,7 +153,7 @@ frmMerge::Answer ChangesByOthers::Ask(const frmMerge::Lists& lists, RowMerge* me
     return question.Chosen();
 }
 
-void ChangesByOthers::GoOnFrom(const std::string& theirs, bool isTheList) {
+void ChangesByOthers::GoOnFrom(const SharedText& theirs, bool isTheList) {
     file_.TakeUp(theirs);
     if (isTheList) {
         editor_.Steps().TakeAsSaved();

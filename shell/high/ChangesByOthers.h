@@ -41,16 +41,16 @@ class ChangesByOthers {
   private:
     void Connect();
     void AskBeforeSave(bool& may);
-    ListFile::Bytes ReadForSave();
+    SharedText ReadForSave();
     void RefuseSave(std::string& reason) const;
     void TakeUpSaved();
     /// Asks what is to become of what the file holds now, where there is anything to be decided. False when
     /// it is left as it is.
-    bool Settle(const std::string& theirs, frmMerge::Purpose purpose);
-    bool SettleUnreadable(const std::string& theirs, frmMerge::Purpose purpose);
+    bool Settle(const SharedText& theirs, frmMerge::Purpose purpose);
+    bool SettleUnreadable(const SharedText& theirs, frmMerge::Purpose purpose);
     frmMerge::Answer Ask(const frmMerge::Lists& lists, RowMerge* merge, frmMerge::Purpose purpose);
     /// From here on the file is known to hold this, and the list, which may be the same, goes on from it.
-    void GoOnFrom(const std::string& theirs, bool isTheList);
+    void GoOnFrom(const SharedText& theirs, bool isTheList);
     std::string Notice() const;
     void HideNotice();
     /// In the status bar.
@@ -62,7 +62,7 @@ class ChangesByOthers {
     FileSystem& files_;
     SystemInfo& system_;
     Dialogs& dialogs_;
-    ListFile::Bytes ignored_;
+    SharedText ignored_;
     std::vector<Subscription> subscriptions_;
 };
 

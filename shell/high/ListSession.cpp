@@ -11,7 +11,7 @@ namespace {
 
 /// The rows of a list as its file holds them, and what else it holds.
 FileRecords RecordsIn(const ListFile& file, const Editor& editor, int columns) {
-    auto read = editor.Records().Read(file.Known().value_or(""));
+    auto read = editor.Records().Read(file.KnownText());
     return read ? *std::move(read) : FileRecords{RowTexts(columns), {}};
 }
 
@@ -29,13 +29,12 @@ void Revert(const ListFile& file, Editor& editor, const RowDifference& differenc
 
 } // namespace
 
-ListSession::ListSession(const World& world, SettingsForm& form, const std::string& path, Editor& editor,
+ListSession::ListSession(const World& world, SettingsForm& form, ListFile& file, Editor& editor,
                          VersionKeeper::Keeps keeps)
-    : form_(form), files_(world.files), dialogs_(world.dialogs), editor_(editor), file_(world.files, path),
+    : form_(form), files_(world.files), dialogs_(world.dialogs), editor_(editor), file_(file),
       store_(world.files, world.journals, world.system),
       others_(file_, editor, form, world.files, world.system, world.dialogs),
       versions_(file_, editor, store_, world.system, world.dialogs, keeps) {
-    file_.TakeUp(file_.Read());
     others_.rebased.Connect([this] { rebased.Raise(); });
     versions_.reported.Connect([this](const std::string& report) { AddHint(form_.zyStatusBar, report); });
 }
@@ -49,7 +48,7 @@ void ListSession::Idle() {
 
 void ListSession::LookForRoom() {
     const auto room = files_.FreeBytes(file_.Path());
-    if (room && file_.Known() && *room < file_.Known()->size()) {
+    if (room && *room < file_.KnownText().size()) {
         AddHint(form_.zyStatusBar, Obstacle(file_.Path(), FileError::DiskFull));
     }
 }

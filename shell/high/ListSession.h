@@ -15,7 +15,7 @@ namespace zy {
 class ListSession {
   public:
     /// The editor is about to load its list from this file. All of these must outlive the session.
-    ListSession(const World& world, SettingsForm& form, const std::string& path, Editor& editor,
+    ListSession(const World& world, SettingsForm& form, ListFile& file, Editor& editor,
                 VersionKeeper::Keeps keeps);
     ListSession(const ListSession&) = delete;
     ListSession& operator=(const ListSession&) = delete;
@@ -42,7 +42,7 @@ class ListSession {
     FileSystem& files_;
     Dialogs& dialogs_;
     Editor& editor_;
-    ListFile file_;
+    ListFile& file_;
     EarlierVersions store_;
     ChangesByOthers others_;
     VersionKeeper versions_;

@@ -19,6 +19,8 @@ Program::Program(const World& outside)
       recovery(world.files, world.journals, world.system, world.dialogs) {
     securityPage.users.loginCancelled.Connect([this] { window.Unload(); });
     recovery.reported.Connect([this](const std::string& report) { AddHint(form.zyStatusBar, report); });
+    // What a grid of units takes its texts from is what its file held, so that memory has it once.
+    unitsPage.units.taken.Connect([this](const SharedText& text) { file->TakeUp(text); });
     window.idle.Connect([this] { recovery.Idle(); });
     window.idle.Connect([this] { WithList(&ListSession::Idle); });
     window.activated.Connect([this] { WithList(&ListSession::Activated); });
@@ -31,7 +33,8 @@ Program::Program(const World& outside)
 }
 
 void Program::Open(const std::string& path, Editor& editor, VersionKeeper::Keeps keeps) {
-    list.emplace(world, form, path, editor, keeps);
+    file.emplace(world.files, path);
+    list.emplace(world, form, *file, editor, keeps);
     list->rebased.Connect([this] { recovery.GoOnFromFile(); });
 }
 

@@ -26,7 +26,7 @@ class Program {
   public:
     explicit Program(const World& outside);
 
-    /// An editor is about to load its list from this file.
+    /// An editor is about to load its list from this file. What that holds is to be told to `file`.
     void Open(const std::string& path, Editor& editor, VersionKeeper::Keeps keeps);
     /// Calls what stands around the list of the editor that was started; nothing before one was.
     void WithList(void (ListSession::*call)());
@@ -43,6 +43,7 @@ class Program {
     mRegistryEdit registryEdit;
     SubClasser subClasser;
     frmGlobalSettings window;
+    std::optional<ListFile> file; ///< of the editor that was started
     std::optional<ListSession> list;
     EditMenu editMenu;
     HelpMenu helpMenu;

@@ -28,7 +28,9 @@ void Recovery::Idle() {
     if (!journal_) {
         return;
     }
-    journal_->Seen(); // while it is what was loaded or saved, and nobody waits for it
+    if (!subject_.file->Known()) {
+        journal_->Seen(); // while it is what was loaded or saved
+    }
     Report(journal_->Sync());
     if (!report_.empty()) {
         reported.Raise(std::exchange(report_, {}));
@@ -119,7 +121,7 @@ bool Recovery::Settle(std::unique_ptr<Journal> orphan) {
 
 /// Of one that is too damaged to say, somebody has to learn.
 bool Recovery::IsOfThisList(const EarlierSession& session) const {
-    return session.Path().empty() || session.Path() == files_.DisplayPath(subject_.path);
+    return session.Path().empty() || session.Path() == files_.DisplayPath(subject_.file->Path());
 }
 
 bool Recovery::IsSaved(const EarlierSession::Notes& lost) const {
@@ -140,7 +142,7 @@ std::string Recovery::Heading(std::chrono::local_seconds time) const {
 }
 
 std::string Recovery::Explanation(const EarlierSession& session, EarlierSession::Use use) const {
-    const std::string file(FileNameOf(subject_.path));
+    const std::string file(FileNameOf(subject_.file->Path()));
     std::string text;
     if (session.IsEmpty()) {
         text = "Their notes are damaged, and nothing of them can be restored.";

@@ -22,7 +22,7 @@ VersionKeeper::VersionKeeper(ListFile& file, Editor& editor, EarlierVersions& ve
 
 /// A save goes on without it: what the user wants saved counts for more than what was there before.
 void VersionKeeper::Keep(std::string& refusal) {
-    const auto bytes = refusal.empty() ? file_.Read() : std::nullopt;
+    const auto bytes = refusal.empty() ? file_.Read() : nullptr;
     if (!bytes) {
         return;
     }

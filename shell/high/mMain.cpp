@@ -29,6 +29,7 @@ void ComputePaths(Program& program) {
 void LoadRules(Program& program) {
     const SaveTurn turn(program.world.files, program.state.gsRulesFile);
     program.Open(program.state.gsRulesFile, program.rulesPage, VersionKeeper::Keeps::Versions);
+    program.file->TakeUp(program.file->Read());
     program.rules.Build_Rules_Array();
     if (turn.IsMine()) {
         program.rules.LookForDangers();
@@ -45,12 +46,13 @@ StartUp StartRules(Program& program) {
     program.state.gbChanged = false;
     program.rulesPage.ResizeRuleTab();
     program.window.Show();
-    program.recovery.Begin({"rules", program.state.gsRulesFile}, program.rulesPage.Steps());
+    program.recovery.Begin({"rules", &*program.file}, program.rulesPage.Steps());
     return StartUp::WindowShown;
 }
 
 StartUp StartSecurity(Program& program) {
     program.Open(program.securityPage.users.TablePath(), program.securityPage, VersionKeeper::Keeps::Nothing);
+    program.file->TakeUp(program.file->Read());
     if (!program.securityPage.users.LoadSecurityData()) {
         return StartUp::Ended;
     }
@@ -61,8 +63,7 @@ StartUp StartSecurity(Program& program) {
     program.state.gbUnitsMode = false;
     program.securityPage.ResizeSecurity();
     program.window.Show();
-    program.recovery.Begin({"users", program.state.gsSecurityFile, Secrecy::Passwords},
-                           program.securityPage.Steps());
+    program.recovery.Begin({"users", &*program.file, Secrecy::Passwords}, program.securityPage.Steps());
     return StartUp::WindowShown;
 }
 
@@ -75,7 +76,7 @@ StartUp StartUnits(Program& program) {
     program.state.gbUnitsMode = true;
     program.unitsPage.ResizeUnits();
     program.window.Show();
-    program.recovery.Begin({"units", program.state.gsUnitsFile}, program.unitsPage.Steps());
+    program.recovery.Begin({"units", &*program.file}, program.unitsPage.Steps());
     return StartUp::WindowShown;
 }
 

@@ -1,6 +1,8 @@
 #include "shell/ListFile.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <span>
 #include <utility>
 
 #include "shell/mZYGlobal.h"
@@ -13,15 +15,42 @@ std::string_view ListFile::Name() const {
     return FileNameOf(path_);
 }
 
-ListFile::Bytes ListFile::Read() const {
+OpenedFile ListFile::Open() const {
     const bool isThere = files_.Locate(path_) == FileError::None && files_.Exists(path_);
-    const auto opened = isThere ? files_.OpenForReading(path_) : OpenedFile{};
+    return isThere ? files_.OpenForReading(path_) : OpenedFile{};
+}
+
+SharedText ListFile::Read() const {
+    const auto opened = Open();
     if (!opened.handle) {
-        return std::nullopt;
+        return nullptr;
     }
     const auto size = static_cast<std::uint32_t>(opened.handle->Size());
     auto bytes = ReadFileText(*opened.handle, size);
-    return bytes.size() == size ? Bytes(std::move(bytes)) : std::nullopt;
+    return bytes.size() == size ? Share(std::move(bytes)) : nullptr;
+}
+
+bool ListFile::IsChanged() const {
+    constexpr std::size_t kBlockSize = std::size_t{64} * 1024;
+    const auto opened = Open();
+    if (!opened.handle) {
+        return false;
+    }
+    const auto size = opened.handle->Size();
+    if (!known_ || size != known_->size()) {
+        return Read() != nullptr;
+    }
+    std::string block(std::min<std::size_t>(size, kBlockSize), '\0');
+    bool differs = false;
+    for (auto rest = KnownText(); !rest.empty();) {
+        const auto wanted = rest.substr(0, block.size());
+        if (opened.handle->Read(std::span(block).first(wanted.size())) != wanted.size()) {
+            return false;
+        }
+        differs = differs || wanted != std::string_view(block).substr(0, wanted.size());
+        rest.remove_prefix(wanted.size());
+    }
+    return differs;
 }
 
 } // namespace zy

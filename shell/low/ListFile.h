@@ -1,9 +1,10 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
+#include "basics/SharedText.h"
 #include "platform/FileSystem.h"
 
 namespace zy {
@@ -14,29 +15,32 @@ namespace zy {
 /// may be written anew with what it held.
 class ListFile {
   public:
-    /// What a file holds; nothing where there is none, where it cannot be read, and where it is not certain
-    /// which one it is.
-    using Bytes = std::optional<std::string>;
-
     /// The file system must outlive it.
     ListFile(FileSystem& files, std::string path);
 
     const std::string& Path() const { return path_; }
     std::string_view Name() const;
-    /// What it holds now.
-    Bytes Read() const;
-    /// What it held then.
-    const Bytes& Known() const { return known_; }
+    /// What it holds now; null where there is no file, where it cannot be read, and where it is not certain
+    /// which one it is.
+    SharedText Read() const;
+    /// What it held then; null as above.
+    const SharedText& Known() const { return known_; }
+    /// The same, empty for null.
+    std::string_view KnownText() const { return known_ ? std::string_view(*known_) : std::string_view(); }
     /// The list is what the file holds now, or will be when it is saved over it.
-    void TakeUp(Bytes bytes) { known_ = std::move(bytes); }
+    void TakeUp(SharedText bytes) { known_ = std::move(bytes); }
     /// Whether another program put these bytes there. A file that is gone or cannot be read is not a changed
     /// one: it may be just on its way to its place.
-    bool IsChange(const Bytes& bytes) const { return bytes && bytes != known_; }
+    bool IsChange(const SharedText& bytes) const { return bytes && (!known_ || *bytes != *known_); }
+    /// Whether it holds such bytes now, without taking memory for them.
+    bool IsChanged() const;
 
   private:
+    OpenedFile Open() const;
+
     FileSystem& files_;
     std::string path_;
-    Bytes known_;
+    SharedText known_;
 };
 
 } // namespace zy

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "history/Bytes.h"
-#include "shell/ListFile.h"
 
 namespace zy {
 namespace {
@@ -26,23 +25,25 @@ bool IsList(const StepNote& note) {
 
 } // namespace
 
-std::string FingerprintOf(FileSystem& files, const Journals& journals, std::string_view path) {
-    if (!files.Exists(path)) {
-        return {};
-    }
-    const auto bytes = ListFile(files, std::string(path)).Read();
-    const auto fingerprint = bytes ? journals.Fingerprint(*bytes) : std::string();
-    return fingerprint.empty() ? std::string(kUnreadable) : std::to_string(bytes->size()) + ":" + fingerprint;
-}
-
 SessionJournal::SessionJournal(FileSystem& files, Journals& journals, JournalSubject subject)
     : files_(files), journals_(journals), subject_(std::move(subject)) {}
 
 const std::string& SessionJournal::Seen() {
-    if (!file_) {
-        file_ = FingerprintOf(files_, journals_, subject_.path);
+    if (!seen_) {
+        seen_ = Look();
     }
-    return *file_;
+    return *seen_;
+}
+
+std::string SessionJournal::Look() const {
+    const auto& file = *subject_.file;
+    const bool isKnown = isKnown_ && file.Known();
+    if (!isKnown && !files_.Exists(file.Path())) {
+        return {};
+    }
+    const auto bytes = isKnown ? file.Known() : file.Read();
+    const auto fingerprint = bytes ? journals_.Fingerprint(*bytes) : std::string();
+    return fingerprint.empty() ? std::string(kUnreadable) : std::to_string(bytes->size()) + ":" + fingerprint;
 }
 
 FileError SessionJournal::StartAnew() {
@@ -51,7 +52,8 @@ FileError SessionJournal::StartAnew() {
     pieces_ = {};
     error_ = FileError::None;
     isSynced_ = true;
-    file_.reset();
+    seen_.reset();
+    isKnown_ = true;
     return error;
 }
 
@@ -63,7 +65,8 @@ FileError SessionJournal::Note(const StepNote& note) {
 }
 
 FileError SessionJournal::NoteFile() {
-    file_.reset();
+    seen_.reset();
+    isKnown_ = false;
     return Append(Header());
 }
 
@@ -95,7 +98,7 @@ std::string SessionJournal::Header() {
     ByteWriter header;
     header.Number(kHeader);
     header.Number(kVersion);
-    header.Text(files_.DisplayPath(subject_.path));
+    header.Text(files_.DisplayPath(subject_.file->Path()));
     header.Text(Seen());
     return header.Take();
 }

@@ -10,19 +10,16 @@
 #include "history/StepNotes.h"
 #include "platform/FileSystem.h"
 #include "platform/Journals.h"
+#include "shell/ListFile.h"
 
 namespace zy {
 
 /// The list that a journal is about.
 struct JournalSubject {
-    std::string kind; ///< of the editor: "units"
-    std::string path; ///< of the list's file
+    std::string kind;               ///< of the editor: "units"
+    const ListFile* file = nullptr; ///< which must outlive the journal
     Secrecy secrecy = Secrecy::None;
 };
-
-/// What a file holds, as a short text that is the same only for the same bytes; empty where there is no file,
-/// "?" where nobody can tell.
-std::string FingerprintOf(FileSystem& files, const Journals& journals, std::string_view path);
 
 /// The journal of this session: the steps since the list was loaded or saved last. There is none on the disk
 /// until there is a step. When a note fails the journal ends with the one before, so that it stays true.
@@ -31,7 +28,8 @@ class SessionJournal {
     /// The two must outlive it.
     SessionJournal(FileSystem& files, Journals& journals, JournalSubject subject);
 
-    /// What the file of the list holds, looked at when it is asked for first.
+    /// What the file of the list holds, as a short text that is the same only for the same bytes; empty where
+    /// there is no file, "?" where nobody can tell.
     const std::string& Seen();
     /// The list is what its file holds now: what was noted so far is not needed any more.
     FileError StartAnew();
@@ -48,13 +46,15 @@ class SessionJournal {
     FileError Append(std::string_view piece);
     FileError Open();
     std::string Header();
+    std::string Look() const;
 
     FileSystem& files_;
     Journals& journals_;
     JournalSubject subject_;
     std::unique_ptr<Journal> journal_;
     PieceWriter pieces_;
-    std::optional<std::string> file_; ///< what it holds, once that was looked at
+    std::optional<std::string> seen_; ///< once it was asked for
+    bool isKnown_ = true;             ///< the file holds what it is known to hold
     FileError error_ = FileError::None;
     bool isSynced_ = true;
 };
