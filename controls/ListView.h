@@ -55,6 +55,9 @@ class ListView : public Control {
     /// The user presses a key while the list has the focus.
     void Press(const KeyPress& press);
 
+    /// What there is to tell of an item that the mouse rests on; nothing where that is empty.
+    std::function<std::string(int item)> hint;
+
     Event<int> itemClick; ///< the user chose this item
     Event<const KeyPress&> keyDown;
     Event<> refilled;

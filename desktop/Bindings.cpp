@@ -6,6 +6,7 @@
 #include "desktop/ComboBoxBinding.h"
 #include "desktop/CommandButtonBinding.h"
 #include "desktop/DecorationBindings.h"
+#include "desktop/DrawingBoxBinding.h"
 #include "desktop/FrameBinding.h"
 #include "desktop/GridBinding.h"
 #include "desktop/LabelBinding.h"
@@ -43,6 +44,7 @@ Made MakeBinding(const ViewContext& context, const Inside& inside, Control& cont
     MakeIfKind<LinkLabel, LinkLabelBinding>(made, context, inside, control);
     MakeIfKind<Line, LineBinding>(made, context, inside, control);
     MakeIfKind<Picture, PictureBinding>(made, context, inside, control);
+    MakeIfKind<DrawingBox, DrawingBoxBinding>(made, context, inside, control);
     MakeIfKind<Frame, FrameBinding>(made, context, inside, control);
     MakeIfKind<StatusBar, StatusBarBinding>(made, context, inside, control);
     if (!made) {

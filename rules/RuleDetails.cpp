@@ -44,6 +44,7 @@ void RuleDetails::DetailChanged(std::string_view handler, int column) {
         form_.ChangeFlag = true;
         status_.ShowCount();
         edited.Raise(column);
+        shown.Raise();
     }
 }
 
@@ -61,6 +62,7 @@ void RuleDetails::ShowTexts(const Texts& texts) {
     SelectItem(controls_.cboCondition, texts[kCondColumn]);
     SelectItem(controls_.cboZone, texts[kZoneColumn]);
     rules_.gbLoadingRule = false;
+    shown.Raise();
 }
 
 void RuleDetails::EditRule(std::string_view index) {
@@ -76,6 +78,7 @@ void RuleDetails::EditRule(std::string_view index) {
     rules_.gbLoadingRule = false;
     status_.ShowCount();
     filled.Raise();
+    shown.Raise();
 }
 
 void RuleDetails::Fill(const RunRule& rule) {
@@ -116,6 +119,7 @@ void RuleDetails::ClearRule() {
     rules_.gbLoadingRule = false;
     status_.ShowCount();
     filled.Raise();
+    shown.Raise();
 }
 
 void RuleDetails::Empty() {

@@ -47,6 +47,8 @@ class RuleDetails {
     Event<> filled;
     /// The user changed the field of this column.
     Event<int> edited;
+    /// The fields show something else than before, whoever made it so.
+    Event<> shown;
     /// The form is about to be copied into its rule, and was.
     Event<> storing;
     Event<> stored;

@@ -117,6 +117,7 @@ RulesControls::RulesControls(Frame& fraRules, ListView::Source rules)
       lblCondition(&FraRuleDetails, "lblCondition", "Condition:", 'C', cboCondition),
       lblZone(&FraRuleDetails, "lblZone", "Zone:", 'Z', cboZone),
       lblDescription(&FraRuleDetails, "lblDescription", "Description:", 'D', txtDescription),
+      picRule(&FraRuleDetails, "picRule", "Picture of the rule"),
       fraGridMode(&fraRules, "fraGridMode", "Grid Mode"), grdRules(&fraGridMode, "grdRules", kRuleColumns) {
     cmdUpDown.SetCaption("Move rule");
     cmdHelpRules.SetCausesValidation(false); // a field that is wrong is what help is needed for

@@ -4,6 +4,7 @@
 
 #include "controls/ComboBox.h"
 #include "controls/CommandButton.h"
+#include "controls/DrawingBox.h"
 #include "controls/Grid.h"
 #include "controls/ListView.h"
 #include "controls/TextBox.h"
@@ -41,6 +42,7 @@ struct RulesControls {
     Label lblCondition;
     Label lblZone;
     Label lblDescription;
+    DrawingBox picRule;
 
     Frame fraGridMode;
     Grid grdRules;

@@ -50,6 +50,24 @@ Size LeastDetails(const RulesControls& c) {
             ContentTop(c.FraRuleDetails) + kRows * (FieldHeight(c) + kGap)};
 }
 
+/// The room to the right of the fields, down to the description; hidden where that is too small for a
+/// picture.
+void PlacePicture(RulesControls& c) {
+    constexpr int kLeastWidth = 3900;
+    constexpr int kLeastHeight = 900;
+    const auto& needed = c.picRule.Preferred();
+    const int left = c.cboZone.Bounds().Right() + kColumnGap;
+    const int top = ContentTop(c.FraRuleDetails);
+    const Rect room{left, top, c.FraRuleDetails.Bounds().width - kGap - left,
+                    c.txtDescription.Bounds().top - kGap - top};
+    const bool fits = room.width >= std::max(needed.width, kLeastWidth) &&
+                      room.height >= std::max(needed.height, kLeastHeight);
+    if (fits) {
+        c.picRule.SetBounds(room);
+    }
+    c.picRule.SetVisible(fits);
+}
+
 Size ButtonSize(const RulesControls& c) {
     const Controls buttons{&c.cmdAddList, &c.cmdDeleteList, &c.cmdSaveRules, &c.cmdHelpRules};
     return {Widest(buttons, CommandButton::kUsualWidth), Tallest(buttons, kButtonHeight)};
@@ -152,6 +170,7 @@ void LayOutRuleDetails(RulesControls& c) {
     placeLong(c.lblCondition, c.cboCondition, std::max(listWidth, c.txtMax.Bounds().Right() - fields));
     placeLong(c.lblZone, c.cboZone, std::max(listWidth, c.txtMax.Bounds().Right() - fields));
     placeLong(c.lblDescription, c.txtDescription, right - fields);
+    PlacePicture(c);
 }
 
 } // namespace zy

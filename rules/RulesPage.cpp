@@ -14,13 +14,14 @@ std::string_view CellOf(const RunRule& rule, int column) {
 } // namespace
 
 RulesPage::RulesPage(mRules& rules, RuleChecks& ruleChecks, SettingsForm& form, SharedState& state,
-                     TraceChannel& trace, Dialogs& dialogs, const CodePage& codePage)
+                     TraceChannel& trace, SystemInfo& system, Dialogs& dialogs, const CodePage& codePage)
     : controls(form.fraRules, [&rules](int item, int column) { return CellOf(rules.gaRules(item), column); }),
       status(rules, controls, form), detailChecks(rules, ruleChecks, controls, trace),
       details(rules, detailChecks, controls, status, form, state, trace, codePage),
       listMode(rules, details, controls, status, form, state, trace, dialogs),
-      gridMode(rules, ruleChecks, controls, status, form, state, trace), rules_(rules), form_(form),
-      trace_(trace), steps_(rules, details, controls), records_(codePage) {
+      gridMode(rules, ruleChecks, controls, status, form, state, trace),
+      pictures(rules, details, controls, system), rules_(rules), form_(form), trace_(trace),
+      steps_(rules, details, controls), records_(codePage) {
     controls.cmdSaveRules.click.Connect([this] { cmdSaveRules_Click(); });
     steps_.moved.Connect([this](bool isSaved, const std::string& report) { ShowMoved(isSaved, report); });
     steps_.dropped.Connect([this](const std::string& code) {

@@ -2,9 +2,11 @@
 
 #include "platform/CodePage.h"
 #include "platform/Dialogs.h"
+#include "platform/SystemInfo.h"
 #include "rules/RuleChecks.h"
 #include "rules/RuleDetailChecks.h"
 #include "rules/RuleDetails.h"
+#include "rules/RulePictures.h"
 #include "rules/RuleRecords.h"
 #include "rules/RuleSteps.h"
 #include "rules/RulesControls.h"
@@ -24,7 +26,7 @@ namespace zy {
 class RulesPage : public Editor {
   public:
     RulesPage(mRules& rules, RuleChecks& ruleChecks, SettingsForm& form, SharedState& state,
-              TraceChannel& trace, Dialogs& dialogs, const CodePage& codePage);
+              TraceChannel& trace, SystemInfo& system, Dialogs& dialogs, const CodePage& codePage);
 
     /// Shows the list and the detail form as they stand, to be filled by LoadRulesListMode; the grid is
     /// hidden.
@@ -63,6 +65,7 @@ class RulesPage : public Editor {
     RuleDetails details;
     RulesListMode listMode;
     RulesGridMode gridMode;
+    RulePictures pictures;
 
   private:
     /// Writes the rules; the marks go when that was not refused.

@@ -16,8 +16,10 @@
 
 // The rules editor: the rule list and its file (mRules), the checks (RuleChecks), and the page (RulesPage)
 // with its list (RulesListMode), its detail form (RuleDetails, RuleDetailChecks), what the status bar says
-// (RulesStatus), and the grid view that the page carries out of reach (RulesGridMode).
-// It owns the rules and the rules file, and calls the low part of the shell and what lies below that.
+// (RulesStatus), the pictures of the rules
+// (RulePicture, RuleDrawing, RulePictures), and the grid view that the page carries out of reach
+// (RulesGridMode). It owns the rules and the rules file, and calls the low part of the shell and what lies
+// below that.
 
 namespace zy {
 

@@ -19,15 +19,14 @@ double LightOf(const wxColour& colour) {
            0.0722 * LightOf(colour.Blue());
 }
 
-/// A ground on which the text can be read, as close to the usual one as can be.
-wxColour ReadableGround(const wxColour& usual, const wxColour& text) {
+/// A colour that has so much contrast to another one, as close to the usual one as can be.
+wxColour ContrastingColour(const wxColour& usual, const wxColour& other, double contrast, bool darker) {
     constexpr int kAsItIs = 100; // per cent of its lightness
-    const int away = LightOf(text) > LightOf(usual) ? -1 : 1;
-    wxColour ground = usual;
-    for (int step = 1; step < kAsItIs && Contrast(ground, text) < kReadable; ++step) {
-        ground = usual.ChangeLightness(kAsItIs + away * step);
+    wxColour colour = usual;
+    for (int step = 1; step < kAsItIs && Contrast(colour, other) < contrast; ++step) {
+        colour = usual.ChangeLightness(darker ? kAsItIs - step : kAsItIs + step);
     }
-    return ground;
+    return colour;
 }
 
 } // namespace
@@ -39,8 +38,14 @@ double Contrast(const wxColour& one, const wxColour& other) {
 }
 
 wxColour SelectionGround() {
-    return ReadableGround(wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT),
-                          wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHTTEXT));
+    const wxColour usual = wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT);
+    const wxColour text = wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHTTEXT);
+    return ContrastingColour(usual, text, kReadable, LightOf(text) > LightOf(usual));
+}
+
+wxColour ColourNoticedOn(const wxColour& ground, const wxColour& usual) {
+    constexpr double kMiddle = 0.18; // as far from black as from white
+    return ContrastingColour(usual, ground, kNoticeable, LightOf(ground) > kMiddle);
 }
 
 wxColour NoticeableColour(const wxColour& usual) {

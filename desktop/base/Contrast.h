@@ -16,6 +16,9 @@ inline constexpr double kReadable = 4.5;
 /// The usual colour of a mark where it can be noticed on the windows' colour, else that of their text.
 wxColour NoticeableColour(const wxColour& usual);
 
+/// The colour as close to the usual one as can be that can be noticed on a ground.
+wxColour ColourNoticedOn(const wxColour& ground, const wxColour& usual);
+
 /// The ground on which selected text stands: the desktop's own, made as much darker or lighter as it takes
 /// for the desktop's colour of such text to be read.
 wxColour SelectionGround();

@@ -46,7 +46,7 @@ void SetAccessibleTreeName(wxTreeCtrl& tree, const wxString& name);
 void SetAccessibleDescription(wxWindow& window, const wxString& description);
 
 /// What a screen reader calls a window by, where the window system does not know it.
-enum class AccessibleRole : char { Dialog, StatusBar, Notice, Link, Calendar };
+enum class AccessibleRole : char { Dialog, StatusBar, Notice, Link, Calendar, Picture };
 void SetAccessibleRole(wxWindow& window, AccessibleRole role);
 /// Has a screen reader that listens say a notice, which has just got its text as its name.
 void AnnounceNotice(wxWindow& notice);

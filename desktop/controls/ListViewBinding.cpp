@@ -1,6 +1,7 @@
 #include "desktop/ListViewBinding.h"
 
 #include <algorithm>
+#include <string>
 #include <utility>
 
 #include "desktop/CellClipboard.h"
@@ -20,7 +21,7 @@ ListViewBinding::ListViewBinding(const ViewContext& context, const Inside& insid
     list_->AssociateModel(rows_.get());
     SetAccessibleName(*list_, Shown(model_.Parent()->Caption()));
     list_->Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, [this](wxDataViewEvent&) { TakePick(); });
-    ShowCutTexts(KeyboardPart(*list_), [this](const wxPoint& onScreen) { return CutTextAt(onScreen); });
+    ShowCutTexts(KeyboardPart(*list_), [this](const wxPoint& onScreen) { return TipAt(onScreen); });
     KeyboardPart(*list_).Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { PressKey(event); });
     Keep(model_.refilled.Observe([this] {
         ChangeList([this] { rows_->MatchCount(); });
@@ -50,19 +51,33 @@ void ListViewBinding::MakeColumns() {
     ShowCutHeaders(*list_);
 }
 
-wxString ListViewBinding::CutTextAt(const wxPoint& onScreen) const {
+wxString ListViewBinding::TipAt(const wxPoint& onScreen) const {
     wxDataViewItem item;
     wxDataViewColumn* column = nullptr;
     list_->HitTest(list_->ScreenToClient(onScreen), item, column);
     if (!item.IsOk() || column == nullptr) {
         return {};
     }
+    const wxString cut = CutTextIn(item, *column);
+    const wxString hint = HintOf(static_cast<int>(rows_->GetRow(item)) + 1);
+    return cut.empty() || hint.empty() ? cut + hint : cut + "\n" + hint;
+}
+
+wxString ListViewBinding::CutTextIn(const wxDataViewItem& item, const wxDataViewColumn& column) const {
     wxVariant value;
-    rows_->GetValue(value, item, column->GetModelColumn());
+    rows_->GetValue(value, item, column.GetModelColumn());
     const wxString text = value.GetString().Trim(); // the file may have blanks behind it
-    const wxRect seen = list_->GetItemRect(item, column).Intersect(list_->GetClientRect());
+    const wxRect seen = list_->GetItemRect(item, &column).Intersect(list_->GetClientRect());
     const int needed = list_->GetTextExtent(text).x + 2 * MarginOfListText();
     return needed > seen.width ? text : wxString();
+}
+
+wxString ListViewBinding::HintOf(int item) const {
+    std::string hint;
+    if (model_.hint && item <= model_.Count()) {
+        Gate().Answer([&] { hint = model_.hint(item); });
+    }
+    return Shown(hint);
 }
 
 void ListViewBinding::ShowAppearance() {

@@ -21,8 +21,11 @@ class ListViewBinding : public ControlBinding {
   private:
     void MakeColumns();
     void ShowColumnWidths();
-    /// The text at a place on the screen if its column is too narrow for it.
-    wxString CutTextAt(const wxPoint& onScreen) const;
+    /// The text at a place on the screen if its column is too narrow for it, and what there is to tell of its
+    /// item.
+    wxString TipAt(const wxPoint& onScreen) const;
+    wxString CutTextIn(const wxDataViewItem& item, const wxDataViewColumn& column) const;
+    wxString HintOf(int item) const;
     void TakePick();
     void PressKey(wxKeyEvent& event);
     void ShowChanges();

@@ -66,6 +66,8 @@ AtkRole RoleOf(AccessibleRole role) {
         return ATK_ROLE_LINK;
     case AccessibleRole::Calendar:
         return ATK_ROLE_CALENDAR;
+    case AccessibleRole::Picture:
+        return ATK_ROLE_IMAGE;
     }
     return ATK_ROLE_INVALID;
 }

@@ -151,6 +151,8 @@ wxAccRole SystemRole(AccessibleRole role) {
         return wxROLE_SYSTEM_LINK;
     case AccessibleRole::Calendar:
         return wxROLE_SYSTEM_CELL; // the system has none for calendars: it stands for its current day
+    case AccessibleRole::Picture:
+        return wxROLE_SYSTEM_GRAPHIC;
     }
     return wxROLE_NONE;
 }

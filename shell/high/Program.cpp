@@ -8,7 +8,7 @@ Program::Program(const World& outside)
     : world(outside), trace(world.traceServers, world.system.ExecutableName()),
       rules(world.files, world.system, trace),
       ruleChecks(rules.gaRules, world.system, world.dialogs, world.codePage, trace),
-      rulesPage(rules, ruleChecks, form, state, trace, world.dialogs, world.codePage),
+      rulesPage(rules, ruleChecks, form, state, trace, world.system, world.dialogs, world.codePage),
       securityPage(form, state, trace, world.files, world.recycleBin, world.system, world.dialogs,
                    world.codePage),
       unitsPage(form, state, trace, world.files, world.dialogs), registryEdit(world.registry, world.window),

@@ -45,7 +45,10 @@ class WithTooltips : public Window {
 
 class CutTextsInTheList : public WithTooltips<RulesWindow> {
   protected:
-    CutTextsInTheList() { PutRules({"R1|1|2|>|UCL|" + kLong, "R2|3|4|<=|LWL|Short"}); }
+    // There is nothing else to be said of the first two: more points are to count than there are.
+    CutTextsInTheList() {
+        PutRules({"R1|2|1|>|UCL|" + kLong, "R2|4|3|<=|LWL|Short", "R3|2|3|<=|LWL|" + kLong});
+    }
 
     wxPoint PlaceIn(int item, unsigned column) {
         return InWindow([&] {
@@ -71,6 +74,14 @@ TEST_F(CutTextsInTheList, AreShownWholeByATooltip) {
         ExpectNoTip(PlaceIn(2, 5));
         ExpectTip(PlaceIn(1, 5), kLong);
         ExpectNoTip(PlaceIn(1, 0));
+    });
+}
+
+TEST_F(CutTextsInTheList, StandAboveWhatTheRuleSays) {
+    const std::string sentence = "2 of 3 points in a row on or below the lower warning limit (LWL)";
+    Play([&] {
+        ExpectTip(PlaceIn(3, 0), sentence);
+        ExpectTip(PlaceIn(3, 5), kLong + "\n" + sentence);
     });
 }
 

@@ -16,7 +16,7 @@ from unexplained import FILES_NOT_FOR_THE_BOOK, NOT_FOR_PEOPLE, OUT_OF_REACH, is
 
 ROOMS = ("basics", "platform", "controls", "history", "shell/low", "shell/high", "rules", "security", "units", "dbase", "desktop", "app")
 # How the controls of a form are named: what kind they are, then what they are for.
-CONTROL = re.compile(r"(?:cmd|txt|cbo|grd|lst|mnu|fra|Fra|lbl|dp|zy|frm|UpDown)[A-Z][A-Za-z0-9]*|cmdcancel")
+CONTROL = re.compile(r"(?:cmd|txt|cbo|grd|lst|mnu|fra|Fra|lbl|dp|zy|frm|pic|UpDown)[A-Z][A-Za-z0-9]*|cmdcancel")
 ACCESS_KEY = re.compile(r"&(?=\w)")
 
 

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <wx/colour.h>
+#include <wx/font.h>
+
+#include "controls/Drawing.h"
+#include "platform/CodePage.h"
+
+class wxGraphicsContext;
+
+namespace zy {
+
+/// What a drawing is painted with.
+struct Paints {
+    wxColour ground;
+    wxColour text;
+    wxFont font;
+    double unitsPerTwip = 0; ///< of the canvas
+};
+
+/// Paints a drawing from the canvas's left top corner on, which is filled with the ground already. The
+/// colours are those of its inks, in shades that can be noticed on the ground.
+void Paint(wxGraphicsContext& canvas, const Drawing& drawing, const Paints& paints, const CodePage& codePage);
+
+} // namespace zy
