@@ -60,6 +60,12 @@ void ListView::Pick(int item) {
     itemClick.Raise(item);
 }
 
+void ListView::AskForMenu() {
+    if (TakeFocus()) {
+        menuAsked.Raise();
+    }
+}
+
 void ListView::Press(const KeyPress& press) {
     if (TakeFocus()) {
         keyDown.Raise(press);

@@ -52,14 +52,20 @@ class ListView : public Control {
     /// The user chooses an item. The one that is selected already is not chosen again. Run-time error 9
     /// for an item that the list does not have.
     void Pick(int item);
+    /// The user asks for a context menu.
+    void AskForMenu();
     /// The user presses a key while the list has the focus.
     void Press(const KeyPress& press);
 
     /// What there is to tell of an item that the mouse rests on; nothing where that is empty.
     std::function<std::string(int item)> hint;
 
+    /// Whether an item is one of those that cannot be used, and so is shown paler.
+    std::function<bool(int item)> isGrey;
+
     Event<int> itemClick; ///< the user chose this item
     Event<const KeyPress&> keyDown;
+    Event<> menuAsked; ///< the user wants the menu of the selected item, or of the list
     Event<> refilled;
     Event<int> itemRemoved; ///< the item that stood there was taken out
     Event<int> itemChanged;

@@ -45,6 +45,7 @@ void MainWindowView::Open() {
     menuBar_.emplace(*context_, binding_->Frame(), std::vector{&menu.mnuFile, &menu.mnuEdit, &menu.mnuHelp},
                      Shortcuts(menu));
     clipboard_.emplace(*context_, window_.Form(), menu, binding_->Frame());
+    menuBar_->AddContextMenu(menu.mnuListPopMenu);
     menuBar_->AddContextMenu(menu.mnuGridPopMenu);
     menuBar_->AddContextMenu(menu.mnuSecuritypopMenu);
     desktop_.Window().Attach(binding_->Frame());

@@ -156,4 +156,11 @@ Drawing DrawingOf(const RulePicture& picture, const Size& room, const Lettering&
     return Canvas(picture, room, letters).Make();
 }
 
+void Show(DrawingBox& box, RulePicture picture) {
+    const std::string sentence = picture.sentence;
+    box.Show(sentence, [picture = std::move(picture)](const Size& room, const Lettering& letters) {
+        return DrawingOf(picture, room, letters);
+    });
+}
+
 } // namespace zy

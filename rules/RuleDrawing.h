@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/Drawing.h"
+#include "controls/DrawingBox.h"
 #include "controls/Geometry.h"
 #include "rules/RulePicture.h"
 
@@ -11,5 +11,8 @@ namespace zy {
 /// Where there is nothing to be drawn the sentence stands alone. It takes two lines at most; what is longer
 /// is cut.
 Drawing DrawingOf(const RulePicture& picture, const Size& room, const Lettering& letters);
+
+/// Shows a rule's picture in a box, with its sentence as the description.
+void Show(DrawingBox& box, RulePicture picture);
 
 } // namespace zy

@@ -1,7 +1,5 @@
 #include "rules/RulePictures.h"
 
-#include <utility>
-
 #include "rules/RuleDrawing.h"
 
 namespace zy {
@@ -22,12 +20,7 @@ void RulePictures::Show() {
         controls_.picRule.Show("", {});
         return;
     }
-    auto picture = PictureOf(RuleInForm(controls_, {}));
-    const auto sentence = picture.sentence;
-    controls_.picRule.Show(sentence,
-                           [picture = std::move(picture)](const Size& room, const Lettering& letters) {
-                               return DrawingOf(picture, room, letters);
-                           });
+    zy::Show(controls_.picRule, PictureOf(RuleInForm(controls_, {})));
 }
 
 std::string RulePictures::HintOf(int item) const {

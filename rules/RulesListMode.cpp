@@ -85,6 +85,25 @@ void RulesListMode::AddRule() {
     SelectAllText(controls_.txtCode); // what is typed next is the rule's own name
 }
 
+void RulesListMode::AppendRules(const std::string& step, const std::vector<RunRule>& rules) {
+    const int before = rules_.gaRules.UBound();
+    if (rules.empty()) {
+        return;
+    }
+    if (rules.size() > static_cast<std::size_t>(kMaxItems - before)) {
+        status_.ShowCountAnd(kListFull);
+        return;
+    }
+    rules_.gaRules.Together(step, [&] {
+        rules_.ReplaceRules(before + 1, 0, rules);
+        form_.ChangeFlag = true;
+        LoadRulesListMode();
+        SelectAndEdit(before + 1);
+        list_.Reveal();
+        status_.ShowCountAnd(Counted(rules.size(), "rule") + " inserted");
+    });
+}
+
 void RulesListMode::cmdDeleteList_Click() {
     trace_.DebugTrace(kMainForm, "cmdDeleteList_Click", "Start");
     if (list_.Selected() == 0) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "controls/Key.h"
 #include "platform/Dialogs.h"
 #include "rules/RuleDetails.h"
@@ -26,6 +29,10 @@ class RulesListMode {
     /// Run-time error 9 when there is no such rule.
     void Move_Rule_Up(int item);
     void Move_Rule_Down(int item);
+
+    /// Appends rules, as a step of this name, and shows the first of them; nothing for none. Rules that would
+    /// make the list longer than it can be leave it as it is.
+    void AppendRules(const std::string& step, const std::vector<RunRule>& rules);
 
     /// Adds a rule and opens it; a list that is as long as it can be stays as it is.
     void cmdAddList_Click();

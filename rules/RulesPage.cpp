@@ -51,6 +51,7 @@ bool RulesPage::StoreBeforeTabSwitch() {
 
 void RulesPage::Show() {
     ShowListMode();
+    form_.menu.mnuStandardRules.SetEnabled(true);
     steps_.Stop();
     listMode.LoadRulesListMode();
     steps_.Start();

@@ -1,5 +1,7 @@
 #include "desktop/ListRows.h"
 
+#include <wx/settings.h>
+
 #include "desktop/ShownText.h"
 
 namespace zy {
@@ -21,6 +23,18 @@ void ListRows::GetValueByRow(wxVariant& value, unsigned int row, unsigned int co
         const auto text = list_.CellText(static_cast<int>(row) + 1, static_cast<int>(column));
         value = ToShown(context_.codePage, text);
     });
+}
+
+bool ListRows::GetAttrByRow(unsigned int row, unsigned int /*column*/, wxDataViewItemAttr& look) const {
+    bool isGrey = false;
+    if (list_.isGrey) {
+        context_.gate.Answer([&] { isGrey = list_.isGrey(static_cast<int>(row) + 1); });
+    }
+    if (isGrey) {
+        look.SetColour(wxSystemSettings::GetColour(wxSYS_COLOUR_GRAYTEXT));
+        look.SetItalic(true);
+    }
+    return isGrey;
 }
 
 bool ListRows::SetValueByRow(const wxVariant& /*value*/, unsigned int /*row*/, unsigned int /*column*/) {

@@ -18,6 +18,7 @@ class ListRows : public wxDataViewVirtualListModel {
 
   private:
     void GetValueByRow(wxVariant& value, unsigned int row, unsigned int column) const override;
+    bool GetAttrByRow(unsigned int row, unsigned int column, wxDataViewItemAttr& look) const override;
     /// Nothing can be changed in place.
     bool SetValueByRow(const wxVariant& value, unsigned int row, unsigned int column) override;
 

@@ -21,6 +21,16 @@ ListViewBinding::ListViewBinding(const ViewContext& context, const Inside& insid
     list_->AssociateModel(rows_.get());
     SetAccessibleName(*list_, Shown(model_.Parent()->Caption()));
     list_->Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, [this](wxDataViewEvent&) { TakePick(); });
+    list_->Bind(wxEVT_DATAVIEW_ITEM_CONTEXT_MENU,
+                [this](wxDataViewEvent& event) { AskForMenu(event.GetPosition()); });
+    list_->Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent& event) {
+        // The mouse has its own event.
+        if (event.GetPosition() == wxDefaultPosition) {
+            AskForMenu(wxDefaultPosition);
+        } else {
+            event.Skip();
+        }
+    });
     ShowCutTexts(KeyboardPart(*list_), [this](const wxPoint& onScreen) { return TipAt(onScreen); });
     KeyboardPart(*list_).Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { PressKey(event); });
     Keep(model_.refilled.Observe([this] {
@@ -124,6 +134,16 @@ void ListViewBinding::PressKey(wxKeyEvent& event) {
     } else {
         event.Skip();
     }
+}
+
+void ListViewBinding::AskForMenu(const wxPoint& place) {
+    if (place == wxDefaultPosition) {
+        const auto selected = list_->GetSelection();
+        const wxPoint below = selected.IsOk() ? list_->GetItemRect(selected).GetBottomLeft() : wxPoint();
+        Context().menuPlace = list_->ClientToScreen(below);
+    }
+    Gate().Act([this] { model_.AskForMenu(); });
+    Context().menuPlace.reset();
 }
 
 void ListViewBinding::ShowChanges() {

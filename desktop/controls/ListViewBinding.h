@@ -28,6 +28,8 @@ class ListViewBinding : public ControlBinding {
     wxString HintOf(int item) const;
     void TakePick();
     void PressKey(wxKeyEvent& event);
+    /// By a key where the place is the default one.
+    void AskForMenu(const wxPoint& place);
     void ShowChanges();
     void ShowSelection();
     void ShowVisibleRows();

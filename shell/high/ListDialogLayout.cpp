@@ -12,10 +12,10 @@ constexpr int kBetween = 120;
 
 } // namespace
 
-ListDialogLayout::ListDialogLayout(Form& form) : size_(form.InnerSize()), top_(kMargin) {
-    constexpr Size kUsual{11400, 7200};
+ListDialogLayout::ListDialogLayout(Form& form, int usualHeight) : size_(form.InnerSize()), top_(kMargin) {
+    constexpr int kUsualWidth = 11400;
     if (size_.width == 0) {
-        size_ = kUsual;
+        size_ = {kUsualWidth, usualHeight};
         form.SetBounds({0, 0, size_.width, size_.height});
     }
     bottom_ = size_.height - kMargin;

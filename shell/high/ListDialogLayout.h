@@ -17,7 +17,7 @@ namespace zy {
 class ListDialogLayout {
   public:
     /// Gives the form its usual size, where nobody has given it another one.
-    explicit ListDialogLayout(Form& form);
+    explicit ListDialogLayout(Form& form, int usualHeight = 7200);
 
     /// The size below which it cannot be made smaller.
     static Size Least() { return {kLeastWidth, kLeastHeight}; }

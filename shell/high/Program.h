@@ -11,6 +11,7 @@
 #include "shell/HelpMenu.h"
 #include "shell/ListSession.h"
 #include "shell/Recovery.h"
+#include "shell/RulesMenu.h"
 #include "shell/SettingsForm.h"
 #include "shell/SubClasser.h"
 #include "shell/TraceChannel.h"
@@ -46,6 +47,7 @@ class Program {
     std::optional<ListFile> file; ///< of the editor that was started
     std::optional<ListSession> list;
     EditMenu editMenu;
+    RulesMenu rulesMenu;
     HelpMenu helpMenu;
     Recovery recovery;
 };

@@ -25,6 +25,8 @@ struct MainMenu {
     MenuItem mnuChanges;
     MenuItem mnuOthers;
     MenuItem mnuVersions;
+    MenuItem mnuSeparatorRules;
+    MenuItem mnuStandardRules;
 
     MenuItem mnuHelp;
     MenuItem mnuContents;
@@ -38,6 +40,9 @@ struct MainMenu {
     MenuItem mnuWebHome;
     MenuItem mnuSeperator7;
     MenuItem mnuAbout;
+
+    MenuItem mnuListPopMenu; ///< the rules list's
+    MenuItem mnuStandardRulesOfList;
 
     MenuItem mnuGridPopMenu; ///< the rules grid's
     MenuItem mnuAddRule;

@@ -18,6 +18,7 @@ SettingsForm::SettingsForm()
     FraUnits.SetVisible(false);
     fraNotice.SetVisible(false);
     menu.mnuOthers.SetEnabled(false);
+    menu.mnuStandardRules.SetEnabled(false); // until the rules are shown
     resize.Connect([this] { LayOutNotice(); });
 }
 

@@ -50,7 +50,10 @@ TEST_F(GridOutOfReach, IsNotShownByAnyEntryButtonOrKeyOfAWholeSession) {
     ChooseEveryEntryOf(menu().mnuHelp);
     world.dialogs.ExpectForm([](Form& /*changes*/) {});
     world.dialogs.ExpectForm([](Form& /*versions*/) {});
+    world.dialogs.ExpectForm([](Form& /*standard rules*/) {});
+    world.dialogs.ExpectForm([](Form& /*standard rules*/) {});
     ChooseEveryEntryOf(menu().mnuEdit);
+    ChooseEveryEntryOf(menu().mnuListPopMenu);
     ChooseEveryEntryOf(menu().mnuFile);
     EXPECT_EQ(unloaded, 1);
     EXPECT_EQ(changes, 0);

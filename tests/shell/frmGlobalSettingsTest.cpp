@@ -107,7 +107,28 @@ TEST(MainMenuTest, HoldsTheEditMenu) {
                             "  mnuCut Cu&t", "  mnuCopy &Copy", "  mnuPaste &Paste", "  mnuSeparatorSelect -",
                             "  mnuSelectAll Select &All", "  mnuSeparatorVersions -",
                             "  mnuChanges U&nsaved Changes...", "  mnuOthers Changes by &Others...",
-                            "  mnuVersions &Earlier Versions..."));
+                            "  mnuVersions &Earlier Versions...", "  mnuSeparatorRules -",
+                            "  mnuStandardRules Insert &Standard Rules..."));
+}
+
+TEST(MainMenuTest, HoldsTheContextMenuOfTheRulesList) {
+    const MainMenu menu;
+    EXPECT_THAT(Lines(menu.mnuListPopMenu),
+                ElementsAre("mnuListPopMenu ", "  mnuStandardRulesOfList Insert &Standard Rules..."));
+}
+
+TEST(MainMenuTest, HasNoAccessKeyTwiceInAMenu) {
+    const MainMenu menu;
+    for (const auto* each : {&menu.mnuFile, &menu.mnuEdit, &menu.mnuHelp, &menu.mnuListPopMenu}) {
+        std::set<char> keys;
+        for (const auto* entry : each->Entries()) {
+            const auto mark = entry->Caption().find('&');
+            if (!entry->IsSeparator()) {
+                ASSERT_NE(mark, std::string::npos) << entry->Name();
+                EXPECT_TRUE(keys.insert(AsciiCapital(entry->Caption()[mark + 1])).second) << entry->Name();
+            }
+        }
+    }
 }
 
 TEST(MainMenuTest, HoldsTheHelpMenu) {
