@@ -108,7 +108,8 @@ TEST_F(KeyboardWindow, TheMenusBearTheirCaptions) {
             EXPECT_THAT(EntriesOf(*bar.GetMenu(1)),
                         ElementsAre("&Undo\tCtrl+Z", "&Redo\tCtrl+Y", "-", "Cu&t\tCtrl+X", "&Copy\tCtrl+C",
                                     "&Paste\tCtrl+V", "-", "Select &All\tCtrl+A", "-", "U&nsaved Changes...",
-                                    "Changes by &Others...", "&Earlier Versions..."));
+                                    "Changes by &Others...", "&Earlier Versions...", "-",
+                                    "Insert &Standard Rules..."));
             const auto& help = *bar.GetMenu(2);
             EXPECT_THAT(EntriesOf(help), ElementsAre("&Contents\tF1", "&Index", "-", "Norvale on the &Web...",
                                                      "-", "&About ZY Setup"));
