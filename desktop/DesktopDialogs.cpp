@@ -1,6 +1,8 @@
 #include "desktop/DesktopDialogs.h"
 
 #include <wx/app.h>
+#include <wx/filedlg.h>
+#include <wx/filename.h>
 #include <wx/msgdlg.h>
 
 #include <utility>
@@ -23,6 +25,27 @@ bool DesktopDialogs::AskYesNo(std::string_view text, std::string_view title, Esc
         answer = Show(text, title, wxYES_NO | wxYES_DEFAULT);
     } while (answer == wxID_CANCEL && escape == Escape::IsIgnored);
     return answer == wxID_YES;
+}
+
+std::optional<std::string> DesktopDialogs::AskFileToWrite(std::string_view title, std::string_view name,
+                                                          std::string_view kind) {
+    startToolkit_();
+    gate_.PrepareForBox();
+    const wxString files = "*." + ToShown(codePage_, kind);
+    wxFileDialog dialog(wxTheApp->GetTopWindow(), ToShown(codePage_, title), "", ToShown(codePage_, name),
+                        files + "|" + files, wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
+    const int answer = dialog.ShowModal();
+    gate_.Rethrow();
+    if (answer != wxID_OK) {
+        return std::nullopt;
+    }
+    wxString path = dialog.GetPath();
+    path.Replace(wxFileName::GetPathSeparator(), "\\");
+    auto inside = codePage_.FromUtf8(path.utf8_string());
+    if (!inside) {
+        ShowMessage("The name of the file or of a folder holds a character that cannot be used here", title);
+    }
+    return inside;
 }
 
 void DesktopDialogs::ShowForm(Form& form) {

@@ -16,6 +16,8 @@ class DesktopDialogs final : public Dialogs {
 
     void ShowMessage(std::string_view text, std::string_view title) override;
     bool AskYesNo(std::string_view text, std::string_view title, Escape escape) override;
+    std::optional<std::string> AskFileToWrite(std::string_view title, std::string_view name,
+                                              std::string_view kind) override;
     void ShowForm(Form& form) override;
 
   private:

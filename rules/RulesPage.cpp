@@ -52,6 +52,7 @@ bool RulesPage::StoreBeforeTabSwitch() {
 void RulesPage::Show() {
     ShowListMode();
     form_.menu.mnuStandardRules.SetEnabled(true);
+    form_.menu.mnuSavePictures.SetEnabled(true);
     steps_.Stop();
     listMode.LoadRulesListMode();
     steps_.Start();

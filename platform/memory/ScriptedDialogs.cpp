@@ -60,6 +60,13 @@ bool ScriptedDialogs::AskYesNo(std::string_view text, std::string_view title, Es
     return expected && expected->answer == Answer::Yes;
 }
 
+std::optional<std::string> ScriptedDialogs::AskFileToWrite(std::string_view title, std::string_view name,
+                                                           std::string_view /*kind*/) {
+    const auto expected =
+        Show({.text = std::string(name), .title = std::string(title), .escape = std::nullopt});
+    return expected ? expected->path : std::nullopt;
+}
+
 void ScriptedDialogs::ShowForm(Form& form) {
     const auto expected = Show({.text = kAnyForm, .title = "", .escape = std::nullopt});
     if (expected && expected->user) {
@@ -84,6 +91,12 @@ void ScriptedDialogs::ExpectYesNo(std::string_view text, std::string_view title,
                        .answer = answer,
                        .escape = escape,
                        .user = {}});
+}
+
+void ScriptedDialogs::ExpectFileToWrite(std::string_view title, std::string_view name,
+                                        std::optional<std::string> path) {
+    ExpectMessage(name, title);
+    script_.back().path = std::move(path);
 }
 
 void ScriptedDialogs::ExpectForm(std::function<void(Form&)> user) {

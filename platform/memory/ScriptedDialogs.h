@@ -41,6 +41,9 @@ class ScriptedDialogs final : public Dialogs {
     void ShowMessage(std::string_view text, std::string_view title) override;
     /// A box that is not the next one of the script is answered by No.
     bool AskYesNo(std::string_view text, std::string_view title, Escape escape) override;
+    /// A question that is not the next one of the script is answered by nothing.
+    std::optional<std::string> AskFileToWrite(std::string_view title, std::string_view name,
+                                              std::string_view kind) override;
     /// A dialog that is not the next one of the script is closed at once.
     void ShowForm(Form& form) override;
 
@@ -49,6 +52,8 @@ class ScriptedDialogs final : public Dialogs {
     void ExpectYesNo(std::string_view text, std::string_view title, Answer answer,
                      std::optional<Escape> escape = std::nullopt);
 
+    /// The question for a file to be written that begins with this name, and its answer.
+    void ExpectFileToWrite(std::string_view title, std::string_view name, std::optional<std::string> path);
     /// A dialog, in which `user` does what is to be done; then, unless the dialog has hidden itself, it is
     /// closed by its close box. The boxes that come meanwhile are expected behind it.
     void ExpectForm(std::function<void(Form&)> user);
@@ -66,7 +71,8 @@ class ScriptedDialogs final : public Dialogs {
         bool asks;
         Answer answer;
         std::optional<Escape> escape;
-        std::function<void(Form&)> user; ///< of a dialog
+        std::function<void(Form&)> user;                ///< of a dialog
+        std::optional<std::string> path = std::nullopt; ///< chosen
 
         bool Matches(const ShownBox& box) const;
         std::string Describe() const;

@@ -15,7 +15,7 @@ Program::Program(const World& outside)
       subClasser(world.window, state), window({form, state, trace, world.dialogs, rulesPage, securityPage,
                                                unitsPage, registryEdit, subClasser}),
       editMenu(window, {&rulesPage, &securityPage, &unitsPage}, list, trace),
-      rulesMenu(form.menu, rules, rulesPage, world.dialogs, trace, world.codePage),
+      rulesMenu(form.menu, rules, rulesPage, world, trace),
       helpMenu(form.menu, trace, world.system, world.dialogs, world.help, world.links),
       recovery(world.files, world.journals, world.system, world.dialogs) {
     securityPage.users.loginCancelled.Connect([this] { window.Unload(); });

@@ -2,8 +2,7 @@
 
 #include <string_view>
 
-#include "platform/CodePage.h"
-#include "platform/Dialogs.h"
+#include "platform/World.h"
 #include "rules/RulesPage.h"
 #include "rules/mRules.h"
 #include "shell/MainMenu.h"
@@ -15,18 +14,18 @@ namespace zy {
 class RulesMenu {
   public:
     /// All of these must outlive it.
-    RulesMenu(MainMenu& menu, const mRules& rules, RulesPage& page, Dialogs& dialogs, TraceChannel& trace,
-              const CodePage& codePage);
+    RulesMenu(MainMenu& menu, const mRules& rules, RulesPage& page, const World& world, TraceChannel& trace);
 
     /// Offers the published sets, and appends the rules that the user chooses.
     void mnuStandardRules_Click();
+    /// Writes the rules as they are held, each with its picture, to a file of the user's choice.
+    void mnuSavePictures_Click();
 
   private:
     const mRules& rules_;
     RulesPage& page_;
-    Dialogs& dialogs_;
+    World world_;
     TraceChannel& trace_;
-    const CodePage& codePage_;
 };
 
 } // namespace zy

@@ -27,6 +27,7 @@ struct MainMenu {
     MenuItem mnuVersions;
     MenuItem mnuSeparatorRules;
     MenuItem mnuStandardRules;
+    MenuItem mnuSavePictures;
 
     MenuItem mnuHelp;
     MenuItem mnuContents;
@@ -43,6 +44,7 @@ struct MainMenu {
 
     MenuItem mnuListPopMenu; ///< the rules list's
     MenuItem mnuStandardRulesOfList;
+    MenuItem mnuSavePicturesOfList;
 
     MenuItem mnuGridPopMenu; ///< the rules grid's
     MenuItem mnuAddRule;

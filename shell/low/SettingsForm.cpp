@@ -18,7 +18,9 @@ SettingsForm::SettingsForm()
     FraUnits.SetVisible(false);
     fraNotice.SetVisible(false);
     menu.mnuOthers.SetEnabled(false);
-    menu.mnuStandardRules.SetEnabled(false); // until the rules are shown
+    for (auto* entry : {&menu.mnuStandardRules, &menu.mnuSavePictures}) {
+        entry->SetEnabled(false); // until the rules are shown
+    }
     resize.Connect([this] { LayOutNotice(); });
 }
 

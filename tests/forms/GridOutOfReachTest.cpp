@@ -51,7 +51,9 @@ TEST_F(GridOutOfReach, IsNotShownByAnyEntryButtonOrKeyOfAWholeSession) {
     world.dialogs.ExpectForm([](Form& /*changes*/) {});
     world.dialogs.ExpectForm([](Form& /*versions*/) {});
     world.dialogs.ExpectForm([](Form& /*standard rules*/) {});
+    world.dialogs.ExpectFileToWrite("Save Pictures", "Rules.svg", std::nullopt);
     world.dialogs.ExpectForm([](Form& /*standard rules*/) {});
+    world.dialogs.ExpectFileToWrite("Save Pictures", "Rules.svg", std::nullopt);
     ChooseEveryEntryOf(menu().mnuEdit);
     ChooseEveryEntryOf(menu().mnuListPopMenu);
     ChooseEveryEntryOf(menu().mnuFile);

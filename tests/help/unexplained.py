@@ -31,8 +31,11 @@ NO_KEYS = {"Invalid procedure call or argument"}
 # How to reach the maker changes without a new book, which leaves that to the About box.
 CONTACT = {"shell/low/Maker.h"}
 
+# What a file of pictures is made of.
+MARKUP = {"rules/SvgText.cpp"}
+
 NOT_FOR_PEOPLE = TRACES | STATEMENTS | OUT_OF_REACH | REGISTRY_VALUES | OF_THE_TOOLKIT | NO_KEYS
-FILES_NOT_FOR_THE_BOOK = CONTACT
+FILES_NOT_FOR_THE_BOOK = CONTACT | MARKUP
 
 
 def is_picture(text):

@@ -108,13 +108,15 @@ TEST(MainMenuTest, HoldsTheEditMenu) {
                             "  mnuSelectAll Select &All", "  mnuSeparatorVersions -",
                             "  mnuChanges U&nsaved Changes...", "  mnuOthers Changes by &Others...",
                             "  mnuVersions &Earlier Versions...", "  mnuSeparatorRules -",
-                            "  mnuStandardRules Insert &Standard Rules..."));
+                            "  mnuStandardRules Insert &Standard Rules...",
+                            "  mnuSavePictures Sa&ve Pictures..."));
 }
 
 TEST(MainMenuTest, HoldsTheContextMenuOfTheRulesList) {
     const MainMenu menu;
     EXPECT_THAT(Lines(menu.mnuListPopMenu),
-                ElementsAre("mnuListPopMenu ", "  mnuStandardRulesOfList Insert &Standard Rules..."));
+                ElementsAre("mnuListPopMenu ", "  mnuStandardRulesOfList Insert &Standard Rules...",
+                            "  mnuSavePicturesOfList Sa&ve Pictures..."));
 }
 
 TEST(MainMenuTest, HasNoAccessKeyTwiceInAMenu) {
