@@ -149,7 +149,7 @@ std::string FreeCode(const std::string& wanted, const std::function<bool(const s
     for (const char first : firsts) {
         for (const char second : kDigits) {
             for (const char third : kDigits) {
-                const std::string code{first, second, third};
+                std::string code{first, second, third};
                 if (!isTaken(code)) {
                     return code;
                 }

@@ -82,7 +82,7 @@ std::string Escaped(std::string_view utf8) {
 class Svg {
   public:
     Svg(const Size& size, const std::string& title, const CodePage& codePage) : codePage_(codePage) {
-        constexpr int kTwipsPerPoint = 20;
+        constexpr double kTwipsPerPoint = 20;
         text_ = R"(<?xml version="1.0" encoding="UTF-8"?>)"
                 "\n"
                 R"(<svg xmlns="http://www.w3.org/2000/svg" version="1.1" width=")";
@@ -117,7 +117,7 @@ class Svg {
                 .Number(y)
                 .Literal("\" r=\"")
                 .Number(mark.radius);
-            Literal("\" fill=\"#FFFFFF\" stroke=\"")
+            Literal(R"(" fill="#FFFFFF" stroke=")")
                 .Literal(ColourOf(mark.ink))
                 .Literal("\" stroke-width=\"15\"/>\n");
         } else {
