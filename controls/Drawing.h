@@ -15,6 +15,8 @@ enum class Ink : char { Text, White, Yellow, Red, Green };
 
 /// How a line is broken up, so that lines are told apart without their colours.
 enum class Stroke : char { Solid, Dashed, Dotted, DashDotted, LongDashed };
+/// The lengths of the dashes and of the gaps behind them, in widths of the line; none of a solid one.
+std::vector<double> DashesOf(Stroke stroke);
 
 struct Spot {
     double x = 0;

@@ -3,6 +3,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <vector>
 
 namespace zy {
 namespace {
@@ -48,23 +49,6 @@ std::string_view ColourOf(Ink ink) {
     return "#000000";
 }
 
-/// The lengths of the dashes and of the gaps behind them, in widths of the line.
-std::string_view DashesOf(Stroke stroke) {
-    switch (stroke) {
-    case Stroke::Dashed:
-        return "5 3";
-    case Stroke::Dotted:
-        return "1 2";
-    case Stroke::DashDotted:
-        return "6 2 1 2";
-    case Stroke::LongDashed:
-        return "12 4";
-    case Stroke::Solid:
-        break;
-    }
-    return "";
-}
-
 std::string Escaped(std::string_view utf8) {
     std::string escaped;
     for (const char character : utf8) {
@@ -103,7 +87,7 @@ class Svg {
         Literal("<path d=\"M").At(line.from).Literal(" L").At(line.to).Literal("\" stroke=\"");
         Literal(ColourOf(line.ink)).Literal("\" stroke-width=\"").Number(line.width);
         if (const auto dashes = DashesOf(line.stroke); !dashes.empty()) {
-            Literal("\" stroke-dasharray=\"").Scaled(dashes, line.width);
+            Literal("\" stroke-dasharray=\"").Lengths(dashes, line.width);
         }
         Literal("\"/>\n");
     }
@@ -148,13 +132,9 @@ class Svg {
     }
     Svg& Words(std::string_view text) { return Literal(Escaped(codePage_.ToUtf8(text))); }
     Svg& At(const Spot& spot) { return Number(spot.x).Literal(" ").Number(spot.y); }
-    Svg& Scaled(std::string_view lengths, double width) {
-        for (std::size_t at = 0; at < lengths.size();) {
-            int length = 0;
-            const auto* const end =
-                std::from_chars(lengths.data() + at, lengths.data() + lengths.size(), length).ptr;
-            Literal(at == 0 ? "" : " ").Number(length * width);
-            at = static_cast<std::size_t>(end - lengths.data()) + 1;
+    Svg& Lengths(const std::vector<double>& lengths, double unit) {
+        for (std::size_t i = 0; i < lengths.size(); ++i) {
+            Literal(i == 0 ? "" : " ").Number(lengths[i] * unit);
         }
         return *this;
     }

@@ -32,23 +32,6 @@ wxColour ColourOf(Ink ink, const Paints& paints) {
     return paints.text;
 }
 
-/// The lengths of the dashes and of the gaps behind them, in widths of the line.
-std::vector<double> DashesOf(Stroke stroke) {
-    switch (stroke) {
-    case Stroke::Dashed:
-        return {5, 3};
-    case Stroke::Dotted:
-        return {1, 2};
-    case Stroke::DashDotted:
-        return {6, 2, 1, 2};
-    case Stroke::LongDashed:
-        return {12, 4};
-    case Stroke::Solid:
-        break;
-    }
-    return {};
-}
-
 /// One drawing on one canvas.
 class Painter {
   public:
