@@ -47,7 +47,7 @@ DrawingBoxBinding::DrawingBoxBinding(const ViewContext& context, const Inside& i
 }
 
 void DrawingBoxBinding::Measure() {
-    constexpr int kLetters = 40;
+    constexpr int kLetters = 30; // more, and there is none in a window of the usual size
     constexpr int kLines = 5;
     const wxSize line = Window().GetTextExtent(wxString('x', kLetters));
     model_.SetPreferred(Context().scale.ToTwips(wxSize(line.x, kLines * line.y)));

@@ -50,6 +50,10 @@ TEST_F(PictureOfARuleWindow, IsAPictureToAScreenReaderWithTheSentenceAsItsDescri
     });
 }
 
+TEST_F(PictureOfARuleWindow, StandsBesideTheFieldsInAWindowOfTheUsualSize) {
+    Play([&] { EXPECT_TRUE(InWindow([&] { return Real(page().picRule).IsShownOnScreen(); })); });
+}
+
 TEST_F(PictureOfARuleWindow, IsPaintedAndFollowsWhatIsTyped) {
     Play([&] {
         MakeRoom();
