@@ -94,8 +94,8 @@ TEST_F(NamesInRules, TheListAndTheDetailsAreNamedByTheirOwnCaptions) {
                 "          text 'Minimum:'", "          client 'Maximum:'", "          text 'Maximum:'",
                 "          client 'Condition:'", "          client '> - Greater Than'",
                 "          client 'Zone:'", "          client 'UCL - Upper Control Limit (Red)'",
-                "          client 'Description:'", "          text 'Description:'", "  status bar 'Status'",
-                "    alert '1 rule'"));
+                "          client 'Description:'", "          text 'Description:'",
+                "          graphic 'Picture of the rule'", "  status bar 'Status'", "    alert '1 rule'"));
     });
 }
 
