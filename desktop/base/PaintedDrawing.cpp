@@ -1,10 +1,13 @@
 #include "desktop/PaintedDrawing.h"
 
 #include <wx/brush.h>
+#include <wx/dc.h>
 #include <wx/graphics.h>
+#include <wx/math.h>
 #include <wx/pen.h>
 
 #include <algorithm>
+#include <memory>
 #include <vector>
 
 #include "desktop/Contrast.h"
@@ -72,10 +75,6 @@ class Painter {
         }
     }
 
-    void Paint(const DrawnText& text, const CodePage& codePage) {
-        canvas_.DrawText(ToShown(codePage, text.text), Units(text.leftTop.x), Units(text.leftTop.y));
-    }
-
   private:
     static constexpr double kOutline = 15; // in twips
 
@@ -103,21 +102,36 @@ class Painter {
     const Paints& paints_;
 };
 
-} // namespace
-
-void Paint(wxGraphicsContext& canvas, const Drawing& drawing, const Paints& paints,
-           const CodePage& codePage) {
-    Painter painter(canvas, paints);
+void PaintShapes(wxDC& canvas, const Drawing& drawing, const Paints& paints) {
+    const std::unique_ptr<wxGraphicsContext> shapes(wxGraphicsContext::CreateFromUnknownDC(canvas));
+    if (!shapes) {
+        return;
+    }
+    Painter painter(*shapes, paints);
     for (const auto& line : drawing.lines) {
         painter.Paint(line);
     }
     for (const auto& mark : drawing.marks) {
         painter.Paint(mark);
     }
-    canvas.SetFont(paints.font, paints.text);
-    for (const auto& text : drawing.texts) {
-        painter.Paint(text, codePage);
+}
+
+/// As all other texts of the window are painted: what paints the shapes does not know every font of Windows,
+/// and leaves texts in others out.
+void PaintTexts(wxDC& canvas, const Drawing& drawing, const Paints& paints, const CodePage& codePage) {
+    canvas.SetFont(paints.font);
+    canvas.SetTextForeground(paints.text);
+    for (const auto& [leftTop, text] : drawing.texts) {
+        canvas.DrawText(ToShown(codePage, text), wxRound(leftTop.x * paints.unitsPerTwip),
+                        wxRound(leftTop.y * paints.unitsPerTwip));
     }
+}
+
+} // namespace
+
+void Paint(wxDC& canvas, const Drawing& drawing, const Paints& paints, const CodePage& codePage) {
+    PaintShapes(canvas, drawing, paints);
+    PaintTexts(canvas, drawing, paints, codePage);
 }
 
 } // namespace zy

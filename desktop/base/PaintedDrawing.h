@@ -6,7 +6,7 @@
 #include "controls/Drawing.h"
 #include "platform/CodePage.h"
 
-class wxGraphicsContext;
+class wxDC;
 
 namespace zy {
 
@@ -20,6 +20,6 @@ struct Paints {
 
 /// Paints a drawing from the canvas's left top corner on, which is filled with the ground already. The
 /// colours are those of its inks, in shades that can be noticed on the ground.
-void Paint(wxGraphicsContext& canvas, const Drawing& drawing, const Paints& paints, const CodePage& codePage);
+void Paint(wxDC& canvas, const Drawing& drawing, const Paints& paints, const CodePage& codePage);
 
 } // namespace zy

@@ -1,10 +1,7 @@
 #include "desktop/DrawingBoxBinding.h"
 
 #include <wx/dcbuffer.h>
-#include <wx/graphics.h>
 #include <wx/settings.h>
-
-#include <memory>
 
 #include "desktop/Native.h"
 #include "desktop/PaintedDrawing.h"
@@ -80,11 +77,8 @@ void DrawingBoxBinding::PaintOn(wxDC& canvas) {
     if (!isOpen_) {
         return;
     }
-    const std::unique_ptr<wxGraphicsContext> shapes(wxGraphicsContext::CreateFromUnknownDC(canvas));
-    if (shapes) {
-        const Paints paints{ground, text, Window().GetFont(), 1 / Context().scale.TwipsPerPixel()};
-        Paint(*shapes, DrawingForWindow(), paints, Context().codePage);
-    }
+    const Paints paints{ground, text, Window().GetFont(), 1 / Context().scale.TwipsPerPixel()};
+    Paint(canvas, DrawingForWindow(), paints, Context().codePage);
 }
 
 Drawing DrawingBoxBinding::DrawingForWindow() const {

@@ -1,0 +1,68 @@
+#include "desktop/PaintedDrawing.h"
+
+#include <wx/bitmap.h>
+#include <wx/dcmemory.h>
+#include <wx/frame.h>
+#include <wx/image.h>
+
+#include "RulesWindow.h"
+
+namespace zy::test {
+namespace {
+
+const wxSize kSize(200, 60);
+
+/// Paints in black on white, ten twips a point, in the letters of the window.
+class PaintedDrawing : public RulesWindow {
+  protected:
+    static int DarkPoints(const Drawing& drawing) {
+        wxBitmap bitmap(kSize);
+        {
+            wxMemoryDC canvas(bitmap);
+            canvas.SetBackground(*wxWHITE_BRUSH);
+            canvas.Clear();
+            Paint(canvas, drawing, {*wxWHITE, *wxBLACK, RealFrame().GetFont(), 0.1}, Windows1252());
+        }
+        const wxImage image = bitmap.ConvertToImage();
+        int dark = 0;
+        for (int point = 0; point < kSize.x * kSize.y; ++point) {
+            dark += image.GetData()[3 * point] < 128 ? 1 : 0;
+        }
+        return dark;
+    }
+};
+
+TEST_F(PaintedDrawing, ShowsTextsInTheLettersOfTheWindow) {
+    Play([] {
+        InWindow([] {
+            Drawing drawing;
+            EXPECT_EQ(DarkPoints(drawing), 0);
+            drawing.texts.push_back({{100, 100}, "the upper control limit"});
+            EXPECT_GT(DarkPoints(drawing), 50);
+        });
+    });
+}
+
+TEST_F(PaintedDrawing, ShowsEveryShape) {
+    Play([] {
+        InWindow([] {
+            Drawing line;
+            line.lines.push_back({{100, 300}, {1900, 300}, 20});
+            const int solid = DarkPoints(line);
+            EXPECT_GT(solid, 300);
+            line.lines.front().stroke = Stroke::Dotted;
+            const int dotted = DarkPoints(line);
+            EXPECT_GT(dotted, 50);
+            EXPECT_LT(dotted, solid / 2 + 50);
+            Drawing mark;
+            mark.marks.push_back({{1000, 300}, 100});
+            const int ring = DarkPoints(mark);
+            EXPECT_GT(ring, 20);
+            mark.marks.front().shape = DrawnMark::Shape::Diamond;
+            EXPECT_GT(DarkPoints(mark), ring);
+        });
+    });
+}
+
+} // namespace
+} // namespace zy::test
