@@ -54,7 +54,7 @@ TEST_F(StandardRulesWindow, OpensFromTheMenuThatAKeyOpensOverTheList) {
         WaitForMenu();
         Press('S');
         WaitForDialog(kDialog);
-        ClickIn("cmdCancel");
+        Press(WXK_ESCAPE);
         WaitForNoDialog(kDialog);
     });
 }
