@@ -29,7 +29,7 @@ class PictureOfARuleWindow : public RulesWindow {
     int RedPoints() {
         const auto picture = PictureOnScreen(Real(page().picRule).GetScreenRect());
         int red = 0;
-        for (int i = 0; i < picture.GetWidth() * picture.GetHeight(); ++i) {
+        for (std::ptrdiff_t i = 0; i < picture.GetWidth() * picture.GetHeight(); ++i) {
             const auto* point = picture.GetData() + 3 * i;
             red += point[0] > 150 && point[1] < 90 && point[2] < 90 ? 1 : 0;
         }
