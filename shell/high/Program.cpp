@@ -21,7 +21,11 @@ Program::Program(const World& outside)
     securityPage.users.loginCancelled.Connect([this] { window.Unload(); });
     recovery.reported.Connect([this](const std::string& report) { AddHint(form.zyStatusBar, report); });
     // What a grid of units takes its texts from is what its file held, so that memory has it once.
-    unitsPage.units.taken.Connect([this](const SharedText& text) { file->TakeUp(text); });
+    unitsPage.units.taken.Connect([this](const SharedText& text) {
+        if (file) {
+            file->TakeUp(text);
+        }
+    });
     window.idle.Connect([this] { recovery.Idle(); });
     window.idle.Connect([this] { WithList(&ListSession::Idle); });
     window.activated.Connect([this] { WithList(&ListSession::Activated); });
