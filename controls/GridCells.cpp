@@ -11,6 +11,7 @@ GridCells::GridCells(int columns) : columns_(columns) {
 
 std::vector<std::string> GridCells::Headers() const {
     std::vector<std::string> headers;
+    headers.reserve(static_cast<std::size_t>(columns_));
     for (int column = 0; column < columns_; ++column) {
         headers.emplace_back(Text(0, column));
     }

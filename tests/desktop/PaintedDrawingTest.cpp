@@ -3,32 +3,30 @@
 #include <wx/bitmap.h>
 #include <wx/dcmemory.h>
 #include <wx/frame.h>
-#include <wx/image.h>
 
+#include "ImagePoints.h"
 #include "RulesWindow.h"
 
 namespace zy::test {
 namespace {
 
-const wxSize kSize(200, 60);
+constexpr int kWidth = 200;
+constexpr int kHeight = 60;
 
 /// Paints in black on white, ten twips a point, in the letters of the window.
 class PaintedDrawing : public RulesWindow {
   protected:
     static int DarkPoints(const Drawing& drawing) {
-        wxBitmap bitmap(kSize);
+        wxBitmap bitmap;
+        bitmap.Create(kWidth, kHeight);
         {
             wxMemoryDC canvas(bitmap);
             canvas.SetBackground(*wxWHITE_BRUSH);
             canvas.Clear();
             Paint(canvas, drawing, {*wxWHITE, *wxBLACK, RealFrame().GetFont(), 0.1}, Windows1252());
         }
-        const wxImage image = bitmap.ConvertToImage();
-        int dark = 0;
-        for (int point = 0; point < kSize.x * kSize.y; ++point) {
-            dark += image.GetData()[3 * point] < 128 ? 1 : 0;
-        }
-        return dark;
+        return CountPoints(bitmap.ConvertToImage(),
+                           [](int red, int /*green*/, int /*blue*/) { return red < 128; });
     }
 };
 

@@ -1,6 +1,7 @@
 #include <atk/atk.h>
 #include <wx/frame.h>
 
+#include "ImagePoints.h"
 #include "RulesWindow.h"
 #include "ScreenPicture.h"
 #include "desktop/GtkFunctions.h"
@@ -27,13 +28,8 @@ class PictureOfARuleWindow : public RulesWindow {
     }
     /// How many points on the screen have the red of a mark or a limit.
     int RedPoints() {
-        const auto picture = PictureOnScreen(Real(page().picRule).GetScreenRect());
-        int red = 0;
-        for (std::ptrdiff_t i = 0; i < picture.GetWidth() * picture.GetHeight(); ++i) {
-            const auto* point = picture.GetData() + 3 * i;
-            red += point[0] > 150 && point[1] < 90 && point[2] < 90 ? 1 : 0;
-        }
-        return red;
+        return CountPoints(PictureOnScreen(Real(page().picRule).GetScreenRect()),
+                           [](int red, int green, int blue) { return red > 150 && green < 90 && blue < 90; });
     }
 };
 
