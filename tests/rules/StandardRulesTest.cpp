@@ -108,7 +108,7 @@ TEST_F(StandardRulesOverAList, NeverShareACodeAndStayWithinThreeCharacters) {
     }
     std::set<std::string> codes;
     for (const auto& code : Codes()) {
-        EXPECT_TRUE(code.size() >= 1 && code.size() <= 3) << code;
+        EXPECT_TRUE(!code.empty() && code.size() <= 3) << code;
         EXPECT_TRUE(codes.insert(code).second) << code;
     }
     EXPECT_EQ(codes.size(), 20U * 60U);
