@@ -132,6 +132,8 @@ void Measure(const Editor& editor) {
     window.Measure("move by Alt+Down", {.key = XK_Down, .held = XK_Alt_L});
     window.Press({{.key = XK_s, .held = XK_Control_L}});
     window.RequireMoved();
+    // Of a rule, its fields and its picture are painted, too.
+    window.Measure("choose by Down", {.key = XK_Down});
     window.Measure("page down", {.key = XK_Next});
     window.Press(editor.toText);
     window.Measure("type a character", {.key = XK_a});
