@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "controls/Geometry.h"
+
 namespace zy {
 
 // A picture as the shapes that it consists of, for whatever it is painted on: a window, a file, paper.
@@ -50,6 +52,18 @@ struct Drawing {
     std::vector<DrawnLine> lines;
     std::vector<DrawnMark> marks;
     std::vector<DrawnText> texts;
+};
+
+/// A drawing of its own size, in twips.
+struct Sheet {
+    Drawing drawing;
+    Size size;
+};
+
+/// Drawings for the pages of one size, made one by one.
+struct Pages {
+    int count = 0;
+    std::function<Drawing(int page)> make; ///< of a page, counted from 1
 };
 
 /// The letters that the texts will be painted with: the height of a line of text and the width of a text.

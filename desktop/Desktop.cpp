@@ -10,7 +10,7 @@ namespace zy {
 
 Desktop::Desktop(const CodePage& codePage, FileSystem& files)
     : codePage_(codePage), dialogs_(codePage, gate_, [this] { StartToolkit(); }),
-      help_(files, dialogs_, [this] { StartToolkit(); }),
+      help_(files, dialogs_, [this] { StartToolkit(); }), paper_(codePage, gate_),
       window_(MakeDesktopWindow([this] { StartToolkit(); })) {}
 
 void Desktop::StartToolkit() {

@@ -8,6 +8,7 @@
 #include "controls/Event.h"
 #include "desktop/DesktopDialogs.h"
 #include "desktop/DesktopHelp.h"
+#include "desktop/DesktopPaper.h"
 #include "desktop/DesktopWindow.h"
 #include "desktop/EventGate.h"
 #include "desktop/Toolkit.h"
@@ -23,7 +24,7 @@ class Desktop {
     Desktop(const CodePage& codePage, FileSystem& files);
 
     /// The program's view of it.
-    ScreenWorld Get() { return {.dialogs = dialogs_, .help = help_, .window = *window_}; }
+    ScreenWorld Get() { return {.dialogs = dialogs_, .help = help_, .window = *window_, .paper = paper_}; }
 
     /// Runs the program and returns the exit status: what the program returns, or 1 when an error that
     /// nothing inside has caught was shown.
@@ -50,6 +51,7 @@ class Desktop {
     EventGate gate_;
     DesktopDialogs dialogs_;
     DesktopHelp help_;
+    DesktopPaper paper_;
     std::unique_ptr<DesktopWindow> window_;
     bool isClosed_ = false;
 };

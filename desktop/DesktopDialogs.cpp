@@ -1,6 +1,7 @@
 #include "desktop/DesktopDialogs.h"
 
 #include <wx/app.h>
+#include <wx/arrstr.h>
 #include <wx/filedlg.h>
 #include <wx/filename.h>
 #include <wx/msgdlg.h>
@@ -8,9 +9,32 @@
 #include <utility>
 
 #include "desktop/DialogBinding.h"
+#include "desktop/Native.h"
 #include "desktop/ShownText.h"
+#include "shell/mZYGlobal.h"
 
 namespace zy {
+namespace {
+
+wxArrayString EndingsOf(const std::vector<std::string>& kinds, const CodePage& codePage) {
+    wxArrayString endings;
+    for (const auto& kind : kinds) {
+        endings.push_back(ToShown(codePage, kind));
+    }
+    return endings;
+}
+
+/// The kinds of files as the toolkit's dialog takes them, such as "SVG (*.svg)".
+wxString ChoicesOf(const wxArrayString& endings) {
+    wxString choices;
+    for (const auto& ending : endings) {
+        const wxString files = "*." + ending;
+        choices << (choices.empty() ? "" : "|") << ending.Upper() << " (" << files << ")|" << files;
+    }
+    return choices;
+}
+
+} // namespace
 
 DesktopDialogs::DesktopDialogs(const CodePage& codePage, EventGate& gate, std::function<void()> startToolkit)
     : codePage_(codePage), gate_(gate), startToolkit_(std::move(startToolkit)) {}
@@ -28,24 +52,39 @@ bool DesktopDialogs::AskYesNo(std::string_view text, std::string_view title, Esc
 }
 
 std::optional<std::string> DesktopDialogs::AskFileToWrite(std::string_view title, std::string_view name,
-                                                          std::string_view kind) {
+                                                          const std::vector<std::string>& kinds) {
     startToolkit_();
     gate_.PrepareForBox();
-    const wxString files = "*." + ToShown(codePage_, kind);
+    const wxArrayString endings = EndingsOf(kinds, codePage_);
     wxFileDialog dialog(wxTheApp->GetTopWindow(), ToShown(codePage_, title), "", ToShown(codePage_, name),
-                        files + "|" + files, wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
+                        ChoicesOf(endings), wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
+    LetNameFollowKind(dialog);
     const int answer = dialog.ShowModal();
     gate_.Rethrow();
     if (answer != wxID_OK) {
         return std::nullopt;
     }
-    wxString path = dialog.GetPath();
+    wxFileName chosen(dialog.GetPath());
+    const bool isComplete = endings.Index(chosen.GetExt(), false) != wxNOT_FOUND;
+    if (!isComplete) {
+        chosen.SetFullName(chosen.GetFullName() + "." +
+                           endings[static_cast<std::size_t>(dialog.GetFilterIndex())]);
+    }
+    wxString path = chosen.GetFullPath();
     path.Replace(wxFileName::GetPathSeparator(), "\\");
     auto inside = codePage_.FromUtf8(path.utf8_string());
     if (!inside) {
         ShowMessage("The name of the file or of a folder holds a character that cannot be used here", title);
+    } else if (!isComplete && chosen.FileExists() && !AskToReplace(*inside, title)) {
+        inside.reset();
     }
     return inside;
+}
+
+bool DesktopDialogs::AskToReplace(const std::string& path, std::string_view title) {
+    // The toolkit has asked about the name without its ending, if at all.
+    return AskYesNo(std::string(FileNameOf(path)) + " is there already. Replace it?", title,
+                    Escape::AnswersNo);
 }
 
 void DesktopDialogs::ShowForm(Form& form) {

@@ -17,10 +17,11 @@ class DesktopDialogs final : public Dialogs {
     void ShowMessage(std::string_view text, std::string_view title) override;
     bool AskYesNo(std::string_view text, std::string_view title, Escape escape) override;
     std::optional<std::string> AskFileToWrite(std::string_view title, std::string_view name,
-                                              std::string_view kind) override;
+                                              const std::vector<std::string>& kinds) override;
     void ShowForm(Form& form) override;
 
   private:
+    bool AskToReplace(const std::string& path, std::string_view title);
     int Show(std::string_view text, std::string_view title, long buttons);
 
     const CodePage& codePage_;

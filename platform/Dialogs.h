@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zy {
 
@@ -23,11 +24,12 @@ class Dialogs {
     virtual void ShowMessage(std::string_view text, std::string_view title) = 0;
     /// A box with Yes and No; true on Yes. Yes is the button that Enter presses.
     virtual bool AskYesNo(std::string_view text, std::string_view title, Escape escape) = 0;
-    /// Asks where to write a file of this kind, such as "svg", beginning with this name. Whoever chooses one
-    /// that is there is asked whether it may be replaced. Nothing when the user thinks better of it, or
-    /// chooses a path that the code page cannot hold, and is told so.
+    /// Asks where to write a file of one of these kinds, such as "svg", which its name then ends in,
+    /// beginning with this name. Whoever chooses one that is there is asked whether it may be replaced.
+    /// Nothing when the user thinks better of it, or chooses a path that the code page cannot hold, and is
+    /// told so.
     virtual std::optional<std::string> AskFileToWrite(std::string_view title, std::string_view name,
-                                                      std::string_view kind) = 0;
+                                                      const std::vector<std::string>& kinds) = 0;
     /// Shows a dialog until it hides itself or the user closes it by its close box. What it became is to be
     /// asked of the form.
     virtual void ShowForm(Form& form) = 0;

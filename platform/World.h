@@ -6,6 +6,7 @@
 #include "platform/HelpSystem.h"
 #include "platform/Journals.h"
 #include "platform/NativeWindow.h"
+#include "platform/Paper.h"
 #include "platform/RecycleBin.h"
 #include "platform/Registry.h"
 #include "platform/ShellLinks.h"
@@ -19,6 +20,7 @@ struct ScreenWorld {
     Dialogs& dialogs;
     HelpSystem& help;
     NativeWindow& window;
+    Paper& paper;
 };
 
 /// The outside world, as one program sees it. Whoever builds the program owns the parts and outlives it.
@@ -33,6 +35,7 @@ struct World {
     Dialogs& dialogs;
     HelpSystem& help;
     NativeWindow& window;
+    Paper& paper;
     const CodePage& codePage;
 };
 
@@ -50,6 +53,7 @@ World WorldOf(System& system, const ScreenWorld& screen) {
             .dialogs = screen.dialogs,
             .help = screen.help,
             .window = screen.window,
+            .paper = screen.paper,
             .codePage = system.codePage};
 }
 

@@ -51,8 +51,9 @@ bool RulesPage::StoreBeforeTabSwitch() {
 
 void RulesPage::Show() {
     ShowListMode();
-    form_.menu.mnuStandardRules.SetEnabled(true);
-    form_.menu.mnuSavePictures.SetEnabled(true);
+    for (auto* entry : {&form_.menu.mnuStandardRules, &form_.menu.mnuSavePictures, &form_.menu.mnuPrint}) {
+        entry->SetEnabled(true);
+    }
     steps_.Stop();
     listMode.LoadRulesListMode();
     steps_.Start();

@@ -10,6 +10,7 @@ class wxChoice;
 class wxDataViewColumn;
 class wxDataViewCtrl;
 class wxEvtHandler;
+class wxFileDialog;
 class wxHyperlinkCtrl;
 class wxKeyEvent;
 class wxStaticBox;
@@ -32,6 +33,9 @@ void ObserveDotsPerInch(wxWindow& window, std::function<void()> changed);
 /// it learns of them when the window is on the screen and adds them to its size, so that a window whose size
 /// is stored would grow from run to run.
 void LearnBorders();
+
+/// Has the name in a dialog that asks where to save take the ending of the kind of file that is chosen there.
+void LetNameFollowKind(wxFileDialog& dialog);
 
 /// Runs work that may wait for the user, in a message box or a menu, once the event at hand is done; not any
 /// more when its owner is gone by then. The toolkit's CallAfter may run it while the event loop is only just

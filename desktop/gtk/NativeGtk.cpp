@@ -2,6 +2,7 @@
 #include <wx/button.h>
 #include <wx/choice.h>
 #include <wx/dataview.h>
+#include <wx/filedlg.h>
 #include <wx/frame.h>
 #include <wx/hyperlink.h>
 #include <wx/notebook.h>
@@ -186,6 +187,19 @@ void SettleTabOrder(wxWindow& window) {
     }
 }
 
+/// The kind that was chosen is shown with its ending, as in "SVG (*.svg)".
+void TakeEnding(_GtkFileChooser* chooser, GParamSpec* /*property*/, void* /*data*/) {
+    auto* kind = gtk_file_chooser_get_filter(chooser);
+    const std::unique_ptr<char, decltype(&g_free)> typed(gtk_file_chooser_get_current_name(chooser), g_free);
+    if (kind == nullptr || typed == nullptr || *typed == '\0') {
+        return;
+    }
+    const std::string name(typed.get());
+    std::string ending = gtk_file_filter_get_name(kind);
+    ending = ending.substr(ending.rfind('.'), ending.rfind(')') - ending.rfind('.'));
+    gtk_file_chooser_set_current_name(chooser, (name.substr(0, name.rfind('.')) + ending).c_str());
+}
+
 } // namespace
 
 double DotsPerInch() {
@@ -263,6 +277,11 @@ void SetAccessibleRole(wxWindow& window, AccessibleRole role) {
 void AnnounceNotice(wxWindow& notice) {
     // Screen readers say notices that come into sight.
     atk_object_notify_state_change(AccessibleOf(notice), ATK_STATE_SHOWING, 1);
+}
+
+void LetNameFollowKind(wxFileDialog& dialog) {
+    g_signal_connect_data(dialog.m_widget, "notify::filter", G_CALLBACK(TakeEnding), nullptr, nullptr,
+                          static_cast<GConnectFlags>(0));
 }
 
 // NOLINTNEXTLINE(performance-unnecessary-value-param): the other system keeps it

@@ -214,6 +214,10 @@ void AnnounceNotice(wxWindow& notice) {
     wxAccessible::NotifyEvent(wxACC_EVENT_SYSTEM_ALERT, &notice, wxOBJID_CLIENT, wxACC_SELF);
 }
 
+void LetNameFollowKind(wxFileDialog& /*dialog*/) {
+    // The system's own dialog does that.
+}
+
 void RunBehindEvent(wxEvtHandler& owner, const std::function<void()>& work) {
     // The toolkit runs pending work in a hook on each message that is taken from the queue. That message is
     // not done before the hook is, and in a box that the hook opens Wine would keep back all that is posted.

@@ -7,6 +7,7 @@
 #include "platform/memory/MemoryHelpSystem.h"
 #include "platform/memory/MemoryJournals.h"
 #include "platform/memory/MemoryNativeWindow.h"
+#include "platform/memory/MemoryPaper.h"
 #include "platform/memory/MemoryRecycleBin.h"
 #include "platform/memory/MemoryRegistry.h"
 #include "platform/memory/MemoryShellLinks.h"
@@ -40,6 +41,7 @@ struct MemoryWorld {
                 .dialogs = Chosen<Dialogs>(dialogs, parts...),
                 .help = Chosen<HelpSystem>(help, parts...),
                 .window = Chosen<NativeWindow>(window, parts...),
+                .paper = Chosen<Paper>(paper, parts...),
                 .codePage = codePage};
     }
 
@@ -54,6 +56,7 @@ struct MemoryWorld {
     ScriptedDialogs dialogs;
     MemoryHelpSystem help;
     MemoryNativeWindow window;
+    MemoryPaper paper;
 
   private:
     /// The part of that kind; this world's own one where none is given.

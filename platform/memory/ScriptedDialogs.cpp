@@ -61,7 +61,7 @@ bool ScriptedDialogs::AskYesNo(std::string_view text, std::string_view title, Es
 }
 
 std::optional<std::string> ScriptedDialogs::AskFileToWrite(std::string_view title, std::string_view name,
-                                                           std::string_view /*kind*/) {
+                                                           const std::vector<std::string>& /*kinds*/) {
     const auto expected =
         Show({.text = std::string(name), .title = std::string(title), .escape = std::nullopt});
     return expected ? expected->path : std::nullopt;

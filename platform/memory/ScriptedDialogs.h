@@ -43,7 +43,7 @@ class ScriptedDialogs final : public Dialogs {
     bool AskYesNo(std::string_view text, std::string_view title, Escape escape) override;
     /// A question that is not the next one of the script is answered by nothing.
     std::optional<std::string> AskFileToWrite(std::string_view title, std::string_view name,
-                                              std::string_view kind) override;
+                                              const std::vector<std::string>& kinds) override;
     /// A dialog that is not the next one of the script is closed at once.
     void ShowForm(Form& form) override;
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+#include <string>
 #include <string_view>
 
 #include "platform/World.h"
@@ -20,8 +22,13 @@ class RulesMenu {
     void mnuStandardRules_Click();
     /// Writes the rules as they are held, each with its picture, to a file of the user's choice.
     void mnuSavePictures_Click();
+    /// Prints the rules as they are held, each with its picture.
+    void mnuPrint_Click();
 
   private:
+    /// The text of a file of the kind that its name ends in; nothing where it would be too large.
+    std::optional<std::string> PicturesFor(const std::string& path);
+
     const mRules& rules_;
     RulesPage& page_;
     World world_;

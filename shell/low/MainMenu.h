@@ -28,6 +28,7 @@ struct MainMenu {
     MenuItem mnuSeparatorRules;
     MenuItem mnuStandardRules;
     MenuItem mnuSavePictures;
+    MenuItem mnuPrint;
 
     MenuItem mnuHelp;
     MenuItem mnuContents;
@@ -45,6 +46,7 @@ struct MainMenu {
     MenuItem mnuListPopMenu; ///< the rules list's
     MenuItem mnuStandardRulesOfList;
     MenuItem mnuSavePicturesOfList;
+    MenuItem mnuPrintOfList;
 
     MenuItem mnuGridPopMenu; ///< the rules grid's
     MenuItem mnuAddRule;

@@ -18,7 +18,7 @@ SettingsForm::SettingsForm()
     FraUnits.SetVisible(false);
     fraNotice.SetVisible(false);
     menu.mnuOthers.SetEnabled(false);
-    for (auto* entry : {&menu.mnuStandardRules, &menu.mnuSavePictures}) {
+    for (auto* entry : {&menu.mnuStandardRules, &menu.mnuSavePictures, &menu.mnuPrint}) {
         entry->SetEnabled(false); // until the rules are shown
     }
     resize.Connect([this] { LayOutNotice(); });

@@ -11,6 +11,7 @@
 
 class wxChoice;
 class wxDataViewCtrl;
+class wxDialog;
 class wxMessageDialog;
 class wxTextCtrl;
 
@@ -27,7 +28,7 @@ void AwaitWork();
 void HandToWindow(std::function<void()> work);
 
 /// Whether the box is on the screen and has the keyboard.
-bool HasKeyboard(const wxMessageDialog& box);
+bool HasKeyboard(const wxDialog& box);
 /// How long after a second window has got the keyboard the first one can still get it back for a moment,
 /// during which a press of the mouse is lost.
 std::chrono::milliseconds UntilNewWindowKeepsKeyboard();

@@ -54,7 +54,7 @@ void Run(const std::string& command) {
     }
 }
 
-_GtkWindow* WindowOf(const wxMessageDialog& box) {
+_GtkWindow* WindowOf(const wxDialog& box) {
     return reinterpret_cast<_GtkWindow*>(box.m_widget);
 }
 
@@ -101,7 +101,7 @@ void HandToWindow(std::function<void()> work) {
     wxTheApp->CallAfter(work);
 }
 
-bool HasKeyboard(const wxMessageDialog& box) {
+bool HasKeyboard(const wxDialog& box) {
     return box.m_widget != nullptr && gtk_window_is_active(WindowOf(box)) != 0;
 }
 

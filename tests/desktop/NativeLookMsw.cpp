@@ -123,7 +123,7 @@ void HandToWindow(std::function<void()> work) {
     }
 }
 
-bool HasKeyboard(const wxMessageDialog& /*box*/) {
+bool HasKeyboard(const wxDialog& /*box*/) {
     return ActiveBox() != nullptr;
 }
 

@@ -4,6 +4,8 @@
 #include <wx/dcmemory.h>
 #include <wx/frame.h>
 
+#include <functional>
+
 #include "ImagePoints.h"
 #include "RulesWindow.h"
 
@@ -17,13 +19,25 @@ constexpr int kHeight = 60;
 class PaintedDrawing : public RulesWindow {
   protected:
     static int DarkPoints(const Drawing& drawing) {
+        return DarkPoints([&](wxDC& canvas) {
+            Paint(canvas, drawing, {*wxWHITE, *wxBLACK, RealFrame().GetFont(), 0.1}, Windows1252());
+        });
+    }
+    static int DarkPointsOnPaper(const Drawing& drawing) {
+        return DarkPoints([&](wxDC& canvas) {
+            PaintOnPaper(canvas, drawing, {*wxWHITE, *wxBLACK, RealFrame().GetFont(), 0.1}, Windows1252());
+        });
+    }
+
+  private:
+    static int DarkPoints(const std::function<void(wxDC&)>& paint) {
         wxBitmap bitmap;
         bitmap.Create(kWidth, kHeight);
         {
             wxMemoryDC canvas(bitmap);
             canvas.SetBackground(*wxWHITE_BRUSH);
             canvas.Clear();
-            Paint(canvas, drawing, {*wxWHITE, *wxBLACK, RealFrame().GetFont(), 0.1}, Windows1252());
+            paint(canvas);
         }
         return CountPoints(bitmap.ConvertToImage(),
                            [](int red, int /*green*/, int /*blue*/) { return red < 128; });
@@ -41,23 +55,25 @@ TEST_F(PaintedDrawing, ShowsTextsInTheLettersOfTheWindow) {
     });
 }
 
-TEST_F(PaintedDrawing, ShowsEveryShape) {
+TEST_F(PaintedDrawing, ShowsEveryShapeOnTheScreenAndOnPaper) {
     Play([] {
         InWindow([] {
-            Drawing line;
-            line.lines.push_back({{100, 300}, {1900, 300}, 20});
-            const int solid = DarkPoints(line);
-            EXPECT_GT(solid, 300);
-            line.lines.front().stroke = Stroke::Dotted;
-            const int dotted = DarkPoints(line);
-            EXPECT_GT(dotted, 50);
-            EXPECT_LT(dotted, solid / 2 + 50);
-            Drawing mark;
-            mark.marks.push_back({{1000, 300}, 100});
-            const int ring = DarkPoints(mark);
-            EXPECT_GT(ring, 20);
-            mark.marks.front().shape = DrawnMark::Shape::Diamond;
-            EXPECT_GT(DarkPoints(mark), ring);
+            for (const auto count : {&PaintedDrawing::DarkPoints, &PaintedDrawing::DarkPointsOnPaper}) {
+                Drawing line;
+                line.lines.push_back({{100, 300}, {1900, 300}, 20});
+                const int solid = count(line);
+                EXPECT_GT(solid, 300);
+                line.lines.front().stroke = Stroke::Dotted;
+                const int dotted = count(line);
+                EXPECT_GT(dotted, 50);
+                EXPECT_LT(dotted, solid / 2 + 50);
+                Drawing mark;
+                mark.marks.push_back({{1000, 300}, 100});
+                const int ring = count(mark);
+                EXPECT_GT(ring, 20);
+                mark.marks.front().shape = DrawnMark::Shape::Diamond;
+                EXPECT_GT(count(mark), ring);
+            }
         });
     });
 }

@@ -107,6 +107,26 @@ TEST_F(SavePictures, LosesNeitherTheEarlierPicturesNorTheNewOnesWhateverFails) {
     EXPECT_EQ(Pictures(), fresh);
 }
 
+TEST_F(SavePictures, WritesPointsToAFileWhoseNameEndsInPngInWhateverCase) {
+    StartWithCodes({"A"});
+    for (const auto* path : {R"(C:\DOCS\My rules.png)", R"(C:\DOCS\RULES.PNG)", R"(C:\DOCS\.png)"}) {
+        Save(window().menu.mnuSavePictures, path);
+        EXPECT_THAT(world.files.Get(path).value_or("none"), StartsWith("\x89PNG\nA: text\n")) << path;
+    }
+    EXPECT_EQ(Status(), "1 rule   -   .png saved");
+    Save(window().menu.mnuSavePictures, R"(C:\DOCS\png)");
+    EXPECT_THAT(world.files.Get(R"(C:\DOCS\png)").value_or("none"), StartsWith("<?xml"));
+}
+
+TEST_F(SavePictures, SaysSoWhenTheListIsTooLongForPoints) {
+    StartWithCodes({"A"});
+    world.paper.isTooLarge = true;
+    world.files.Put(R"(C:\DOCS\old.png)", "old");
+    Save(window().menu.mnuSavePictures, R"(C:\DOCS\old.png)");
+    EXPECT_EQ(Status(), "1 rule   -   Not saved, so many rules are too many for a PNG file");
+    EXPECT_EQ(world.files.Get(R"(C:\DOCS\old.png)"), "old");
+}
+
 TEST_F(SavePictures, IsNoEntryOfTheOtherEditors) {
     ASSERT_EQ(Start("@UNITS"), StartUp::WindowShown);
     EXPECT_FALSE(window().menu.mnuSavePictures.Enabled());

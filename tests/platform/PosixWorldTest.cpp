@@ -21,7 +21,8 @@ constexpr const char* kArguments[] = {"zyGlobal", "@UNITS"};
 TEST(PosixWorldTest, GivesItsOwnPartsAndTheScreenGiven) {
     PosixWorld world(2, kArguments);
     MemoryWorld screen;
-    const World view = world.Get({.dialogs = screen.dialogs, .help = screen.help, .window = screen.window});
+    const World view = world.Get(
+        {.dialogs = screen.dialogs, .help = screen.help, .window = screen.window, .paper = screen.paper});
     EXPECT_EQ(&view.files, &world.files);
     EXPECT_EQ(&view.system, &world.system);
     EXPECT_EQ(&view.traceServers, &world.traceServers);
@@ -31,6 +32,7 @@ TEST(PosixWorldTest, GivesItsOwnPartsAndTheScreenGiven) {
     EXPECT_EQ(&view.dialogs, &screen.dialogs);
     EXPECT_EQ(&view.help, &screen.help);
     EXPECT_EQ(&view.window, &screen.window);
+    EXPECT_EQ(&view.paper, &screen.paper);
     EXPECT_EQ(&view.codePage, &Windows1252());
     EXPECT_EQ(view.system.CommandLine(), "@UNITS");
 }

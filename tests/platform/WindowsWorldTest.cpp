@@ -10,7 +10,8 @@ namespace {
 TEST(WindowsWorldTest, GivesItsOwnPartsAndTheScreenGiven) {
     WindowsWorld world;
     MemoryWorld screen;
-    const World view = world.Get({.dialogs = screen.dialogs, .help = screen.help, .window = screen.window});
+    const World view = world.Get(
+        {.dialogs = screen.dialogs, .help = screen.help, .window = screen.window, .paper = screen.paper});
     EXPECT_EQ(&view.files, &world.files);
     EXPECT_EQ(&view.system, &world.system);
     EXPECT_EQ(&view.traceServers, &world.traceServers);
@@ -20,6 +21,7 @@ TEST(WindowsWorldTest, GivesItsOwnPartsAndTheScreenGiven) {
     EXPECT_EQ(&view.dialogs, &screen.dialogs);
     EXPECT_EQ(&view.help, &screen.help);
     EXPECT_EQ(&view.window, &screen.window);
+    EXPECT_EQ(&view.paper, &screen.paper);
     EXPECT_EQ(&view.codePage, &AnsiCodePage());
 }
 

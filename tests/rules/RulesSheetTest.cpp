@@ -14,8 +14,8 @@ using ::testing::StartsWith;
 
 class SheetOfRules : public RulesTest {
   protected:
-    RulesSheet Sheet() { return SheetOf(rules.gaRules, '.', SvgLettering()); }
-    static double TopOf(const RulesSheet& sheet, const std::string& front) {
+    Sheet OneSheet() { return SheetOf(rules.gaRules, '.', SvgLettering()); }
+    static double TopOf(const Sheet& sheet, const std::string& front) {
         const auto& texts = sheet.drawing.texts;
         const auto found = std::find_if(texts.begin(), texts.end(),
                                         [&](const DrawnText& text) { return text.text.starts_with(front); });
@@ -26,7 +26,7 @@ class SheetOfRules : public RulesTest {
 TEST_F(SheetOfRules, HasEachRuleWithItsDescriptionAboveItsPicture) {
     AddCode("A");
     AddCode("B");
-    const auto sheet = Sheet();
+    const auto sheet = OneSheet();
     const auto sentence = std::string("1 of 2 points in a row above");
     EXPECT_GT(TopOf(sheet, "A: text"), 0);
     EXPECT_LT(TopOf(sheet, "A: text"), TopOf(sheet, sentence));
@@ -44,7 +44,7 @@ TEST_F(SheetOfRules, HoldsAllThatIsOnIt) {
     for (const auto* code : {"A", "B", "C"}) {
         AddCode(code);
     }
-    const auto sheet = Sheet();
+    const auto sheet = OneSheet();
     const auto isInside = [&](double x, double y) {
         return x >= 0 && y >= 0 && x <= sheet.size.width && y <= sheet.size.height;
     };
@@ -60,22 +60,90 @@ TEST_F(SheetOfRules, HoldsAllThatIsOnIt) {
 
 TEST_F(SheetOfRules, SaysOfARuleWithoutAPictureWhyThereIsNone) {
     AddCode("A").Max = "0";
-    const auto sheet = Sheet();
+    const auto sheet = OneSheet();
     EXPECT_GT(TopOf(sheet, "No picture: Maximum"), TopOf(sheet, "A: text"));
     EXPECT_THAT(sheet.drawing.marks, IsEmpty());
 }
 
 TEST_F(SheetOfRules, CutsADescriptionThatIsTooLong) {
     AddCode("A").Description = std::string(60000, 'w');
-    const auto heading = Sheet().drawing.texts.front().text;
+    const auto heading = OneSheet().drawing.texts.front().text;
     EXPECT_THAT(heading, StartsWith("A: www"));
     EXPECT_THAT(heading, EndsWith("w..."));
-    EXPECT_LT(SvgLettering().width(heading), Sheet().size.width);
+    EXPECT_LT(SvgLettering().width(heading), OneSheet().size.width);
 }
 
 TEST_F(SheetOfRules, IsEmptyWithoutRules) {
-    EXPECT_THAT(Sheet().drawing.texts, IsEmpty());
-    EXPECT_GT(Sheet().size.height, 0);
+    EXPECT_THAT(OneSheet().drawing.texts, IsEmpty());
+    EXPECT_GT(OneSheet().size.height, 0);
+}
+
+class PagesOfRules : public SheetOfRules {
+  protected:
+    static constexpr Size kPaper{11906, 16838};
+
+    Pages AllPages(const Size& page = kPaper) {
+        return PagesOf(rules.gaRules, '.', SvgLettering(), page, "heading");
+    }
+    /// The beginnings of the rules on a page.
+    static std::vector<std::string> CodesOn(const Drawing& page) {
+        std::vector<std::string> codes;
+        for (const auto& [leftTop, text] : page.texts) {
+            if (const auto colon = text.find(": text"); colon != std::string::npos) {
+                codes.push_back(text.substr(0, colon));
+            }
+        }
+        return codes;
+    }
+};
+
+TEST_F(PagesOfRules, HoldEveryRuleOnceInTheirOrder) {
+    std::vector<std::string> codes;
+    for (int i = 1; i <= 14; ++i) {
+        codes.push_back(std::to_string(i));
+        AddCode(codes.back());
+    }
+    const auto pages = AllPages();
+    EXPECT_EQ(pages.count, 3);
+    std::vector<std::string> seen;
+    for (int page = 1; page <= pages.count; ++page) {
+        const auto on = CodesOn(pages.make(page));
+        EXPECT_LE(on.size(), 6U);
+        seen.insert(seen.end(), on.begin(), on.end());
+    }
+    EXPECT_EQ(seen, codes);
+}
+
+TEST_F(PagesOfRules, HoldAllThatIsOnThemAboveTheirFoot) {
+    for (int i = 1; i <= 14; ++i) {
+        AddCode(std::to_string(i));
+    }
+    const auto page = AllPages().make(1);
+    const auto foot = TopOf({page, {}}, "heading");
+    EXPECT_EQ(TopOf({page, {}}, "Page 1 of 3"), foot);
+    EXPECT_LT(foot + SvgLettering().height, kPaper.height);
+    for (const auto& line : page.lines) {
+        EXPECT_LT(std::max(line.from.y, line.to.y), foot);
+        EXPECT_GT(std::min(line.from.x, line.to.x), 0);
+        EXPECT_LT(std::max(line.from.x, line.to.x), kPaper.width);
+    }
+    for (const auto& [leftTop, text] : page.texts) {
+        EXPECT_LE(leftTop.y, foot) << text;
+        EXPECT_LT(leftTop.x + SvgLettering().width(text), kPaper.width) << text;
+    }
+}
+
+TEST_F(PagesOfRules, AreOneWithoutRules) {
+    EXPECT_EQ(AllPages().count, 1);
+    EXPECT_THAT(CodesOn(AllPages().make(1)), IsEmpty());
+}
+
+TEST_F(PagesOfRules, HoldOneRuleEachWhereThereIsNoRoomForIt) {
+    AddCode("A");
+    AddCode("B");
+    const auto pages = AllPages({1000, 500});
+    EXPECT_EQ(pages.count, 2);
+    EXPECT_EQ(CodesOn(pages.make(2)), std::vector<std::string>{"B"});
 }
 
 } // namespace

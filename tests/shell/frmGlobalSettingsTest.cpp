@@ -109,14 +109,14 @@ TEST(MainMenuTest, HoldsTheEditMenu) {
                             "  mnuChanges U&nsaved Changes...", "  mnuOthers Changes by &Others...",
                             "  mnuVersions &Earlier Versions...", "  mnuSeparatorRules -",
                             "  mnuStandardRules Insert &Standard Rules...",
-                            "  mnuSavePictures Sa&ve Pictures..."));
+                            "  mnuSavePictures Sa&ve Pictures...", "  mnuPrint Pr&int..."));
 }
 
 TEST(MainMenuTest, HoldsTheContextMenuOfTheRulesList) {
     const MainMenu menu;
     EXPECT_THAT(Lines(menu.mnuListPopMenu),
                 ElementsAre("mnuListPopMenu ", "  mnuStandardRulesOfList Insert &Standard Rules...",
-                            "  mnuSavePicturesOfList Sa&ve Pictures..."));
+                            "  mnuSavePicturesOfList Sa&ve Pictures...", "  mnuPrintOfList Pr&int..."));
 }
 
 TEST(MainMenuTest, HasNoAccessKeyTwiceInAMenu) {
