@@ -7,14 +7,20 @@
 
 #include <array>
 #include <iostream>
+#include <string>
 
 #include "desktop/Native.h"
 
 namespace zy {
 namespace {
 
+/// By this a desktop finds the entry of a window: its icon, its name, and the group that it belongs to.
+constexpr const char* kApplicationId = ZY_APPLICATION_ID;
+
 class App : public wxApp {
   public:
+    App() { SetAppDisplayName(kApplicationId); }
+
     // The program reads its command line itself.
     bool OnInit() override { return true; }
 
@@ -40,7 +46,8 @@ NoDisplay::NoDisplay()
           "There is no display to open a window on: start it in a desktop session, or set DISPLAY") {}
 
 Toolkit::Toolkit() {
-    static std::array<char, 9> name{"zyGlobal"};
+    // What the toolkit takes for the program's file is what it calls the windows by.
+    static std::string name{kApplicationId};
     std::array<char*, 2> arguments{name.data(), nullptr};
     int count = 1;
     wxApp::SetInstance(new App);
