@@ -5,16 +5,12 @@
 #include <string_view>
 
 #include "tools/TraceViewer.h"
+#include "tools/ZydebugTexts.h"
 
 namespace {
 
-constexpr std::string_view kUsage =
-    "Usage: zydebug\n"
-    "Shows the trace records that zyGlobal sends, one line each: executable, module, procedure and message,\n"
-    "with a TAB between them. It has to run before zyGlobal starts. Ctrl+C ends it.\n";
-
 int Fail(std::string_view message) {
-    std::cerr << "zydebug: " << message << '\n';
+    std::cerr << zy::ZydebugError(message);
     return 1;
 }
 
@@ -25,7 +21,7 @@ int Report(zy::TraceViewer::End end) {
     case zy::TraceViewer::End::NoBus:
         return Fail("there is no session bus to listen on");
     case zy::TraceViewer::End::NameTaken:
-        return Fail("another trace viewer is running");
+        return Fail(zy::kZydebugTaken);
     case zy::TraceViewer::End::BusLost:
         break;
     }
@@ -34,7 +30,7 @@ int Report(zy::TraceViewer::End end) {
 
 int View() {
     zy::TraceViewer viewer(
-        [] { std::cerr << "zydebug: listening; Ctrl+C ends" << std::endl; },
+        [] { std::cerr << zy::kZydebugGreeting << std::flush; },
         [](const zy::RecordFields& record) { std::cout << zy::RecordLine(record) << std::flush; });
     return Report(viewer.Run());
 }
@@ -47,9 +43,9 @@ int main(int argumentCount, char** argumentList) {
         return View();
     }
     if (std::string_view(arguments[1]) == "--help") {
-        std::cout << kUsage;
+        std::cout << zy::kZydebugUsage;
         return 0;
     }
-    std::cerr << kUsage;
+    std::cerr << zy::kZydebugUsage;
     return 1;
 }

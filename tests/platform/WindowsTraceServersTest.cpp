@@ -7,6 +7,7 @@
 #include <objbase.h>
 
 #include <optional>
+#include <stdexcept>
 #include <string>
 
 #include "platform/windows/AnsiCodePage.h"
@@ -16,10 +17,13 @@
 namespace zy::test {
 namespace {
 
+using ::testing::HasSubstr;
 using ::testing::Optional;
+using ::testing::ThrowsMessage;
 using namespace std::string_literals;
 
 constexpr const char* kName = "ZYDebug.Application";
+constexpr const wchar_t* kProgramId = L"ZYDebug.Application";
 
 /// A server that is registered and does not run; were it started, it would leave a file.
 class SleepingServer {
@@ -82,6 +86,19 @@ TEST(WindowsTraceServersTest, LeaveTheThreadAsItWas) {
     APTTYPE type{};
     APTTYPEQUALIFIER qualifier{};
     EXPECT_EQ(::CoGetApartmentType(&type, &qualifier), CO_E_NOTINITIALIZED);
+}
+
+TEST(Zydebug, SaysThatAnotherViewerRuns) {
+    const WindowsTraceViewer viewer;
+    EXPECT_THAT([] { const WindowsTraceViewer second; },
+                ThrowsMessage<std::runtime_error>(HasSubstr("another trace viewer is running")));
+}
+
+TEST(Zydebug, LeavesNoNameBehind) {
+    ::RegDeleteTreeW(HKEY_CLASSES_ROOT, kProgramId); // that of one that crashed
+    CLSID classId{};
+    { const WindowsTraceViewer viewer; }
+    EXPECT_TRUE(FAILED(::CLSIDFromProgID(kProgramId, &classId)));
 }
 
 } // namespace

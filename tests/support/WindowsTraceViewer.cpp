@@ -33,12 +33,12 @@ WindowsTraceViewer::WindowsTraceViewer() {
     KeepToOurselves(input_.writer);
     KeepToOurselves(output_.reader);
     const auto program = WindowsSystemInfo().ExecutableFolder() + "\\" ZY_TRACE_VIEWER;
-    process_ = StartProgram('"' + program + '"', input_.reader.Get(), output_.writer.Get(),
-                            ::GetStdHandle(STD_ERROR_HANDLE));
+    process_ =
+        StartProgram('"' + program + '"', input_.reader.Get(), output_.writer.Get(), output_.writer.Get());
     input_.reader.Close();
     output_.writer.Close();
     const auto greeting = NextLine();
-    if (greeting != "listening") {
+    if (!greeting || greeting->find("listening") == std::string::npos) {
         throw std::runtime_error("the trace viewer did not start: " + greeting.value_or("it said nothing"));
     }
 }

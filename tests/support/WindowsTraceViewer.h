@@ -8,8 +8,7 @@
 
 namespace zy::test {
 
-/// A trace viewer that runs beside the test, and ends with it: the program windows_trace_viewer.exe in the
-/// folder of the test program.
+/// The trace viewer zydebug.exe, which runs beside the test and ends with it.
 class WindowsTraceViewer {
   public:
     /// Returns when the viewer can be found; throws when it does not come to that.

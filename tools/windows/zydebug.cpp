@@ -1,18 +1,17 @@
-// A trace viewer for the tests: an automation server among the running objects, under the program id
-// "ZYDebug.Application", whose method Send prints each record on a line of its own. It prints "listening"
-// when it can be found, and ends when its standard input does.
+// The trace viewer: prints what the editor reports through its trace channel while this program runs. To the
+// editor it is an automation server among the running objects, under the program id "ZYDebug.Application".
 
 #include <windows.h>
 // After windows.h, which it leans on.
 #include <oleauto.h>
 
-#include <cstdio>
 #include <optional>
 #include <string>
-#include <thread>
+#include <string_view>
 
 #include "platform/CodePage.h"
 #include "tools/RecordLine.h"
+#include "tools/ZydebugTexts.h"
 
 namespace {
 
@@ -20,10 +19,15 @@ constexpr auto kProgramId = L"ZYDebug.Application";
 constexpr auto kClassIdText = L"{6B0E5B55-3C0B-4E0D-9C52-7B1C0F8C2A31}";
 constexpr DISPID kSend = 1;
 
-void Print(const std::string& text) {
+/// Without waiting for more, so that whoever reads it has it at once.
+void Print(DWORD stream, std::string_view text) {
     DWORD written = 0;
-    ::WriteFile(::GetStdHandle(STD_OUTPUT_HANDLE), text.data(), static_cast<DWORD>(text.size()), &written,
-                nullptr);
+    ::WriteFile(::GetStdHandle(stream), text.data(), static_cast<DWORD>(text.size()), &written, nullptr);
+}
+
+int Fail(std::string_view message) {
+    Print(STD_ERROR_HANDLE, zy::ZydebugError(message));
+    return 1;
 }
 
 std::string ToUtf8(const BSTR text) {
@@ -85,74 +89,124 @@ class Viewer final : public IDispatch {
         if (!fields) {
             return DISP_E_TYPEMISMATCH;
         }
-        Print(zy::RecordLine(*fields));
+        Print(STD_OUTPUT_HANDLE, zy::RecordLine(*fields));
         return S_OK;
     }
 };
 
-/// The program id of the viewer, registered for as long as this lives where no other viewer's is.
+/// The program id of the viewer, registered for as long as this lives where no other viewer's is: the
+/// machine's where that may be written, else the user's own, so that nobody has to be an administrator.
 class RegisteredProgramId {
   public:
     RegisteredProgramId() {
         if (FAILED(::CLSIDFromProgID(kProgramId, &classId_))) {
-            const auto key = std::wstring(kProgramId) + L"\\CLSID";
-            ::RegSetValueW(HKEY_CLASSES_ROOT, key.c_str(), REG_SZ, kClassIdText, 0);
             ::CLSIDFromString(kClassIdText, &classId_);
-            ours_ = true;
+            isMachines_ = Register(HKEY_LOCAL_MACHINE);
+            isUsers_ = !isMachines_ && Register(HKEY_CURRENT_USER);
         }
     }
     RegisteredProgramId(const RegisteredProgramId&) = delete;
     RegisteredProgramId& operator=(const RegisteredProgramId&) = delete;
     ~RegisteredProgramId() {
-        if (ours_) {
-            ::RegDeleteTreeW(HKEY_CLASSES_ROOT, kProgramId);
+        if (isMachines_ || isUsers_) {
+            ::RegDeleteTreeW(isMachines_ ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER, kKey.c_str());
         }
     }
 
     const CLSID& ClassId() const { return classId_; }
 
   private:
+    bool Register(HKEY root) const {
+        return ::RegSetValueW(root, (kKey + L"\\CLSID").c_str(), REG_SZ, kClassIdText, 0) == ERROR_SUCCESS;
+    }
+
+    const std::wstring kKey = std::wstring(L"Software\\Classes\\") + kProgramId;
     CLSID classId_{};
-    bool ours_ = false;
+    bool isMachines_ = false;
+    bool isUsers_ = false;
 };
 
-/// Asks the thread to end when there is nothing more to read.
-void WatchInput(DWORD thread) {
-    char byte = 0;
-    DWORD count = 1;
-    while (::ReadFile(::GetStdHandle(STD_INPUT_HANDLE), &byte, 1, &count, nullptr) != FALSE && count > 0) {
+/// Whether another viewer is among the running objects: two would share what comes, in no order.
+bool IsTaken(const CLSID& classId) {
+    IUnknown* other = nullptr;
+    const bool taken = SUCCEEDED(::GetActiveObject(classId, nullptr, &other)) && other != nullptr;
+    if (taken) {
+        other->Release();
     }
-    ::PostThreadMessageW(thread, WM_QUIT, 0, 0);
+    return taken;
 }
 
-/// Takes records until the input ends.
+/// Ctrl+C and the closing of its window end the viewer in good order, in the thread that takes the records.
+DWORD viewersThread = 0;
+
+BOOL WINAPI OnConsole(DWORD /*event*/) {
+    return ::PostThreadMessageW(viewersThread, WM_QUIT, 0, 0);
+}
+
+/// Whether whoever started the viewer with a pipe for its input has closed that, which is how a program ends
+/// it.
+bool IsInputClosed() {
+    const auto input = ::GetStdHandle(STD_INPUT_HANDLE);
+    return ::GetFileType(input) == FILE_TYPE_PIPE &&
+           ::PeekNamedPipe(input, nullptr, 0, nullptr, nullptr, nullptr) == FALSE;
+}
+
+/// Hands out what stands in the queue. False when it says that the program is to end.
+bool HandOutMessages() {
+    MSG message{};
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
+        if (message.message == WM_QUIT) {
+            return false;
+        }
+        ::DispatchMessageW(&message);
+    }
+    return true;
+}
+
+/// Takes records until somebody ends it.
+void TakeRecords() {
+    constexpr DWORD kBetweenLooksAtTheInput = 100; // milliseconds
+    while (HandOutMessages() && !IsInputClosed()) {
+        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, kBetweenLooksAtTheInput, QS_ALLINPUT);
+    }
+}
+
 int View() {
     const RegisteredProgramId programId;
+    if (IsTaken(programId.ClassId())) {
+        return Fail(zy::kZydebugTaken);
+    }
     Viewer viewer;
     DWORD registration = 0;
     if (FAILED(::RegisterActiveObject(&viewer, programId.ClassId(), ACTIVEOBJECT_STRONG, &registration))) {
-        return 1;
+        return Fail("it cannot be told to the running programs");
     }
-    MSG message{};
-    ::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE); // makes the queue that the watch posts to
-    std::thread watch(WatchInput, ::GetCurrentThreadId());
-    Print("listening\n");
-    while (::GetMessageW(&message, nullptr, 0, 0) > 0) {
-        ::DispatchMessageW(&message);
-    }
-    watch.join();
+    viewersThread = ::GetCurrentThreadId();
+    HandOutMessages(); // makes the queue that an end is posted to
+    ::SetConsoleCtrlHandler(OnConsole, TRUE);
+    Print(STD_ERROR_HANDLE, zy::kZydebugGreeting);
+    TakeRecords();
     ::RevokeActiveObject(registration, nullptr);
     ::CoDisconnectObject(&viewer, 0);
     return 0;
 }
 
-} // namespace
-
-int main() {
+int ViewAsServer() {
     if (FAILED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {
-        return 1;
+        return Fail("COM does not start");
     }
     const int status = View();
     ::CoUninitialize();
     return status;
+}
+
+} // namespace
+
+int main(int argumentCount, char** argumentList) {
+    if (argumentCount <= 1) {
+        return ViewAsServer();
+    }
+    const bool isAsked = std::string_view(argumentList[1]) == "--help";
+    Print(isAsked ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE, zy::kZydebugUsage);
+    return isAsked ? 0 : 1;
 }
