@@ -13,7 +13,7 @@ std::string ReadFile(FileSystem& files, std::string_view path) {
     if (size > kLargestFile) {
         RaiseBadFormat(files.DisplayPath(path), "it is larger than 2 GB");
     }
-    std::string bytes(size, '\0');
+    std::string bytes(static_cast<std::size_t>(size), '\0');
     if (const auto read = opened.handle->Read(bytes); read != size) {
         Raise(kReadFailed, {"'", files.DisplayPath(path), "' could be read up to byte ", std::to_string(read),
                             " of ", std::to_string(size), " only."});

@@ -144,7 +144,8 @@ class RulesParser {
 class LineCutter {
   public:
     LineCutter(FileHandle& file, std::uint64_t size)
-        : file_(file), buffer_(std::min<std::uint64_t>(size + 1, kBlockSize), '\0') {}
+        : file_(file),
+          buffer_(static_cast<std::size_t>(std::min<std::uint64_t>(size + 1, kBlockSize)), '\0') {}
 
     /// Takes the next line, without its LF; also a last one that has none. False behind the last one. The
     /// line stands until the next call.

@@ -119,7 +119,8 @@ bool IsKeyWithAlt(const wxKeyEvent& key) {
 
 void TellSystem(const wxKeyEvent& key) {
     auto* control = static_cast<wxWindow*>(key.GetEventObject());
-    ::DefWindowProcW(control->GetHandle(), WM_SYSKEYDOWN, key.GetRawKeyCode(), key.GetRawKeyFlags());
+    ::DefWindowProcW(control->GetHandle(), WM_SYSKEYDOWN, key.GetRawKeyCode(),
+                     static_cast<LPARAM>(key.GetRawKeyFlags()));
 }
 
 /// The system's colour for links, else the toolkit's, else that of other text. Each may be much like what

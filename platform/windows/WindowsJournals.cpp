@@ -24,7 +24,7 @@ class WindowsJournal final : public Journal {
     explicit WindowsJournal(SystemHandle file) : file_(std::move(file)) {}
 
     std::string Read() override {
-        std::string bytes(std::min(file_.Size(), kLargestJournal), '\0');
+        std::string bytes(static_cast<std::size_t>(std::min(file_.Size(), kLargestJournal)), '\0');
         bytes.resize(GoTo(FILE_BEGIN) ? file_.Read(bytes) : 0);
         return bytes;
     }

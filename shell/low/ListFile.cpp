@@ -40,7 +40,7 @@ bool ListFile::IsChanged() const {
     if (!known_ || size != known_->size()) {
         return Read() != nullptr;
     }
-    std::string block(std::min<std::size_t>(size, kBlockSize), '\0');
+    std::string block(std::min(known_->size(), kBlockSize), '\0');
     bool differs = false;
     for (auto rest = KnownText(); !rest.empty();) {
         const auto wanted = rest.substr(0, block.size());
