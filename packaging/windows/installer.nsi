@@ -259,9 +259,10 @@ Function RemoveEarlier
   ${EndIf}
 FunctionEnd
 
-!macro Entry name word description
-  CreateShortcut "$SMPROGRAMS\${NAME}\${name}.lnk" "$INSTDIR\zyGlobal.exe" "${word}" "$INSTDIR\zyGlobal.exe" 0 \
-    SW_SHOWNORMAL "" "${description}"
+; The names of what is defined know no capitals.
+!macro Entry ENTRY WORD ABOUT
+  CreateShortcut "$SMPROGRAMS\${NAME}\${ENTRY}.lnk" "$INSTDIR\zyGlobal.exe" "${WORD}" "$INSTDIR\zyGlobal.exe" 0 \
+    SW_SHOWNORMAL "" "${ABOUT}"
 !macroend
 
 Section
