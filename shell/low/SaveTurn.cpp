@@ -4,6 +4,25 @@
 #include "shell/mZYGlobal.h"
 
 namespace zy {
+namespace {
+
+/// What whoever opens an editor can do about it, as far as the reason alone says that.
+std::string_view AdviceFor(FileError error) {
+    switch (error) {
+    case FileError::InUse:
+        return "close that program before saving";
+    case FileError::AccessDenied:
+        return "open the editor as its owner or an administrator";
+    case FileError::ReadOnly:
+        return "take the write protection off before editing";
+    case FileError::DiskFull:
+        return "make room on it before editing";
+    default:
+        return "put that right before editing";
+    }
+}
+
+} // namespace
 
 SaveTurn::SaveTurn(FileSystem& files, std::string_view path)
     : folder_(files.LockFolderOf(path)), isMine_(folder_.error != FileError::InUse) {}
@@ -33,10 +52,8 @@ std::string Obstacle(std::string_view path, FileError error) {
     if (error == FileError::None) {
         return {};
     }
-    const std::string_view advice =
-        error == FileError::InUse ? "; close that program before saving" : "; put that right before editing";
-    return std::string(FileNameOf(path)) + " cannot be written now: " + std::string(Describe(error)) +
-           std::string(advice);
+    return std::string(FileNameOf(path)) + " cannot be written now: " + std::string(Describe(error)) + "; " +
+           std::string(AdviceFor(error));
 }
 
 std::string WhyNotToSave(FileSystem& files, std::string_view path, const SaveTurn& turn) {

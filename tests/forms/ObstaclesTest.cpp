@@ -5,7 +5,8 @@ namespace zy::test {
 namespace {
 
 constexpr auto kFolder = R"(C:\SYS)";
-constexpr auto kDenied = "ZYRules.sys cannot be written now: access is denied; put that right before editing";
+constexpr auto kDenied =
+    "ZYRules.sys cannot be written now: access is denied; open the editor as its owner or an administrator";
 
 /// What keeps a save from going well is said before anything is edited, and after it failed until one goes
 /// well.
@@ -69,7 +70,7 @@ TEST_F(ObstacleOfRoom, IsToldOnceBeforeAnybodyEdits) {
     window().idle.Raise();
     window().idle.Raise();
     EXPECT_EQ(Status(), "2 units   -   ZYUNITS.SYS cannot be written now: the disk is "
-                        "full; put that right before editing");
+                        "full; make room on it before editing");
     world.files.SetCapacity(2 * kUnits.size());
     Start("@UNITS");
     window().idle.Raise();

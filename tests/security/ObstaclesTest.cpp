@@ -8,7 +8,8 @@ class UsersObstacles : public UsersTest {
   protected:
     static constexpr auto kFolder = R"(C:\SYS)";
     static constexpr auto kTold =
-        "1 user; ZYSECURE.DBF cannot be written now: access is denied; put that right before editing";
+        "1 user; ZYSECURE.DBF cannot be written now: access is denied; open the editor as its "
+        "owner or an administrator";
 };
 
 TEST_F(UsersObstacles, AFolderThatMayNotBeWrittenIsToldUntilASaveGoesWell) {

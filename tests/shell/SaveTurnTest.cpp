@@ -107,5 +107,23 @@ TEST_F(SaveTurns, AreNoHelpWhereNobodyCanTellWhichFileIsMeant) {
               "it is not certain which file ZYUNITS.SYS is: access is denied");
 }
 
+TEST(Obstacle, SaysWhatToDoAboutItsReason) {
+    EXPECT_EQ(Obstacle(kPath, FileError::None), "");
+    EXPECT_EQ(Obstacle(kPath, FileError::AccessDenied),
+              "ZYUNITS.SYS cannot be written now: access is denied; open the editor as its owner or an "
+              "administrator");
+    EXPECT_EQ(
+        Obstacle(kPath, FileError::ReadOnly),
+        "ZYUNITS.SYS cannot be written now: it is read-only; take the write protection off before editing");
+    EXPECT_EQ(
+        Obstacle(kPath, FileError::InUse),
+        "ZYUNITS.SYS cannot be written now: another program is using it; close that program before saving");
+    EXPECT_EQ(Obstacle(kPath, FileError::DiskFull),
+              "ZYUNITS.SYS cannot be written now: the disk is full; make room on it before editing");
+    EXPECT_EQ(Obstacle(kPath, FileError::IsFolder),
+              "ZYUNITS.SYS cannot be written now: a folder of that name is in the way; put that right before "
+              "editing");
+}
+
 } // namespace
 } // namespace zy::test

@@ -9,8 +9,8 @@ constexpr auto kFolder = R"(C:\SYS)";
 class UnitsObstacles : public UnitsTest {};
 
 TEST_F(UnitsObstacles, AFolderInWhichNoFileMayBeMadeIsToldUntilASaveGoesWell) {
-    const std::string told =
-        "; ZYUNITS.SYS cannot be written now: access is denied; put that right before editing";
+    const std::string told = "; ZYUNITS.SYS cannot be written now: access is denied; open the editor as its "
+                             "owner or an administrator";
     world.files.SetFolderReadOnly(kFolder);
     Open();
     EXPECT_EQ(Status(), "0 units" + told);
