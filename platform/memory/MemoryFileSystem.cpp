@@ -501,7 +501,8 @@ FileError MemoryFileSystem::CopyPermissionsFound(const std::string& from, const 
 
 FileError MemoryFileSystem::WriteWhatFits(File& file, std::size_t position, std::string_view text) const {
     const auto overwritten = file.bytes.size() - std::min(position, file.bytes.size());
-    const auto fits = text.substr(0, std::min<std::uint64_t>(text.size(), overwritten + Room()));
+    const auto fits =
+        text.substr(0, static_cast<std::size_t>(std::min<std::uint64_t>(text.size(), overwritten + Room())));
     file.bytes.replace(std::min(position, file.bytes.size()), fits.size(), fits);
     return fits.size() == text.size() ? FileError::None : FileError::DiskFull;
 }
