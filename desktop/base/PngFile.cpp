@@ -23,10 +23,11 @@ std::string BigEndian(std::uint32_t number) {
 }
 
 std::string Compressed(const std::string& bytes) {
-    std::string packed(::compressBound(bytes.size()), '\0');
-    uLongf size = packed.size();
+    const auto length = static_cast<uLong>(bytes.size());
+    uLongf size = ::compressBound(length);
+    std::string packed(size, '\0');
     const int error = ::compress(reinterpret_cast<Bytef*>(packed.data()), &size,
-                                 reinterpret_cast<const Bytef*>(bytes.data()), bytes.size());
+                                 reinterpret_cast<const Bytef*>(bytes.data()), length);
     if (error != Z_OK) { // there is room for whatever comes out
         throw std::bad_alloc();
     }
