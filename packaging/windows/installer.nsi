@@ -26,6 +26,8 @@ SetDateSave on
 !define RUNNING "${NAME} is open. Close its windows first."
 
 Name "${NAME}"
+Caption "${NAME} ${VERSION} Installer"
+UninstallCaption "Remove ${NAME}"
 OutFile "${OUT}"
 BrandingText "${NAME} ${VERSION}"
 InstallDir ""
@@ -52,10 +54,9 @@ Var Button64
 !define MUI_ABORTWARNING
 Page custom ShowChoices LeaveChoices
 !insertmacro MUI_PAGE_DIRECTORY
+!define MUI_INSTFILESPAGE_FINISHHEADER_TEXT "${NAME} is installed"
+!define MUI_INSTFILESPAGE_FINISHHEADER_SUBTEXT "Its editors stand in the Start menu, under ${NAME}."
 !insertmacro MUI_PAGE_INSTFILES
-!define MUI_FINISHPAGE_TITLE "${NAME} is installed"
-!define MUI_FINISHPAGE_TEXT "The product opens its editors; they stand in the Start menu too, under ${NAME}."
-!insertmacro MUI_PAGE_FINISH
 !insertmacro MUI_UNPAGE_CONFIRM
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE English
@@ -208,7 +209,7 @@ Function ShowChoices
   ${NSD_AddStyle} $AllButton ${WS_GROUP}
   ${NSD_CreateRadioButton} 8u 26u 95% 11u "&Me alone, which needs no rights"
   Pop $MeButton
-  ${NSD_CreateLabel} 0 48u 100% 36u "Take the one that the SPC product is: Windows shows programs of 32 bits another system directory and another part of the registry than those of 64 bits, so only the editor of the product's own kind edits the files that the product reads."
+  ${NSD_CreateLabel} 0 48u 100% 36u "Take the width that the SPC product has: Windows shows programs of 32 bits another system directory and another part of the registry than those of 64 bits, so only the editor of the product's own kind edits the files that the product reads."
   Pop $0
   ${NSD_CreateRadioButton} 8u 87u 95% 11u "&32 bits"
   Pop $Button32
