@@ -109,7 +109,7 @@ TEST_F(KeyboardWindow, TheMenusBearTheirCaptions) {
                         ElementsAre("&Undo\tCtrl+Z", "&Redo\tCtrl+Y", "-", "Cu&t\tCtrl+X", "&Copy\tCtrl+C",
                                     "&Paste\tCtrl+V", "-", "Select &All\tCtrl+A", "-", "U&nsaved Changes...",
                                     "Changes by &Others...", "&Earlier Versions...", "-",
-                                    "Insert &Standard Rules...", "Sa&ve Pictures..."));
+                                    "Insert &Standard Rules...", "Sa&ve Pictures...", "Pr&int..."));
             const auto& help = *bar.GetMenu(2);
             EXPECT_THAT(EntriesOf(help), ElementsAre("&Contents\tF1", "&Index", "-", "Norvale on the &Web...",
                                                      "-", "&About ZY Setup"));
