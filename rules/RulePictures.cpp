@@ -1,5 +1,7 @@
 #include "rules/RulePictures.h"
 
+#include <utility>
+
 #include "rules/RuleDrawing.h"
 
 namespace zy {
@@ -20,7 +22,11 @@ void RulePictures::Show() {
         controls_.picRule.Show("", {});
         return;
     }
-    zy::Show(controls_.picRule, PictureOf(RuleInForm(controls_, {})));
+    auto picture = PictureOf(RuleInForm(controls_, {}));
+    // The sentence says all that is drawn: where it is the same, nothing has to be painted again.
+    if (picture.sentence != controls_.picRule.Description()) {
+        zy::Show(controls_.picRule, std::move(picture));
+    }
 }
 
 std::string RulePictures::HintOf(int item) const {

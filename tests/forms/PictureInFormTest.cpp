@@ -51,9 +51,16 @@ TEST_F(PictureInForm, FollowsEachKeyInTheCountsAndEachChoice) {
 }
 
 TEST_F(PictureInForm, TellsTheViewOfEachChangeAndOfNoOther) {
-    StartWith({Rule("A", "1", "1", ">", "UCL")});
+    StartWith({Rule("A", "1", "1", ">", "UCL"), Rule("B", "1", "1", ">", "UCL")});
     int changes = 0;
     page().picRule.changed.Connect([&] { ++changes; });
+    page().cmdUpDown.PressDown();
+    EXPECT_EQ(changes, 0) << "the same rule, moved";
+    list().Pick(1);
+    EXPECT_EQ(changes, 0) << "another rule that says the same";
+    page().txtDescription.Enter("a");
+    page().txtCode.Enter("C");
+    EXPECT_EQ(changes, 0) << "the picture says neither";
     page().txtMax.Enter("3");
     EXPECT_EQ(changes, 1);
     list().Pick(1);
