@@ -99,8 +99,7 @@ class RandomUser {
     std::mt19937 random_{22};
 };
 
-/// How many steps such a user goes in a test: as many as tests/storms/undo wants, else so many as take little
-/// time.
+/// How many steps such a user goes in a test: as many as storm/undo wants, else so many as take little time.
 inline std::size_t StepsToWalk() {
     constexpr std::size_t kInLittleTime = 20'000;
     const char* wanted = std::getenv("ZY_UNDO_STEPS");
