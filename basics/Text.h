@@ -28,7 +28,7 @@ inline bool Contains(std::string_view text, char character) {
 /// compiler knows takes a few instructions.
 template <typename Text>
 char* Put(const Text& text, char* at) {
-    return std::copy(text.begin(), text.end(), at);
+    return std::char_traits<char>::copy(at, std::data(text), std::size(text)) + std::size(text);
 }
 
 // Names of fields, keywords and keys of files are ASCII, whatever the code page.

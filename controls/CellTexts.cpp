@@ -1,24 +1,20 @@
 #include "controls/CellTexts.h"
 
 #include <algorithm>
-#include <iterator>
+#include <numeric>
 #include <utility>
 
 #include "basics/RuntimeError.h"
 
 namespace zy {
-namespace {
 
-constexpr std::size_t kBlockSize = std::size_t{64} * 1024;
-
-} // namespace
-
-/// The one that a place lies in, or behind all.
-const CellTexts::Block& CellTexts::BlockOf(std::uint32_t start) const {
-    const auto next =
-        std::upper_bound(blocks_.begin(), blocks_.end(), start,
-                         [](std::uint32_t place, const Block& block) { return place < block.start; });
-    return *std::prev(next);
+/// The place of a further block's first byte, when there is room for it.
+std::uint32_t CellTexts::StartOf(std::size_t size) const {
+    const auto start = std::uint64_t{pages_.size()} * kPageSize;
+    if (start + size > mostBytes_) {
+        RaiseOutOfMemory();
+    }
+    return static_cast<std::uint32_t>(start);
 }
 
 TextPlace CellTexts::Stored(std::string_view text) {
@@ -28,38 +24,42 @@ TextPlace CellTexts::Stored(std::string_view text) {
     // The block has room for all that it will ever hold, so that it need not move.
     if (filling_ == nullptr || filling_->capacity() - filling_->size() < text.size()) {
         auto block = std::make_shared<std::string>();
-        block->reserve(std::max(text.size(), kBlockSize));
-        AddBlock(block, block->capacity());
+        block->reserve(std::max<std::size_t>(text.size(), kPageSize));
+        fillingStart_ = StartOf(block->capacity());
+        AddBlock({block, {block->data(), block->capacity()}});
         filling_ = std::move(block);
     }
-    const auto start = blocks_.back().start + static_cast<std::uint32_t>(filling_->size());
+    const auto start = fillingStart_ + static_cast<std::uint32_t>(filling_->size());
     *filling_ += text;
     held_ += text.size();
     return {start, static_cast<std::uint32_t>(text.size())};
 }
 
-void CellTexts::AddBlock(SharedText text, std::size_t size) {
-    if (size > mostBytes_ - end_) {
-        RaiseOutOfMemory();
+void CellTexts::AddBlock(SharedText text) {
+    for (std::size_t page = 0; page < text->size(); page += kPageSize) {
+        pages_.push_back(text->data() + page);
     }
-    blocks_.push_back({end_, std::move(text)});
-    end_ += static_cast<std::uint32_t>(size);
+    blocks_.push_back(std::move(text));
     filling_.reset();
 }
 
 void CellTexts::AppendPartsOf(SharedText text, const Split& split) {
-    TextParts parts(*text);
-    split(*text, parts);
-    const auto start = end_;
-    const auto size = text->size();
-    AddBlock(std::move(text), size);
-    held_ += size;
+    const auto count = cells_.size();
+    TextParts parts(*text, cells_, StartOf(text->size()));
+    try {
+        split(*text, parts);
+    } catch (...) {
+        cells_.resize(count);
+        throw;
+    }
+    held_ += text->size();
+    AddBlock(std::move(text));
     mostHeld_ = std::max(mostHeld_, 2 * held_);
-    cells_.reserve(cells_.size() + parts.Count());
-    std::transform(parts.Places().begin(), parts.Places().end(), std::back_inserter(cells_),
-                   [start](TextPlace place) {
-                       return TextPlace{start + place.start, place.length};
-                   });
+}
+
+std::size_t CellTexts::TotalSize() const {
+    return std::transform_reduce(cells_.begin(), cells_.end(), std::size_t{0}, std::plus<>(),
+                                 [](TextPlace place) { return std::size_t{place.length}; });
 }
 
 void CellTexts::Resize(std::size_t count) {
@@ -88,7 +88,7 @@ void CellTexts::DropUnused() {
     for (std::size_t cell = 0; cell < cells_.size(); ++cell) {
         packed.Append((*this)[cell]);
     }
-    packed.mostHeld_ = std::max(2 * packed.held_, kBlockSize);
+    packed.mostHeld_ = std::max<std::size_t>(2 * packed.held_, kPageSize);
     *this = std::move(packed);
 }
 

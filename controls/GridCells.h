@@ -19,6 +19,21 @@ struct Cell {
     friend bool operator==(const Cell&, const Cell&) = default;
 };
 
+/// Reads one cell of a grid after another, as they are until one of them changes. Whether there is such a
+/// cell is not looked after.
+class GridReader {
+  public:
+    GridReader(CellTexts::Reader cells, std::size_t columns) : cells_(cells), columns_(columns) {}
+
+    std::string_view Text(int row, int column) const {
+        return cells_[static_cast<std::size_t>(row) * columns_ + static_cast<std::size_t>(column)];
+    }
+
+  private:
+    CellTexts::Reader cells_;
+    std::size_t columns_;
+};
+
 /// The texts of a grid, row by row. Row 0 is the header; the rows below it are the data.
 ///
 /// A row or column outside the grid is run-time error 9.
@@ -56,6 +71,10 @@ class GridCells {
 
     /// Stays what it was until rows are set, removed or pasted, also when the cell's text is changed.
     std::string_view Text(int row, int column) const { return cells_[Index(row, column)]; }
+    /// For going through many rows.
+    GridReader Read() const { return {cells_.Read(), FirstCellOf(1)}; }
+    /// The bytes of all cells' texts.
+    std::size_t TextsSize() const { return cells_.TotalSize(); }
     /// Copies of the texts of the header, which must be there.
     std::vector<std::string> Headers() const;
     /// Raises `cellChanged` when the text differs from the one held.

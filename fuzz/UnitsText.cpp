@@ -56,7 +56,8 @@ PlainReading ReadPlainly(std::string_view text) {
 /// Run-time error 9 must be raised, and name this line.
 void RequireRefusal(std::string_view input, std::size_t line) {
     try {
-        TextParts cells(input);
+        std::vector<TextPlace> places;
+        TextParts cells(input, places);
         AppendUnitCells(input, "ZYUNITS.SYS", cells);
     } catch (const RuntimeError& error) {
         const auto place = "ZYUNITS.SYS, line " + std::to_string(line) + ":";

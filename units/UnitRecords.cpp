@@ -1,5 +1,7 @@
 #include "units/UnitRecords.h"
 
+#include <vector>
+
 #include "basics/RuntimeError.h"
 #include "units/UnitsFileText.h"
 
@@ -13,15 +15,16 @@ std::string UnitRecords::Key(const RowTexts& comparable, int row) const {
 }
 
 std::optional<FileRecords> UnitRecords::Read(std::string_view bytes) const {
-    TextParts cells(bytes);
+    std::vector<TextPlace> places;
+    TextParts cells(bytes, places);
     FileRecords records{RowTexts(kUnitsColumns), {}};
     try {
         records.dropped = Describe(AppendUnitCells(bytes, {}, cells));
     } catch (const RuntimeError&) {
         return std::nullopt;
     }
-    for (std::size_t cell = 0; cell < cells.Count(); ++cell) {
-        records.rows.Add(cells[cell]);
+    for (const auto place : places) {
+        records.rows.Add(place.In(bytes));
     }
     return records;
 }

@@ -137,18 +137,19 @@ std::string DescribeMisreading(const GridCells& grid, int row) {
 
 UnitsFileText::UnitsFileText(const GridCells& grid) {
     const int last = ToInt16(grid.Rows() - 1);
-    for (int row = 1; row <= last; ++row) {
-        size_ += grid.Text(row, kUnitDescription).size() + grid.Text(row, kUnit).size() + kSeparators;
-    }
-    text_ = std::make_unique_for_overwrite<char[]>(size_);
+    // Room for the header too, which costs less than leaving it out.
+    text_ = std::make_unique_for_overwrite<char[]>(grid.TextsSize() +
+                                                   static_cast<std::size_t>(grid.Rows()) * kSeparators);
+    const auto cells = grid.Read();
     char* at = text_.get();
     for (int row = 1; row <= last; ++row) {
-        at = Put(grid.Text(row, kUnitDescription), at);
+        at = Put(cells.Text(row, kUnitDescription), at);
         *at++ = ',';
-        at = Put(grid.Text(row, kUnit), at);
+        at = Put(cells.Text(row, kUnit), at);
         *at++ = '\r';
         *at++ = '\n';
     }
+    size_ = static_cast<std::size_t>(at - text_.get());
 }
 
 } // namespace zy

@@ -60,7 +60,7 @@ void mUnits::ReadUnits() {
         return;
     }
     const auto size = static_cast<std::uint32_t>(opened.handle->Size());
-    const auto text = Share(ReadFileText(*opened.handle, size));
+    const auto text = ShareFileText(*opened.handle, size);
     static_cast<void>(opened.handle->Close()); // nothing was written that it could lose
     const bool whole = text->size() == size;
     const auto path = files_.DisplayPath(state_.gsUnitsFile);

@@ -44,7 +44,7 @@ std::string ChangesByOthers::Notice() const {
 }
 
 void ChangesByOthers::HideNotice() {
-    ignored_.reset();
+    ignored_ = nullptr;
     if (form_.HideNotice()) {
         editor_.Steps().ShowHere();
     }

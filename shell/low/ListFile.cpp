@@ -26,8 +26,8 @@ SharedText ListFile::Read() const {
         return nullptr;
     }
     const auto size = static_cast<std::uint32_t>(opened.handle->Size());
-    auto bytes = ReadFileText(*opened.handle, size);
-    return bytes.size() == size ? Share(std::move(bytes)) : nullptr;
+    const auto bytes = ShareFileText(*opened.handle, size);
+    return bytes->size() == size ? bytes : nullptr;
 }
 
 bool ListFile::IsChanged() const {
@@ -38,7 +38,7 @@ bool ListFile::IsChanged() const {
     }
     const auto size = opened.handle->Size();
     if (!known_ || size != known_->size()) {
-        return Read() != nullptr;
+        return static_cast<bool>(Read());
     }
     std::string block(std::min(known_->size(), kBlockSize), '\0');
     bool differs = false;

@@ -26,7 +26,7 @@ class ListFile {
     /// What it held then; null as above.
     const SharedText& Known() const { return known_; }
     /// The same, empty for null.
-    std::string_view KnownText() const { return known_ ? std::string_view(*known_) : std::string_view(); }
+    std::string_view KnownText() const { return *known_; }
     /// The list is what the file holds now, or will be when it is saved over it.
     void TakeUp(SharedText bytes) { known_ = std::move(bytes); }
     /// Whether another program put these bytes there. A file that is gone or cannot be read is not a changed

@@ -1,5 +1,8 @@
 #include "shell/mZYGlobal.h"
 
+#include <memory>
+#include <span>
+
 #include "basics/RuntimeError.h"
 
 namespace zy {
@@ -28,6 +31,13 @@ std::string ReadFileText(FileHandle& file, std::uint32_t count) {
         text.resize(file.Read(text));
     }
     return text;
+}
+
+SharedText ShareFileText(FileHandle& file, std::uint32_t count) {
+    const std::shared_ptr<char[]> bytes = std::make_unique_for_overwrite<char[]>(count);
+    const std::span buffer(bytes.get(), count);
+    const auto size = count == 0 ? 0 : file.Read(buffer);
+    return {bytes, {bytes.get(), size}};
 }
 
 bool HoldsText(FileSystem& files, std::string_view path, std::string_view text) {

@@ -8,6 +8,7 @@
 
 #include "basics/Bool16.h"
 #include "basics/Marks.h"
+#include "basics/SharedText.h"
 #include "basics/Text.h"
 #include "platform/FileSystem.h"
 #include "platform/NativeWindow.h"
@@ -56,6 +57,9 @@ std::string_view FolderOf(std::string_view path);
 /// Reads up to `count` bytes from the handle's position. Shorter at the end of the file or when reading
 /// fails.
 std::string ReadFileText(FileHandle& file, std::uint32_t count);
+
+/// The same, for several to hold.
+SharedText ShareFileText(FileHandle& file, std::uint32_t count);
 
 /// Whether a file is there, can be read, and holds this text and nothing else.
 bool HoldsText(FileSystem& files, std::string_view path, std::string_view text);

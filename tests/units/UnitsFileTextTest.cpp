@@ -12,11 +12,12 @@ namespace zy::test {
 namespace {
 
 std::vector<std::string> CellsOf(std::string_view text) {
-    TextParts cells(text);
+    std::vector<TextPlace> places;
+    TextParts cells(text, places);
     AppendUnitCells(text, "path", cells);
     std::vector<std::string> texts;
-    for (std::size_t cell = 0; cell < cells.Count(); ++cell) {
-        texts.emplace_back(cells[cell]);
+    for (const auto place : places) {
+        texts.emplace_back(place.In(text));
     }
     return texts;
 }
@@ -48,13 +49,14 @@ TEST(UnitsFileText, GivesTheFirstTwoFieldsThatSplitFieldsGivesForEachLine) {
 
 TEST(UnitsFileText, AppendsToTheCellsThatAreThere) {
     constexpr std::string_view kText = "A,a\r\n";
-    TextParts cells(kText);
+    std::vector<TextPlace> places;
+    TextParts cells(kText, places);
     cells.Append(kText.substr(1, 1));
     AppendUnitCells(kText, "path", cells);
-    ASSERT_EQ(cells.Count(), 3U);
-    EXPECT_EQ(cells[0], ",");
-    EXPECT_EQ(cells[1], "a");
-    EXPECT_EQ(cells[2], "A");
+    ASSERT_EQ(places.size(), 3U);
+    EXPECT_EQ(places[0].In(kText), ",");
+    EXPECT_EQ(places[1].In(kText), "a");
+    EXPECT_EQ(places[2].In(kText), "A");
 }
 
 } // namespace
