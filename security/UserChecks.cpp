@@ -1,7 +1,10 @@
 #include "security/UserChecks.h"
 
+#include <bit>
+#include <cstdint>
+#include <functional>
 #include <string>
-#include <unordered_map>
+#include <vector>
 
 #include "basics/Date.h"
 #include "basics/Int16.h"
@@ -10,6 +13,42 @@
 #include "shell/Application.h"
 
 namespace zy {
+namespace {
+
+/// Finds the first of several rows that bear the same name. What is held of a row are eight bytes, so that
+/// tens of thousands of names take no more time each than some hundred do.
+class FirstRows {
+  public:
+    explicit FirstRows(std::size_t rows) : rowAt_(std::bit_ceil(rows + rows / 3 + 1)), hashes_(rows) {}
+
+    /// The first of the rows that were taken with that name; this one where there is none. `bears` tells
+    /// whether a row has it.
+    template <typename Bears>
+    int Take(int row, const std::string& name, const Bears& bears) {
+        const auto hash = std::hash<std::string>()(name);
+        const auto mask = rowAt_.size() - 1;
+        auto at = hash & mask;
+        const auto isOther = [&](int taken) {
+            return taken != 0 && (HashOf(taken) != static_cast<std::uint32_t>(hash) || !bears(taken));
+        };
+        while (isOther(rowAt_[at])) {
+            at = (at + 1) & mask;
+        }
+        if (rowAt_[at] == 0) {
+            rowAt_[at] = row;
+            HashOf(row) = static_cast<std::uint32_t>(hash);
+        }
+        return rowAt_[at];
+    }
+
+  private:
+    std::uint32_t& HashOf(int row) { return hashes_[static_cast<std::size_t>(row)]; }
+
+    std::vector<int> rowAt_; ///< where the name's hash points to, or behind that; 0 for none
+    std::vector<std::uint32_t> hashes_;
+};
+
+} // namespace
 
 UserChecks::UserChecks(GridCells& grid, Dialogs& dialogs, const CodePage& codePage)
     : grid_(grid), dialogs_(dialogs), codePage_(codePage) {}
@@ -27,13 +66,14 @@ std::optional<Cell> UserChecks::FirstFailure() {
 
 std::vector<int> UserChecks::RowsOfSameName() const {
     std::vector<int> others(static_cast<std::size_t>(grid_.Rows()));
-    std::unordered_map<std::string, int> firstRows;
-    firstRows.reserve(others.size());
+    FirstRows firstRows(others.size());
     for (int row = 1; row < grid_.Rows(); ++row) {
-        const auto [name, isNew] = firstRows.try_emplace(codePage_.UCase(grid_.Text(row, kUserName)), row);
-        if (!isNew) {
-            others[static_cast<std::size_t>(row)] = name->second;
-            auto& ofFirst = others[static_cast<std::size_t>(name->second)];
+        const auto name = codePage_.UCase(grid_.Text(row, kUserName));
+        const int first = firstRows.Take(
+            row, name, [&](int taken) { return codePage_.UCase(grid_.Text(taken, kUserName)) == name; });
+        if (first != row) {
+            others[static_cast<std::size_t>(row)] = first;
+            auto& ofFirst = others[static_cast<std::size_t>(first)];
             ofFirst = ofFirst == 0 ? row : ofFirst;
         }
     }

@@ -1,3 +1,6 @@
+#include <random>
+#include <string>
+
 #include "UsersTest.h"
 
 namespace zy::test {
@@ -11,6 +14,8 @@ class ValidateUsers : public UsersTest {
         StartOver({User("Ann"), User("Bob"), User("Cid")});
         grid().selection.Select(3, 0);
     }
+
+    explicit ValidateUsers(const Users& users) { StartOver(users); }
 
     /// The checks fail with this message, and this cell becomes current.
     void ExpectRefused(const std::string& message, int row, int column) {
@@ -163,6 +168,36 @@ TEST_F(ValidateUsers, TheCellsOfARowAreCheckedInTheirOrder) {
 TEST_F(ValidateUsers, SingleQuotesPass) {
     grid().cells.SetText(1, kUserName, "O'Neil");
     ExpectPassed();
+}
+
+class ValidateManyUsers : public ValidateUsers {
+  protected:
+    static constexpr int kUsers = 4000;
+
+    ValidateManyUsers() : ValidateUsers(NumberedUsers()) {}
+
+  private:
+    static Users NumberedUsers() {
+        Users users;
+        for (int user = 1; user <= kUsers; ++user) {
+            users.push_back(User("USER" + std::to_string(user)));
+        }
+        return users;
+    }
+};
+
+TEST_F(ValidateManyUsers, EachTwoOfOneNameAreFound) {
+    constexpr unsigned kSeed = 20261123;
+    std::mt19937 random(kSeed);
+    ExpectPassed();
+    for (int tried = 0; tried < 20; ++tried) {
+        const int one = 1 + static_cast<int>(random() % (kUsers - 1));
+        const int other = one + 1 + static_cast<int>(random() % static_cast<unsigned>(kUsers - one));
+        const std::string before(grid().cells.Text(other, kUserName));
+        grid().cells.SetText(other, kUserName, "user" + std::to_string(one));
+        ExpectRefused("Invalid User Name. User Name must be unique.", other, 0);
+        grid().cells.SetText(other, kUserName, before);
+    }
 }
 
 } // namespace
