@@ -108,11 +108,16 @@ PathResolver::Start PathResolver::StartOf(std::string_view path) const {
 
 std::optional<std::string_view> PathResolver::Behind(std::string_view folder, std::string_view path) const {
     for (auto name = TakeName(folder); !name.empty(); name = TakeName(folder)) {
-        if (codePage_.UCase(TakeName(path)) != codePage_.UCase(name)) {
+        if (!IsSame(TakeName(path), name)) {
             return std::nullopt;
         }
     }
     return path;
+}
+
+bool PathResolver::IsSame(std::string_view left, std::string_view right) const {
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [this](char l, char r) { return codePage_.Upper(l) == codePage_.Upper(r); });
 }
 
 template <typename NameInFolder>
@@ -144,10 +149,9 @@ PathResolver::Names PathResolver::NamesIgnoringCase(const std::string& folder, s
     if (!entries) {
         return {.found = {}, .error = errno};
     }
-    const auto wanted = codePage_.UCase(name);
     Names names;
     while (const dirent* entry = NextEntry(*entries)) {
-        if (codePage_.UCase(text_.NameToInside(entry->d_name)) == wanted) {
+        if (IsSame(text_.NameToInside(entry->d_name), name)) {
             names.found.emplace_back(entry->d_name);
         }
     }

@@ -54,6 +54,8 @@ class PathResolver {
         int error = 0;
     };
 
+    /// Whether two names are equal but for case.
+    bool IsSame(std::string_view left, std::string_view right) const;
     Start StartOf(std::string_view path) const;
     /// The parts of a path behind a folder; nothing when it does not lead through that.
     std::optional<std::string_view> Behind(std::string_view folder, std::string_view path) const;

@@ -48,6 +48,16 @@ std::string_view TakeBytes(std::string_view& text, std::optional<char32_t>& char
     return bytes;
 }
 
+/// What a name begins with that is written alike in all code pages and in UTF-8, and means nothing but
+/// itself.
+std::string_view TakePlain(std::string_view& name) {
+    const auto isPlain = [](char c) { return c >= ' ' && c <= '~' && c != '\\' && c != '/'; };
+    const auto end = std::find_if_not(name.begin(), name.end(), isPlain);
+    const auto plain = name.substr(0, static_cast<std::size_t>(end - name.begin()));
+    name.remove_prefix(plain.size());
+    return plain;
+}
+
 bool CanBeInName(char c) {
     return c != '\0' && c != '/';
 }
@@ -55,7 +65,7 @@ bool CanBeInName(char c) {
 } // namespace
 
 std::string PathText::NameToInside(std::string_view name) const {
-    std::string inside;
+    std::string inside(TakePlain(name));
     while (!name.empty()) {
         std::optional<char32_t> character;
         const auto bytes = TakeBytes(name, character);
@@ -65,12 +75,13 @@ std::string PathText::NameToInside(std::string_view name) const {
         } else {
             AppendEscaped(inside, bytes);
         }
+        inside += TakePlain(name);
     }
     return inside;
 }
 
 std::optional<std::string> PathText::NameToOutside(std::string_view name) const {
-    std::string outside;
+    std::string outside(TakePlain(name));
     while (!name.empty()) {
         const char first = name.front();
         name.remove_prefix(1);
@@ -79,6 +90,7 @@ std::optional<std::string> PathText::NameToOutside(std::string_view name) const 
             return std::nullopt;
         }
         outside += first == kEscape ? std::string(1, *character) : codePage_.ToUtf8({&*character, 1});
+        outside += TakePlain(name);
     }
     return outside;
 }
