@@ -21,7 +21,7 @@ constexpr std::size_t kBlock = 16;
 static_assert(kBlock <= FileText::kMargin);
 
 /// Writes a text that stands in a file's.
-char* PutLoaded(std::string_view text, char* at) {
+inline char* PutLoaded(std::string_view text, char* at) {
     std::memcpy(at, text.data(), kBlock);
     for (auto done = kBlock; done < text.size(); done += kBlock) {
         std::memcpy(at + done, text.data() + done, kBlock);

@@ -127,7 +127,7 @@ class RulesParser {
 
     const RuleKey& Next() {
         const auto& next = kRuleKeys[next_];
-        next_ = (next_ + 1) % kRuleKeys.size();
+        next_ = next_ + 1 == kRuleKeys.size() ? 0 : next_ + 1;
         return next;
     }
 
@@ -158,7 +158,7 @@ class LineCutter {
             }
             end = Held().find('\n', searched);
         }
-        line = Held().substr(start_, end - start_);
+        line = {buffer_.data() + start_, end - start_};
         start_ = end + 1;
         return true;
     }
