@@ -14,6 +14,7 @@ int main(int argc, char** argv) {
 
     return desktop.Run([&] {
         zy::Program program(system.Get(desktop.Get()));
+        program.secretsAhead.Connect(zy::ForbidMemoryDumps);
         const zy::MainWindowView view(desktop, program.window);
 
         switch (zy::mMain(program)) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/posix/MemoryDumps.h"
 #include "platform/posix/PosixWorld.h"
 
 namespace zy {

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "controls/Event.h"
 #include "platform/World.h"
 #include "rules/RulesPage.h"
 #include "rules/mRules.h"
@@ -31,6 +32,9 @@ class Program {
     void Open(const std::string& path, Editor& editor, VersionKeeper::Keeps keeps);
     /// Calls what stands around the list of the editor that was started; nothing before one was.
     void WithList(void (ListSession::*call)());
+
+    /// The editor that is about to start will read passwords.
+    Event<> secretsAhead;
 
     World world;
     SharedState state;

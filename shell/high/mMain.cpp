@@ -51,6 +51,7 @@ StartUp StartRules(Program& program) {
 }
 
 StartUp StartSecurity(Program& program) {
+    program.secretsAhead.Raise();
     program.Open(program.securityPage.users.TablePath(), program.securityPage, VersionKeeper::Keeps::Nothing);
     program.file->TakeUp(program.file->Read());
     if (!program.securityPage.users.LoadSecurityData()) {

@@ -1,4 +1,7 @@
+#include <unistd.h>
+
 #include <filesystem>
+#include <fstream>
 
 #include <gmock/gmock.h>
 
@@ -13,6 +16,7 @@ namespace {
 namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
+using ::testing::MatchesRegex;
 using ::testing::Optional;
 
 /// What only Linux has: a program without a display, the user's folders, a session bus that may be missing.
@@ -24,9 +28,32 @@ class OnLinux : public Scene {
         Start(arguments);
         return Program().WaitForEnd();
     }
+    /// What the system tells of the child of a process.
+    static fs::path ProcessOf(int parent) {
+        const auto tasks = fs::path("/proc") / std::to_string(parent) / "task";
+        for (const auto& task : fs::directory_iterator(tasks)) {
+            int child = 0;
+            if (std::ifstream(task.path() / "children") >> child) {
+                return fs::path("/proc") / std::to_string(child);
+            }
+        }
+        return {};
+    }
     /// Puts a link in place of one of the settings files.
     void Link(const std::string& fileName, const std::string& target) const {
         fs::create_symlink(target, outside.Settings() / fileName);
+    }
+    /// The most that the system may write of the program's memory when that breaks off, as the system tells
+    /// it.
+    static std::string LargestDump() {
+        constexpr auto kLimit = "Max core file size";
+        std::ifstream limits(ProcessOf(::getpid()) / "limits");
+        for (std::string line; std::getline(limits, line);) {
+            if (line.starts_with(kLimit)) {
+                return line.substr(std::string_view(kLimit).size());
+            }
+        }
+        return {};
     }
     bool IsLink(const std::string& fileName) const { return fs::is_symlink(outside.Settings() / fileName); }
 };
@@ -50,6 +77,12 @@ TEST_F(OnLinux, AnEditorWithoutADisplaySaysSoAndEndsWithStatusOne) {
     EXPECT_EQ(StatusWithoutDisplay({"@RULES"}), 1);
     printed =
         "ZY Setup: There is no display to open a window on: start it in a desktop session, or set DISPLAY\n";
+}
+
+TEST_F(OnLinux, NothingOfThePasswordsInMemoryIsWrittenWhenTheProgramBreaksOff) {
+    OpenUsers();
+    EXPECT_THAT(LargestDump(), MatchesRegex(" +0 +0 +bytes +"));
+    Close();
 }
 
 TEST_F(OnLinux, AMissingSettingsFolderIsMadeInTheUsersDataFolder) {

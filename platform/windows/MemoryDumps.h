@@ -1,0 +1,9 @@
+#pragma once
+
+namespace zy {
+
+/// From here on the system keeps no picture of this process's memory when it breaks off. For memory that
+/// holds passwords.
+void ForbidMemoryDumps();
+
+} // namespace zy
