@@ -71,6 +71,8 @@ class Place:
         """Everything is as before the session."""
         for folder in (self.folder, self.memory):
             shutil.rmtree(folder)
+        if os.path.exists(self.log):
+            os.remove(self.log)
         shutil.copytree(os.path.join(self.pattern, "old"), self.folder)
         os.mkdir(self.memory, 0o700)
 
@@ -119,6 +121,8 @@ class Place:
 
     def traced_process(self):
         """The number of the process that the tracer has started; nothing before that."""
+        if not os.path.exists(self.log):
+            return 0
         with open(self.log, encoding="utf-8") as log:
             return int(log.readline() or 0)
 
