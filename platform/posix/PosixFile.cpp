@@ -32,7 +32,8 @@ OpenedFile Open(const std::string& path, int flags, mode_t permissions) {
         return {.handle = nullptr, .error = error};
     }
     static_cast<void>(::posix_fadvise(file.Number(), 0, 0, POSIX_FADV_SEQUENTIAL)); // only a hint
-    return {.handle = std::make_unique<PosixFile>(std::move(file)), .error = FileError::None};
+    const auto size = static_cast<std::uint64_t>(status.st_size);
+    return {.handle = std::make_unique<PosixFile>(std::move(file), size), .error = FileError::None};
 }
 
 FileError Status(const std::string& path, struct stat& status) {
@@ -43,7 +44,7 @@ FileError Status(const std::string& path, struct stat& status) {
 
 std::uint64_t PosixFile::Size() const {
     struct stat status {};
-    return ::fstat(file_.Number(), &status) == 0 ? static_cast<std::uint64_t>(status.st_size) : 0;
+    return ::fstat(file_.Number(), &status) == 0 ? static_cast<std::uint64_t>(status.st_size) : size_;
 }
 
 std::size_t PosixFile::Read(std::span<char> buffer) {

@@ -13,7 +13,9 @@ namespace zy {
 /// An open regular file.
 class PosixFile final : public FileHandle {
   public:
-    explicit PosixFile(FileDescriptor file) : file_(std::move(file)) {}
+    /// `size` is what is known of its size, for a disk that fails when it is asked again: a file that cannot
+    /// be looked at must not be taken for an empty one.
+    explicit PosixFile(FileDescriptor file, std::uint64_t size = 0) : file_(std::move(file)), size_(size) {}
 
     std::uint64_t Size() const override;
     std::size_t Read(std::span<char> buffer) override;
@@ -26,6 +28,7 @@ class PosixFile final : public FileHandle {
 
   private:
     FileDescriptor file_;
+    std::uint64_t size_;
 };
 
 enum class IfExists { Empties, Fails };

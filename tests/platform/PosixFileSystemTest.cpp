@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/posix/PosixFile.h"
 #include "support/AnotherDisk.h"
 #include "support/OrdinaryUser.h"
 #include "support/TemporaryFolder.h"
@@ -153,6 +154,17 @@ TEST_F(PosixFileSystemTest, ShowsAPathAsTheSystemHasIt) {
     folder.Put("Settings/ZYUnits.sys", "");
     EXPECT_EQ(files.DisplayPath(Path(R"(SETTINGS\ZYUNITS.SYS)")), folder.Path("Settings/ZYUnits.sys"));
     EXPECT_EQ(files.DisplayPath(Path(R"(SETTINGS\NEW.SYS)")), folder.Path("Settings/NEW.SYS"));
+}
+
+TEST_F(PosixFileSystemTest, KnowsTheSizeOfAnOpenedFileThatCanNoLongerBeLookedAt) {
+    folder.Put("a", "four");
+    const auto opened = OpenPosixFileForReading(folder.Path("a"));
+    ASSERT_NE(opened.handle, nullptr);
+    const int number = dynamic_cast<const PosixFile&>(*opened.handle).Descriptor().Number();
+    const FileDescriptor kept(::dup(number));
+    ::close(number);
+    EXPECT_EQ(opened.handle->Size(), 4U);
+    ::dup2(kept.Number(), number); // for the handle to close
 }
 
 TEST_F(PosixFileSystemTest, ClosesTheFileOfAHandleThatGoes) {
