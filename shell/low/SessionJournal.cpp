@@ -135,14 +135,20 @@ std::string EarlierSession::LastStep() const {
     return named == notes_.rend() ? "" : named->step.name;
 }
 
+bool EarlierSession::IsReadable(const Sight& sight) {
+    return sight.fingerprint != kUnreadable;
+}
+
 EarlierSession::Notes EarlierSession::NotesFor(std::string_view fingerprint) const {
     const auto seen = std::find_if(sights_.rbegin(), sights_.rend(), [&](const Sight& sight) {
-        return sight.fingerprint == fingerprint && fingerprint != kUnreadable;
+        return IsReadable(sight) && sight.fingerprint == fingerprint;
     });
     if (seen == sights_.rend()) {
-        // A list that nothing follows was noted when a save began.
-        const bool wasSaving =
-            !notes_.empty() && IsList(notes_.back()) && sights_.back().notes < notes_.size();
+        // A list that nothing follows was noted when a save began. What the file held after that save, where
+        // nobody could look at it, is nothing that somebody else has put there.
+        const auto known = std::find_if(sights_.rbegin(), sights_.rend(), IsReadable);
+        const bool wasSaving = !notes_.empty() && IsList(notes_.back()) &&
+                               (known == sights_.rend() || known->notes < notes_.size());
         return wasSaving ? Notes{Use::Replace, {notes_.back()}} : Notes{};
     }
     // What the file was found to hold after a save that failed goes on from the list that it was to hold.

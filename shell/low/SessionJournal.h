@@ -93,6 +93,7 @@ class EarlierSession {
         std::string fingerprint;
         std::size_t notes;
     };
+    static bool IsReadable(const Sight& sight);
 
     std::string path_;
     std::vector<Sight> sights_;

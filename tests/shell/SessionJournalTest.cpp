@@ -104,6 +104,14 @@ TEST(EarlierSession, ThatEndedInASavePutsTheListInPlaceOfWhateverIsThere) {
     EXPECT_THAT(lost.notes, SizeIs(1));
 }
 
+TEST(EarlierSession, ThatCouldNotReadWhatItsFailedSaveHadLeftPutsTheListInPlaceOfThat) {
+    const auto session =
+        JournalBytes().Header(1, "before").Note(Push("one")).Note(List()).Header(1, "?").Session();
+    const auto lost = session.NotesFor("half");
+    EXPECT_EQ(lost.use, EarlierSession::Use::Replace);
+    EXPECT_THAT(lost.notes, SizeIs(1));
+}
+
 TEST(EarlierSession, AFileThatNobodyCouldReadIsNotTheSameAsAnother) {
     const auto session = JournalBytes().Header(1, "?").Note(Push("one")).Session();
     EXPECT_EQ(session.NotesFor("?").use, EarlierSession::Use::None);
