@@ -125,7 +125,7 @@ std::optional<StepNote> StepNote::Of(std::string_view text) {
     if (note.HasStep()) {
         note.step = TakeStep(bytes);
     }
-    return bytes.AtEnd() ? std::optional(std::move(note)) : std::nullopt;
+    return bytes.AtEnd() && note.HasItsChanges() ? std::optional(std::move(note)) : std::nullopt;
 }
 
 StepNote StepNote::OfList(const RowList& rows, int first) {
@@ -135,7 +135,7 @@ StepNote StepNote::OfList(const RowList& rows, int first) {
 }
 
 bool StepNote::ReplayList(RowList& rows, History& history) const {
-    if (step.changes.size() != 1) {
+    if (!HasItsChanges()) {
         return false;
     }
     Step whole = step;

@@ -37,6 +37,8 @@ struct StepNote {
 
   private:
     bool HasStep() const { return kind != Kind::Undo && kind != Kind::Redo; }
+    /// A list is one change, that of all its rows.
+    bool HasItsChanges() const { return kind != Kind::List || step.changes.size() == 1; }
     bool ReplayList(RowList& rows, History& history) const;
 };
 

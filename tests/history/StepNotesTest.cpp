@@ -208,6 +208,15 @@ TEST(StepNotes, BytesThatAreCutOrTooManyAreNoNote) {
     EXPECT_FALSE(StepNote::Of("\x06"));
 }
 
+TEST(StepNotes, AListThatIsNotOneChangeIsNoNote) {
+    StepNote list{StepNote::Kind::List, {}};
+    EXPECT_FALSE(StepNote::Of(list.Bytes()));
+    list.step.changes.resize(1);
+    EXPECT_TRUE(StepNote::Of(list.Bytes()));
+    list.step.changes.resize(2);
+    EXPECT_FALSE(StepNote::Of(list.Bytes()));
+}
+
 TEST(StepNotes, AnyByteChangedIsNoNoteOrOneThatDoesNoHarm) {
     Noted noted;
     noted.list.Do("Edit", [&] { noted.list.Set(2, 0, "new"); });
