@@ -21,9 +21,11 @@ void PrintTo(const Target& target, std::ostream* out) {
     *out << target.name;
 }
 
-constexpr std::array<Target, 11> kTargets{{{"FileNames", FileNames},
+constexpr std::array<Target, 14> kTargets{{{"FileNames", FileNames},
                                            {"IndexFile", IndexFile},
                                            {"IniFile", IniFile},
+                                           {"Journal", Journal},
+                                           {"JournalSteps", JournalSteps},
                                            {"Numbers", Numbers},
                                            {"PastedCells", PastedCells},
                                            {"RulesBlocks", RulesBlocks},
@@ -31,7 +33,8 @@ constexpr std::array<Target, 11> kTargets{{{"FileNames", FileNames},
                                            {"SqlStatement", SqlStatement},
                                            {"TableFile", TableFile},
                                            {"Texts", Texts},
-                                           {"UnitsText", UnitsText}}};
+                                           {"UnitsText", UnitsText},
+                                           {"VersionPlan", VersionPlan}}};
 
 std::string Bytes(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary);

@@ -15,6 +15,11 @@ void FileNames(std::string_view input);
 void IndexFile(std::string_view input);
 /// A settings file of the INI kind through load, save and load again, against the plainest way to read it.
 void IniFile(std::string_view input);
+/// The journal of a session that ended before it could save, as any bytes and piece by piece: what the next
+/// session makes of it.
+void Journal(std::string_view input);
+/// Steps of a session that breaks off, done again by the next one.
+void JournalSteps(std::string_view input);
 /// The parser of numbers, against the C library's.
 void Numbers(std::string_view input);
 /// A text pasted into a grid, copied from there, and pasted into another one.
@@ -31,6 +36,8 @@ void TableFile(std::string_view input);
 void Texts(std::string_view input);
 /// The text of a units file, against the plainest way to read it, and written again from a grid.
 void UnitsText(std::string_view input);
+/// Which of the earlier versions of a file are kept.
+void VersionPlan(std::string_view input);
 
 class BrokenPromise : public std::logic_error {
   public:
