@@ -221,6 +221,10 @@ void RuleSteps::ReplaceDraft(const RowTexts& rows) {
 
 void RuleSteps::Show(const StepPlace& place) {
     const auto draft = std::exchange(draft_, std::nullopt);
+    if (!draft && !listChanged_ && HasDraft()) {
+        GiveFocus(place.column); // showing the rule anew would drop what is typed
+        return;
+    }
     const bool isDraft = draft && !draft->rule.empty();
     ShowList();
     ShowRule(isDraft ? std::stoi(draft->rule)

@@ -121,7 +121,8 @@ bool ChangesByOthers::Settle(const SharedText& theirs, frmMerge::Purpose purpose
     const auto ours = records.Comparable(mine);
     const auto others = records.Comparable(read->rows);
     if (others == ours || (others == base && purpose == frmMerge::Purpose::Save)) {
-        GoOnFrom(theirs, others == ours);
+        // What is typed and not stored in a rule is in no file yet.
+        GoOnFrom(theirs, others == ours && editor_.Steps().RowOfTyping() == kNoRow);
         return true;
     }
     RowMerge merge(base, ours, others, KeyOf(records));

@@ -418,6 +418,28 @@ TEST_F(RulesOfTwoPrograms, WhatIsTypedAndNotStoredGoesWithARuleThatSomebodyElseC
     EXPECT_EQ(page().txtMin.Text(), "2");
 }
 
+TEST_F(RulesOfTwoPrograms, WhoeverIgnoresAChangeKeepsWhatIsTypedAndNotStored) {
+    TypeMin("2");
+    WriteFile({Rule("A", "3"), Rule("B", "1"), Rule("C", "1")});
+    window().activated.Raise();
+    form().lblIgnore.Click();
+    EXPECT_EQ(page().txtMin.Text(), "2");
+    EXPECT_TRUE(list().HasFocus());
+}
+
+TEST_F(RulesOfTwoPrograms, WhatIsTypedAndNotStoredIsStillToBeSavedWhereTheListIsWhatTheFileHoldsNow) {
+    TypeMin("2");
+    world.files.Put(kRulesFile, "; a remark\r\n" + Text({Rule("A", "1"), Rule("B", "1"), Rule("C", "1")}));
+    window().activated.Raise();
+    form().lblShow.Click();
+    EXPECT_FALSE(form().fraNotice.Visible());
+    EXPECT_NE(ValueOf(form().ChangeFlag), 0);
+    AskedToRestore asked;
+    ExpectRecovery(world, asked, &frmRecovery::cmdRestore);
+    ASSERT_EQ(StartAfterBreak("@RULES"), StartUp::WindowShown);
+    EXPECT_EQ(page().txtMin.Text(), "2");
+}
+
 TEST_F(RulesOfTwoPrograms, ASaveAtClosingMergesTheRulesAsTheyAreHeld) {
     PickRule(3);
     list().Press({.key = Key::Up, .alt = true});
