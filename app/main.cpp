@@ -1,6 +1,7 @@
 #include "SystemWorld.h"
 #include "desktop/Desktop.h"
 #include "desktop/MainWindowView.h"
+#include "shell/Application.h"
 #include "shell/Program.h"
 #include "shell/mMain.h"
 
@@ -14,11 +15,13 @@ int main(int argc, char** argv) {
 
     return desktop.Run([&] {
         zy::Program program(system.Get(desktop.Get()));
+        zy::LeaveCrashNotes(zy::VersionOf(zy::ThisApplication()), program.trace.Last());
         program.secretsAhead.Connect(zy::ForbidMemoryDumps);
         const zy::MainWindowView view(desktop, program.window);
 
         switch (zy::mMain(program)) {
         case zy::StartUp::WindowShown:
+            program.TellOfCrash(zy::TakeCrashNote(system.codePage));
             return desktop.RunUntilClosed();
         case zy::StartUp::Ended:
             return 0;

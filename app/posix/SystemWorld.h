@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/posix/CrashNotes.h"
 #include "platform/posix/MemoryDumps.h"
 #include "platform/posix/PosixWorld.h"
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/windows/CrashNotes.h"
 #include "platform/windows/MemoryDumps.h"
 #include "platform/windows/WindowsWorld.h"
 

@@ -43,6 +43,13 @@ void Program::Open(const std::string& path, Editor& editor, VersionKeeper::Keeps
     list->rebased.Connect([this] { recovery.GoOnFromFile(); });
 }
 
+void Program::TellOfCrash(const std::optional<std::string>& note) {
+    if (note) {
+        const auto hint = "ZY Setup broke off the last time it ran; its support needs " + *note;
+        AddHint(form.zyStatusBar, hint);
+    }
+}
+
 void Program::WithList(void (ListSession::*call)()) {
     if (list) {
         (*list.*call)();

@@ -30,6 +30,8 @@ class Program {
 
     /// An editor is about to load its list from this file. What that holds is to be told to `file`.
     void Open(const std::string& path, Editor& editor, VersionKeeper::Keeps keeps);
+    /// Says in the status bar where the note of an earlier run that broke off is, where there is one.
+    void TellOfCrash(const std::optional<std::string>& note);
     /// Calls what stands around the list of the editor that was started; nothing before one was.
     void WithList(void (ListSession::*call)());
 

@@ -9,4 +9,9 @@ Application ThisApplication() {
             .revision = ZY_VERSION_PATCH};
 }
 
+std::string VersionOf(const Application& application) {
+    return std::to_string(application.majorVersion) + "." + std::to_string(application.minorVersion) + "." +
+           std::to_string(application.revision);
+}
+
 } // namespace zy

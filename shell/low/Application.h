@@ -19,4 +19,7 @@ struct Application {
 /// This program, of the version that it was built as.
 Application ThisApplication();
 
+/// The version as files and notes have it, such as "1.0.0".
+std::string VersionOf(const Application& application);
+
 } // namespace zy

@@ -21,6 +21,7 @@ TraceChannel::TraceChannel(TraceServers& servers, std::string executableName)
     : servers_(servers), executableName_(std::move(executableName)) {}
 
 void TraceChannel::DebugTrace(std::string_view module, std::string_view procedure, std::string_view message) {
+    last_.Note(module, procedure);
     if (state_ == TraceState::GivenUp) {
         return;
     }

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/LastSteps.h"
 #include "platform/TraceServers.h"
 
 namespace zy {
@@ -29,12 +30,16 @@ class TraceChannel {
     /// fails.
     void DebugTrace(std::string_view module, std::string_view procedure, std::string_view message);
 
+    /// The last of these records, whether there was a viewer or not, without their messages.
+    const LastSteps& Last() const { return last_; }
+
   private:
     enum class TraceState : std::int16_t { GivenUp = -1, NotTried = 0, Reached = 1 };
 
     TraceServers& servers_;
     std::string executableName_;
     TraceState state_ = TraceState::NotTried;
+    LastSteps last_;
 };
 
 } // namespace zy

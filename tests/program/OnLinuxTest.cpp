@@ -1,7 +1,9 @@
 #include <unistd.h>
 
+#include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 
 #include <gmock/gmock.h>
 
@@ -14,9 +16,14 @@ namespace zy::test {
 namespace {
 
 namespace fs = std::filesystem;
+using ::testing::AllOf;
+using ::testing::Contains;
+using ::testing::Each;
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::MatchesRegex;
+using ::testing::Not;
 using ::testing::Optional;
 
 /// What only Linux has: a program without a display, the user's folders, a session bus that may be missing.
@@ -38,6 +45,20 @@ class OnLinux : public Scene {
             }
         }
         return {};
+    }
+    /// The paths of all files of the user's that hold a text.
+    std::vector<std::string> FilesWith(const std::string& wanted) const {
+        std::vector<std::string> found;
+        for (const auto& entry : fs::recursive_directory_iterator(outside.Output(""))) {
+            if (entry.is_regular_file()) {
+                std::ifstream file(entry.path(), std::ios::binary);
+                const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+                if (bytes.find(wanted) != std::string::npos) {
+                    found.push_back(entry.path().string());
+                }
+            }
+        }
+        return found;
     }
     /// Puts a link in place of one of the settings files.
     void Link(const std::string& fileName, const std::string& target) const {
@@ -83,6 +104,53 @@ TEST_F(OnLinux, NothingOfThePasswordsInMemoryIsWrittenWhenTheProgramBreaksOff) {
     OpenUsers();
     EXPECT_THAT(LargestDump(), MatchesRegex(" +0 +0 +bytes +"));
     Close();
+}
+
+TEST_F(OnLinux, AProgramThatAMistakeEndsLeavesANoteWithoutAnyValue) {
+    OpenUnits();
+    TypeCharacters("Marked");
+    PressKeys("Tab");
+    Program().Signal(SIGSEGV);
+    constexpr int kSignalled = 128;
+    EXPECT_EQ(Program().WaitForEnd(), kSignalled + SIGSEGV);
+    const auto note = fs::path(outside.environment.set["XDG_STATE_HOME"]) / "zysetup" / "crash.txt";
+    std::ifstream file(note);
+    const std::string text{std::istreambuf_iterator<char>(file), {}};
+    EXPECT_THAT(text, AllOf(HasSubstr("\nSignal 11\n"), HasSubstr("\nmUnits LoadUnitsData\n"),
+                            HasSubstr("zyGlobal(+0x"), Not(HasSubstr("Marked"))));
+}
+
+TEST_F(OnLinux, APasswordIsInNothingThatTheProgramTouchesButTheTable) {
+    StartViewer();
+    Put("ZYSECURE.DBF", TableOf("ADMIN"));
+    Start({"@SECURITY"});
+    ASSERT_TRUE(WaitForWindow("ZY Setup Security Login"));
+    TypeCharacters("admin");
+    PressKeys("Tab");
+    TypeCharacters("MarkedWrong");
+    PressKeys("Return");
+    ASSERT_TRUE(WaitForWindow("Login"));
+    PressKeys("Return");
+    ASSERT_TRUE(WaitForWindow("ZY Setup Security Login"));
+    TypeCharacters("secret");
+    PressKeys("Return");
+    ASSERT_TRUE(WaitForWindow(kUsersTitle));
+    PressKeys("ctrl+Home Tab");
+    TypeCharacters("MarkedSaved");
+    PressKeys("Return");
+    PressKeys("ctrl+s");
+    ASSERT_TRUE(WaitUntil([this] { return Get("ZYSECURE.DBF").find("MarkedSaved") != std::string::npos; }));
+    PressKeys("ctrl+Home Tab");
+    TypeCharacters("MarkedUnsaved");
+    PressKeys("Return");
+    EXPECT_THAT(FilesWith("Marked"), Each(EndsWith(".DBF")));
+    EXPECT_THAT(FilesWith("MarkedSaved"), Contains(EndsWith("system/ZYSECURE.DBF")))
+        << "it is not looked for rightly";
+    Program().Signal(SIGSEGV);
+    EXPECT_NE(Program().WaitForEnd(), std::nullopt);
+    EXPECT_THAT(FilesWith("Marked"), Each(EndsWith(".DBF")));
+    EXPECT_THAT(FilesWith("mSecurity"), Contains(EndsWith("crash.txt")));
+    EXPECT_THAT(Traces(), Each(Not(HasSubstr("Marked"))));
 }
 
 TEST_F(OnLinux, AMissingSettingsFolderIsMadeInTheUsersDataFolder) {

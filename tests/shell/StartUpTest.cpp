@@ -10,6 +10,7 @@ using namespace std::string_literals; // for command lines that hold a NUL
 
 using ::testing::Contains;
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
 
@@ -72,6 +73,16 @@ TEST_F(StartUpTest, OpensTheUnitsEditorInThisOrder) {
                             "trace frmGlobalSettings ShowUnits Rules", "trace mUnits LoadUnitsData Start"));
     ExpectModes(false, false, true);
     EXPECT_TRUE(form().Visible());
+}
+
+TEST_F(StartUpTest, SaysWhereTheNoteOfARunThatBrokeOffIs) {
+    Start("@UNITS");
+    const std::string before(form().zyStatusBar.Text());
+    program().TellOfCrash(std::nullopt);
+    EXPECT_EQ(form().zyStatusBar.Text(), before);
+    program().TellOfCrash("a path");
+    EXPECT_THAT(form().zyStatusBar.Text(),
+                HasSubstr("ZY Setup broke off the last time it ran; its support needs a path"));
 }
 
 TEST_F(StartUpTest, LeavesOneModeOnWhicheverWereOnBefore) {

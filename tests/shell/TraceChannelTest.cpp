@@ -32,6 +32,14 @@ TEST_F(TraceChannelTest, AsksForTheViewersRegisteredName) {
     EXPECT_EQ(world.traceServers.Records().size(), 1U);
 }
 
+TEST_F(TraceChannelTest, KnowsItsLastRecordsWithoutAViewerAndWithoutTheirMessages) {
+    Trace("a value");
+    channel.DebugTrace("frmLogin", "cmdOK_Click", "Start");
+    ASSERT_EQ(channel.Last().Count(), 2U);
+    EXPECT_EQ(channel.Last()[0], "mRules EditRule");
+    EXPECT_EQ(channel.Last()[1], "frmLogin cmdOK_Click");
+}
+
 TEST_F(TraceChannelTest, GivesUpForGoodWhenTheFirstLookFindsNoViewer) {
     Trace("first");
     world.traceServers.SetRunning(true);
