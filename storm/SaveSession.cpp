@@ -12,7 +12,8 @@
 
 // save_session @RULES|@SECURITY|@UNITS [mark]: one session of an editor, without a window, over the real
 // files, notes, earlier versions, recycle bin and registry. Restores what an earlier session has left; puts
-// the mark into the first record; saves; closes. Says on standard output what happens, one line each:
+// the mark into the first record; saves, where there are records; closes. Says on standard output what
+// happens, one line each:
 //
 //   restored    the notes of an earlier session were found, and taken up
 //   saving      the save begins
@@ -73,13 +74,9 @@ class SaveSession {
             throw RuntimeError(kInvalidArgument, "there is no editor " + argument_);
         }
         BeIdle();
-        if (!mark.empty()) {
-            PutIntoFirstRecord(mark);
-            BeIdle();
+        if (HasRecords()) {
+            Save(mark);
         }
-        Say("saving");
-        program_.window.menu.mnuSave.Click();
-        BeIdle();
         Say("said", program_.form.zyStatusBar.Text());
         WaitForLine();
         if (program_.window.Unload()) {
@@ -93,19 +90,35 @@ class SaveSession {
   private:
     void BeIdle() { program_.window.idle.Raise(); }
 
+    bool IsOfRules() const { return argument_ == "@RULES"; }
+    /// Of users or units.
+    Grid& TheGrid() {
+        return argument_ == "@UNITS" ? program_.unitsPage.controls.grdUnits
+                                     : program_.securityPage.controls.grdSecurity;
+    }
+    /// A list that came out empty is none that anybody would save over a file.
+    bool HasRecords() {
+        return IsOfRules() ? program_.rules.gaRules.UBound() > 0 : TheGrid().cells.Rows() > 1;
+    }
+
+    void Save(std::string_view mark) {
+        if (!mark.empty()) {
+            PutIntoFirstRecord(mark);
+            BeIdle();
+        }
+        Say("saving");
+        program_.window.menu.mnuSave.Click();
+        BeIdle();
+    }
+
     void PutIntoFirstRecord(std::string_view mark) {
-        if (argument_ == "@RULES") {
+        if (IsOfRules()) {
             auto& page = program_.rulesPage.controls;
             page.lstRulesList.Pick(1);
             page.txtDescription.Enter(mark);
-        } else if (argument_ == "@UNITS") {
-            PutIntoCell(program_.unitsPage.controls.grdUnits, mark);
-        } else {
-            PutIntoCell(program_.securityPage.controls.grdSecurity, mark);
+            return;
         }
-    }
-
-    static void PutIntoCell(Grid& grid, std::string_view mark) {
+        auto& grid = TheGrid();
         grid.Pick(1, 0);
         grid.TypeOver(mark);
         grid.editor.Commit();

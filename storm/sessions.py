@@ -103,6 +103,12 @@ class Place:
         return subprocess.Popen(command, env=self.environment(), stdin=subprocess.PIPE, stdout=subprocess.PIPE,
                                 text=True)
 
+    def start_window(self, program, deed=()):
+        """Starts the real program under the tracer. Returns the process of the tracer."""
+        self.renew()
+        return subprocess.Popen(self.traced([program, self.kind.argument], deed), env=self.environment(),
+                                stderr=subprocess.DEVNULL)
+
     def run(self, command):
         """Returns the status and the lines that were printed."""
         with self.start(command) as process:
@@ -180,13 +186,12 @@ class Place:
 
     def kept(self):
         """Where the old list stands besides."""
-        places = {"version": "state/zysetup/backups", "trash": "data/Trash/files"}
-        found = []
-        for place, folder in places.items():
-            contents = [comparable(self.kind.name, content) for content in contents_below(os.path.join(self.folder, folder))]
-            if self.old[self.kind.name] in contents:
-                found.append(place)
-        return " and ".join(found) or NOTHING
+        places = {"version": ["state/zysetup/backups"], "trash": ["data/Trash/files", "data/zysetup/Trash"]}
+        return " and ".join(place for place, folders in places.items() if self.stands_old_below(folders)) or NOTHING
+
+    def stands_old_below(self, folders):
+        contents = (content for folder in folders for content in contents_below(os.path.join(self.folder, folder)))
+        return any(comparable(self.kind.name, content) == self.old[self.kind.name] for content in contents)
 
     def start_again(self):
         """Does what a user is told to do after a session that broke off, and says which list stands there then."""

@@ -5,9 +5,13 @@ import subprocess
 import time
 
 import pyatspi
+from gi.repository import GLib
 
-PATIENCE = 20  # seconds
+PATIENCE = 60  # seconds, on a machine that has other work to do
 QUESTION = "ZY Setup - Changed by Another Program"
+
+
+GONE = GLib.GError  # raised by whoever looks at a window that is just going
 
 
 def wait_for(look, what):
