@@ -7,6 +7,7 @@
 #include "basics/RuntimeError.h"
 #include "basics/Text.h"
 #include "dbase/ErrorNumbers.h"
+#include "shell/ListFile.h"
 #include "shell/SaveTurn.h"
 
 namespace zy {
@@ -68,7 +69,7 @@ bool UsersReader::FindsTable() {
     const auto table = database_.TablePath();
     RequireCertain(files_, database_.LocationFile());
     RequireCertain(files_, table);
-    return files_.Exists(table);
+    return FindsFile(files_, table);
 }
 
 LoadedUsers UsersReader::Read() {

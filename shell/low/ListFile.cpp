@@ -9,6 +9,29 @@
 
 namespace zy {
 
+bool FindsFile(FileSystem& files, std::string_view path) {
+    if (files.Exists(path)) {
+        return true;
+    }
+    switch (files.OpenForReading(path).error) {
+    case FileError::NotFound:
+    case FileError::IsFolder:
+        return false;
+    case FileError::None:
+        return files.Exists(path); // one that is hidden counts as missing
+    default:
+        return true;
+    }
+}
+
+std::string DescribeMissed(FileSystem& files, std::string_view path) {
+    if (!FindsFile(files, path)) {
+        return {};
+    }
+    return std::string(FileNameOf(path)) + " could not be read: " + std::string(Describe(FileError::Other)) +
+           "; saving replaces all that it holds";
+}
+
 ListFile::ListFile(FileSystem& files, std::string path) : files_(files), path_(std::move(path)) {}
 
 std::string_view ListFile::Name() const {
@@ -28,6 +51,17 @@ SharedText ListFile::Read() const {
     const auto size = static_cast<std::uint32_t>(opened.handle->Size());
     const auto bytes = ShareFileText(*opened.handle, size);
     return bytes->size() == size ? bytes : nullptr;
+}
+
+FileError ListFile::ReasonNotRead() const {
+    if (const auto error = files_.Locate(path_); error != FileError::None) {
+        return error;
+    }
+    if (!FindsFile(files_, path_)) {
+        return FileError::None;
+    }
+    const auto error = files_.OpenForReading(path_).error;
+    return error == FileError::None ? FileError::Other : error;
 }
 
 bool ListFile::IsChanged() const {

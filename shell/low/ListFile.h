@@ -9,6 +9,14 @@
 
 namespace zy {
 
+/// Whether a list's file is there. Where it is not found, opening it has to say so too: a disk that fails at
+/// looking must not be taken for an installation without the file.
+bool FindsFile(FileSystem& files, std::string_view path);
+
+/// Says for the status bar of a file that a list was loaded without, that it is there all the same: the disk
+/// failed when it was looked for. Empty where there is none.
+std::string DescribeMissed(FileSystem& files, std::string_view path);
+
 /// The file of a list, and what it held when the list was loaded from it or saved to it last.
 ///
 /// Only its bytes tell whether it was changed: the time of a file on another computer says little, and a file
@@ -23,6 +31,8 @@ class ListFile {
     /// What it holds now; null where there is no file, where it cannot be read, and where it is not certain
     /// which one it is.
     SharedText Read() const;
+    /// Why Read() gave nothing; None where there is no file.
+    FileError ReasonNotRead() const;
     /// What it held then; null as above.
     const SharedText& Known() const { return known_; }
     /// The same, empty for null.

@@ -28,6 +28,24 @@ TEST_F(LoadUsers, ATableWithoutAnAdministratorOpensWithoutALogin) {
     EXPECT_THAT(Traces(), Contains("mSecurity LoadSecurityData Load Complete"));
 }
 
+TEST_F(LoadUsers, ADiskThatFailsAtAnyMomentOpensNoEditorAsIfThereWereNoTable) {
+    PutTable({User("Ann")});
+    for (const bool lasting : {false, true}) {
+        std::size_t operation = 0;
+        do {
+            ++operation;
+            world.files.Plan({.operation = operation, .lasting = lasting});
+            try {
+                Start("@SECURITY");
+                EXPECT_FALSE(page().users.newSecurityFile) << operation << lasting;
+            } catch (const RuntimeError&) {
+                EXPECT_NE(world.files.Operations().Faults(), 0U);
+            }
+        } while (world.files.Operations().Faults() != 0);
+        EXPECT_GT(operation, 3U) << "the table is looked for, opened and read";
+    }
+}
+
 TEST_F(LoadUsers, ColumnsAreTakenByTheirPlaceNotByTheirNames) {
     dbase::DBEngine engine(world.files, [this] { return world.system.Today(); });
     world.files.AddFolder(R"(C:\SYS)");

@@ -22,6 +22,32 @@ class ListFileTest : public WorldTest {
     ListFile file{world.files, kPath};
 };
 
+TEST_F(ListFileTest, IsFoundOnADiskThatFailsAtLooking) {
+    for (const bool lasting : {false, true}) {
+        world.files.Plan({.operation = 1, .lasting = lasting});
+        EXPECT_TRUE(FindsFile(world.files, kPath)) << lasting;
+    }
+}
+
+TEST_F(ListFileTest, IsNotFoundWhereThereIsNone) {
+    world.files.Take(kPath);
+    EXPECT_FALSE(FindsFile(world.files, kPath));
+    world.files.AddFolder(kPath);
+    EXPECT_FALSE(FindsFile(world.files, kPath)) << "a folder";
+}
+
+TEST_F(ListFileTest, SaysWhyItWasNotRead) {
+    world.files.SetUnreadable(kPath);
+    EXPECT_EQ(file.ReasonNotRead(), FileError::AccessDenied);
+    world.files.SetUnreadable(kPath, false);
+    EXPECT_EQ(file.ReasonNotRead(), FileError::Other) << "at that moment";
+    world.files.SetUncertain(kPath, FileError::Ambiguous);
+    EXPECT_EQ(file.ReasonNotRead(), FileError::Ambiguous);
+    world.files.SetUncertain(kPath, FileError::None);
+    world.files.Take(kPath);
+    EXPECT_EQ(file.ReasonNotRead(), FileError::None) << "nothing to read";
+}
+
 TEST_F(ListFileTest, IsNotChangedWhereItHoldsWhatIsKnown) {
     EXPECT_FALSE(file.IsChanged());
     world.files.Put(kPath, text);
