@@ -21,7 +21,8 @@ SettingsLibrary::RuleCollection SettingsLibrary::Rules() {
     const std::string path = RulesFile();
     read_.clear();
     report_ = {};
-    if (files_.Exists(path)) {
+    hasFoundFile_ = files_.Exists(path);
+    if (hasFoundFile_) {
         const auto opened = files_.OpenForReading(path);
         if (!opened.handle) {
             RaisePathRefused(files_.DisplayPath(path) + ", " + std::string(Describe(opened.error)));

@@ -39,6 +39,8 @@ class SettingsLibrary {
     /// whole is run-time error 75 or 57, so that what is left of it is never taken for the whole list and
     /// saved as such.
     RuleCollection Rules();
+    /// Whether there was one when it was read last.
+    bool HasFoundFile() const { return hasFoundFile_; }
     /// What reading came upon that is no part of a rule and so would not be written back.
     const RulesReadReport& Report() const { return report_; }
 
@@ -51,6 +53,7 @@ class SettingsLibrary {
     std::deque<RunRule> read_;
     std::deque<RunRule> added_;
     RulesReadReport report_;
+    bool hasFoundFile_ = false;
 };
 
 } // namespace zy

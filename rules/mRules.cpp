@@ -4,6 +4,7 @@
 #include "rules/RulesFileText.h"
 #include "rules/RulesFormat.h"
 #include "rules/TemporaryRules.h"
+#include "shell/ListFile.h"
 #include "shell/StatusTexts.h"
 #include "shell/mZYGlobal.h"
 
@@ -36,7 +37,8 @@ void mRules::Build_Rules_Array() {
 
 void mRules::LookForDangers() {
     const auto rulesFile = Settings().RulesFile();
-    dangers_ = DescribeUnfinishedSave(files_, TemporaryFile(), rulesFile);
+    dangers_ = Settings().HasFoundFile() ? std::string() : DescribeMissed(files_, rulesFile);
+    Join(dangers_, "; ", DescribeUnfinishedSave(files_, TemporaryFile(), rulesFile));
     for (const auto& path : {rulesFile, TemporaryFile()}) {
         const auto uncertainty = Uncertainty(files_, path);
         Join(dangers_, "; ", uncertainty.empty() ? uncertainty : "saving is refused, " + uncertainty);

@@ -5,6 +5,7 @@
 
 #include "basics/Int16.h"
 #include "basics/Text.h"
+#include "shell/ListFile.h"
 #include "shell/SaveTurn.h"
 #include "shell/StatusTexts.h"
 #include "shell/mZYGlobal.h"
@@ -35,6 +36,8 @@ void mUnits::LoadUnitsData() {
     const bool found = files_.Exists(state_.gsUnitsFile);
     if (found) {
         ReadUnits();
+    } else {
+        dangers_ = DescribeMissed(files_, state_.gsUnitsFile);
     }
     LookForDangers();
     grdUnits_.cells.SetRedraw(true);

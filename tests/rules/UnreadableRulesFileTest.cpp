@@ -103,6 +103,15 @@ TEST_F(UnreadableRulesFile, CountsAsMissingWhenTheSearchForItFails) {
     EXPECT_THAT(Codes(), IsEmpty());
 }
 
+TEST_F(UnreadableRulesFile, IsToldToBeThereWhenTheSearchForItHasFailed) {
+    PutFile("[RULE]\r\n");
+    world.files.Plan({.operation = 1});
+    EXPECT_EQ(LoadError(), "");
+    rules.LookForDangers();
+    EXPECT_EQ(rules.Dangers(), "ZYRules.sys could not be read: the disk reported an error; saving replaces "
+                               "all that it holds");
+}
+
 TEST_F(UnreadableRulesFile, IsLoadedOnceItCanBeReadAgain) {
     PutFile("[RULE]\r\nCODE= A\r\n");
     world.files.SetUnreadable(kRulesFile);

@@ -94,6 +94,14 @@ TEST_F(LoadUnits, TakesAFileThatTheSearchDoesNotFindForMissing) {
     EXPECT_TRUE(controls.cmdSaveUnits.Enabled());
 }
 
+TEST_F(LoadUnits, SaysOfAFileThatTheSearchDidNotFindThatItIsThere) {
+    world.files.Put(kUnitsFile, "A,a\r\n");
+    world.files.Plan({.operation = 1}); // the search
+    Open();
+    EXPECT_EQ(page.units.Dangers(), "ZYUNITS.SYS could not be read: the disk reported an error; saving "
+                                    "replaces all that it holds");
+}
+
 TEST_F(LoadUnits, TakesAFolderOfThatNameForAMissingFile) {
     world.files.AddFolder(kUnitsFile);
     Open();
