@@ -22,14 +22,17 @@ VersionKeeper::VersionKeeper(ListFile& file, Editor& editor, EarlierVersions& ve
 
 /// A save goes on without it: what the user wants saved counts for more than what was there before.
 void VersionKeeper::Keep(std::string& refusal) {
-    const auto bytes = refusal.empty() ? file_.Read() : nullptr;
-    if (!bytes) {
+    if (!refusal.empty()) {
         return;
     }
-    const auto error = versions_.Keep(file_.Path(), *bytes);
-    isKept_ = error == FileError::None;
+    const auto bytes = file_.Read();
+    if (!bytes && !file_.Known()) {
+        return; // no file that anybody knew of
+    }
+    const auto error = bytes ? versions_.Keep(file_.Path(), *bytes) : file_.ReasonNotRead();
+    isKept_ = bytes && error == FileError::None;
     // Where the system has no place for them there is nothing that the user could do about it.
-    if (!isKept_ && error != FileError::NotFound) {
+    if (error != FileError::None && error != FileError::NotFound) {
         report_ = Failure("What this save replaced could not be kept as an earlier version", error);
     }
 }

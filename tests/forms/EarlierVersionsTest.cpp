@@ -132,6 +132,24 @@ TEST_F(EarlierVersionsOfUnits, ThatCannotBeKeptDoNotKeepTheSaveFromItsWork) {
     ExpectMarks(false, false);
 }
 
+TEST_F(EarlierVersionsOfUnits, ThatCannotBeReadFromTheFileAreSaidNotToBeKept) {
+    Edit(1, kUnit, "x");
+    world.files.SetUnreadable(kUnitsFile);
+    Save();
+    window().idle.Raise();
+    EXPECT_THAT(
+        Status(),
+        HasSubstr("What this save replaced could not be kept as an earlier version: access is denied"));
+}
+
+TEST_F(EarlierVersionsOfUnits, OfAFileThatIsNotThereAreNotMissed) {
+    Edit(1, kUnit, "x");
+    world.files.Take(kUnitsFile);
+    Save();
+    window().idle.Raise();
+    EXPECT_EQ(Status(), "Saved");
+}
+
 TEST_F(EarlierVersionsOfUnits, WithoutAPlaceForThemNothingIsSaid) {
     world.system.SetStateFolder("");
     EditAndSave("x");
