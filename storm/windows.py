@@ -11,7 +11,7 @@ PATIENCE = 60  # seconds, on a machine that has other work to do
 QUESTION = "ZY Setup - Changed by Another Program"
 
 
-GONE = GLib.GError  # raised by whoever looks at a window that is just going
+GONE = GLib.GError, TypeError  # raised by whoever looks at a window that is just going
 
 
 def wait_for(look, what):
