@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -65,6 +66,14 @@ class Chance {
                                                      std::string(40, 'w'),
                                                      std::string(300, 'l')};
         return Of(kTexts);
+    }
+
+    /// The same as a box of one line takes it.
+    std::string Line() {
+        auto text = Text();
+        std::replace_if(
+            text.begin(), text.end(), [](char c) { return c == '\t' || c == '\r' || c == '\n'; }, ' ');
+        return text;
     }
 
     void Note(std::string event) {

@@ -2,6 +2,8 @@
 
 #include <chrono>
 
+#include "platform/CodePage.h"
+
 namespace zy::test {
 namespace {
 
@@ -90,10 +92,10 @@ void Monkey::DoTo(TextBox& box) {
                    static_cast<std::size_t>(chance_.Below(5)));
         break;
     case 1:
-        box.Enter(chance_.Text());
+        box.Enter(chance_.Line());
         break;
     default:
-        box.Type(chance_.Text());
+        box.Type(chance_.Line());
     }
 }
 
@@ -122,7 +124,7 @@ void Monkey::DoTo(Grid& grid) {
         grid.Press(AnyKey());
         break;
     case 2:
-        grid.TypeOver(chance_.Text());
+        TypeOver(grid);
         break;
     case 3:
         grid.OpenEditor();
@@ -151,14 +153,20 @@ void Monkey::DoTo(Grid& grid) {
     }
 }
 
+/// As the view does: a cell that has a list takes its items alone.
+void Monkey::TypeOver(Grid& grid) {
+    grid.TypeOver(chance_.Line());
+    grid.editor.CorrectText([](std::string_view text) { return Windows1252().UCase(text); });
+}
+
 void Monkey::DoInEditor(Grid& grid) {
     auto& editor = grid.editor;
-    if (editor.List().HasItems() && chance_.OneIn(2)) {
+    if (editor.List().HasItems()) {
         editor.ChooseItem(chance_.Of(editor.List().Items()));
     } else if (chance_.OneIn(3)) {
         editor.PressButton();
     } else {
-        const auto text = chance_.Text();
+        const auto text = chance_.Line();
         editor.Enter(text, text.size(), 0);
     }
 }

@@ -34,6 +34,7 @@ class Monkey {
     void DoTo(TextBox& box);
     void DoTo(ListView& list);
     void DoTo(Grid& grid);
+    void TypeOver(Grid& grid);
     void DoInEditor(Grid& grid);
     void DoTo(MonthCalendar& calendar);
     KeyPress AnyKey();

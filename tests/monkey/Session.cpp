@@ -1,5 +1,6 @@
 #include "Session.h"
 
+#include <algorithm>
 #include <chrono>
 
 #include "basics/Text.h"
@@ -62,9 +63,13 @@ bool IsReadAsWritten(const RowTexts& rows) {
     return true;
 }
 
-/// As the engine says that a single quote in a field ends its value.
-bool IsSyntaxError(const RuntimeError& error) {
-    return error.Number() == dbase::kInsertSyntax || error.Number() == dbase::kCountsDiffer;
+/// As the engine says that single quotes in a user's fields end its values elsewhere.
+bool IsOfQuotes(const RuntimeError& error, const RowTexts& rows) {
+    const auto lines = LinesOf(rows);
+    const bool anyQuotes =
+        std::any_of(lines.begin(), lines.end(), [](const auto& line) { return Contains(line, '\''); });
+    return anyQuotes && (error.Number() == dbase::kInsertSyntax || error.Number() == dbase::kCountsDiffer ||
+                         error.Number() == dbase::kFieldTooSmall);
 }
 
 } // namespace
@@ -292,7 +297,10 @@ void MonkeySession::NoteError(const RuntimeError& error) {
     const auto text = std::to_string(error.Number()) + ": " + error.Description();
     chance_.Note("run-time error " + text);
     ++counts_.errors[error.Number()];
-    EXPECT_TRUE(isInTrouble_ || fileIsOthers_ || IsSyntaxError(error)) << "run-time error " << text;
+    // The temporary table of a save that failed stands in the way of the next one.
+    const bool isInTheWay = error.Number() == dbase::kTableExists;
+    EXPECT_TRUE(isInTrouble_ || fileIsOthers_ || isInTheWay || IsOfQuotes(error, Steps().Copy()))
+        << "run-time error " << text;
     fileIsOthers_ = true; // whoever broke off may have left a file that is not whole, or a temporary one
 }
 
@@ -367,6 +375,27 @@ void MonkeySession::ExpectSound() {
     EXPECT_EQ(program_->form.menu.mnuRedo.Enabled(), Steps().CanRedo());
 }
 
+/// Of a rule whose condition or zone is in none of the lists the form keeps what it showed, and so no step
+/// does: only a damaged file holds one.
+bool MonkeySession::ShowsAllOf(const RowTexts& rows) const {
+    if (program_->window.EditorInCharge() != &program_->rulesPage) {
+        return true;
+    }
+    constexpr int kCondition = 3;
+    const auto& controls = program_->rulesPage.controls;
+    const auto holds = [](const ComboBox& list, auto part, std::string_view text) {
+        const auto& items = list.Items();
+        return std::any_of(items.begin(), items.end(), [&](const auto& item) { return part(item) == text; });
+    };
+    for (int row = 0; row < rows.Rows(); ++row) {
+        if (!holds(controls.cboCondition, ConditionOfItem, rows.Text(row, kCondition)) ||
+            !holds(controls.cboZone, ZoneOfItem, rows.Text(row, kCondition + 1))) {
+            return false;
+        }
+    }
+    return true;
+}
+
 void MonkeySession::GoBackAndForth() {
     Guarded([&] {
         while (Steps().CanRedo()) {
@@ -383,7 +412,9 @@ void MonkeySession::GoBackAndForth() {
         while (Steps().CanRedo()) {
             Steps().Redo();
         }
-        EXPECT_EQ(LinesOf(Steps().CopyWithTyping()), LinesOf(last)) << "done again";
+        if (ShowsAllOf(start_) && ShowsAllOf(last)) {
+            EXPECT_EQ(LinesOf(Steps().CopyWithTyping()), LinesOf(last)) << "done again";
+        }
         ExpectSound();
         counts_.steps += steps;
     });

@@ -87,6 +87,7 @@ class MonkeySession {
 
     void ExpectSound();
     void ExpectSaved();
+    bool ShowsAllOf(const RowTexts& rows) const;
     std::string FileBytes() const { return world_.files.Get(editor_.path).value_or(""); }
     EditSteps& Steps() { return editor_.of(*program_).Steps(); }
 
