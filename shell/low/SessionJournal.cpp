@@ -38,7 +38,7 @@ const std::string& SessionJournal::Seen() {
 std::string SessionJournal::Look() const {
     const auto& file = *subject_.file;
     const bool isKnown = isKnown_ && file.Known();
-    if (!isKnown && !files_.Exists(file.Path())) {
+    if (!isKnown && !FindsFile(files_, file.Path())) {
         return {};
     }
     const auto bytes = isKnown ? file.Known() : file.Read();

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "history/Bytes.h"
+#include "platform/memory/MemoryWorld.h"
 
 namespace zy::test {
 namespace {
@@ -48,6 +49,18 @@ StepNote List() {
     note.kind = StepNote::Kind::List;
     note.step.changes.emplace_back();
     return note;
+}
+
+TEST(SessionJournal, DoesNotTakeAFileThatCannotBeLookedForForAMissingOne) {
+    constexpr auto kPath = R"(C:\SYS\ZYUNITS.SYS)";
+    MemoryWorld world;
+    const ListFile file(world.files, kPath);
+    JournalSubject subject;
+    subject.file = &file;
+    EXPECT_EQ(SessionJournal(world.files, world.journals, subject).Seen(), "") << "missing";
+    world.files.Put(kPath, "A,a\r\n");
+    world.files.Plan({.operation = 1, .lasting = true});
+    EXPECT_EQ(SessionJournal(world.files, world.journals, subject).Seen(), "?");
 }
 
 TEST(EarlierSession, SaysWhatItsJournalIsAbout) {
