@@ -6,6 +6,7 @@ import re
 import shutil
 import subprocess
 import tempfile
+import threading
 
 from display import HERE
 from settings_files import EDITORS
@@ -13,7 +14,7 @@ from settings_files import EDITORS
 TOOLS = os.path.join(HERE, "../build/default/storm")  # the programs of this folder
 OLD, NEW = "OLD", "NEW"  # the marks of the lists
 NOTHING = "-"
-PATIENCE = 30  # seconds
+PATIENCE = 60  # seconds, on a machine that has other work to do
 ROLES = [(r"state/zysetup/backups/.*/unfinished$", "the unfinished version"),
          (r"state/zysetup/backups/.*/\d{8}T\d{6}Z$", "the version"),
          (r"state/zysetup/backups(/.*)?$", "the folder of versions"),
@@ -112,7 +113,10 @@ class Place:
     def run(self, command):
         """Returns the status and the lines that were printed."""
         with self.start(command) as process:
-            printed = process.communicate(timeout=PATIENCE)[0]
+            watch = threading.Timer(PATIENCE, process.kill)  # with it goes what it traces
+            watch.start()
+            printed = process.communicate()[0]
+            watch.cancel()
         return process.returncode, printed.splitlines()
 
     def run_calmly(self, mark=None):
