@@ -57,7 +57,7 @@ class PosixShellLinksTest : public ::testing::Test {
     }
     /// What a program was started with; nothing when it was not started in time.
     std::optional<std::string> Got(const std::string& name) const {
-        for (int i = 0; i < 500 && !fs::exists(folder.Path(name + ".got")); ++i) {
+        for (int i = 0; i < 3000 && !fs::exists(folder.Path(name + ".got")); ++i) {
             std::this_thread::sleep_for(std::chrono::milliseconds(10));
         }
         return folder.Get(name + ".got");
