@@ -26,7 +26,8 @@ TEST(PosixTraceServersTest, FindNothingAtOnceWithoutASessionBus) {
     PosixTraceServers servers(Windows1252());
     const auto start = std::chrono::steady_clock::now();
     EXPECT_FALSE(servers.GetRunning(kName));
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(100));
+    constexpr std::chrono::seconds kLessThanBusesAreWaitedFor{10}; // which is 25 seconds
+    EXPECT_LT(std::chrono::steady_clock::now() - start, kLessThanBusesAreWaitedFor);
 }
 
 TEST(PosixTraceServersTest, StartNoBus) {

@@ -32,7 +32,7 @@ class LinkProgram {
     /// The line that the program has written; nothing when it was not started in time.
     std::optional<std::string> Got() const {
         auto line = folder_.Get("got.txt");
-        for (int i = 0; i < 1000 && !(line && line->ends_with("\r\n")); ++i) {
+        for (int i = 0; i < 3000 && !(line && line->ends_with("\r\n")); ++i) {
             std::this_thread::sleep_for(std::chrono::milliseconds(10));
             line = folder_.Get("got.txt");
         }
