@@ -33,6 +33,7 @@ std::string_view PairList::Text(int row, int column) const {
 
 void PairList::ReplaceRows(int first, int count, const RowTexts& rows) {
     std::vector<Pair> made;
+    made.reserve(static_cast<std::size_t>(rows.Rows()));
     for (int row = 0; row < rows.Rows(); ++row) {
         made.push_back({std::string(rows.Text(row, 0)), std::string(rows.Text(row, 1))});
     }

@@ -22,13 +22,15 @@ constexpr auto kTaken = "/last-crash.txt";
 constexpr std::array kSignals{SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT};
 constexpr int kDeepest = 64;
 
+const LastSteps kNoSteps;
+
 /// What the handler of a signal can use: it is called with nothing but the number, and may not ask for
 /// memory.
 struct Prepared {
     std::vector<std::string> folders; ///< from the uppermost on, each of which may be missing
     std::string path;
     std::string heading;
-    const LastSteps* steps = nullptr;
+    const LastSteps* steps = &kNoSteps;
     /// The stack that is in use may be the one that has run over.
     std::array<char, std::size_t{64} * 1024> stack{};
 };

@@ -18,12 +18,14 @@ constexpr auto kTaken = L"\\last-crash.txt";
 constexpr DWORD kAborted = 0xC0000409; ///< what Windows calls a program that has ended itself so
 constexpr DWORD kDeepest = 62;
 
+const LastSteps kNoSteps;
+
 /// What is called when the program breaks off can use this alone, for it may not ask for memory.
 struct Prepared {
     std::wstring folder;
     std::wstring path;
     std::string heading;
-    const LastSteps* steps = nullptr;
+    const LastSteps* steps = &kNoSteps;
     std::uintptr_t program = 0; ///< where it begins in memory
 };
 
