@@ -19,6 +19,7 @@ BUILD = os.path.join(SOURCE, "build/default")
 WORK = os.path.join(FOLDER, "work")
 UNDEBUGGED = ["-O0", "-g0", "-w"]
 MOST_MEMORY = 4 << 30
+PATIENCE = 20  # other programs may have the processor
 SLOW = 0.2  # seconds; such cases come behind all others
 KILLED, SURVIVED, HANGS, NOT_COMPILED = "killed", "survived", "hangs", "not compiled"
 
@@ -50,19 +51,20 @@ def read_bytes(path):
         return file.read()
 
 
-def limit():
-    """What has gone wrong may not take the machine with it."""
-    resource.setrlimit(resource.RLIMIT_AS, (MOST_MEMORY, MOST_MEMORY))
-    resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
-
-
 def run(command, folder, seconds):
-    """The status; nothing when it took longer."""
+    """The status; nothing when it took more of the processor's time, or waited for very much longer."""
+    def limit():
+        """What has gone wrong may not take the machine with it."""
+        resource.setrlimit(resource.RLIMIT_AS, (MOST_MEMORY, MOST_MEMORY))
+        resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+        resource.setrlimit(resource.RLIMIT_CPU, (int(seconds), int(seconds) + 1))
+
     surroundings = {**os.environ, "TMPDIR": os.path.join(WORK, "tmp"), "HOME": os.path.join(WORK, "home")}
     with subprocess.Popen(command, cwd=folder, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
                           start_new_session=True, preexec_fn=limit, env=surroundings) as process:
         try:
-            return process.wait(seconds)
+            status = process.wait(PATIENCE * seconds)
+            return None if status in (-signal.SIGXCPU, 128 + signal.SIGXCPU) else status
         except subprocess.TimeoutExpired:
             return None
         finally:
@@ -97,14 +99,17 @@ class TestProgram:
         """The names of the quick ones, of the slow ones, and how long all take. All have to pass."""
         if not os.path.exists(self.times) or os.path.getmtime(self.times) < os.path.getmtime(self.path):
             os.makedirs(os.path.dirname(self.times), exist_ok=True)
-            if run([self.path, f"--gtest_output=json:{self.times}.new"], self.folder, 3600) != 0:
-                raise RuntimeError(f"{self.name}_tests fails as it stands")
-            os.replace(self.times + ".new", self.times)
+            self.measure()
         with open(self.times, encoding="utf-8") as file:
             suites = json.load(file)["testsuites"]
         times = {f"{case['classname']}.{case['name']}": float(case["time"][:-1]) for suite in suites for case in suite["testsuite"]}
         slow = sorted((name for name in times if times[name] > SLOW), key=times.get)
         return [name for name in times if name not in slow], slow, sum(times.values())
+
+    def measure(self):
+        if run([self.path, f"--gtest_output=json:{self.times}.new"], self.folder, 3600) != 0:
+            raise RuntimeError(f"{self.name}_tests fails as it stands")
+        os.replace(self.times + ".new", self.times)
 
     def judge(self):
         """What becomes of the mutant in this program."""
