@@ -233,7 +233,7 @@ void MonkeySession::MakeTrouble() {
     switch (chance_.Below(5)) {
     case 0: {
         constexpr int kOperations = 60;
-        const auto operation = static_cast<std::size_t>(1 + chance_.Below(kOperations));
+        const auto operation = static_cast<std::size_t>(chance_.Below(kOperations)) + 1;
         chance_.Note("operation " + std::to_string(operation) + " will fail");
         world_.files.Operations().Plan(
             {.operation = operation,
