@@ -13,8 +13,7 @@ CONDITION = re.compile(r"\b(?:if|while) \(")
 NEGATED_BY_SWAPPING = re.compile(r";|^[^&|]* [=!]= [^&|]*$")  # and what begins with a declaration
 STATEMENT = re.compile(r"^\s*(?!(?:return|case|default|throw|delete|else|goto|do)\b)(?:\+\+|--|\*|\()*"
                        r"[A-Za-z_][\w:.]*(?:->\*?|\.|\[|\(|\+\+|--| (?:[-+*/|&]|<<|>>)?= |;).*;$|^\s*(?:throw\b.*|return);$")
-BEFORE_NEGATED_BY_SWAPPING = re.compile(r";|^[^&|]* [=!]= [^&|]*$")  # and what begins with a declaration
-STATEMENT = re.compile(r"([;{}:]|^)\s*$")
+BEFORE_STATEMENT = re.compile(r"([;{}:]|^)\s*$")
 
 # The first of each pair becomes the second one. The blanks tell operators from templates, pointers and references.
 BOUNDS = [(" < ", " <= "), (" <= ", " < "), (" > ", " >= "), (" >= ", " > ")]
