@@ -106,6 +106,13 @@ void SendKey(WORD character, DWORD flags) {
     ::SendInput(1, &input, sizeof input);
 }
 
+BOOL CALLBACK NoteTip(HWND window, LPARAM found) {
+    if (IsOfClass(window, TOOLTIPS_CLASSW) && ::IsWindowVisible(window) != FALSE) {
+        *std::bit_cast<std::optional<std::string>*>(found) = wxString(TextOf(window)).utf8_string();
+    }
+    return TRUE;
+}
+
 } // namespace
 
 void AwaitWork() {
@@ -190,13 +197,7 @@ bool ShowsWholeText(const wxTextCtrl& box) {
 
 std::optional<std::string> TipOnScreen() {
     std::optional<std::string> text;
-    const auto look = [](HWND window, LPARAM found) -> BOOL {
-        if (IsOfClass(window, TOOLTIPS_CLASSW) && ::IsWindowVisible(window) != FALSE) {
-            *std::bit_cast<std::optional<std::string>*>(found) = wxString(TextOf(window)).utf8_string();
-        }
-        return TRUE;
-    };
-    ::EnumThreadWindows(::GetCurrentThreadId(), look, std::bit_cast<LPARAM>(&text));
+    ::EnumThreadWindows(::GetCurrentThreadId(), NoteTip, std::bit_cast<LPARAM>(&text));
     return text;
 }
 
