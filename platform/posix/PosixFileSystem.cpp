@@ -148,7 +148,7 @@ OpenedFile PosixFileSystem::CreatePrivate(std::string_view path) {
 
 FileError PosixFileSystem::MakePrivateFolder(std::string_view path) {
     const auto resolved = paths_.Resolve(path);
-    return resolved ? zy::MakePrivateFolder(*resolved) : FileError::NotFound;
+    return resolved ? zy::MakePrivateFolder(*resolved).error : FileError::NotFound;
 }
 
 FileError PosixFileSystem::Delete(std::string_view path) {

@@ -135,9 +135,7 @@ std::string FolderFor(Secrecy secrecy) {
 } // namespace
 
 OpenedJournal PosixJournals::Create(std::string_view kind, Secrecy secrecy) {
-    const auto path = FolderFor(secrecy);
-    MakeFolders(path);
-    auto opened = OpenPrivateFolder(path);
+    auto opened = MakePrivateFolder(FolderFor(secrecy));
     if (opened.error != FileError::None) {
         return {.journal = nullptr, .error = opened.error};
     }

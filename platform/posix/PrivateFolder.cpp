@@ -38,10 +38,16 @@ PrivateFolder OpenPrivateFolder(const std::string& path) {
     return {.folder = std::move(folder), .error = ToFileError(error)};
 }
 
-FileError MakePrivateFolder(const std::string& path) {
+PrivateFolder MakePrivateFolder(const std::string& path) {
+    if (path.empty()) {
+        return {.folder = FileDescriptor(-1), .error = FileError::NotFound};
+    }
     const auto made = MakeFolders(path);
-    const auto opened = OpenPrivateFolder(path).error;
-    return opened == FileError::NotFound && made != FileError::None ? made : opened;
+    auto opened = OpenPrivateFolder(path);
+    if (opened.error == FileError::NotFound && made != FileError::None) {
+        opened.error = made;
+    }
+    return opened;
 }
 
 } // namespace zy

@@ -17,7 +17,7 @@ struct PrivateFolder {
 /// else's, or a symbolic link.
 PrivateFolder OpenPrivateFolder(const std::string& path);
 
-/// Makes a folder that nobody but the user can enter, as FileSystem::MakePrivateFolder says.
-FileError MakePrivateFolder(const std::string& path);
+/// The same, made where there is none; where it cannot be made, the reason is that of the making.
+PrivateFolder MakePrivateFolder(const std::string& path);
 
 } // namespace zy

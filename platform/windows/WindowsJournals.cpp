@@ -156,11 +156,16 @@ OpenedJournal WindowsJournals::Create(std::string_view kind, Secrecy secrecy) {
     if (folder_.empty() || attributes.Get() == nullptr) {
         return {.journal = nullptr, .error = FileError::NotFound};
     }
-    // Where it cannot be made, nor can the file in it.
-    ::CreateDirectoryW(folder_.c_str(), attributes.Get());
-    return MakeJournal(kind, ::GetCurrentProcessId(), [&](const std::string& name) {
+    const bool isMade = ::CreateDirectoryW(folder_.c_str(), attributes.Get()) != FALSE;
+    const auto making = ToFileError(isMade ? ERROR_SUCCESS : ::GetLastError());
+    auto opened = MakeJournal(kind, ::GetCurrentProcessId(), [&](const std::string& name) {
         return CreateNew(Joined(folder_, name), attributes.Get(), secrecy);
     });
+    // Where the folder cannot be made, the file in it has no place, whatever the reason is.
+    if (opened.error == FileError::NotFound && making != FileError::None) {
+        opened.error = making;
+    }
+    return opened;
 }
 
 std::vector<std::unique_ptr<Journal>> WindowsJournals::Orphans(std::string_view kind, Secrecy secrecy) {

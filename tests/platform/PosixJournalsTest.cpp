@@ -22,6 +22,7 @@
 #include "support/ChildProcess.h"
 #include "support/EnvironmentVariable.h"
 #include "support/FileSizeLimit.h"
+#include "support/OrdinaryUser.h"
 #include "support/TemporaryFolder.h"
 
 namespace zy::test {
@@ -151,10 +152,16 @@ TEST_F(PosixJournalsTest, IsNotMadeForPasswordsWhereNothingKeepsThemFromTheDisk)
     EXPECT_TRUE(fs::is_empty(memory.Path()));
 }
 
-TEST_F(PosixJournalsTest, IsNotMadeWhereTheUserHasNoPlaceForIt) {
+TEST_F(PosixJournalsTest, SaysThatAFileStandsInTheWayOfItsFolder) {
     disk.Put("state", "a file where the folder should be");
-    EXPECT_EQ(journals.Create("units", Secrecy::None).error, FileError::NotFound);
+    EXPECT_EQ(journals.Create("units", Secrecy::None).error, FileError::Exists);
     EXPECT_THAT(Orphans(), IsEmpty());
+}
+
+TEST_F(PosixJournalsTest, SaysWhyItsFolderCannotBeMade) {
+    fs::permissions(disk.Path(), fs::perms{0555});
+    const OrdinaryUser user(disk.Path());
+    EXPECT_EQ(journals.Create("units", Secrecy::None).error, FileError::AccessDenied);
 }
 
 TEST_F(PosixJournalsTest, MakesNoFolderBeforeThereIsSomethingToNote) {
@@ -186,7 +193,7 @@ TEST_F(PosixJournalsTest, LeavesAFileInPlaceOfTheFolderAsItIs) {
     disk.AddFolder("state");
     disk.Put("state/zysetup", "another program's");
     fs::permissions(Folder(), fs::perms{0644});
-    EXPECT_EQ(journals.Create("units", Secrecy::None).error, FileError::NotFound);
+    EXPECT_EQ(journals.Create("units", Secrecy::None).error, FileError::Exists);
     EXPECT_THAT(Orphans(), IsEmpty());
     EXPECT_EQ(Mode(Folder()), 0644U);
 }

@@ -81,6 +81,18 @@ TEST_F(WindowsJournalsTest, IsNotMadeWhereTheUserHasNoPlaceForIt) {
     EXPECT_THAT(WindowsJournals(missing).Orphans("users", Secrecy::None), IsEmpty());
 }
 
+TEST_F(WindowsJournalsTest, SaysWhyItsFolderCannotBeMade) {
+    ASSERT_TRUE(SetAccess(folder.Path().string(), "FRFX", ""));
+    std::error_code forbidden;
+    const bool canBeMade = fs::create_directory(folder.Path() / "probe", forbidden);
+    const auto error = journals.Create("users", Secrecy::Passwords).error;
+    ASSERT_TRUE(SetAccess(folder.Path().string(), "FA", ""));
+    if (canBeMade) {
+        GTEST_SKIP() << "nothing is forbidden to this user";
+    }
+    EXPECT_EQ(error, FileError::AccessDenied);
+}
+
 TEST_F(WindowsJournalsTest, LiesBelowAFolderWhoseNameTheCodePageLacks) {
     const auto path = folder.Path() / L"\u0416";
     fs::create_directory(path);
