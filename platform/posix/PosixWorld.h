@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/PatientTraceServers.h"
 #include "platform/World.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "platform/posix/PosixJournals.h"
@@ -28,7 +29,8 @@ struct PosixWorld {
     const CodePage& codePage = Windows1252();
     PosixSystemInfo system;
     PosixFileSystem files{codePage, system.KnownFolders()};
-    PosixTraceServers traceServers{codePage};
+    PosixTraceServers traceViewers{codePage};
+    PatientTraceServers traceServers{traceViewers};
     PosixRecycleBin recycleBin{codePage, system.KnownFolders()};
     PosixRegistry registry{codePage};
     PosixShellLinks links{codePage};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/PatientTraceServers.h"
 #include "platform/World.h"
 #include "platform/windows/AnsiCodePage.h"
 #include "platform/windows/WindowsFileSystem.h"
@@ -27,7 +28,8 @@ struct WindowsWorld {
     const CodePage& codePage = AnsiCodePage();
     WindowsSystemInfo system;
     WindowsFileSystem files{system.Folder()};
-    WindowsTraceServers traceServers{codePage};
+    WindowsTraceServers traceViewers{codePage};
+    PatientTraceServers traceServers{traceViewers};
     WindowsRecycleBin recycleBin;
     WindowsRegistry registry;
     WindowsShellLinks links;
