@@ -22,6 +22,9 @@ namespace zy {
 
 // What the toolkit has no call for and the window system below it does. Each system has one file of these.
 
+/// Whether there is any font that text can be shown with, once the toolkit runs.
+bool HasFont();
+
 /// The pixels in an inch of text, as the user's settings make it.
 double DotsPerInch();
 /// The same where a window stands: screens may differ.

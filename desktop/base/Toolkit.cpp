@@ -41,10 +41,6 @@ void FreeStock() {
 
 } // namespace
 
-NoDisplay::NoDisplay()
-    : std::runtime_error(
-          "There is no display to open a window on: start it in a desktop session, or set DISPLAY") {}
-
 Toolkit::Toolkit() {
     // What the toolkit takes for the program's file is what it calls the windows by.
     static std::string name{kApplicationId};
@@ -56,8 +52,14 @@ Toolkit::Toolkit() {
         const wxLogNull silence;
         if (!wxEntryStart(count, arguments.data())) {
             FreeStock();
-            throw NoDisplay();
+            throw CannotShow(
+                "There is no display to open a window on: start it in a desktop session, or set DISPLAY");
         }
+    }
+    // The toolkit would make pictures of the height of text, which is none then, and break off.
+    if (!HasFont()) {
+        wxEntryCleanup();
+        throw CannotShow("There is no font to show text with: install one, such as DejaVu Sans");
     }
     // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the target is the toolkit's own from here on
     delete wxLog::SetActiveTarget(new wxLogStderr);

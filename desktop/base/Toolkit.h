@@ -4,16 +4,16 @@
 
 namespace zy {
 
-/// There is no screen to show anything on.
-class NoDisplay : public std::runtime_error {
+/// Nothing can be shown, not even an error. It says why, and what to do about it.
+class CannotShow : public std::runtime_error {
   public:
-    NoDisplay();
+    using std::runtime_error::runtime_error;
 };
 
 /// The window toolkit, running from construction to destruction. At most one at a time.
 class Toolkit {
   public:
-    /// Throws NoDisplay.
+    /// Throws CannotShow where there is no display, or no font.
     Toolkit();
     ~Toolkit();
     Toolkit(const Toolkit&) = delete;

@@ -44,7 +44,7 @@ double DesktopWindowGtk::TwipsPerPixel() {
     try {
         StartToolkit();
         return Scale(DotsPerInch()).TwipsPerPixel();
-    } catch (const NoDisplay&) {
+    } catch (const CannotShow&) {
         // Whether a display is needed at all is not known yet.
         constexpr double kUsual = 15;
         return kUsual;

@@ -32,6 +32,9 @@ struct _GtkTreeView;
 struct _GtkTreeViewColumn;
 struct _GtkWidgetClass;
 struct _GtkWindow;
+struct _PangoContext;
+struct _PangoFont;
+struct _PangoFontDescription;
 // NOLINTEND(bugprone-reserved-identifier)
 
 extern "C" {
@@ -52,6 +55,7 @@ int gdk_keymap_get_entries_for_keycode(_GdkKeymap* keymap, guint keyCode, void**
                                        int* count);
 _GdkKeymap* gdk_keymap_get_for_display(_GdkDisplay* display);
 guint gdk_keyval_to_lower(guint symbol);
+_PangoContext* gdk_pango_context_get();
 _GdkScreen* gdk_screen_get_default();
 double gdk_screen_get_resolution(_GdkScreen* screen);
 int gdk_x11_screen_supports_net_wm_hint(_GdkScreen* screen, _GdkAtom* property);
@@ -104,4 +108,7 @@ void gtk_widget_realize(GtkWidget* widget);
 void gtk_widget_size_allocate(GtkWidget* widget, GtkRectangle* allocation);
 GtkWidget* gtk_window_get_focus(_GtkWindow* window);
 int gtk_window_mnemonic_activate(_GtkWindow* window, guint symbol, int modifiers);
+_PangoFont* pango_context_load_font(_PangoContext* context, const _PangoFontDescription* description);
+void pango_font_description_free(_PangoFontDescription* description);
+_PangoFontDescription* pango_font_description_from_string(const char* text);
 }

@@ -202,6 +202,16 @@ void TakeEnding(_GtkFileChooser* chooser, GParamSpec* /*property*/, void* /*data
 
 } // namespace
 
+bool HasFont() {
+    const std::unique_ptr<_PangoContext, decltype(&g_object_unref)> context(gdk_pango_context_get(),
+                                                                            &g_object_unref);
+    const std::unique_ptr<_PangoFontDescription, decltype(&pango_font_description_free)> any(
+        pango_font_description_from_string("Sans"), &pango_font_description_free);
+    const std::unique_ptr<_PangoFont, decltype(&g_object_unref)> font(
+        pango_context_load_font(context.get(), any.get()), &g_object_unref);
+    return font != nullptr;
+}
+
 double DotsPerInch() {
     const double resolution = gdk_screen_get_resolution(gdk_screen_get_default());
     return resolution > 0 ? resolution : kUsualDotsPerInch;

@@ -164,6 +164,10 @@ void ShowPushed(const wxButton& button, bool pushed) {
 
 } // namespace
 
+bool HasFont() {
+    return true; // the system brings its own
+}
+
 double DotsPerInch() {
     return ScreenContext().Ask(LOGPIXELSX);
 }
