@@ -12,6 +12,7 @@
 int main(int argc, char** argv) {
     zy::SystemWorld system(argc, argv);
     zy::Desktop desktop(system.codePage, system.files);
+    desktop.starting.Connect([&] { system.ReadyForToolkit(); });
 
     return desktop.Run([&] {
         zy::Program program(system.Get(desktop.Get()));
@@ -22,6 +23,9 @@ int main(int argc, char** argv) {
         switch (zy::mMain(program)) {
         case zy::StartUp::WindowShown:
             program.TellOfCrash(zy::TakeCrashNote(system.codePage));
+            if (system.IsWithoutBus()) {
+                program.TellOfSilentBus();
+            }
             return desktop.RunUntilClosed();
         case zy::StartUp::Ended:
             return 0;

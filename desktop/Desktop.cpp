@@ -15,6 +15,7 @@ Desktop::Desktop(const CodePage& codePage, FileSystem& files)
 
 void Desktop::StartToolkit() {
     if (!toolkit_) {
+        starting.Raise();
         toolkit_.emplace();
     }
 }
@@ -63,7 +64,7 @@ int Desktop::Report(const std::exception_ptr& error) {
 void Desktop::ShowError(std::string_view text) {
     try {
         dialogs_.ShowMessage(text, kApplicationTitle);
-    } catch (const NoDisplay&) {
+    } catch (const CannotShow&) {
         std::cerr << kApplicationTitle << ": " << codePage_.ToUtf8(text) << std::endl;
     }
 }

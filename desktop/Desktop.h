@@ -33,12 +33,14 @@ class Desktop {
     int RunUntilClosed();
     void Close();
 
-    /// Throws NoDisplay when there is none.
+    /// Throws CannotShow.
     void StartToolkit();
     EventGate& Gate() { return gate_; }
     DesktopWindow& Window() { return *window_; }
     const CodePage& TextCodePage() const { return codePage_; }
 
+    /// The toolkit is about to start.
+    Event<> starting;
     /// An error is about to be shown behind which the program ends.
     Event<> failing;
 

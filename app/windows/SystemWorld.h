@@ -10,6 +10,10 @@ namespace zy {
 struct SystemWorld : WindowsWorld {
     /// The arguments are not needed: the system itself gives the command line.
     SystemWorld(int /*argumentCount*/, const char* const* /*arguments*/) {}
+
+    /// The toolkit waits for nobody there.
+    void ReadyForToolkit() {}
+    static bool IsWithoutBus() { return false; }
 };
 
 } // namespace zy

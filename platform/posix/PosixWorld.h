@@ -23,6 +23,11 @@ struct PosixWorld {
     /// write instead of the end of the process.
     PosixWorld(int argumentCount, const char* const* arguments);
 
+    /// Has nothing that the window toolkit waits for keep it from starting.
+    void ReadyForToolkit();
+    /// Whether the session bus was left out by that, and the screen readers with it.
+    bool IsWithoutBus() const { return isWithoutBus_; }
+
     /// The program's view of this world, which must outlive it.
     World Get(const ScreenWorld& screen);
 
@@ -35,6 +40,9 @@ struct PosixWorld {
     PosixRegistry registry{codePage};
     PosixShellLinks links{codePage};
     PosixJournals journals;
+
+  private:
+    bool isWithoutBus_ = false;
 };
 
 } // namespace zy

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <string_view>
 
 #include "platform/glib/Waiting.h"
@@ -42,8 +43,9 @@ class Ending {
     }
 
     /// Waits for the end. An operation that takes too long is cancelled, and ends at once then.
-    GAsyncResult* Await(const OwnContext& context, GCancellable* operation) {
-        if (!WaitOn(context.Get(), kBusPatience, [this] { return result_ != nullptr; })) {
+    GAsyncResult* Await(const OwnContext& context, GCancellable* operation,
+                        std::chrono::milliseconds patience) {
+        if (!WaitOn(context.Get(), patience, [this] { return result_ != nullptr; })) {
             g_cancellable_cancel(operation);
         }
         while (!result_) {
@@ -66,13 +68,14 @@ GlibPointer<GDBusConnection> MakeConnection(const std::string& address) {
 
 /// A connection is asked for in the midst of the program's work, so no event of a window may happen
 /// meanwhile.
-bool Connect(GDBusConnection* connection) {
+bool Connect(GDBusConnection* connection, std::chrono::milliseconds patience) {
     const OwnContext context;
     Ending ending;
     const GlibPointer<GCancellable> cancellable(g_cancellable_new());
     auto* initable = G_ASYNC_INITABLE(connection);
     g_async_initable_init_async(initable, G_PRIORITY_DEFAULT, cancellable.get(), &Ending::Come, &ending);
-    return g_async_initable_init_finish(initable, ending.Await(context, cancellable.get()), nullptr) != FALSE;
+    return g_async_initable_init_finish(initable, ending.Await(context, cancellable.get(), patience),
+                                         nullptr) != FALSE;
 }
 
 bool StartsABus(std::string_view address) {
@@ -119,17 +122,27 @@ std::string SessionBusAddress() {
     return running.empty() ? RuntimeFolderAddress() : running;
 }
 
-GlibPointer<GDBusConnection> ConnectToSessionBus() {
+GlibPointer<GDBusConnection> ConnectToSessionBus(std::chrono::milliseconds patience) {
     const auto address = SessionBusAddress();
     if (address.empty()) {
         return nullptr;
     }
     auto connection = MakeConnection(address);
-    if (!Connect(connection.get())) {
+    if (!Connect(connection.get(), patience)) {
         return nullptr;
     }
     g_dbus_connection_set_exit_on_close(connection.get(), FALSE);
     return connection;
+}
+
+bool LeaveOutSilentBus(std::chrono::milliseconds patience) {
+    const auto start = std::chrono::steady_clock::now();
+    if (ConnectToSessionBus(patience) || std::chrono::steady_clock::now() - start < patience) {
+        return false;
+    }
+    ::setenv("DBUS_SESSION_BUS_ADDRESS", std::string(kDisabled).c_str(), 1);
+    ::setenv("NO_AT_BRIDGE", "1", 1); // or the bridge to the screen readers complains that there is no bus
+    return true;
 }
 
 GlibPointer<GVariant> CallBus(GDBusConnection* connection, const char* method, GVariant* arguments,

@@ -18,7 +18,12 @@ std::string SessionBusAddress();
 /// A connection of our own to the session bus; nothing when there is none, or when it does not answer in
 /// time. Never starts a bus. While it is being made, none of the program's events happens; its own end
 /// is one of them.
-GlibPointer<GDBusConnection> ConnectToSessionBus();
+GlibPointer<GDBusConnection> ConnectToSessionBus(std::chrono::milliseconds patience = kBusPatience);
+
+/// Where there is a session bus that does not answer in time, has all parts of this program, and what it
+/// starts, go without one, screen readers among them: other libraries wait for it as long as it takes. True
+/// then.
+bool LeaveOutSilentBus(std::chrono::milliseconds patience);
 
 /// Calls a method of the bus itself. Nothing when it fails or does not answer in time.
 GlibPointer<GVariant> CallBus(GDBusConnection* connection, const char* method, GVariant* arguments,

@@ -50,6 +50,10 @@ void Program::TellOfCrash(const std::optional<std::string>& note) {
     }
 }
 
+void Program::TellOfSilentBus() {
+    AddHint(form.zyStatusBar, "The session bus does not answer: screen readers do not reach this window");
+}
+
 void Program::WithList(void (ListSession::*call)()) {
     if (list) {
         (*list.*call)();

@@ -32,6 +32,8 @@ class Program {
     void Open(const std::string& path, Editor& editor, VersionKeeper::Keeps keeps);
     /// Says in the status bar where the note of an earlier run that broke off is, where there is one.
     void TellOfCrash(const std::optional<std::string>& note);
+    /// Says in the status bar that this run goes without the session bus.
+    void TellOfSilentBus();
     /// Calls what stands around the list of the editor that was started; nothing before one was.
     void WithList(void (ListSession::*call)());
 

@@ -1,35 +1,17 @@
 #include "platform/posix/SessionBus.h"
 
 #include <gtest/gtest.h>
-#include <sys/socket.h>
-#include <sys/un.h>
 
-#include <cstring>
+#include <cstdlib>
 
 #include "platform/glib/Waiting.h"
-#include "platform/posix/FileDescriptor.h"
 #include "support/EnvironmentVariable.h"
 #include "support/PrivateBus.h"
+#include "support/SilentSocket.h"
 #include "support/TemporaryFolder.h"
 
 namespace zy::test {
 namespace {
-
-/// A socket that takes connections and never answers, as a bus does that hangs.
-class SilentSocket {
-  public:
-    explicit SilentSocket(const std::string& path)
-        : socket_(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
-        sockaddr_un address{};
-        address.sun_family = AF_UNIX;
-        std::strncpy(address.sun_path, path.c_str(), sizeof address.sun_path - 1);
-        EXPECT_EQ(::bind(socket_.Number(), reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
-        EXPECT_EQ(::listen(socket_.Number(), 1), 0);
-    }
-
-  private:
-    FileDescriptor socket_;
-};
 
 /// The address under these two variables, of which either may be missing.
 std::string AddressBy(const std::optional<std::string>& address,
@@ -94,6 +76,48 @@ TEST(ConnectToSessionBusTest, GivesUpOnAnAddressThatIsNone) {
     for (const char* value : {"nonsense", "unix:", "unix:path=/nowhere/bus", "nosuchtransport:x=y"}) {
         const EnvironmentVariable address("DBUS_SESSION_BUS_ADDRESS", value);
         EXPECT_FALSE(ConnectToSessionBus()) << value;
+    }
+}
+
+/// What the environment says of the bus and of the bridge to the screen readers, kept as it was.
+class BusSettings {
+  public:
+    explicit BusSettings(const std::string& address) : address_("DBUS_SESSION_BUS_ADDRESS", address) {}
+
+    static std::string Now() {
+        const auto value = [](const char* name) {
+            const char* found = std::getenv(name);
+            return std::string(found == nullptr ? "none" : found);
+        };
+        return value("DBUS_SESSION_BUS_ADDRESS") + ", " + value("NO_AT_BRIDGE");
+    }
+
+  private:
+    EnvironmentVariable address_;
+    EnvironmentVariable bridge_{"NO_AT_BRIDGE", std::nullopt};
+};
+
+TEST(LeaveOutSilentBusTest, LeavesABusThatHangsOut) {
+    const TemporaryFolder folder;
+    const SilentSocket socket(folder.Path("bus"));
+    const BusSettings settings("unix:path=" + folder.Path("bus"));
+    EXPECT_TRUE(LeaveOutSilentBus(std::chrono::milliseconds(100)));
+    EXPECT_EQ(BusSettings::Now(), "disabled:, 1");
+}
+
+TEST(LeaveOutSilentBusTest, KeepsABusThatAnswers) {
+    PrivateBus bus;
+    bus.Start();
+    const BusSettings settings(bus.Address());
+    EXPECT_FALSE(LeaveOutSilentBus(std::chrono::seconds(30)));
+    EXPECT_EQ(BusSettings::Now(), bus.Address() + ", none");
+}
+
+TEST(LeaveOutSilentBusTest, HasNothingToDoWhereThereIsNoBus) {
+    for (const std::string address : {"disabled:", "unix:path=/nowhere/bus"}) {
+        const BusSettings settings(address);
+        EXPECT_FALSE(LeaveOutSilentBus(std::chrono::seconds(30)));
+        EXPECT_EQ(BusSettings::Now(), address + ", none");
     }
 }
 

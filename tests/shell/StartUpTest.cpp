@@ -85,6 +85,13 @@ TEST_F(StartUpTest, SaysWhereTheNoteOfARunThatBrokeOffIs) {
                 HasSubstr("ZY Setup broke off the last time it ran; its support needs a path"));
 }
 
+TEST_F(StartUpTest, SaysThatItGoesWithoutTheSessionBus) {
+    Start("@UNITS");
+    program().TellOfSilentBus();
+    EXPECT_THAT(form().zyStatusBar.Text(),
+                HasSubstr("The session bus does not answer: screen readers do not reach this window"));
+}
+
 TEST_F(StartUpTest, LeavesOneModeOnWhicheverWereOnBefore) {
     Start("");
     const auto startFromAllModes = [this](std::string_view commandLine) {
