@@ -33,6 +33,8 @@ class Scene : public ::testing::Test {
     // The trace viewers.
     void StartViewer();
     void StopViewer();
+    /// The one that was started last.
+    Child& Viewer() { return *viewers_.back(); }
     /// The lines that the viewers of this test have printed, without the program's name.
     std::vector<std::string> Traces() const;
     bool WaitForTrace(const std::string& line) const;
