@@ -72,7 +72,6 @@ std::vector<int> UserChecks::RowsOfSameName() const {
         const int first = firstRows.Take(
             row, name, [&](int taken) { return codePage_.UCase(grid_.Text(taken, kUserName)) == name; });
         if (first != row) {
-            others[static_cast<std::size_t>(row)] = first;
             auto& ofFirst = others[static_cast<std::size_t>(first)];
             ofFirst = ofFirst == 0 ? row : ofFirst;
         }

@@ -1,11 +1,16 @@
 // What is on the disk when.
 
+#include <array>
+#include <string>
+#include <vector>
+
 #include "DatabaseTest.h"
 #include "support/TableBytes.h"
 
 namespace zy::dbase::test {
 namespace {
 
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -43,6 +48,16 @@ TEST_F(PendingRows, WritesThemForGood) {
                             R"(Close C:\SYS\ZYSECURE.TMP)"));
 }
 
+TEST_F(PendingRows, WritesThemOnceMoreAfterAWriteThatFailed) {
+    Run(kCreateUsers);
+    Insert("ADA");
+    world.files.Plan({.operation = 3, .cutShort = true});
+    EXPECT_EQ(ErrorNumber([&] { database->Flush(); }), kDiskFailed);
+    world.files.Plan({});
+    database->Flush();
+    EXPECT_EQ(Get("ZYSECURE.TMP"), UserTable().Add(' ', {"ADA", "", "", "", ""}).Bytes());
+}
+
 TEST_F(PendingRows, TouchesNoFileWhenNothingIsPending) {
     Run(kCreateUsers);
     Insert("ADA");
@@ -60,6 +75,23 @@ TEST_F(PendingRows, DropsWhatIsPendingWhenItIsDestroyedWithoutBeingClosed) {
     database = Open();
     EXPECT_EQ(ErrorNumber([&] { engine.CommitTrans(); }), kNoTransaction);
     EXPECT_THAT(NamesIn("ZYSECURE.TMP"), IsEmpty());
+}
+
+TEST_F(PendingRows, AreWrittenBesideTheTableWhateverDotsItsPathHas) {
+    for (const auto& [folder, table, beside] :
+         std::vector<std::array<std::string, 3>>{{R"(C:\SYS.D\)", "T.", R"(C:\SYS.D\T.$$$)"},
+                                                 {R"(C:\SYS.D\)", "T", R"(C:\SYS.D\T.$$$)"},
+                                                 {R"(C:\SYS.D\)", ".X", R"(C:\SYS.D\.X.$$$)"}}) {
+        world.files.AddFolder(R"(C:\SYS.D)");
+        database = engine.OpenDatabase(folder, false, false, "dBase III");
+        Run("CREATE TABLE [" + table + "] (NAME TEXT(1))");
+        Run("INSERT INTO [" + table + "] (NAME) VALUES ('a')");
+        database->Flush();
+        Run("INSERT INTO [" + table + "] (NAME) VALUES ('b')");
+        world.files.Plan({});
+        database->Flush();
+        EXPECT_THAT(world.files.Operations().Lines(), Contains("CreatePrivate " + beside)) << table;
+    }
 }
 
 TEST_F(PendingRows, SeesATableThatOthersReplaceOnceItIsFlushed) {

@@ -106,6 +106,17 @@ TEST_F(WriteTable, IsInWindows1252FromTheFirstOtherCharacterOn) {
     EXPECT_EQ(RowsIn("ZYSECURE.TMP")[1][0], "M\xFCller");
 }
 
+TEST_F(WriteTable, IsInWindows1252WhereverTheOnlyOtherCharacterStands) {
+    for (int width = 1; width <= 70; ++width) {
+        const auto table = "T" + std::to_string(width);
+        Run("CREATE TABLE " + table + " (NAME TEXT(" + std::to_string(width) + "))");
+        const std::string before(static_cast<std::size_t>(width - 1), 'A');
+        Run("INSERT INTO " + table + " (NAME) VALUES ('" + before + "\xFC')");
+        database->Flush();
+        EXPECT_EQ(Get(table + ".DBF")[29], '\x03') << width;
+    }
+}
+
 TEST_F(WriteTable, StatesALanguageThatAnotherProgramLeftOut) {
     auto table = UserTable();
     table.Add(' ', {"M\xFCller", "", "", "", ""});
