@@ -199,10 +199,13 @@ void WindowTest::WaitForNoDialog(const std::string& name) {
 }
 
 void WindowTest::ClickIn(const std::string& control) {
-    hands->Click(InWindow([&] {
-        const auto place = RealNamed(control).GetScreenRect();
-        return place.GetPosition() + place.GetSize() / 2;
-    }));
+    // The window before may still lie over one that has just come up, although that is the active one.
+    WaitUntil("nothing lies over " + control, [&] {
+        auto& wanted = RealNamed(control);
+        auto* found = wxFindWindowAtPoint(MiddleOnScreen(wanted));
+        return wxGetTopLevelParent(found) == wxGetTopLevelParent(&wanted);
+    });
+    hands->Click(InWindow([&] { return MiddleOnScreen(RealNamed(control)); }));
 }
 
 void WindowTest::ExpectRoomForEveryPart(const std::string& dialog) {
