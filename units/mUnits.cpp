@@ -30,7 +30,6 @@ void mUnits::Start(std::string_view procedure) {
 void mUnits::LoadUnitsData() {
     Start("LoadUnitsData");
     const SaveTurn turn(files_, state_.gsUnitsFile); // what somebody else saves is read whole
-    dangers_.clear();
     grdUnits_.cells.SetRedraw(false);
     ResetGrid();
     const bool found = files_.Exists(state_.gsUnitsFile);

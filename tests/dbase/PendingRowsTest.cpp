@@ -68,6 +68,16 @@ TEST_F(PendingRows, TouchesNoFileWhenNothingIsPending) {
     EXPECT_THAT(world.files.Operations().Lines(), IsEmpty());
 }
 
+TEST_F(PendingRows, TouchesNoFileAfterARowThatWasRefused) {
+    Run(kCreateUsers);
+    Insert("ADA");
+    database->Flush();
+    EXPECT_EQ(ErrorNumber([&] { Insert("ELEVENCHARS"); }), kFieldTooSmall);
+    world.files.Plan({});
+    database->Flush();
+    EXPECT_THAT(world.files.Operations().Lines(), IsEmpty());
+}
+
 TEST_F(PendingRows, DropsWhatIsPendingWhenItIsDestroyedWithoutBeingClosed) {
     Run(kCreateUsers);
     engine.BeginTrans();

@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <limits>
+#include <string>
 
 #include "INIfileTest.h"
 #include "LargestArray.h"
@@ -149,6 +151,19 @@ TEST_F(SaveFile, WritesWhatIsLoadedAgainAsTheSameLines) {
     EXPECT_EQ(bytes, "[ONE]\r\n   k            = v = w\r\n[TWO]\r\n   =odd         = x\r\n");
     EXPECT_THAT(Load(bytes), ElementsAre(Texts{"[ONE]", "[ONE]", ""}, Texts{"[ONE]", "K", "v = w"},
                                          Texts{"[TWO]", "[TWO]", ""}));
+}
+
+TEST_F(SaveFile, KeepsLoadedKeysAndValuesOfAnyLength) {
+    std::string lines;
+    for (std::size_t length = 1; length <= 100; ++length) {
+        std::string text;
+        for (std::size_t i = 0; i < length; ++i) {
+            text += static_cast<char>('A' + (i + length) % 26);
+        }
+        lines += "   " + text + std::string(13 - std::min<std::size_t>(length, 13), ' ') + "= " + text + "\r\n";
+    }
+    Load(lines);
+    EXPECT_EQ(Save(), lines);
 }
 
 TEST_F(SaveFile, TracesItsStartWithTheFileNameAndNothingElse) {

@@ -22,10 +22,12 @@ TEST(AChangingRulesFile, ThatGrowsWhileItIsReadIsReadWhole) {
 }
 
 TEST(AChangingRulesFile, ThatShrinksWhileItIsReadIsNotReadWhole) {
-    std::deque<RunRule> rules;
-    BytesFile file(kRule, {.size = 2 * kRule.size()});
-    EXPECT_FALSE(ReadRules(file, rules).complete);
-    EXPECT_EQ(rules.size(), 1U);
+    for (const auto size : {kRule.size() + 1, 2 * kRule.size()}) {
+        std::deque<RunRule> rules;
+        BytesFile file(kRule, {.size = size});
+        EXPECT_FALSE(ReadRules(file, rules).complete);
+        EXPECT_EQ(rules.size(), 1U);
+    }
 }
 
 } // namespace

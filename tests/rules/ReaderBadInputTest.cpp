@@ -73,6 +73,8 @@ TEST_F(BadRulesFile, WithAByteOrderMarkElsewhereSkipsThatLine) {
     EXPECT_EQ(skipped, 3U);
     EXPECT_THAT(Taken("[RULE]\r\nCODE= A\r\n\xEF\xBB\xBF[RULE]\r\nCODE= B\r\n"), ElementsAre("B|||||||"));
     EXPECT_EQ(skipped, 1U);
+    EXPECT_THAT(Taken("[RULE]\r\n\xEF\xBB\xBF[RULE]\r\nCODE= A\r\n"), ElementsAre("A|||||||"));
+    EXPECT_EQ(skipped, 1U);
 }
 
 TEST_F(BadRulesFile, InUtf16GivesNoRule) {
