@@ -130,6 +130,7 @@ TEST_F(UndoInUnits, TheCellThatComesBackIsScrolledIntoSight) {
         ClickCell(1, 1);
         Type("x");
         Press(WXK_DOWN);
+        WaitForCell(2, 1);
         Press(WXK_UP);
         WaitForCell(1, 1);
         InWindow([&] { RealGrid().MakeCellVisible(400, 0); });
