@@ -15,7 +15,8 @@ constexpr std::chrono::milliseconds kTracePatience{2000};
 constexpr std::chrono::seconds kTraceRest{60};
 
 /// Trace servers that hold the program up once a minute at the most. Without this each step would wait for a
-/// viewer that hangs, or that is stopped in a debugger. While they rest none is found, and no record is taken.
+/// viewer that hangs, or that is stopped in a debugger. While they rest none is found, and no record is
+/// taken.
 class PatientTraceServers final : public TraceServers {
   public:
     using Clock = std::function<std::chrono::steady_clock::time_point()>;

@@ -24,8 +24,8 @@ class UserChecks {
     std::optional<Cell> FirstFailure();
 
   private:
-    /// For the first row of each name the next row with that name, capitals or not. 0 where there is none, and
-    /// for the rows behind the first one, which is refused before they are looked at.
+    /// For the first row of each name the next row with that name, capitals or not. 0 where there is none,
+    /// and for the rows behind the first one, which is refused before they are looked at.
     std::vector<int> RowsOfSameName() const;
     /// `sameName` is another row with the row's name; 0 when there is none.
     std::optional<Cell> CheckRow(int row, int sameName);

@@ -75,7 +75,7 @@ bool Connect(GDBusConnection* connection, std::chrono::milliseconds patience) {
     auto* initable = G_ASYNC_INITABLE(connection);
     g_async_initable_init_async(initable, G_PRIORITY_DEFAULT, cancellable.get(), &Ending::Come, &ending);
     return g_async_initable_init_finish(initable, ending.Await(context, cancellable.get(), patience),
-                                         nullptr) != FALSE;
+                                        nullptr) != FALSE;
 }
 
 bool StartsABus(std::string_view address) {

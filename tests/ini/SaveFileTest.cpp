@@ -160,7 +160,8 @@ TEST_F(SaveFile, KeepsLoadedKeysAndValuesOfAnyLength) {
         for (std::size_t i = 0; i < length; ++i) {
             text += static_cast<char>('A' + (i + length) % 26);
         }
-        lines += "   " + text + std::string(13 - std::min<std::size_t>(length, 13), ' ') + "= " + text + "\r\n";
+        lines +=
+            "   " + text + std::string(13 - std::min<std::size_t>(length, 13), ' ') + "= " + text + "\r\n";
     }
     Load(lines);
     EXPECT_EQ(Save(), lines);
