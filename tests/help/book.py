@@ -1,6 +1,7 @@
 """Reads the help book: its topics, contents and index, and what a reader sees of them."""
 
 import re
+import struct
 import zipfile
 from html.parser import HTMLParser
 
@@ -70,11 +71,20 @@ class Page(HTMLParser):
             self._pieces.append(" ")
 
 
+def times_of(entry):
+    """All times of an entry of an archive, in seconds since 1970: of its last change, its last use and its making."""
+    kind, size, _, *times = struct.unpack("<HHB3i", entry.extra[:17])
+    if (kind, size) != (0x5455, 13):
+        raise ValueError(f"{entry.filename} has other times than are looked for")
+    return times
+
+
 class Book:
     """The archive that the program opens."""
 
     def __init__(self, path):
         with zipfile.ZipFile(path) as archive:
+            self.times = {time for entry in archive.infolist() for time in times_of(entry)}
             self.files = {name: archive.read(name) for name in archive.namelist()}
         self.project = dict(line.split("=", 1) for line in self._source("zysetup.hhp").splitlines() if "=" in line)
         self.topics = {name: Page(self._source(name)) for name in self.files if name.endswith(".html")}

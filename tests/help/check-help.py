@@ -138,6 +138,11 @@ class ExplainsEveryMessage(unittest.TestCase):
             self.assertIn(known, texts)
 
 
+class TellsNothingOfItsMaking(unittest.TestCase):
+    def test_all_its_times_are_those_of_a_day_long_ago(self):
+        self.assertEqual(BOOK.times, {946684800})  # 1 January 2000
+
+
 class ShowsTheCaptionsAsTheyAre(unittest.TestCase):
     def test_every_caption_stands_in_bold_in_the_book(self):
         missing = [f'{path}: "{caption}"' for caption, path in sorted(captions().items())
