@@ -51,11 +51,12 @@ class PosixTraceServers::Bus {
   public:
     /// Nothing when there is no bus.
     GDBusConnection* Connection() {
-        if (!connection_ || g_dbus_connection_is_closed(connection_.get())) {
+        if (!IsOpen()) {
             connection_ = ConnectToSessionBus();
         }
         return connection_.get();
     }
+    bool IsOpen() const { return connection_ && g_dbus_connection_is_closed(connection_.get()) == FALSE; }
 
   private:
     GlibPointer<GDBusConnection> connection_;
@@ -73,6 +74,10 @@ std::unique_ptr<TraceServer> PosixTraceServers::GetRunning(std::string_view name
         return nullptr;
     }
     return std::make_unique<BusTraceServer>(connection, std::move(busName), codePage_);
+}
+
+bool PosixTraceServers::HasBus() const {
+    return bus_->IsOpen();
 }
 
 std::string ToBusText(const CodePage& codePage, std::string_view text) {

@@ -21,6 +21,8 @@ class PosixTraceServers final : public TraceServers {
     ~PosixTraceServers() override;
 
     std::unique_ptr<TraceServer> GetRunning(std::string_view name) override;
+    /// Whether the last look-up has reached the bus, which has not gone since then.
+    bool HasBus() const;
 
   private:
     class Bus; // keeps the headers of GLib out of this one

@@ -12,7 +12,7 @@ PosixWorld::PosixWorld(int argumentCount, const char* const* arguments)
 }
 
 void PosixWorld::ReadyForToolkit() {
-    isWithoutBus_ = LeaveOutSilentBus(kBusPatience);
+    isWithoutBus_ = !traceViewers.HasBus() && LeaveOutSilentBus(kBusPatience);
 }
 
 World PosixWorld::Get(const ScreenWorld& screen) {

@@ -71,6 +71,18 @@ TEST(PosixTraceServersTest, StartNoViewerInPlaceOfOneThatHasGone) {
     EXPECT_FALSE(std::filesystem::exists(folder.Path("started")));
 }
 
+TEST(PosixTraceServersTest, KnowTheirBusOnceTheyHaveLookedForAViewer) {
+    PrivateBus bus;
+    bus.Start();
+    PosixTraceServers servers(Windows1252());
+    EXPECT_FALSE(servers.HasBus());
+    EXPECT_FALSE(servers.GetRunning(kName));
+    EXPECT_TRUE(servers.HasBus());
+    bus.Stop();
+    EXPECT_FALSE(servers.GetRunning(kName));
+    EXPECT_FALSE(servers.HasBus());
+}
+
 TEST(PosixTraceServersTest, OutliveTheirBusAndFindTheNextOne) {
     PrivateBus bus;
     bus.Start();
