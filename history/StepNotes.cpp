@@ -80,13 +80,13 @@ Step TakeStep(ByteReader& bytes) {
     return step;
 }
 
-/// Whether each change finds the rows that it is about. How many rows there are changes with each.
+/// Whether each change finds the rows that it is about, and has as many columns, also where it has no rows:
+/// changes that are joined count on it. How many rows there are changes with each.
 bool Fits(const Step& step, const RowList& rows) {
     std::int64_t count = rows.Rows();
     return std::all_of(step.changes.begin(), step.changes.end(), [&](const RowChange& change) {
         const auto& [first, before, after] = change;
-        const bool fits = (before.Rows() == 0 || before.Columns() == rows.Columns()) &&
-                          (after.Rows() == 0 || after.Columns() == rows.Columns()) &&
+        const bool fits = before.Columns() == rows.Columns() && after.Columns() == rows.Columns() &&
                           std::int64_t{first} + before.Rows() <= count;
         count += after.Rows() - before.Rows();
         return fits;

@@ -189,6 +189,22 @@ TEST(StepNotes, ANoteOfAListWithFewerRowsIsNotDone) {
     EXPECT_EQ(shorter.history.ToUndo(), nullptr);
 }
 
+TEST(StepNotes, AChangeOfOtherColumnsIsNotDoneEvenWithoutRows) {
+    for (const int columns : {0, 1, 3}) {
+        Noted noted;
+        noted.list.Do("Edit", [&] { noted.list.Set(1, 0, "new"); });
+        Step none{.name = "Edit", .key = {}, .before = {}, .after = {}, .changes = {}};
+        none.changes.push_back({1, RowTexts(columns), RowTexts(columns)});
+        for (const auto kind : {StepNote::Kind::Push, StepNote::Kind::Join, StepNote::Kind::Append}) {
+            const auto note = StepNote::Of(StepNote{kind, none}.Bytes());
+            ASSERT_TRUE(note);
+            auto other = noted.Replayed();
+            EXPECT_FALSE(note->Replay(other, other.history)) << columns;
+            EXPECT_THAT(other.Lines(), ElementsAre("a|A", "new|B", "c|C"));
+        }
+    }
+}
+
 TEST(StepNotes, ANoteThatHasNoStepToGoWithIsNotDone) {
     Recorded list;
     for (const auto kind :
