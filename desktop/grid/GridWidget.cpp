@@ -72,6 +72,8 @@ GridWidget::GridWidget(wxWindow* parent, wxGridTableBase* table)
     SetCanFocus(false);
     HideRowLabels();
     DisableDragRowSize();
+    // Between the cells the mouse selects. Columns get their widths between the headers.
+    DisableDragGridSize();
     DisableDragColMove();
     SetMargins(0, 0);
     SetLabelTextColour(HeaderTextColour());

@@ -81,6 +81,24 @@ TEST_F(GridSelection, WhoeverComesToTheGridByTabStandsOnTheFirstCell) {
     });
 }
 
+TEST_F(GridSelection, ADragFromTheLineBetweenTwoCellsSelectsThemAndLeavesTheWidths) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        const auto width = [&] { return InWindow([&] { return RealGrid().GetColSize(0); }); };
+        const int before = width();
+        const auto line = InWindow([&] {
+            const wxRect cell = RealGrid().CellToRect(1, 1);
+            return RealGrid().GetGridWindow()->ClientToScreen(wxPoint(cell.x, cell.y + cell.height / 2));
+        });
+        constexpr std::chrono::milliseconds kUnhurried{20};
+        hands->PointAt(line);
+        hands->Drag(line, PlaceOfCell(3, 0), kUnhurried);
+        WaitForBlockEnd(3, 0);
+        EXPECT_THAT(ShownBlock(), ElementsAre(2, 0, 3, 1));
+        EXPECT_EQ(width(), before);
+    });
+}
+
 TEST_F(GridSelection, ArrowsHomeAndEndMoveTheCurrentCell) {
     PutUnits(ThreeUnits());
     Play([&] {
