@@ -21,6 +21,7 @@ MenuBarBinding::MenuBarBinding(const ViewContext& context, wxFrame& frame,
         bar->Append(MakeMenu(*menu), LabelOf(*menu));
     }
     frame_.SetMenuBar(bar);
+    CloseMenusThatFailed(*bar);
 }
 
 MenuBarBinding::~MenuBarBinding() = default;

@@ -13,6 +13,7 @@ class wxEvtHandler;
 class wxFileDialog;
 class wxHyperlinkCtrl;
 class wxKeyEvent;
+class wxMenuBar;
 class wxStaticBox;
 class wxTextCtrl;
 class wxTreeCtrl;
@@ -116,6 +117,9 @@ void CloseDropDown(const wxChoice& choice);
 /// Lets a list that cannot drop down, because somebody else has the mouse, leave the keys and clicks to the
 /// window. That happens in a double click, while the window manager looks at its second half.
 void CloseDropDownThatFailed(const wxChoice& choice);
+
+/// The same of the menus of a bar, once that is part of its window.
+void CloseMenusThatFailed(wxMenuBar& bar);
 
 /// Lets a link that has the keyboard be followed by Enter, too.
 void FollowByEnter(wxHyperlinkCtrl& link, const std::function<void()>& follow);

@@ -23,6 +23,8 @@ struct _GtkFileChooser;
 struct _GtkFileFilter;
 struct _GtkGesture;
 struct _GtkGestureSingle;
+struct _GtkMenuItem;
+struct _GtkMenuShell;
 struct _GtkScrolledWindow;
 struct _GtkStyleContext;
 struct _GtkStyleProvider;
@@ -65,6 +67,7 @@ GType gtk_entry_get_type();
 void gtk_entry_set_invisible_char(_GtkEntry* entry, unsigned character);
 void gtk_combo_box_popdown(_GtkComboBox* comboBox);
 void gtk_container_add(_GtkContainer* container, GtkWidget* widget);
+GList* gtk_container_get_children(_GtkContainer* container);
 void gtk_container_remove(_GtkContainer* container, GtkWidget* widget);
 _GtkCssProvider* gtk_css_provider_new();
 int gtk_css_provider_load_from_data(_GtkCssProvider* provider, const char* text, std::ptrdiff_t length,
@@ -78,6 +81,8 @@ _GtkGesture* gtk_gesture_multi_press_new(GtkWidget* widget);
 void gtk_gesture_single_set_button(_GtkGestureSingle* gesture, guint button);
 GtkWidget* gtk_grab_get_current();
 GList* gtk_menu_get_for_attach_widget(GtkWidget* widget);
+GtkWidget* gtk_menu_item_get_submenu(_GtkMenuItem* item);
+void gtk_menu_shell_cancel(_GtkMenuShell* menus);
 void gtk_scrolled_window_set_overlay_scrolling(_GtkScrolledWindow* window, int overlay);
 void gtk_style_context_add_provider_for_screen(_GdkScreen* screen, _GtkStyleProvider* provider,
                                                guint priority);

@@ -5,6 +5,7 @@
 #include <wx/filedlg.h>
 #include <wx/frame.h>
 #include <wx/hyperlink.h>
+#include <wx/menu.h>
 #include <wx/notebook.h>
 #include <wx/statbox.h>
 #include <wx/textctrl.h>
@@ -132,6 +133,39 @@ void CloseUnseen(GtkWidget* comboBox, gboolean /*free*/, gpointer /*unused*/) {
         // GTK is in the midst of it; the next key or click must not get lost, though.
         g_idle_add_full(G_PRIORITY_HIGH, CloseList, g_object_ref(comboBox), g_object_unref);
     }
+}
+
+/// Calls `work` with each menu of a bar.
+template <typename Work>
+void ForEachMenu(GtkWidget* bar, Work work) {
+    const std::unique_ptr<GList, decltype(&g_list_free)> items(
+        gtk_container_get_children(reinterpret_cast<_GtkContainer*>(bar)), g_list_free);
+    for (const GList* item = items.get(); item != nullptr; item = item->next) {
+        if (GtkWidget* menu = gtk_menu_item_get_submenu(static_cast<_GtkMenuItem*>(item->data))) {
+            work(menu);
+        }
+    }
+}
+
+void MakeMenusReal(GtkWidget* bar) {
+    if (gtk_grab_get_current() == bar) {
+        ForEachMenu(bar, gtk_widget_realize);
+    }
+}
+
+gboolean LeaveMenus(gpointer bar) {
+    gtk_menu_shell_cancel(static_cast<_GtkMenuShell*>(bar));
+    return G_SOURCE_REMOVE;
+}
+
+void LeaveUnseenMenu(GtkWidget* bar, gboolean /*free*/, gpointer /*unused*/) {
+    const GtkWidget* holder = gtk_grab_get_current();
+    ForEachMenu(bar, [&](GtkWidget* menu) {
+        if (menu == holder && gtk_widget_get_mapped(menu) == 0) {
+            // GTK is in the midst of it; the next key or click must not get lost, though.
+            g_idle_add_full(G_PRIORITY_HIGH, LeaveMenus, g_object_ref(bar), g_object_unref);
+        }
+    });
 }
 
 void MoveInOrder(_GtkEntry* entry, int step, int count, gboolean select, gpointer /*unused*/) {
@@ -426,6 +460,15 @@ void CloseDropDownThatFailed(const wxChoice& choice) {
         gtk_widget_realize(list);
     }
     g_signal_connect_data(choice.m_widget, "grab-notify", G_CALLBACK(CloseUnseen), nullptr, nullptr,
+                          GConnectFlags{});
+}
+
+void CloseMenusThatFailed(wxMenuBar& bar) {
+    // GTK has one take all keys and clicks even so, and complains of one that is not real yet. The window
+    // hears of it when the bar takes them for itself, the bar when it hands them on to a menu.
+    g_signal_connect_object(bar.GetFrame()->m_widget, "grab-notify", G_CALLBACK(MakeMenusReal), bar.m_widget,
+                            G_CONNECT_SWAPPED);
+    g_signal_connect_data(bar.m_widget, "grab-notify", G_CALLBACK(LeaveUnseenMenu), nullptr, nullptr,
                           GConnectFlags{});
 }
 

@@ -30,5 +30,31 @@ TEST_F(HeldMouseWindow, AListThatCouldNotDropDownDoesSoWhenTheMouseIsFreeAgain) 
     });
 }
 
+TEST_F(HeldMouseWindow, AMenuThatCannotOpenLeavesTheKeysToTheWindow) {
+    Play([&] {
+        Press('C', wxMOD_ALT);
+        WaitForFocus(page().cboCondition);
+        const HeldMouse mouse;
+        Press('E', wxMOD_ALT);
+        Press(WXK_TAB);
+        WaitForFocus(page().cboZone);
+    });
+}
+
+TEST_F(HeldMouseWindow, AMenuThatCouldNotOpenDoesSoWhenTheMouseIsFreeAgain) {
+    Play([&] {
+        {
+            const HeldMouse mouse;
+            Press('E', wxMOD_ALT);
+            Press('C', wxMOD_ALT);
+            WaitForFocus(page().cboCondition);
+        }
+        Press('F', wxMOD_ALT);
+        WaitForMenu();
+        Press(WXK_ESCAPE);
+        WaitForNoMenu();
+    });
+}
+
 } // namespace
 } // namespace zy::test
