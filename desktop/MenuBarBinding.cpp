@@ -21,7 +21,6 @@ MenuBarBinding::MenuBarBinding(const ViewContext& context, wxFrame& frame,
         bar->Append(MakeMenu(*menu), LabelOf(*menu));
     }
     frame_.SetMenuBar(bar);
-    CloseMenusThatFailed(*bar);
 }
 
 MenuBarBinding::~MenuBarBinding() = default;

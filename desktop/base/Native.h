@@ -13,7 +13,6 @@ class wxEvtHandler;
 class wxFileDialog;
 class wxHyperlinkCtrl;
 class wxKeyEvent;
-class wxMenuBar;
 class wxStaticBox;
 class wxTextCtrl;
 class wxTreeCtrl;
@@ -62,6 +61,11 @@ void AnnounceNotice(wxWindow& notice);
 /// Has assistive technology learn that a line of text has got the focus before it learns where the caret
 /// stands in it, for all lines of text of the program. The other way round it says the text without the name.
 void TellFocusFirst();
+
+/// Has a menu, or a list that should drop down, leave the keys and clicks to its window when it cannot open
+/// because somebody else has the mouse, in all windows of the program. That happens in a double click, while
+/// the window manager looks at its second half.
+void CloseMenusThatFailed();
 
 /// Has the mark of the control that has the keyboard, and the headers of lists, stand out well in all windows
 /// of the program and in whatever colours the user has.
@@ -113,13 +117,6 @@ void MoveQuickly(wxTextCtrl& box);
 
 /// Closes the list that has dropped down; nothing when none has.
 void CloseDropDown(const wxChoice& choice);
-
-/// Lets a list that cannot drop down, because somebody else has the mouse, leave the keys and clicks to the
-/// window. That happens in a double click, while the window manager looks at its second half.
-void CloseDropDownThatFailed(const wxChoice& choice);
-
-/// The same of the menus of a bar, once that is part of its window.
-void CloseMenusThatFailed(wxMenuBar& bar);
 
 /// Lets a link that has the keyboard be followed by Enter, too.
 void FollowByEnter(wxHyperlinkCtrl& link, const std::function<void()>& follow);

@@ -66,6 +66,7 @@ Toolkit::Toolkit() {
     wxTheApp->SetExitOnFrameDelete(false);
     wxTheApp->CallOnInit();
     TellFocusFirst();
+    CloseMenusThatFailed();
     StrengthenFaintColours();
 }
 

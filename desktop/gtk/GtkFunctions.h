@@ -23,7 +23,6 @@ struct _GtkFileChooser;
 struct _GtkFileFilter;
 struct _GtkGesture;
 struct _GtkGestureSingle;
-struct _GtkMenuItem;
 struct _GtkMenuShell;
 struct _GtkScrolledWindow;
 struct _GtkStyleContext;
@@ -67,7 +66,6 @@ GType gtk_entry_get_type();
 void gtk_entry_set_invisible_char(_GtkEntry* entry, unsigned character);
 void gtk_combo_box_popdown(_GtkComboBox* comboBox);
 void gtk_container_add(_GtkContainer* container, GtkWidget* widget);
-GList* gtk_container_get_children(_GtkContainer* container);
 void gtk_container_remove(_GtkContainer* container, GtkWidget* widget);
 _GtkCssProvider* gtk_css_provider_new();
 int gtk_css_provider_load_from_data(_GtkCssProvider* provider, const char* text, std::ptrdiff_t length,
@@ -80,9 +78,8 @@ const char* gtk_file_filter_get_name(_GtkFileFilter* filter);
 _GtkGesture* gtk_gesture_multi_press_new(GtkWidget* widget);
 void gtk_gesture_single_set_button(_GtkGestureSingle* gesture, guint button);
 GtkWidget* gtk_grab_get_current();
-GList* gtk_menu_get_for_attach_widget(GtkWidget* widget);
-GtkWidget* gtk_menu_item_get_submenu(_GtkMenuItem* item);
-void gtk_menu_shell_cancel(_GtkMenuShell* menus);
+void gtk_menu_shell_cancel(_GtkMenuShell* menu);
+GType gtk_menu_shell_get_type();
 void gtk_scrolled_window_set_overlay_scrolling(_GtkScrolledWindow* window, int overlay);
 void gtk_style_context_add_provider_for_screen(_GdkScreen* screen, _GtkStyleProvider* provider,
                                                guint priority);
@@ -107,6 +104,7 @@ void gtk_widget_get_preferred_size(GtkWidget* widget, GtkSizeNeeded* least, GtkS
 _GtkStyleContext* gtk_widget_get_style_context(GtkWidget* widget);
 GtkWidget* gtk_widget_get_parent(GtkWidget* widget);
 GtkWidget* gtk_widget_get_toplevel(GtkWidget* widget);
+GType gtk_widget_get_type();
 int gtk_widget_has_focus(GtkWidget* widget);
 int gtk_widget_is_ancestor(GtkWidget* widget, GtkWidget* ancestor);
 void gtk_widget_realize(GtkWidget* widget);

@@ -5,7 +5,6 @@
 #include <wx/filedlg.h>
 #include <wx/frame.h>
 #include <wx/hyperlink.h>
-#include <wx/menu.h>
 #include <wx/notebook.h>
 #include <wx/statbox.h>
 #include <wx/textctrl.h>
@@ -116,56 +115,37 @@ void GiveSizeToPages(const wxWindow& window) {
     }
 }
 
-/// The list of a combo box; none where the user's theme has it be no menu.
-GtkWidget* ListOf(GtkWidget* comboBox) {
-    const GList* menus = gtk_menu_get_for_attach_widget(comboBox);
-    return menus == nullptr ? nullptr : static_cast<GtkWidget*>(menus->data);
-}
-
-gboolean CloseList(gpointer comboBox) {
-    gtk_combo_box_popdown(static_cast<_GtkComboBox*>(comboBox));
-    return G_SOURCE_REMOVE;
-}
-
-void CloseUnseen(GtkWidget* comboBox, gboolean /*free*/, gpointer /*unused*/) {
+/// The menu, or list of a combo box, that has all keys and clicks to itself; none when there is no such.
+_GtkMenuShell* MenuInCharge() {
     GtkWidget* holder = gtk_grab_get_current();
-    if (holder != nullptr && holder == ListOf(comboBox) && gtk_widget_get_mapped(holder) == 0) {
-        // GTK is in the midst of it; the next key or click must not get lost, though.
-        g_idle_add_full(G_PRIORITY_HIGH, CloseList, g_object_ref(comboBox), g_object_unref);
-    }
+    const bool isMenu =
+        holder != nullptr && g_type_is_a(G_OBJECT_TYPE(holder), gtk_menu_shell_get_type()) != 0;
+    return isMenu ? reinterpret_cast<_GtkMenuShell*>(holder) : nullptr;
 }
 
-/// Calls `work` with each menu of a bar.
-template <typename Work>
-void ForEachMenu(GtkWidget* bar, Work work) {
-    const std::unique_ptr<GList, decltype(&g_list_free)> items(
-        gtk_container_get_children(reinterpret_cast<_GtkContainer*>(bar)), g_list_free);
-    for (const GList* item = items.get(); item != nullptr; item = item->next) {
-        if (GtkWidget* menu = gtk_menu_item_get_submenu(static_cast<_GtkMenuItem*>(item->data))) {
-            work(menu);
+bool IsUnseenMenuInCharge() {
+    auto* menu = reinterpret_cast<GtkWidget*>(MenuInCharge());
+    return menu != nullptr && gtk_widget_get_mapped(menu) == 0;
+}
+
+gboolean LeaveUnseenMenu(gpointer /*unused*/) {
+    if (IsUnseenMenuInCharge()) {
+        // With the bar that it belongs to.
+        while (auto* menu = MenuInCharge()) {
+            gtk_menu_shell_cancel(menu);
         }
     }
-}
-
-void MakeMenusReal(GtkWidget* bar) {
-    if (gtk_grab_get_current() == bar) {
-        ForEachMenu(bar, gtk_widget_realize);
-    }
-}
-
-gboolean LeaveMenus(gpointer bar) {
-    gtk_menu_shell_cancel(static_cast<_GtkMenuShell*>(bar));
     return G_SOURCE_REMOVE;
 }
 
-void LeaveUnseenMenu(GtkWidget* bar, gboolean /*free*/, gpointer /*unused*/) {
-    const GtkWidget* holder = gtk_grab_get_current();
-    ForEachMenu(bar, [&](GtkWidget* menu) {
-        if (menu == holder && gtk_widget_get_mapped(menu) == 0) {
-            // GTK is in the midst of it; the next key or click must not get lost, though.
-            g_idle_add_full(G_PRIORITY_HIGH, LeaveMenus, g_object_ref(bar), g_object_unref);
-        }
-    });
+gboolean LookForUnseenMenu(GSignalInvocationHint* /*signal*/, guint /*count*/, const GValue* /*values*/,
+                           gpointer /*unused*/) {
+    if (IsUnseenMenuInCharge()) {
+        // GTK is in the midst of it; the next key or click must not get lost, though.
+        g_idle_add_full(G_PRIORITY_HIGH, LeaveUnseenMenu, nullptr, nullptr);
+    }
+    constexpr gboolean kGoesOn = 1;
+    return kGoesOn;
 }
 
 void MoveInOrder(_GtkEntry* entry, int step, int count, gboolean select, gpointer /*unused*/) {
@@ -276,6 +256,12 @@ void LearnBorders() {
 void TellFocusFirst() {
     const guint signal = g_signal_lookup("focus-in-event", gtk_entry_get_type());
     g_signal_add_emission_hook(signal, 0, HoldCaretBack, nullptr, nullptr);
+}
+
+void CloseMenusThatFailed() {
+    // GTK has such a menu take all keys and clicks even so.
+    const guint signal = g_signal_lookup("grab-notify", gtk_widget_get_type());
+    g_signal_add_emission_hook(signal, 0, LookForUnseenMenu, nullptr, nullptr);
 }
 
 void StrengthenFaintColours() {
@@ -452,24 +438,6 @@ void MoveQuickly(wxTextCtrl& box) {
 
 void CloseDropDown(const wxChoice& choice) {
     gtk_combo_box_popdown(reinterpret_cast<_GtkComboBox*>(choice.m_widget));
-}
-
-void CloseDropDownThatFailed(const wxChoice& choice) {
-    if (GtkWidget* list = ListOf(choice.m_widget)) {
-        // GTK has it take all keys and clicks even so, and complains of one that is not real yet.
-        gtk_widget_realize(list);
-    }
-    g_signal_connect_data(choice.m_widget, "grab-notify", G_CALLBACK(CloseUnseen), nullptr, nullptr,
-                          GConnectFlags{});
-}
-
-void CloseMenusThatFailed(wxMenuBar& bar) {
-    // GTK has one take all keys and clicks even so, and complains of one that is not real yet. The window
-    // hears of it when the bar takes them for itself, the bar when it hands them on to a menu.
-    g_signal_connect_object(bar.GetFrame()->m_widget, "grab-notify", G_CALLBACK(MakeMenusReal), bar.m_widget,
-                            G_CONNECT_SWAPPED);
-    g_signal_connect_data(bar.m_widget, "grab-notify", G_CALLBACK(LeaveUnseenMenu), nullptr, nullptr,
-                          GConnectFlags{});
 }
 
 void MakeHeaderPlain(wxDataViewColumn& column) {

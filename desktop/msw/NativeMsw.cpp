@@ -191,6 +191,10 @@ void TellFocusFirst() {
     // It does so by itself.
 }
 
+void CloseMenusThatFailed() {
+    // The system gives them the keys only while they are open.
+}
+
 void StrengthenFaintColours() {
     // The system's are black on white, or white on black, or as the user wants them.
 }
@@ -351,14 +355,6 @@ void MoveQuickly(wxTextCtrl& /*box*/) {
 
 void CloseDropDown(const wxChoice& choice) {
     ::SendMessageW(choice.GetHandle(), CB_SHOWDROPDOWN, FALSE, 0);
-}
-
-void CloseMenusThatFailed(wxMenuBar& /*bar*/) {
-    // The system gives them the keys only while they are open.
-}
-
-void CloseDropDownThatFailed(const wxChoice& /*choice*/) {
-    // It does not fail.
 }
 
 void MakeHeaderPlain(wxDataViewColumn& /*column*/) {

@@ -41,6 +41,17 @@ TEST_F(HeldMouseWindow, AMenuThatCannotOpenLeavesTheKeysToTheWindow) {
     });
 }
 
+TEST_F(HeldMouseWindow, AContextMenuOfATextThatCannotOpenLeavesTheKeysToTheWindow) {
+    Play([&] {
+        Press('D', wxMOD_ALT);
+        WaitForFocus(page().txtDescription);
+        const HeldMouse mouse;
+        Press(WXK_F10, wxMOD_SHIFT);
+        Press('C', wxMOD_ALT);
+        WaitForFocus(page().cboCondition);
+    });
+}
+
 TEST_F(HeldMouseWindow, AMenuThatCouldNotOpenDoesSoWhenTheMouseIsFreeAgain) {
     Play([&] {
         {
