@@ -42,8 +42,12 @@ std::size_t WholeRecords(std::string_view file, const TableHeader& header) {
     return (file.size() - header.size) / header.recordSize;
 }
 
+std::size_t PlaceOf(const TableHeader& header, std::size_t record) {
+    return header.size + record * header.recordSize;
+}
+
 std::string_view RecordOf(std::string_view file, const TableHeader& header, std::size_t record) {
-    return file.substr(header.size + record * header.recordSize, header.recordSize);
+    return file.substr(PlaceOf(header, record), header.recordSize);
 }
 
 bool HasFlag(std::string_view record) {
@@ -55,12 +59,12 @@ TableContent ContentOf(std::string_view file, const TableHeader& header) {
     TableContent content;
     const auto present = std::min<std::size_t>(header.records, whole);
     for (std::size_t i = 0; i != present; ++i) {
-        const auto record = RecordOf(file, header, i);
-        if (record.front() == kLive) {
+        const char flag = file[PlaceOf(header, i)];
+        if (flag == kLive) {
             ++content.live;
-        } else if (record.front() != kDeleted) {
+        } else if (flag != kDeleted) {
             content.damage = "its record " + std::to_string(i + 1) + " begins with " +
-                             std::to_string(ByteAt(record, 0)) +
+                             std::to_string(static_cast<unsigned char>(flag)) +
                              ", which is neither a blank (32) nor the mark of a deleted one (42)";
             return content;
         }
