@@ -78,6 +78,7 @@ const char* gtk_file_filter_get_name(_GtkFileFilter* filter);
 _GtkGesture* gtk_gesture_multi_press_new(GtkWidget* widget);
 void gtk_gesture_single_set_button(_GtkGestureSingle* gesture, guint button);
 GtkWidget* gtk_grab_get_current();
+void gtk_grab_remove(GtkWidget* widget);
 void gtk_menu_shell_cancel(_GtkMenuShell* menu);
 GType gtk_menu_shell_get_type();
 void gtk_scrolled_window_set_overlay_scrolling(_GtkScrolledWindow* window, int overlay);

@@ -130,9 +130,11 @@ bool IsUnseenMenuInCharge() {
 
 gboolean LeaveUnseenMenu(gpointer /*unused*/) {
     if (IsUnseenMenuInCharge()) {
-        // With the bar that it belongs to.
+        // With the bar that it belongs to. One that does not know that it is open keeps what it took.
         while (auto* menu = MenuInCharge()) {
+            const std::unique_ptr<void, decltype(&g_object_unref)> held(g_object_ref(menu), g_object_unref);
             gtk_menu_shell_cancel(menu);
+            gtk_grab_remove(reinterpret_cast<GtkWidget*>(menu));
         }
     }
     return G_SOURCE_REMOVE;
