@@ -113,6 +113,10 @@ bool GridCursor::TakeBlock() {
 
 void GridCursor::MatchRows(GridTable& table) {
     showing_ = model_.cells.Rows() - 1 < grid_.GetNumberRows();
+    if (showing_) {
+        // The toolkit would keep a block that reaches beyond the last row. It is shown again where it is now.
+        grid_.ClearSelection();
+    }
     table.MatchRows();
     showing_ = false;
     Touch();

@@ -99,6 +99,28 @@ TEST_F(GridSelection, ADragFromTheLineBetweenTwoCellsSelectsThemAndLeavesTheWidt
     });
 }
 
+TEST_F(GridSelection, ABlockWithRowsThatGoIsNothingTheToolkitComplainsOf) {
+    static int complaints = 0;
+    PutUnits(ThreeUnits());
+    Play([&] {
+        InWindow([] {
+            wxSetAssertHandler([](const wxString&, int, const wxString&, const wxString&, const wxString&) {
+                ++complaints;
+            });
+        });
+        Press('A', wxMOD_ALT);
+        WaitForCell(4, 0);
+        ClickCell(1, 0);
+        Press('A', wxMOD_CONTROL);
+        WaitForBlockEnd(4, 1);
+        Press('Z', wxMOD_CONTROL);
+        WaitUntil("the row is gone", [&] { return grid().cells.Rows() == 4; });
+        Press(WXK_HOME, wxMOD_CONTROL);
+        WaitForCell(1, 0);
+        EXPECT_EQ(InWindow([] { return complaints; }), 0);
+    });
+}
+
 TEST_F(GridSelection, ArrowsHomeAndEndMoveTheCurrentCell) {
     PutUnits(ThreeUnits());
     Play([&] {
