@@ -115,6 +115,8 @@ void TakeLineEnds(wxTextCtrl& box);
 /// Lets the arrow keys move through a long text as quickly as through a short one.
 void MoveQuickly(wxTextCtrl& box);
 
+/// Gets the list that drops down ready.
+void PrepareDropDown(const wxChoice& choice);
 /// Closes the list that has dropped down; nothing when none has.
 void CloseDropDown(const wxChoice& choice);
 

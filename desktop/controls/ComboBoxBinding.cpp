@@ -15,6 +15,7 @@ ComboBoxBinding::ComboBoxBinding(const ViewContext& context, const Inside& insid
     Keep(model_.click.Observe([this] { ShowIndex(); }));
     // A list that has dropped down holds mouse and keyboard, and a message box would get neither.
     Keep(Gate().boxOpening.Observe([this] { CloseDropDown(*choice_); }));
+    PrepareDropDown(*choice_);
     IgnoreWheelWhileClosed(*choice_);
     ShowIndex();
     Attach(choice_);

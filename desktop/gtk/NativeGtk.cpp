@@ -140,12 +140,33 @@ gboolean LeaveUnseenMenu(gpointer /*unused*/) {
     return G_SOURCE_REMOVE;
 }
 
-gboolean LookForUnseenMenu(GSignalInvocationHint* /*signal*/, guint /*count*/, const GValue* /*values*/,
-                           gpointer /*unused*/) {
+/// GTK complains of a menu that takes all keys and clicks before it is real.
+void MakeMenusReal(_GtkMenuShell* bar) {
+    const std::unique_ptr<GList, decltype(&g_list_free)> items(
+        gtk_container_get_children(reinterpret_cast<_GtkContainer*>(bar)), g_list_free);
+    for (const GList* item = items.get(); item != nullptr; item = item->next) {
+        auto* menuItem = static_cast<_GtkMenuItem*>(item->data);
+        if (GtkWidget* menu = gtk_menu_item_get_submenu(menuItem)) {
+            gtk_widget_realize(menu);
+        }
+    }
+}
+
+gboolean FollowMenus(GSignalInvocationHint* /*signal*/, guint /*count*/, const GValue* /*values*/,
+                     gpointer /*unused*/) {
     if (IsUnseenMenuInCharge()) {
         // GTK is in the midst of it; the next key or click must not get lost, though.
         g_idle_add_full(G_PRIORITY_HIGH, LeaveUnseenMenu, nullptr, nullptr);
+    } else if (auto* menu = MenuInCharge()) {
+        MakeMenusReal(menu);
     }
+    constexpr gboolean kGoesOn = 1;
+    return kGoesOn;
+}
+
+gboolean MakeContextMenuReal(GSignalInvocationHint* /*signal*/, guint /*count*/, const GValue* values,
+                             gpointer /*unused*/) {
+    gtk_widget_realize(static_cast<GtkWidget*>(g_value_get_object(values + 1)));
     constexpr gboolean kGoesOn = 1;
     return kGoesOn;
 }
@@ -262,8 +283,12 @@ void TellFocusFirst() {
 
 void CloseMenusThatFailed() {
     // GTK has such a menu take all keys and clicks even so.
-    const guint signal = g_signal_lookup("grab-notify", gtk_widget_get_type());
-    g_signal_add_emission_hook(signal, 0, LookForUnseenMenu, nullptr, nullptr);
+    const guint taken = g_signal_lookup("grab-notify", gtk_widget_get_type());
+    g_signal_add_emission_hook(taken, 0, FollowMenus, nullptr, nullptr);
+    // Its signals are there once the kind of widget is.
+    g_type_class_unref(g_type_class_ref(gtk_entry_get_type()));
+    const guint opening = g_signal_lookup("populate-popup", gtk_entry_get_type());
+    g_signal_add_emission_hook(opening, 0, MakeContextMenuReal, nullptr, nullptr);
 }
 
 void StrengthenFaintColours() {
@@ -440,6 +465,14 @@ void MoveQuickly(wxTextCtrl& box) {
 
 void CloseDropDown(const wxChoice& choice) {
     gtk_combo_box_popdown(reinterpret_cast<_GtkComboBox*>(choice.m_widget));
+}
+
+void PrepareDropDown(const wxChoice& choice) {
+    // Otherwise GTK complains of one that cannot open and is not real yet. Where the user's theme has it be
+    // no menu, there is none.
+    if (const GList* menus = gtk_menu_get_for_attach_widget(choice.m_widget)) {
+        gtk_widget_realize(static_cast<GtkWidget*>(menus->data));
+    }
 }
 
 void MakeHeaderPlain(wxDataViewColumn& column) {

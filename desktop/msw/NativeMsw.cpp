@@ -357,6 +357,10 @@ void CloseDropDown(const wxChoice& choice) {
     ::SendMessageW(choice.GetHandle(), CB_SHOWDROPDOWN, FALSE, 0);
 }
 
+void PrepareDropDown(const wxChoice& /*choice*/) {
+    // It is ready.
+}
+
 void MakeHeaderPlain(wxDataViewColumn& /*column*/) {
     // The list's header takes no focus.
 }

@@ -31,7 +31,8 @@ class GridSelection : public UnitsWindow {
             constexpr int kWidth = 100;
             constexpr int kHeight = 20;
             grid().cells.SetText(row, column, "");
-            wxBitmap picture(kWidth, kHeight);
+            wxBitmap picture;
+            picture.Create(kWidth, kHeight);
             wxMemoryDC canvas(picture);
             const wxGridCellCoords cell(row - 1, column);
             RealGrid().Render(canvas, {0, 0}, {kWidth, kHeight}, cell, cell, wxGRID_DRAW_SELECTION);
