@@ -26,6 +26,9 @@ struct TableHeader {
     std::size_t size;
     std::size_t recordSize;
     std::vector<TableField> fields;
+
+    /// Where a record stands in the file, counted from 0; of the one behind the last, where they end.
+    std::size_t PlaceOf(std::size_t record) const { return size + record * recordSize; }
 };
 
 inline constexpr int kMostNewFields = 255;

@@ -42,12 +42,8 @@ std::size_t WholeRecords(std::string_view file, const TableHeader& header) {
     return (file.size() - header.size) / header.recordSize;
 }
 
-std::size_t PlaceOf(const TableHeader& header, std::size_t record) {
-    return header.size + record * header.recordSize;
-}
-
 std::string_view RecordOf(std::string_view file, const TableHeader& header, std::size_t record) {
-    return file.substr(PlaceOf(header, record), header.recordSize);
+    return file.substr(header.PlaceOf(record), header.recordSize);
 }
 
 bool HasFlag(std::string_view record) {
@@ -59,7 +55,7 @@ TableContent ContentOf(std::string_view file, const TableHeader& header) {
     TableContent content;
     const auto present = std::min<std::size_t>(header.records, whole);
     for (std::size_t i = 0; i != present; ++i) {
-        const char flag = file[PlaceOf(header, i)];
+        const char flag = file[header.PlaceOf(i)];
         if (flag == kLive) {
             ++content.live;
         } else if (flag != kDeleted) {

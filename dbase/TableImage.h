@@ -101,12 +101,8 @@ class TableImage {
     std::string_view FileBytes(std::uint32_t records, std::chrono::year_month_day today);
 
   private:
-    const char* At(std::uint32_t record) const {
-        return bytes_.data() + header_.size + std::size_t{record} * header_.recordSize;
-    }
-    std::size_t SizeOf(std::uint32_t records) const {
-        return header_.size + std::size_t{records} * header_.recordSize;
-    }
+    const char* At(std::uint32_t record) const { return bytes_.data() + header_.PlaceOf(record); }
+    std::size_t SizeOf(std::uint32_t records) const { return header_.PlaceOf(records); }
     void StampHeader(std::uint32_t records, std::chrono::year_month_day today);
     void RequireRoom() const;
     std::vector<std::string> InOemPage(std::span<const std::string_view> values) const;
