@@ -7,7 +7,7 @@ Recorder::Recorder(const RowList& rows, Here here, Take take)
     : rows_(rows), here_(std::move(here)), take_(std::move(take)) {}
 
 void Recorder::Begin(std::string_view name, std::string_view key) {
-    if (depth_++ == 0) {
+    if (depth_++ == 0 && isOn_) {
         step_ = {.name = std::string(name),
                  .key = std::string(key),
                  .before = here_(),
@@ -74,8 +74,8 @@ void Recorder::CompleteLast() {
 void Recorder::Finish() {
     CompleteLast();
     Step step = std::exchange(step_, {});
-    step.after = here_();
     if (!step.ChangesNothing()) {
+        step.after = here_();
         take_(std::move(step));
     }
 }

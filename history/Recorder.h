@@ -21,7 +21,8 @@ class Recorder {
     /// where no deed gave it one. The list must outlive the recorder, which begins to record with Start.
     Recorder(const RowList& rows, Here here, Take take);
 
-    /// While it is stopped, whatever happens to the list is left out.
+    /// While it is stopped, whatever happens to the list is left out. No deed is open when it starts or
+    /// stops.
     void Start() { isOn_ = true; }
     void Stop() { isOn_ = false; }
 
