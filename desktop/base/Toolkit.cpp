@@ -24,6 +24,9 @@ class App : public wxApp {
     // The program reads its command line itself.
     bool OnInit() override { return true; }
 
+    /// As the toolkit says it of a program that has set no language, but without the table of all languages.
+    wxLayoutDirection GetLayoutDirection() const override { return wxLayout_Default; }
+
     /// A mistake in the use of the toolkit, which goes on in spite of it.
     void OnAssertFailure(const wxChar* file, int line, const wxChar* function, const wxChar* condition,
                          const wxChar* message) override {
