@@ -15,6 +15,7 @@ class wxHyperlinkCtrl;
 class wxKeyEvent;
 class wxStaticBox;
 class wxTextCtrl;
+class wxTopLevelWindow;
 class wxTreeCtrl;
 class wxWindow;
 
@@ -72,7 +73,7 @@ void CloseMenusThatFailed();
 void StrengthenFaintColours();
 
 /// Gives a window that is not shown yet its size, down to its last control.
-void LayOutUnseen(wxWindow& window);
+void LayOutUnseen(wxTopLevelWindow& window);
 
 /// The inside of a box that has at least one child.
 struct BoxInside {

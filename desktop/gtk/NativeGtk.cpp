@@ -372,7 +372,7 @@ void SetPasswordCharacter(wxTextCtrl& box, char character) {
                                  static_cast<unsigned char>(character));
 }
 
-void LayOutUnseen(wxWindow& window) {
+void LayOutUnseen(wxTopLevelWindow& window) {
     SettleTabOrder(window);
     // A window that first appears without a size has GTK complain of menus that do not fit in. One that got
     // its size before it is real never hears of it, and gives room to nothing that is shown
@@ -381,8 +381,10 @@ void LayOutUnseen(wxWindow& window) {
     gtk_widget_realize(window.m_widget);
     GtkSizeNeeded needed{};
     gtk_widget_get_preferred_size(window.m_widget, nullptr, &needed);
+    // Within the borders: what gets another size later is laid out once more.
     const wxSize given = window.GetSize();
-    GtkRectangle size{0, 0, given.x, given.y};
+    const auto& borders = window.m_decorSize;
+    GtkRectangle size{0, 0, given.x - borders.left - borders.right, given.y - borders.top - borders.bottom};
     gtk_widget_size_allocate(window.m_widget, &size);
 }
 

@@ -265,7 +265,7 @@ void SetPasswordCharacter(wxTextCtrl& box, char character) {
     ::SendMessageW(box.GetHandle(), EM_SETPASSWORDCHAR, static_cast<unsigned char>(character), 0);
 }
 
-void LayOutUnseen(wxWindow& /*window*/) {
+void LayOutUnseen(wxTopLevelWindow& /*window*/) {
     // A window has its size, shown or not.
 }
 
