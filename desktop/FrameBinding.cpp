@@ -31,14 +31,12 @@ void FrameBinding::ShowAppearance() {
 }
 
 void FrameBinding::MakeChildren() {
-    children_ = BindChildren(Context(), content_, model_);
-    if (box_ != nullptr && !children_.empty()) {
+    if (box_ != nullptr) {
+        // While the box is empty: then there is nothing else to lay out.
         LookInside();
         Measure();
-        for (const auto& child : children_) {
-            child->ShowAppearance();
-        }
     }
+    children_ = BindChildren(Context(), content_, model_);
 }
 
 void FrameBinding::LookInside() {

@@ -75,14 +75,14 @@ void StrengthenFaintColours();
 /// Gives a window that is not shown yet its size, down to its last control.
 void LayOutUnseen(wxTopLevelWindow& window);
 
-/// The inside of a box that has at least one child.
+/// The inside of a box.
 struct BoxInside {
     /// The place in the box that the window system counts its controls' places from.
     wxPoint origin;
     /// The height that caption and border take at the top.
     int above = 0;
 };
-BoxInside InsideOf(const wxStaticBox& box);
+BoxInside InsideOf(wxStaticBox& box);
 
 /// Calls `moved` whenever the focus of a window goes from one of its controls to another, for the window's
 /// whole life. That another window becomes the active one moves no focus.

@@ -388,7 +388,11 @@ void LayOutUnseen(wxTopLevelWindow& window) {
     gtk_widget_size_allocate(window.m_widget, &size);
 }
 
-BoxInside InsideOf(const wxStaticBox& box) {
+BoxInside InsideOf(wxStaticBox& box) {
+    if (box.m_wxwindow == nullptr) {
+        // A box gets its inside with its first child.
+        delete new wxWindow(&box, wxID_ANY);
+    }
     // GTK knows the inside only of a frame that has been given a size, whatever size that is.
     GtkSizeNeeded needed{};
     gtk_widget_get_preferred_size(box.m_widget, nullptr, &needed);

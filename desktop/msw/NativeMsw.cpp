@@ -269,7 +269,7 @@ void LayOutUnseen(wxTopLevelWindow& /*window*/) {
     // A window has its size, shown or not.
 }
 
-BoxInside InsideOf(const wxStaticBox& box) {
+BoxInside InsideOf(wxStaticBox& box) {
     int above = 0;
     int beside = 0;
     box.GetBordersForSizer(&above, &beside);

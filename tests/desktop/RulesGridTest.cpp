@@ -4,6 +4,7 @@
 #include <wx/grid.h>
 
 #include <cstdlib>
+#include <memory>
 
 #include "NativeLook.h"
 #include "RulesWindow.h"
@@ -23,17 +24,17 @@ class RulesGrid : public RulesWindow {
     void Have(const std::function<void()>& action) {
         wxTheApp->CallAfter([this, action] { desktop.Gate().Act(action); });
     }
+    /// What was moved in the program comes to its place on the screen with the next picture.
     void ShowGrid() {
-        Have([this] { program->rulesPage.ShowGridMode(); });
-        WaitUntil("the grid is shown", [&] {
-            const auto& cells = *RealGrid().GetGridWindow();
-            return cells.IsShownOnScreen() && IsInPlace(cells) && IsInPlace(RealGrid()) &&
-                   IsInPlace(Real(grid()));
+        const auto isPainted = std::make_shared<bool>(false);
+        Have([this, isPainted] {
+            program->rulesPage.ShowGridMode();
+            RealGrid().GetGridWindow()->Bind(wxEVT_PAINT, [isPainted](wxPaintEvent& event) {
+                event.Skip();
+                *isPainted = true;
+            });
         });
-    }
-    /// What was moved in the program comes to its place on the screen a little later.
-    static bool IsInPlace(const wxWindow& window) {
-        return window.ClientToScreen(wxPoint()) == window.GetParent()->ClientToScreen(window.GetPosition());
+        WaitUntil("the grid is painted", [&] { return *isPainted; });
     }
     /// Stores the grid and goes back to the list, unless a check keeps the grid.
     void LeaveGrid() {
