@@ -68,6 +68,10 @@ void TellFocusFirst();
 /// the window manager looks at its second half.
 void CloseMenusThatFailed();
 
+/// Keeps the toolkit from offering pictures of faces where a text is typed. No file can hold them, and where
+/// somebody else has the mouse, the window in which they are chosen takes all keys and clicks unseen.
+void OfferNoEmoji();
+
 /// Has the mark of the control that has the keyboard, and the headers of lists, stand out well in all windows
 /// of the program and in whatever colours the user has.
 void StrengthenFaintColours();

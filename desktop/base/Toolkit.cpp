@@ -70,6 +70,7 @@ Toolkit::Toolkit() {
     wxTheApp->CallOnInit();
     TellFocusFirst();
     CloseMenusThatFailed();
+    OfferNoEmoji();
     StrengthenFaintColours();
 }
 

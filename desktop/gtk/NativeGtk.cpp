@@ -171,6 +171,23 @@ gboolean MakeContextMenuReal(GSignalInvocationHint* /*signal*/, guint /*count*/,
     return kGoesOn;
 }
 
+void OfferNone(_GtkEntry* entry, gpointer /*unused*/) {
+    g_signal_stop_emission_by_name(entry, "insert-emoji");
+}
+
+gboolean LeaveEmojiOut(GSignalInvocationHint* /*signal*/, guint /*count*/, const GValue* values,
+                       gpointer /*unused*/) {
+    constexpr unsigned kNoEmoji = 1U << 10U;
+    gpointer widget = g_value_get_object(values);
+    if (g_type_is_a(G_OBJECT_TYPE(widget), gtk_entry_get_type()) != 0) {
+        g_object_set(widget, "input-hints", kNoEmoji, nullptr);
+        g_signal_connect_data(widget, "insert-emoji", G_CALLBACK(OfferNone), nullptr, nullptr,
+                              GConnectFlags{});
+    }
+    constexpr gboolean kGoesOn = 1;
+    return kGoesOn;
+}
+
 void MoveInOrder(_GtkEntry* entry, int step, int count, gboolean select, gpointer /*unused*/) {
     constexpr int kInOrder = 0;
     constexpr int kAsSeen = 1;
@@ -289,6 +306,12 @@ void CloseMenusThatFailed() {
     g_type_class_unref(g_type_class_ref(gtk_entry_get_type()));
     const guint opening = g_signal_lookup("populate-popup", gtk_entry_get_type());
     g_signal_add_emission_hook(opening, 0, MakeContextMenuReal, nullptr, nullptr);
+}
+
+void OfferNoEmoji() {
+    // Neither in the context menu nor by Ctrl+full stop.
+    const guint made = g_signal_lookup("realize", gtk_widget_get_type());
+    g_signal_add_emission_hook(made, 0, LeaveEmojiOut, nullptr, nullptr);
 }
 
 void StrengthenFaintColours() {

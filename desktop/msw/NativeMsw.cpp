@@ -195,6 +195,10 @@ void CloseMenusThatFailed() {
     // The system gives them the keys only while they are open.
 }
 
+void OfferNoEmoji() {
+    // The system's own window for them is no part of the program.
+}
+
 void StrengthenFaintColours() {
     // The system's are black on white, or white on black, or as the user wants them.
 }
