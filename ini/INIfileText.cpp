@@ -116,7 +116,8 @@ INIfileText::INIfileText(const INIlines& lines, const INIformat& format, const C
 }
 
 void INIfileText::MakeRoom(std::size_t room) {
-    if (static_cast<std::size_t>(lastPlace_ - at_) >= room) {
+    // The last line may have ended behind the last place.
+    if (lastPlace_ - at_ >= static_cast<std::ptrdiff_t>(room)) {
         return;
     }
     const auto text = Get();

@@ -14,6 +14,8 @@ using ::testing::IsEmpty;
 
 class SaveFile : public INIfileTest {
   protected:
+    const std::string kPlainLine = "   KEY          = value\r\n";
+
     INIlines& Document() { return *file.INIlines(); }
 };
 
@@ -165,6 +167,42 @@ TEST_F(SaveFile, KeepsLoadedKeysAndValuesOfAnyLength) {
     }
     Load(lines);
     EXPECT_EQ(Save(), lines);
+}
+
+// Lines that take more room than the file had.
+
+TEST_F(SaveFile, WritesLinesOfTheFileBehindOneThatHasBecomeVeryLong) {
+    Load(kPlainLine + kPlainLine + kPlainLine);
+    const std::string text(4'000'000, 'v');
+    Document().Item(1).Value(text);
+    EXPECT_EQ(Save(), "   KEY          = " + text + "\r\n" + kPlainLine + kPlainLine);
+}
+
+TEST_F(SaveFile, WritesVeryLongKeysAndHeadersBehindLinesOfTheFile) {
+    const std::string text(4'000'000, 'T');
+    Load(kPlainLine + kPlainLine);
+    Document().Add(text);
+    Document().Add("", text, "v");
+    EXPECT_EQ(Save(), kPlainLine + kPlainLine + text + "\r\n   " + text + "= v\r\n");
+}
+
+TEST_F(SaveFile, WritesManyLinesOfTheFileAndChangedOnesInTurn) {
+    std::string lines;
+    for (int i = 0; i < 300; ++i) {
+        lines += kPlainLine;
+    }
+    Load(lines);
+    std::string expected;
+    for (int i = 1; i <= 300; ++i) {
+        if (i % 3 != 0) {
+            expected += kPlainLine;
+            continue;
+        }
+        const std::string text(static_cast<std::size_t>(i) * static_cast<std::size_t>(i), 'v');
+        Document().Item(i).Value(text);
+        expected += "   KEY          = " + text + "\r\n";
+    }
+    EXPECT_EQ(Save(), expected);
 }
 
 TEST_F(SaveFile, TracesItsStartWithTheFileNameAndNothingElse) {
