@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -98,10 +100,25 @@ void RequireCopies(INIlines& lines, const std::vector<Line>& expected) {
     RequireLines(lines, expected);
 }
 
+/// Sets values, which may become longer than the whole file, as the bytes of the input say.
+void ChangeSome(INIlines& lines, std::vector<Line>& expected, std::string_view input) {
+    constexpr std::size_t kMost = 4;
+    constexpr std::size_t kLongest = 30'000;
+    std::size_t changed = 0;
+    for (std::size_t i = 0; i < expected.size() && changed < kMost; ++i) {
+        const auto byte = static_cast<unsigned char>(input[i]);
+        if (byte % 2 == 0 && !expected[i].section.starts_with('[')) {
+            expected[i].value.assign(std::min<std::size_t>(std::size_t{byte} * byte, kLongest), 'v');
+            lines.Item(static_cast<std::int32_t>(i) + 1).Value(expected[i].value);
+            ++changed;
+        }
+    }
+}
+
 } // namespace
 
 void IniFile(std::string_view input) {
-    const auto expected = LinesOf(input);
+    auto expected = LinesOf(input);
     Document document(input);
     RequireLines(document.Lines(), expected);
     RequireCopies(document.Lines(), expected);
@@ -109,6 +126,10 @@ void IniFile(std::string_view input) {
     Document again(document.Saved());
     RequireLines(document.Lines(), expected);
     RequireSavedLines(again.Lines(), expected);
+
+    ChangeSome(document.Lines(), expected, input);
+    Document changed(document.Saved());
+    RequireSavedLines(changed.Lines(), expected);
 }
 
 } // namespace zy::fuzz
