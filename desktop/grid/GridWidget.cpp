@@ -75,10 +75,20 @@ GridWidget::GridWidget(wxWindow* parent, wxGridTableBase* table)
     // Between the cells the mouse selects. Columns get their widths between the headers.
     DisableDragGridSize();
     DisableDragColMove();
+    KeepDragsOffHeader();
     SetMargins(0, 0);
     SetLabelTextColour(HeaderTextColour());
     SetSelectionBackground(SelectionGround());
     SetCellHighlightColour(NoticeableColour(wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT)));
+}
+
+void GridWidget::KeepDragsOffHeader() {
+    auto* header = GetGridColLabelWindow();
+    // It has the mouse while it draws a width. Of any other drag the toolkit would keep that there is one,
+    // and take the mouse for itself the next time that it comes over the cells.
+    const auto passOn = [header](wxMouseEvent& event) { event.Skip(event.Moving() || header->HasCapture()); };
+    header->Bind(wxEVT_MOTION, passOn);
+    header->Bind(wxEVT_LEFT_UP, passOn);
 }
 
 void GridWidget::SetHasCurrent(bool has) {

@@ -41,6 +41,7 @@ class GridWidget : public wxGrid {
     int CellMargin() const { return GetCharWidth() / 2; }
 
   private:
+    void KeepDragsOffHeader();
     void DrawColLabel(wxDC& dc, int column) override;
     /// The text if it is wider than what is seen of its column.
     wxString IfCut(const wxString& text, const wxFont& font, int column) const;

@@ -100,6 +100,22 @@ TEST_F(GridSelection, ADragFromTheLineBetweenTwoCellsSelectsThemAndLeavesTheWidt
     });
 }
 
+TEST_F(GridSelection, ADragAlongTheHeadersLeavesTheNextClickToTheWindow) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        constexpr std::chrono::milliseconds kUnhurried{20};
+        const wxPoint header = PlaceOfHeader();
+        const int far = PlaceOfCell(1, 1).x - PlaceOfCell(1, 0).x;
+        hands->PointAt(header);
+        hands->Drag(header, header + wxPoint(far, 0), kUnhurried);
+        hands->PointAt(PlaceOfCell(3, 1));
+        hands->PointAt(PlaceOfCell(2, 1));
+        EXPECT_FALSE(InWindow([&] { return RealGrid().GetGridWindow()->HasCapture(); }));
+        Click(page().cmdAddUNit);
+        WaitForCell(4, 0);
+    });
+}
+
 TEST_F(GridSelection, ABlockWithRowsThatGoIsNothingTheToolkitComplainsOf) {
     static int complaints = 0;
     PutUnits(ThreeUnits());
