@@ -164,9 +164,20 @@ gboolean FollowMenus(GSignalInvocationHint* /*signal*/, guint /*count*/, const G
     return kGoesOn;
 }
 
+gboolean TellThatItIsClosed(gpointer menu) {
+    if (gtk_widget_get_mapped(static_cast<GtkWidget*>(menu)) == 0) {
+        g_signal_emit_by_name(menu, "hide");
+    }
+    return G_SOURCE_REMOVE;
+}
+
 gboolean MakeContextMenuReal(GSignalInvocationHint* /*signal*/, guint /*count*/, const GValue* values,
                              gpointer /*unused*/) {
-    gtk_widget_realize(static_cast<GtkWidget*>(g_value_get_object(values + 1)));
+    auto* menu = static_cast<GtkWidget*>(g_value_get_object(values + 1));
+    gtk_widget_realize(menu);
+    // A search in a list waits for the end of its menu before it ends itself, and would wait for ever for one
+    // that cannot open.
+    g_idle_add_full(G_PRIORITY_DEFAULT_IDLE, TellThatItIsClosed, g_object_ref(menu), g_object_unref);
     constexpr gboolean kGoesOn = 1;
     return kGoesOn;
 }

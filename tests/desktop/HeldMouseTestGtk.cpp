@@ -1,5 +1,6 @@
 #include "HeldMouse.h"
 #include "RulesWindow.h"
+#include "desktop/GtkFunctions.h"
 
 namespace zy::test {
 namespace {
@@ -8,6 +9,11 @@ class HeldMouseWindow : public RulesWindow {
   protected:
     HeldMouseWindow() { PutRules(ThreeRules()); }
 
+    /// What is typed in the list stands in a window of its own, which has all keys and clicks.
+    void WaitForSearch(bool isOpen) {
+        WaitUntil(isOpen ? "a search is open" : "no search is open",
+                  [isOpen] { return (gtk_grab_get_current() != nullptr) == isOpen; });
+    }
     void PressSpaceInVain() {
         Press('C', wxMOD_ALT);
         WaitForFocus(page().cboCondition);
@@ -49,6 +55,18 @@ TEST_F(HeldMouseWindow, AContextMenuOfATextThatCannotOpenLeavesTheKeysToTheWindo
         Press(WXK_F10, wxMOD_SHIFT);
         Press('C', wxMOD_ALT);
         WaitForFocus(page().cboCondition);
+    });
+}
+
+TEST_F(HeldMouseWindow, ASearchInTheListEndsAlsoWhenItsOwnMenuCannotOpen) {
+    Play([&] {
+        WaitForFocus(page().lstRulesList);
+        Type("r");
+        WaitForSearch(true);
+        const HeldMouse mouse;
+        Press(WXK_F10, wxMOD_SHIFT);
+        Press(WXK_ESCAPE);
+        WaitForSearch(false);
     });
 }
 
