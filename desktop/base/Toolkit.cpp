@@ -25,7 +25,7 @@ class App : public wxApp {
     bool OnInit() override { return true; }
 
     /// As the toolkit says it of a program that has set no language, but without the table of all languages.
-    wxLayoutDirection GetLayoutDirection() const override { return wxLayout_Default; }
+    wxLayoutDirection GetLayoutDirection() const override { return wxLayout_LeftToRight; }
 
     /// A mistake in the use of the toolkit, which goes on in spite of it.
     void OnAssertFailure(const wxChar* file, int line, const wxChar* function, const wxChar* condition,
