@@ -27,6 +27,9 @@
 namespace zy {
 namespace {
 
+/// What a hook answers that is to be asked the next time, too.
+constexpr gboolean kGoesOn = 1;
+
 constexpr double kUsualDotsPerInch = 96;
 
 /// How long a window manager has to answer: as long as the toolkit itself waits for it.
@@ -160,7 +163,6 @@ gboolean FollowMenus(GSignalInvocationHint* /*signal*/, guint /*count*/, const G
     } else if (auto* menu = MenuInCharge()) {
         MakeMenusReal(menu);
     }
-    constexpr gboolean kGoesOn = 1;
     return kGoesOn;
 }
 
@@ -178,7 +180,6 @@ gboolean MakeContextMenuReal(GSignalInvocationHint* /*signal*/, guint /*count*/,
     // A search in a list waits for the end of its menu before it ends itself, and would wait for ever for one
     // that cannot open.
     g_idle_add_full(G_PRIORITY_DEFAULT_IDLE, TellThatItIsClosed, g_object_ref(menu), g_object_unref);
-    constexpr gboolean kGoesOn = 1;
     return kGoesOn;
 }
 
@@ -186,16 +187,19 @@ void OfferNone(_GtkEntry* entry, gpointer /*unused*/) {
     g_signal_stop_emission_by_name(entry, "insert-emoji");
 }
 
+bool IsEntry(gpointer widget) {
+    return g_type_is_a(G_OBJECT_TYPE(widget), gtk_entry_get_type()) != 0;
+}
+
 gboolean LeaveEmojiOut(GSignalInvocationHint* /*signal*/, guint /*count*/, const GValue* values,
                        gpointer /*unused*/) {
     constexpr unsigned kNoEmoji = 1U << 10U;
     gpointer widget = g_value_get_object(values);
-    if (g_type_is_a(G_OBJECT_TYPE(widget), gtk_entry_get_type()) != 0) {
+    if (IsEntry(widget)) {
         g_object_set(widget, "input-hints", kNoEmoji, nullptr);
         g_signal_connect_data(widget, "insert-emoji", G_CALLBACK(OfferNone), nullptr, nullptr,
                               GConnectFlags{});
     }
-    constexpr gboolean kGoesOn = 1;
     return kGoesOn;
 }
 
@@ -219,11 +223,10 @@ gboolean HoldCaretBack(GSignalInvocationHint* /*signal*/, guint /*count*/, const
                        gpointer /*unused*/) {
     constexpr int kBehindGtk = G_PRIORITY_LOW;
     gpointer widget = g_value_get_object(values);
-    if (g_type_is_a(G_OBJECT_TYPE(widget), gtk_entry_get_type()) != 0) {
+    if (IsEntry(widget)) {
         g_object_freeze_notify(static_cast<GObject*>(widget));
         g_idle_add_full(kBehindGtk, LetCaretGo, g_object_ref(widget), g_object_unref);
     }
-    constexpr gboolean kGoesOn = 1;
     return kGoesOn;
 }
 
