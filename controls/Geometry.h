@@ -2,7 +2,8 @@
 
 namespace zy {
 
-// Lengths are in twips: 1440 to the inch, 15 to a pixel on a display of 96 pixels per inch.
+// Lengths are in twips, 15 to a pixel on a display of 96 pixels per inch.
+inline constexpr double kTwipsPerInch = 1440;
 
 struct Size {
     int width = 0;

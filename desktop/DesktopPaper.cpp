@@ -11,17 +11,13 @@
 #include <algorithm>
 
 #include "controls/Drawing.h"
+#include "controls/Geometry.h"
 #include "desktop/PaintedDrawing.h"
 #include "desktop/PngFile.h"
 #include "desktop/Printout.h"
 #include "desktop/ShownText.h"
 
 namespace zy {
-namespace {
-
-constexpr int kTwipsPerInch = 1440;
-
-} // namespace
 
 DesktopPaper::DesktopPaper(const CodePage& codePage, EventGate& gate) : codePage_(codePage), gate_(gate) {}
 
@@ -30,7 +26,7 @@ DesktopPaper::~DesktopPaper() = default;
 std::optional<std::string> DesktopPaper::PngOf(const std::function<Sheet(const Lettering&)>& make) {
     constexpr int kPointsPerInch = 144;
     constexpr int kMostPoints = 30000;
-    constexpr double kPointsPerTwip = static_cast<double>(kPointsPerInch) / kTwipsPerInch;
+    constexpr double kPointsPerTwip = kPointsPerInch / kTwipsPerInch;
     const wxFont font = PaperFont(kPointsPerTwip);
     wxMemoryDC canvas;
     wxBitmap bitmap;

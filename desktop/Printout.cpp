@@ -3,15 +3,11 @@
 #include <wx/dc.h>
 #include <wx/math.h>
 
+#include "controls/Geometry.h"
 #include "desktop/PaintedDrawing.h"
 #include "desktop/ShownText.h"
 
 namespace zy {
-namespace {
-
-constexpr double kTwipsPerInch = 1440;
-
-} // namespace
 
 wxFont PaperFont(double unitsPerTwip) {
     constexpr int kTwips = 200;

@@ -23,8 +23,6 @@ class Scale {
     Size ToTwips(const wxSize& size) const;
 
   private:
-    static constexpr double kTwipsPerInch = 1440;
-
     double pixelsPerTwip_;
 };
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <bit>
 
+#include "controls/Geometry.h"
 #include "desktop/Displays.h"
 #include "desktop/Native.h"
 
@@ -16,8 +17,6 @@ static_assert(kGetMinMaxInfo == WM_GETMINMAXINFO);
 
 /// Under this name the real window keeps its DesktopWindowMsw.
 constexpr const wchar_t* kOwner = L"zyGlobal";
-
-constexpr double kTwipsPerInch = 1440;
 
 MONITORINFO Describe(HMONITOR monitor) {
     MONITORINFO screen{};
