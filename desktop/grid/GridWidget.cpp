@@ -76,6 +76,7 @@ GridWidget::GridWidget(wxWindow* parent, wxGridTableBase* table)
     DisableDragGridSize();
     DisableDragColMove();
     KeepDragsOffHeader();
+    DragToWhereMouseIsLetGo();
     SetMargins(0, 0);
     SetLabelTextColour(HeaderTextColour());
     SetSelectionBackground(SelectionGround());
@@ -89,6 +90,21 @@ void GridWidget::KeepDragsOffHeader() {
     const auto passOn = [header](wxMouseEvent& event) { event.Skip(event.Moving() || header->HasCapture()); };
     header->Bind(wxEVT_MOTION, passOn);
     header->Bind(wxEVT_LEFT_UP, passOn);
+}
+
+void GridWidget::DragToWhereMouseIsLetGo() {
+    auto* cells = GetGridWindow();
+    // The toolkit asks for the mouse's next step when it is done with the last one: on a busy machine a
+    // button that is let go at once comes before it, and the block would end too early.
+    cells->Bind(wxEVT_LEFT_UP, [cells](wxMouseEvent& event) {
+        event.Skip();
+        if (cells->HasCapture() && cells->GetClientRect().Contains(event.GetPosition())) {
+            wxMouseEvent lastStep(event);
+            lastStep.SetEventType(wxEVT_MOTION);
+            lastStep.SetLeftDown(true);
+            cells->ProcessWindowEvent(lastStep);
+        }
+    });
 }
 
 void GridWidget::SetHasCurrent(bool has) {

@@ -42,6 +42,7 @@ class GridWidget : public wxGrid {
 
   private:
     void KeepDragsOffHeader();
+    void DragToWhereMouseIsLetGo();
     void DrawColLabel(wxDC& dc, int column) override;
     /// The text if it is wider than what is seen of its column.
     wxString IfCut(const wxString& text, const wxFont& font, int column) const;

@@ -50,6 +50,18 @@ class GridSelection : public UnitsWindow {
         const int y = picture.GetHeight() / 2;
         return {picture.GetRed(x, y), picture.GetGreen(x, y), picture.GetBlue(x, y)};
     }
+    /// Lets the grid's cells hear of the mouse with its left button, without moving the real one.
+    void SendMouse(wxEventType type, const Cell& cell) {
+        const wxPoint place = PlaceOfCell(cell.row, cell.column);
+        InWindow([&] {
+            auto* cells = RealGrid().GetGridWindow();
+            wxMouseEvent event(type);
+            event.SetEventObject(cells);
+            event.SetPosition(cells->ScreenToClient(place));
+            event.SetLeftDown(type != wxEVT_LEFT_UP);
+            cells->ProcessWindowEvent(event);
+        });
+    }
     void WaitForBlockEnd(int row, int column) {
         WaitUntil("the block reaches to " + std::to_string(row) + "," + std::to_string(column), [&] {
             return grid().selection.BlockEnd() == Cell{row, column};
@@ -91,9 +103,7 @@ TEST_F(GridSelection, ADragFromTheLineBetweenTwoCellsSelectsThemAndLeavesTheWidt
             const wxRect cell = RealGrid().CellToRect(1, 1);
             return RealGrid().GetGridWindow()->ClientToScreen(wxPoint(cell.x, cell.y + cell.height / 2));
         });
-        constexpr std::chrono::milliseconds kUnhurried{20};
-        hands->PointAt(line);
-        hands->Drag(line, PlaceOfCell(3, 0), kUnhurried);
+        DragOver(line, PlaceOfCell(3, 0));
         WaitForBlockEnd(3, 0);
         EXPECT_THAT(ShownBlock(), ElementsAre(2, 0, 3, 1));
         EXPECT_EQ(width(), before);
@@ -103,11 +113,9 @@ TEST_F(GridSelection, ADragFromTheLineBetweenTwoCellsSelectsThemAndLeavesTheWidt
 TEST_F(GridSelection, ADragAlongTheHeadersLeavesTheNextClickToTheWindow) {
     PutUnits(ThreeUnits());
     Play([&] {
-        constexpr std::chrono::milliseconds kUnhurried{20};
         const wxPoint header = PlaceOfHeader();
         const int far = PlaceOfCell(1, 1).x - PlaceOfCell(1, 0).x;
-        hands->PointAt(header);
-        hands->Drag(header, header + wxPoint(far, 0), kUnhurried);
+        DragOver(header, header + wxPoint(far, 0));
         hands->PointAt(PlaceOfCell(3, 1));
         hands->PointAt(PlaceOfCell(2, 1));
         EXPECT_FALSE(InWindow([&] { return RealGrid().GetGridWindow()->HasCapture(); }));
@@ -222,6 +230,21 @@ TEST_F(GridSelection, TheMouseSelectsABlock) {
         ClickCell(1, 0);
         WaitForBlockEnd(1, 0);
         EXPECT_THAT(ShownBlock(), ElementsAre());
+    });
+}
+
+TEST_F(GridSelection, ABlockReachesToWhereTheMouseIsLetGoAlsoWhenItsLastStepIsNotTold) {
+    PutUnits(ThreeUnits());
+    Play([&] {
+        ClickCell(3, 1);
+        SendMouse(wxEVT_LEFT_DOWN, {3, 1});
+        SendMouse(wxEVT_MOTION, {3, 1});
+        SendMouse(wxEVT_MOTION, {2, 1});
+        SendMouse(wxEVT_LEFT_UP, {1, 0});
+        WaitForBlockEnd(1, 0);
+        WaitForCell(3, 1);
+        EXPECT_THAT(ShownBlock(), ElementsAre(1, 0, 3, 1));
+        EXPECT_FALSE(InWindow([&] { return RealGrid().GetGridWindow()->HasCapture(); }));
     });
 }
 

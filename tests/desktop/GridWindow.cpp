@@ -18,9 +18,14 @@ void GridWindow::DoubleClickCell(int row, int column) {
     hands->Click(PlaceOfCell(row, column));
 }
 
-void GridWindow::DragOverCells(const Cell& from, const Cell& to) {
+void GridWindow::DragOver(const wxPoint& from, const wxPoint& to) {
     constexpr std::chrono::milliseconds kSoThatEachStepIsSeen{20};
-    hands->Drag(PlaceOfCell(from.row, from.column), PlaceOfCell(to.row, to.column), kSoThatEachStepIsSeen);
+    hands->PointAt(from);
+    hands->Drag(from, to, kSoThatEachStepIsSeen);
+}
+
+void GridWindow::DragOverCells(const Cell& from, const Cell& to) {
+    DragOver(PlaceOfCell(from.row, from.column), PlaceOfCell(to.row, to.column));
 }
 
 void GridWindow::OpenEditor(int row, int column) {

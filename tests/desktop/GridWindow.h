@@ -20,6 +20,8 @@ class GridWindow : public WindowTest {
     // What the user does.
     void ClickCell(int row, int column);
     void DoubleClickCell(int row, int column);
+    /// Drags so slowly that each step is seen.
+    void DragOver(const wxPoint& from, const wxPoint& to);
     void DragOverCells(const Cell& from, const Cell& to);
     /// Opens the editor of a cell by F2.
     void OpenEditor(int row, int column);

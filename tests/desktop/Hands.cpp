@@ -59,9 +59,6 @@ void Hands::Drag(const wxPoint& from, const wxPoint& to, std::chrono::millisecon
         InWindow([&] { simulator_->MouseMove(from + (to - from) * step / kSteps); });
     }
     std::this_thread::sleep_for(pause);
-    // No hand comes to rest at once, and on a busy machine the toolkit may leave the last step out.
-    PointAt(to);
-    std::this_thread::sleep_for(pause);
     LetGoOfMouse();
 }
 
