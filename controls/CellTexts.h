@@ -69,8 +69,6 @@ class CellTexts {
     /// The bytes of all texts.
     std::size_t TotalSize() const;
 
-    /// Makes room, so that so many cells need not move.
-    void Reserve(std::size_t count) { cells_.reserve(count); }
     void Set(std::size_t cell, std::string_view text) { cells_[cell] = Stored(text); }
     void Append(std::string_view text) { cells_.push_back(Stored(text)); }
     /// Appends cells whose texts are parts of one text. They stay there, so that none of them is copied;

@@ -4,6 +4,19 @@
 #include <utility>
 
 namespace zy {
+namespace {
+
+/// Appends the cells of a row to others.
+template <typename Cells>
+void AppendItem(std::string_view tabJoined, int columns, Cells& cells) {
+    for (int column = 0; column < columns; ++column) {
+        const auto tab = tabJoined.find('\t');
+        cells.Append(tabJoined.substr(0, tab));
+        tabJoined.remove_prefix(tab == std::string_view::npos ? tabJoined.size() : tab + 1);
+    }
+}
+
+} // namespace
 
 GridCells::GridCells(int columns) : columns_(columns) {
     cells_.Resize(FirstCellOf(rows_));
@@ -31,14 +44,27 @@ void GridCells::SetRows(int rows) {
 
 void GridCells::AddItem(std::string_view tabJoinedCells) {
     changing.Raise(rows_, 0, 1);
-    for (int column = 0; column < columns_; ++column) {
-        const auto tab = tabJoinedCells.find('\t');
-        cells_.Append(tabJoinedCells.substr(0, tab));
-        tabJoinedCells.remove_prefix(tab == std::string_view::npos ? tabJoinedCells.size() : tab + 1);
-    }
+    zy::AppendItem(tabJoinedCells, columns_, cells_);
     ++rows_;
     AnnounceRows();
     changed.Raise();
+}
+
+void GridCells::AddItems(std::size_t count, const AppendItem& appendItem) {
+    std::string text;
+    std::vector<std::size_t> ends(count);
+    for (std::size_t item = 0; item < count; ++item) {
+        appendItem(item, text);
+        ends[item] = text.size();
+    }
+    AddRowsOf(Share(std::move(text)), [&](std::string_view all, TextParts& cells) {
+        cells.Reserve(FirstCellOf(static_cast<int>(ends.size())));
+        std::size_t start = 0;
+        for (const auto end : ends) {
+            zy::AppendItem(all.substr(start, end - start), columns_, cells);
+            start = end;
+        }
+    });
 }
 
 void GridCells::AddRowsOf(SharedText text, const CellTexts::Split& split) {

@@ -52,11 +52,13 @@ class GridCells {
 
     /// Adds empty rows at the end or cuts rows off it; 0 cuts off the header too.
     void SetRows(int rows);
-    /// Makes room for so many rows. For filling a grid row by row.
-    void Reserve(int rows) { cells_.Reserve(FirstCellOf(rows)); }
     /// Appends a row whose cells are joined by TAB. Cells that the text lacks are empty, more of them than
     /// there are columns are left out.
     void AddItem(std::string_view tabJoinedCells);
+    /// Appends rows as `AddItem` would one by one, all in one step. `appendItem` appends the joined cells of
+    /// each to a text, counted from 0.
+    using AppendItem = std::function<void(std::size_t item, std::string& text)>;
+    void AddItems(std::size_t count, const AppendItem& appendItem);
     /// Appends many rows whose cells are parts of one text. The grid holds on to the text, so that nothing is
     /// copied; `split` finds the parts and appends them, whole rows. When it throws, nothing is appended.
     void AddRowsOf(SharedText text, const CellTexts::Split& split);

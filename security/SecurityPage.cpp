@@ -55,10 +55,9 @@ void SecurityPage::LoadSecurity() {
     steps_.Stop();
     grid.cells.SetRedraw(false);
     grid.cells.SetRows(1);
-    grid.cells.Reserve(static_cast<int>(users.zySecure.size()) + 1);
-    for (const auto& user : users.zySecure) {
-        grid.cells.AddItem(GridRow(user));
-    }
+    grid.cells.AddItems(users.zySecure.size(), [this](std::size_t user, std::string& text) {
+        AppendGridRow(users.zySecure[user], text);
+    });
     grid.cells.SetRedraw(true);
     steps_.Start();
     grid.columns.Fit(0); // the designed width is too narrow for most headers

@@ -72,16 +72,21 @@ inline UserRecord UserInRow(const GridCells& grid, int row) {
     return UserOf([&](const auto& field) { return grid.Text(row, field.gridColumn); });
 }
 
-/// The cells of a user's row in the grid, joined by TAB.
-inline std::string GridRow(const UserRecord& user) {
+/// Appends the cells of a user's row in the grid, joined by TAB.
+inline void AppendGridRow(const UserRecord& user, std::string& text) {
     std::array<std::string_view, kUsersColumns> cells;
     for (const auto& field : kUserFields) {
         cells[field.gridColumn] = user.*field.member;
     }
-    std::string row(cells.front());
+    text.append(cells.front());
     for (auto cell = cells.begin() + 1; cell != cells.end(); ++cell) {
-        row.append("\t").append(*cell);
+        text.append(1, '\t').append(*cell);
     }
+}
+
+inline std::string GridRow(const UserRecord& user) {
+    std::string row;
+    AppendGridRow(user, row);
     return row;
 }
 

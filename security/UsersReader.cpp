@@ -29,6 +29,13 @@ UserRecord UserIn(const dbase::Fields& fields) {
     return UserOf([&, column = 0](const UserField&) mutable { return fields.Item(column++).Value(); });
 }
 
+bool IsAdmin(const UserRecord& user, const CodePage& codePage) {
+    constexpr std::string_view kAdmin = "ADMIN";
+    // The size first: it is that of few names.
+    const auto name = Trim(user.USERID);
+    return name.size() == kAdmin.size() && codePage.UCase(name) == kAdmin;
+}
+
 /// The parts of a list of losses.
 class Losses {
   public:
@@ -91,7 +98,7 @@ LoadedUsers UsersOf(dbase::Recordset& records, const std::string& table, const C
         loaded.users.resize(static_cast<std::size_t>(i) + 1);
         auto& user = loaded.users.back();
         user = UserIn(records.Fields());
-        if (codePage.UCase(Trim(user.USERID)) == "ADMIN") {
+        if (IsAdmin(user, codePage)) {
             loaded.adminPassword = codePage.UCase(user.PASSWORD);
         }
         records.MoveNext();

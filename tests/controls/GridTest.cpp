@@ -80,6 +80,26 @@ TEST_F(GridTest, LeavesCellsOutThatARowHasTooMany) {
     EXPECT_THAT(Row(3), ElementsAre("1", "2", "3"));
 }
 
+TEST_F(GridTest, AddsManyItemsAsItAddsOneButAnnouncesThemOnce) {
+    const std::vector<std::string> items{"1\t2\t3\t4", "", "x", "\t\ty"};
+    std::vector<std::vector<int>> announced;
+    grid.cells.changing.Connect([&](int first, int removed, int added) {
+        announced.push_back({first, removed, added});
+    });
+    grid.cells.AddItems(items.size(), [&](std::size_t item, std::string& text) { text += items[item]; });
+    EXPECT_THAT(announced, ElementsAre(ElementsAre(3, 0, 4)));
+    EXPECT_EQ(grid.cells.Rows(), 7);
+    EXPECT_THAT(Row(3), ElementsAre("1", "2", "3"));
+    EXPECT_THAT(Row(4), ElementsAre("", "", ""));
+    EXPECT_THAT(Row(5), ElementsAre("x", "", ""));
+    EXPECT_THAT(Row(6), ElementsAre("", "", "y"));
+}
+
+TEST_F(GridTest, AddsNoRowForNoItems) {
+    grid.cells.AddItems(0, [](std::size_t, std::string&) { FAIL(); });
+    EXPECT_EQ(grid.cells.Rows(), 3);
+}
+
 TEST_F(GridTest, AddsRowsThatArePartsOfOneTextWithoutCopyingThem) {
     const auto text = Share("a long text of many parts; its parts are not copied");
     const char* const place = text->data();
