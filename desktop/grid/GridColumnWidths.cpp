@@ -1,7 +1,6 @@
 #include "desktop/GridColumnWidths.h"
 
 #include <algorithm>
-#include <numeric>
 #include <utility>
 #include <vector>
 
@@ -15,17 +14,21 @@ namespace {
 constexpr int kNarrowestFit = GridColumns::kDesignedWidth;
 constexpr int kWidestFit = 7200;
 
-/// The data rows with the longest texts of a column.
-std::vector<int> LongestRows(const GridCells& cells, int column) {
+/// The longest texts in a column's data rows, without those that are equal.
+std::vector<std::string_view> LongestTexts(const GridCells& cells, int column) {
     constexpr std::ptrdiff_t kMostMeasured = 32;
-    std::vector<int> rows(static_cast<std::size_t>(std::max(cells.Rows() - 1, 0)));
-    std::iota(rows.begin(), rows.end(), 1);
-    const auto end = rows.begin() + std::min(kMostMeasured, std::ssize(rows));
-    std::nth_element(rows.begin(), end, rows.end(), [&](int one, int other) {
-        return cells.Text(one, column).size() > cells.Text(other, column).size();
-    });
-    rows.erase(end, rows.end());
-    return rows;
+    const auto reader = cells.Read();
+    std::vector<std::string_view> texts;
+    texts.reserve(static_cast<std::size_t>(cells.Rows()));
+    for (int row = 1; row < cells.Rows(); ++row) {
+        texts.push_back(reader.Text(row, column));
+    }
+    const auto end = texts.begin() + std::min(kMostMeasured, std::ssize(texts));
+    std::nth_element(texts.begin(), end, texts.end(),
+                     [](auto one, auto other) { return one.size() > other.size(); });
+    std::sort(texts.begin(), end);
+    texts.erase(std::unique(texts.begin(), end), texts.end());
+    return texts;
 }
 
 } // namespace
@@ -71,20 +74,20 @@ void GridColumnWidths::Fit(int first, int end) {
 }
 
 int GridColumnWidths::NeededPixels(int column) const {
-    int width = TextPixels(0, column, grid_.GetLabelFont());
-    for (const int row : LongestRows(cells_, column)) {
-        width = std::max(width, TextPixels(row, column, grid_.GetDefaultCellFont()));
+    int width = TextPixels(cells_.Text(0, column), grid_.GetLabelFont());
+    for (const auto text : LongestTexts(cells_, column)) {
+        width = std::max(width, TextPixels(text, grid_.GetDefaultCellFont()));
     }
     return width + 2 * grid_.CellMargin() + 1;
 }
 
-int GridColumnWidths::TextPixels(int row, int column, const wxFont& font) const {
+int GridColumnWidths::TextPixels(std::string_view text, const wxFont& font) const {
     // A longer text is wider than any column is made.
     constexpr std::size_t kMostMeasured = 1024;
     int width = 0;
     int height = 0;
-    const auto text = cells_.Text(row, column).substr(0, kMostMeasured);
-    grid_.GetTextExtent(ToShown(context_.codePage, text), &width, &height, nullptr, nullptr, &font);
+    grid_.GetTextExtent(ToShown(context_.codePage, text.substr(0, kMostMeasured)), &width, &height, nullptr,
+                        nullptr, &font);
     return width;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include "controls/GridCells.h"
 #include "controls/GridColumns.h"
 #include "desktop/GridWidget.h"
@@ -23,7 +25,7 @@ class GridColumnWidths {
     /// long column a few of its longest texts are measured.
     void Fit(int first, int end);
     int NeededPixels(int column) const;
-    int TextPixels(int row, int column, const wxFont& font) const;
+    int TextPixels(std::string_view text, const wxFont& font) const;
     void TakeWidth(int column);
     int PixelsOf(int column) const;
 
