@@ -60,6 +60,7 @@ std::optional<std::string> DesktopDialogs::AskFileToWrite(std::string_view title
                         ChoicesOf(endings), wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
     LetNameFollowKind(dialog);
     const int answer = dialog.ShowModal();
+    StopWatchingName(dialog);
     gate_.Rethrow();
     if (answer != wxID_OK) {
         return std::nullopt;

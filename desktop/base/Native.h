@@ -40,6 +40,8 @@ void LearnBorders();
 
 /// Has the name in a dialog that asks where to save take the ending of the kind of file that is chosen there.
 void LetNameFollowKind(wxFileDialog& dialog);
+/// Has such a dialog, which was answered and is about to go, look at what was typed no more.
+void StopWatchingName(wxFileDialog& dialog);
 
 /// Runs work that may wait for the user, in a message box or a menu, once the event at hand is done; not any
 /// more when its owner is gone by then. The toolkit's CallAfter may run it while the event loop is only just

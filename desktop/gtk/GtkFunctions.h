@@ -17,6 +17,7 @@ struct _GtkAccessible;
 struct _GtkComboBox;
 struct _GtkContainer;
 struct _GtkCssProvider;
+struct _GtkDialog;
 struct _GtkEntry;
 struct _GtkEventController;
 struct _GtkFileChooser;
@@ -72,6 +73,7 @@ void gtk_container_remove(_GtkContainer* container, GtkWidget* widget);
 _GtkCssProvider* gtk_css_provider_new();
 int gtk_css_provider_load_from_data(_GtkCssProvider* provider, const char* text, std::ptrdiff_t length,
                                     GError** error);
+GtkWidget* gtk_dialog_get_content_area(_GtkDialog* dialog);
 void gtk_event_controller_set_propagation_phase(_GtkEventController* controller, int phase);
 char* gtk_file_chooser_get_current_name(_GtkFileChooser* chooser);
 _GtkFileFilter* gtk_file_chooser_get_filter(_GtkFileChooser* chooser);

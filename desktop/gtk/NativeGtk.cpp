@@ -378,6 +378,22 @@ void LetNameFollowKind(wxFileDialog& dialog) {
                           static_cast<GConnectFlags>(0));
 }
 
+void StopWatchingName(wxFileDialog& dialog) {
+    // A moment after the name has changed GTK looks for it in its list of files, on a busy machine also when
+    // that list is gone and the rest of the dialog only waits for the disk. The end of that rest needs the
+    // timer as it is.
+    constexpr gint64 kNever = -1;
+    const std::unique_ptr<GList, decltype(&g_list_free)> parts(
+        gtk_container_get_children(reinterpret_cast<_GtkContainer*>(
+            gtk_dialog_get_content_area(reinterpret_cast<_GtkDialog*>(dialog.m_widget)))),
+        g_list_free);
+    for (const GList* part = parts.get(); part != nullptr; part = part->next) {
+        if (GSource* look = g_main_context_find_source_by_user_data(nullptr, part->data)) {
+            g_source_set_ready_time(look, kNever);
+        }
+    }
+}
+
 // NOLINTNEXTLINE(performance-unnecessary-value-param): the other system keeps it
 void RunBehindEvent(wxEvtHandler& owner, const std::function<void()>& work) {
     owner.CallAfter(work); // runs between two events

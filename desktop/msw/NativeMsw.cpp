@@ -231,6 +231,10 @@ void LetNameFollowKind(wxFileDialog& /*dialog*/) {
     // The system's own dialog does that.
 }
 
+void StopWatchingName(wxFileDialog& /*dialog*/) {
+    // The system's own dialog looks at nothing once it is gone.
+}
+
 void RunBehindEvent(wxEvtHandler& owner, const std::function<void()>& work) {
     // The toolkit runs pending work in a hook on each message that is taken from the queue. That message is
     // not done before the hook is, and in a box that the hook opens Wine would keep back all that is posted.

@@ -3,8 +3,12 @@
 #include <wx/modalhook.h>
 #include <wx/statusbr.h>
 
+#include <chrono>
+#include <thread>
+
 #include "NativeLook.h"
 #include "RulesWindow.h"
+#include "desktop/GtkFunctions.h"
 
 namespace zy::test {
 namespace {
@@ -15,6 +19,11 @@ class FileDialogs : private wxModalDialogHook {
     FileDialogs() { Register(); }
     bool HaveKeyboard() const { return open_ != nullptr && HasKeyboard(*open_); }
     bool AreClosed() const { return open_ == nullptr; }
+    /// What GTK has put into the open one.
+    GList* Parts() const {
+        return gtk_container_get_children(reinterpret_cast<_GtkContainer*>(
+            gtk_dialog_get_content_area(reinterpret_cast<_GtkDialog*>(open_->m_widget))));
+    }
 
   private:
     int Enter(wxDialog* dialog) override {
@@ -53,6 +62,16 @@ class SavePicturesWindow : public RulesWindow {
         });
     }
 
+    GList* HoldPartsOfDialog() {
+        return InWindow([&] {
+            GList* parts = dialogs_.Parts();
+            g_list_foreach(
+                parts, [](void* part, void*) { g_object_ref(part); }, nullptr);
+            return parts;
+        });
+    }
+    static void LetGoOf(GList* parts) { g_list_free_full(parts, g_object_unref); }
+
   private:
     FileDialogs dialogs_;
 };
@@ -81,6 +100,28 @@ TEST_F(SavePicturesWindow, AreNotSavedOnEscape) {
         Press(WXK_ESCAPE);
         WaitForNoDialog();
         WaitForStatus("3 rules");
+    });
+}
+
+// While the disk is slow, GTK holds on to a part of a dialog that is gone.
+TEST_F(SavePicturesWindow, LookAtNoNameInADialogThatIsGone) {
+    static int complaints = 0;
+    Play([&] {
+        OpenByMenuBar();
+        const auto parts = HoldPartsOfDialog();
+        const auto count = [](const char*, GLogLevelFlags, const char*, void*) { ++complaints; };
+        const auto handler =
+            InWindow([&] { return g_log_set_handler("Gtk", G_LOG_LEVEL_CRITICAL, count, nullptr); });
+        Type("x");
+        Press(WXK_ESCAPE);
+        WaitForNoDialog();
+        constexpr std::chrono::milliseconds kLongerThanItWaitsForTheNextLetter{500};
+        std::this_thread::sleep_for(kLongerThanItWaitsForTheNextLetter);
+        EXPECT_EQ(InWindow([] { return complaints; }), 0);
+        InWindow([&] {
+            g_log_remove_handler("Gtk", handler);
+            LetGoOf(parts);
+        });
     });
 }
 
