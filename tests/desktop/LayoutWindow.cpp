@@ -4,18 +4,12 @@
 #include <wx/statusbr.h>
 
 #include <chrono>
-#include <cstdlib>
 
 #include "desktop/Native.h"
 #include "desktop/Scale.h"
 
 namespace zy::test {
 namespace {
-
-bool IsAbout(const wxSize& is, const wxSize& wanted) {
-    constexpr int kBorders = 60;
-    return std::abs(is.x - wanted.x) < kBorders && std::abs(is.y - wanted.y) < kBorders;
-}
 
 /// The toolkit itself takes the inside of a box for the whole box.
 wxRect PlaceOnScreen(const wxWindow& window) {
@@ -29,11 +23,6 @@ wxRect PlaceOnScreen(const wxWindow& window) {
 wxSize LayoutWindow::LeastSize() {
     const double twipsPerPixel = Scale(DotsPerInch()).TwipsPerPixel();
     return {static_cast<int>(8800 / twipsPerPixel), static_cast<int>(8400 / twipsPerPixel)};
-}
-
-void LayoutWindow::Resize(const wxSize& size) {
-    InWindow([&] { RealFrame().SetSize(size); });
-    WaitUntil("the window has its new size", [&] { return IsAbout(RealFrame().GetSize(), size); });
 }
 
 void LayoutWindow::ExpectNothingWrong(const std::function<std::string()>& describe) {

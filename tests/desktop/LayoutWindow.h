@@ -13,7 +13,6 @@ class LayoutWindow : public RulesWindow {
 
     /// The window's least size, in the pixels of this screen.
     static wxSize LeastSize();
-    void Resize(const wxSize& size);
     /// Every control can be seen whole, has the room it needs, and lies on no other.
     void ExpectTidy();
 

@@ -16,7 +16,7 @@ class PictureOfARuleWindow : public RulesWindow {
 
     /// The window is as large as the picture needs it to be.
     void MakeRoom() {
-        InWindow([] { RealFrame().SetSize(1000, 800); });
+        Resize({1000, 800});
         WaitUntil("there is room for the picture", [&] { return Real(page().picRule).IsShownOnScreen(); });
     }
     AtkObject* Object() { return gtk_widget_get_accessible(Real(page().picRule).GetHandle()); }

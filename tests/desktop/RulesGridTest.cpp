@@ -72,13 +72,6 @@ class RulesGrid : public RulesWindow {
     int Width(int column) {
         return InWindow([&] { return RealGrid().GetColSize(column); });
     }
-    void Resize(const wxSize& size) {
-        InWindow([&] { RealFrame().SetSize(size); });
-        WaitUntil("the grid has the window's width",
-                  [&] { return std::abs(RealGrid().GetSize().x - size.x) < kBesideGrid; });
-    }
-
-    static constexpr int kBesideGrid = 60;
 };
 
 TEST_F(RulesGrid, WritesItsHeaderInTheColourOfTheListsHeader) {
@@ -113,6 +106,7 @@ TEST_F(RulesGrid, FillsThePageBelowItsCaptionAndGivesTheDescriptionTheAdditional
         const auto frame = InWindow([&] { return WholePlace(*wxWindow::FindWindowByName("fraGridMode")); });
         const auto place = InWindow([&] { return WholePlace(Real(grid())); });
         EXPECT_GE(place.y - frame.y, InWindow([&] { return RealGrid().GetCharHeight(); }));
+        constexpr int kBesideGrid = 60;
         for (const int gap : {place.x - frame.x, frame.GetRight() - place.GetRight(),
                               frame.GetBottom() - place.GetBottom()}) {
             EXPECT_GT(gap, 0);

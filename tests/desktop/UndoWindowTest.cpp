@@ -235,9 +235,11 @@ TEST_F(UndoInRules, TheRuleThatComesBackIsScrolledIntoSight) {
         ExpectBox("Are you Sure you want to Delete this Rule", "Confirm Delete");
         PressInBox(WXK_RETURN);
         WaitUntil("the rule is gone", [&] { return page().lstRulesList.Count() == 199; });
-        InWindow([&] { RealList().EnsureVisible(wxDataViewItem(wxUIntToPtr(150U))); });
-        WaitUntil("the first rule is out of sight",
-                  [&] { return RealList().GetTopItem() != wxDataViewItem(wxUIntToPtr(1U)); });
+        WaitUntil("the first rule is out of sight", [&] {
+            // At first the list still goes to the rule that is selected now.
+            RealList().EnsureVisible(wxDataViewItem(wxUIntToPtr(150U)));
+            return RealList().GetTopItem() != wxDataViewItem(wxUIntToPtr(1U));
+        });
         Press('Z', wxMOD_CONTROL);
         WaitUntil("the rule is back", [&] { return page().lstRulesList.Count() == 200; });
         WaitForSelection(1);

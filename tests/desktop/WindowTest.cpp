@@ -255,6 +255,19 @@ void WindowTest::WaitForFocus(const Control& control) {
     });
 }
 
+void WindowTest::Resize(const wxSize& size) {
+    constexpr int kBorders = 60;
+    const auto isAbout = [](int is, int wanted) { return std::abs(is - wanted) < kBorders; };
+    InWindow([&] { RealFrame().SetSize(size); });
+    WaitUntil("the window is laid out in its new size", [&] {
+        // Its own size is the new one before anything in it has moved. The status bar lies at its lower edge.
+        const wxRect window = RealFrame().GetScreenRect();
+        const wxRect bar = RealFrame().GetStatusBar()->GetScreenRect();
+        return isAbout(window.width, size.x) && isAbout(window.height, size.y) &&
+               isAbout(bar.width, window.width) && isAbout(bar.GetBottom(), window.GetBottom());
+    });
+}
+
 void WindowTest::WaitForWindow() {
     WaitUntil("the window is open", [] {
         auto* frame = dynamic_cast<wxFrame*>(wxTheApp->GetTopWindow());

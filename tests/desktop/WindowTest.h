@@ -58,6 +58,8 @@ class WindowTest : public ::testing::Test {
     void WaitForNoMenu();
     /// Goes out of a menu, and where that takes a key of its own, out of the menu bar.
     void LeaveMenu();
+    /// Gives the window a size and waits until it is laid out in it.
+    void Resize(const wxSize& size);
     /// Closes the window as its close box does, by way of the window manager.
     void CloseWindow();
 
