@@ -6,13 +6,13 @@
 namespace zy {
 namespace {
 
-/// Appends the cells of a row to others.
+/// Appends the cells of a row, joined by TAB, to others.
 template <typename Cells>
-void AppendItem(std::string_view tabJoined, int columns, Cells& cells) {
+void AppendCellsOf(std::string_view row, int columns, Cells& cells) {
     for (int column = 0; column < columns; ++column) {
-        const auto tab = tabJoined.find('\t');
-        cells.Append(tabJoined.substr(0, tab));
-        tabJoined.remove_prefix(tab == std::string_view::npos ? tabJoined.size() : tab + 1);
+        const auto tab = row.find('\t');
+        cells.Append(row.substr(0, tab));
+        row.remove_prefix(tab == std::string_view::npos ? row.size() : tab + 1);
     }
 }
 
@@ -44,7 +44,7 @@ void GridCells::SetRows(int rows) {
 
 void GridCells::AddItem(std::string_view tabJoinedCells) {
     changing.Raise(rows_, 0, 1);
-    zy::AppendItem(tabJoinedCells, columns_, cells_);
+    AppendCellsOf(tabJoinedCells, columns_, cells_);
     ++rows_;
     AnnounceRows();
     changed.Raise();
@@ -61,7 +61,7 @@ void GridCells::AddItems(std::size_t count, const AppendItem& appendItem) {
         cells.Reserve(FirstCellOf(static_cast<int>(ends.size())));
         std::size_t start = 0;
         for (const auto end : ends) {
-            zy::AppendItem(all.substr(start, end - start), columns_, cells);
+            AppendCellsOf(all.substr(start, end - start), columns_, cells);
             start = end;
         }
     });

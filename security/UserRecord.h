@@ -84,6 +84,7 @@ inline void AppendGridRow(const UserRecord& user, std::string& text) {
     }
 }
 
+/// The same as a text of its own.
 inline std::string GridRow(const UserRecord& user) {
     std::string row;
     AppendGridRow(user, row);
